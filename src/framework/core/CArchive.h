@@ -1,0 +1,50 @@
+#pragma once
+
+#include "framework/core/CFile.h"
+
+#include <array>
+#include <cstring>
+
+// A buffered, one-way run of bytes over a file: loading or storing.
+class CArchive {
+public:
+    enum Mode { load, store };
+
+    CArchive(CFile& underlying, Mode direction) : file(underlying), mode(direction) {}
+    CArchive(const CArchive&) = delete;
+    CArchive& operator=(const CArchive&) = delete;
+
+    CFile& GetFile() const { return file; }
+    bool IsStoring() const { return mode == store; }
+
+    // Reads up to `count` bytes; fewer only at the end of the file.
+    std::size_t Read(void* target, std::size_t count) {
+        if (count <= filled - used) {
+            std::memcpy(target, buffer.data() + used, count);
+            used += count;
+            return count;
+        }
+        return ReadThrough(static_cast<std::byte*>(target), count);
+    }
+    void Write(const void* source, std::size_t count) {
+        if (count <= buffer.size() - used) {
+            std::memcpy(buffer.data() + used, source, count);
+            used += count;
+        } else {
+            WriteThrough(source, count);
+        }
+    }
+    // Brings the file to where the archive is: writes what is buffered, or seeks back over what was read
+    // ahead.
+    void Flush();
+
+private:
+    std::size_t ReadThrough(std::byte* target, std::size_t count);
+    void WriteThrough(const void* source, std::size_t count);
+
+    CFile& file;
+    Mode mode;
+    std::size_t used = 0;   // loading: bytes handed out; storing: bytes gathered
+    std::size_t filled = 0; // loading only: bytes in the buffer
+    std::array<std::byte, 16384> buffer;
+};

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "framework/core/CommandMap.h"
+#include "framework/core/RuntimeClass.h"
+
+// Something that commands are offered to: a view, a document, a frame, the application.
+class CCmdTarget : public Dynamic<"CCmdTarget", CCmdTarget, CObject> {
+public:
+    // Offers a command. With `state` the command is only asked how it stands; without, it is carried out.
+    // False when nothing here handles the id. Routers override it to pass the command on.
+    virtual bool OnCmdMsg(CommandId id, CCmdUI* state);
+
+protected:
+    // The class's own commands and, behind them, its base's. A class with commands overrides it:
+    //     const CommandMap& GetCommandMap() const override;
+    virtual const CommandMap& GetCommandMap() const;
+};

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+using CommandId = std::uint32_t;
+
+// How a command stands: filled by the handler's class, shown by menus, tool buttons and accelerators.
+class CCmdUI {
+public:
+    explicit CCmdUI(CommandId commandId) : id(commandId) {}
+
+    void Enable(bool on) { enabled = on; }
+    void SetCheck(bool on) { checked = on; }
+    void SetRadio(bool on) { checked = radio = on; }
+    void SetText(std::string newText) { text = std::move(newText); }
+
+    CommandId id;
+    bool enabled = false; // a command that nobody handles stays disabled
+    bool checked = false;
+    bool radio = false;
+    std::optional<std::string> text; // none: the item keeps its own
+};

@@ -1,0 +1,118 @@
+#include "framework/core/CDocument.h"
+
+#include "framework/core/CDocTemplate.h"
+#include "framework/core/CWinApp.h"
+#include "framework/core/Path.h"
+#include "framework/core/UserInterface.h"
+
+#include <algorithm>
+
+namespace {
+
+void Report(Direction direction, const std::string& path, const std::exception& failure) {
+    UserInterface::Get().ShowMessage(DescribeFailure(direction, path, failure));
+}
+
+} // namespace
+
+void CDocument::SetTitle(const std::string& newTitle) {
+    title = newTitle;
+    if (DocumentFrame* frame = GetFrame()) frame->OnTitleChanged();
+}
+
+void CDocument::SetPathName(const std::string& path, bool addToRecentFiles) {
+    pathName = FullPath(path);
+    SetTitle(std::string(FileNameOf(pathName)));
+    if (addToRecentFiles) CWinApp::Get().AddToRecentFileList(pathName);
+}
+
+bool CDocument::OnNewDocument() {
+    DeleteContents();
+    modified = false;
+    pathName.clear();
+    return true;
+}
+
+bool CDocument::OnOpenDocument(const std::string& path) {
+    try {
+        CFileException failure;
+        const std::unique_ptr<CFile> file = GetFile(path, CFile::modeRead | CFile::shareDenyWrite, &failure);
+        if (!file) throw CFileException(failure);
+        DeleteContents();
+        if (file->GetLength() > 0) {
+            CArchive archive(*file, CArchive::load);
+            Serialize(archive);
+        }
+        modified = false;
+        return true;
+    } catch (const std::exception& failure) {
+        DeleteContents();
+        Report(Direction::opening, path, failure);
+        return false;
+    }
+}
+
+bool CDocument::OnSaveDocument(const std::string& path) {
+    std::unique_ptr<CFile> file;
+    try {
+        CFileException failure;
+        file = GetFile(path, CFile::modeCreate | CFile::modeReadWrite | CFile::shareExclusive, &failure);
+        if (!file) throw CFileException(failure);
+        CArchive archive(*file, CArchive::store);
+        Serialize(archive);
+        archive.Flush();
+        file->Close();
+        modified = false;
+        return true;
+    } catch (const std::exception& failure) {
+        if (file) file->Abort();
+        Report(Direction::saving, path, failure);
+        return false;
+    }
+}
+
+void CDocument::OnCloseDocument() {
+    closing = true;
+    while (!views.empty()) {
+        DocumentView& view = *views.back();
+        view.GetFrame()->DestroyFrame();
+        std::erase(views, &view); // a frame may end its views later than at once
+    }
+    DeleteContents();
+    if (docTemplate) docTemplate->RemoveDocument(*this); // deletes this
+}
+
+bool CDocument::SaveModified() {
+    if (!modified) return true;
+    switch (UserInterface::Get().AskToSave(pathName.empty() ? title : ToDisplayPath(pathName))) {
+    case SaveAnswer::save:
+        return DoFileSave();
+    case SaveAnswer::discard:
+        return true;
+    default:
+        return false;
+    }
+}
+
+std::unique_ptr<CFile> CDocument::GetFile(const std::string& path, unsigned flags, CFileException* failure) {
+    return OpenDiskFile(path, flags, failure);
+}
+
+void CDocument::AddView(DocumentView& view) {
+    views.push_back(&view);
+}
+
+void CDocument::RemoveView(DocumentView& view) {
+    const bool wasOurs = std::erase(views, &view) > 0;
+    if (wasOurs && views.empty() && !closing) OnCloseDocument();
+}
+
+void CDocument::UpdateAllViews(DocumentView* sender, std::intptr_t hint, CObject* hintObject) {
+    const std::vector<DocumentView*> told = views; // an update may add or remove views
+    for (DocumentView* view : told)
+        if (view != sender) view->OnUpdate(sender, hint, hintObject);
+}
+
+DocumentFrame* CDocument::GetFrame() const {
+    return views.empty() ? nullptr : views.front()->GetFrame();
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "framework/core/CFile.h"
+
+#include <span>
+#include <vector>
+
+// A file in memory: either over a buffer of the caller's, whose length is then fixed, or over one of its own
+// that grows.
+class CMemFile : public CFile {
+public:
+    CMemFile() = default;
+    explicit CMemFile(std::span<std::byte> buffer) : attached(buffer), fixed(true) {}
+
+    std::string GetFilePath() const override { return {}; }
+    std::size_t Read(void* buffer, std::size_t count) override;
+    // CMemoryException when a fixed buffer is full; the bytes that still fit are written.
+    void Write(const void* buffer, std::size_t count) override;
+    std::uint64_t Seek(std::int64_t offset, From from) override;
+    std::uint64_t GetPosition() const override { return position; }
+    std::uint64_t GetLength() const override { return Bytes().size(); }
+    // CMemoryException on a fixed buffer, unless the length stays.
+    void SetLength(std::uint64_t length) override;
+    void Close() override {}
+    void Abort() noexcept override {}
+    // Over a fixed buffer another file on the same bytes; else on a copy.
+    std::unique_ptr<CFile> Duplicate() const override;
+
+    std::span<const std::byte> Bytes() const { return fixed ? std::span<const std::byte>(attached) : own; }
+
+private:
+    std::vector<std::byte> own;
+    std::span<std::byte> attached;
+    bool fixed = false;
+    std::uint64_t position = 0;
+};

@@ -1,0 +1,88 @@
+#include "framework/core/DiskFile.h"
+
+#include "framework/core/Path.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+int NativeFlags(unsigned flags) {
+    if (flags & CFile::modeReadWrite) return O_RDWR;
+    return flags & CFile::modeWrite ? O_WRONLY : O_RDONLY;
+}
+
+} // namespace
+
+int Descriptor::Close() {
+    return value < 0 ? 0 : ::close(std::exchange(value, -1));
+}
+
+DiskFile::DiskFile(const std::string& path, unsigned flags) : filePath(FullPath(path)) {
+    // O_NONBLOCK: opening a pipe must answer at once, so that it can be refused.
+    descriptor = Descriptor(::open(ToNativePath(path).c_str(), NativeFlags(flags) | O_NONBLOCK | O_CLOEXEC));
+    if (!descriptor.IsOpen()) ThrowErrno();
+    struct stat info {};
+    if (fstat(descriptor.Get(), &info) != 0) ThrowErrno();
+    if (!S_ISREG(info.st_mode))
+        throw CFileException(CFileException::invalidFile, CFileException::noOsError, filePath);
+}
+
+std::size_t DiskFile::Read(void* buffer, std::size_t count) {
+    auto* bytes = static_cast<std::byte*>(buffer);
+    std::size_t done = 0;
+    while (done < count) {
+        const ssize_t got = pread(descriptor.Get(), bytes + done, count - done, static_cast<off_t>(position));
+        if (got < 0 && errno == EINTR) continue;
+        if (got < 0) ThrowErrno();
+        if (got == 0) break;
+        done += static_cast<std::size_t>(got);
+        position += static_cast<std::uint64_t>(got);
+    }
+    return done;
+}
+
+void DiskFile::Write(const void* buffer, std::size_t count) {
+    const auto* bytes = static_cast<const std::byte*>(buffer);
+    while (count > 0) {
+        const ssize_t put = pwrite(descriptor.Get(), bytes, count, static_cast<off_t>(position));
+        if (put < 0 && errno == EINTR) continue;
+        if (put < 0) ThrowErrno();
+        bytes += put;
+        count -= static_cast<std::size_t>(put);
+        position += static_cast<std::uint64_t>(put);
+    }
+}
+
+std::uint64_t DiskFile::Seek(std::int64_t offset, From from) {
+    position = SeekTarget(*this, offset, from);
+    return position;
+}
+
+std::uint64_t DiskFile::GetLength() const {
+    struct stat info {};
+    if (fstat(descriptor.Get(), &info) != 0) ThrowErrno();
+    return static_cast<std::uint64_t>(info.st_size);
+}
+
+void DiskFile::SetLength(std::uint64_t length) {
+    if (ftruncate(descriptor.Get(), static_cast<off_t>(length)) != 0) ThrowErrno();
+}
+
+void DiskFile::Close() {
+    // Some disks tell only here that bytes were lost.
+    if (descriptor.Close() != 0) ThrowErrno();
+}
+
+std::unique_ptr<CFile> DiskFile::Duplicate() const {
+    Descriptor copy(fcntl(descriptor.Get(), F_DUPFD_CLOEXEC, 0));
+    if (!copy.IsOpen()) ThrowErrno();
+    return std::make_unique<DiskFile>(std::move(copy), filePath);
+}
+
+void DiskFile::ThrowErrno() const {
+    throw CFileException::FromErrno(errno, filePath);
+}

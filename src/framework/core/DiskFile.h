@@ -1,0 +1,51 @@
+#pragma once
+
+#include "framework/core/CFile.h"
+
+#include <utility>
+
+// Closes a descriptor of the operating system when it goes.
+class Descriptor {
+public:
+    explicit Descriptor(int number = -1) : value(number) {}
+    Descriptor(Descriptor&& other) noexcept : value(std::exchange(other.value, -1)) {}
+    Descriptor& operator=(Descriptor&& other) noexcept {
+        std::swap(value, other.value);
+        return *this;
+    }
+    ~Descriptor() { Close(); }
+
+    bool IsOpen() const { return value >= 0; }
+    int Get() const { return value; }
+    // What close() answers; 0 when nothing was open.
+    int Close();
+
+private:
+    int value;
+};
+
+// An ordinary file on disk, read and written where it lies.
+class DiskFile final : public CFile {
+public:
+    // Opens an existing ordinary file; CFileException else.
+    DiskFile(const std::string& path, unsigned flags);
+    DiskFile(Descriptor file, std::string path) : descriptor(std::move(file)), filePath(std::move(path)) {}
+
+    std::string GetFilePath() const override { return filePath; }
+    std::size_t Read(void* buffer, std::size_t count) override;
+    void Write(const void* buffer, std::size_t count) override;
+    std::uint64_t Seek(std::int64_t offset, From from) override;
+    std::uint64_t GetPosition() const override { return position; }
+    std::uint64_t GetLength() const override;
+    void SetLength(std::uint64_t length) override;
+    void Close() override;
+    void Abort() noexcept override { descriptor.Close(); }
+    std::unique_ptr<CFile> Duplicate() const override;
+
+private:
+    [[noreturn]] void ThrowErrno() const;
+
+    Descriptor descriptor;
+    std::string filePath;       // full
+    std::uint64_t position = 0; // ours, not the descriptor's, so that duplicates do not disturb each other
+};

@@ -1,0 +1,46 @@
+#include "framework/core/ModulePath.h"
+
+#include "framework/core/Path.h"
+
+#include <climits>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+struct Module {
+    std::string path;
+    struct stat identity {};
+
+    Module() {
+        char target[PATH_MAX];
+        const ssize_t length = readlink("/proc/self/exe", target, sizeof target);
+        if (length > 0) path.assign(target, static_cast<std::size_t>(length));
+        stat(path.c_str(), &identity);
+    }
+};
+
+const Module& TheModule() {
+    static const Module module;
+    return module;
+}
+
+bool IsModule(const std::string& native) {
+    const Module& module = TheModule();
+    if (FullPath(native) == module.path) return true;
+    struct stat info {};
+    return stat(native.c_str(), &info) == 0 && info.st_ino == module.identity.st_ino &&
+           info.st_dev == module.identity.st_dev;
+}
+
+} // namespace
+
+const std::string& GetModulePath() {
+    return TheModule().path;
+}
+
+std::string TypeExtensionOf(std::string_view path) {
+    const std::string_view extension = ExtensionOf(path);
+    if (extension.empty() && !path.empty() && IsModule(ToNativePath(path))) return ".exe";
+    return std::string(extension);
+}

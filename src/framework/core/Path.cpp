@@ -1,0 +1,127 @@
+#include "framework/core/Path.h"
+
+#include "framework/core/CFile.h"
+#include "framework/core/Text.h"
+
+#include <algorithm>
+#include <filesystem>
+
+namespace {
+
+std::vector<std::string> Components(std::string_view text) {
+    std::vector<std::string> components;
+    while (!text.empty()) {
+        const std::size_t length = std::min(text.find_first_of("/\\"), text.size());
+        if (length > 0) components.emplace_back(text.substr(0, length));
+        text.remove_prefix(std::min(length + 1, text.size()));
+    }
+    return components;
+}
+
+std::vector<std::string> AllComponents(const std::string& path) {
+    PathParts parts = SplitPath(path);
+    if (!parts.fileName.empty()) parts.directories.push_back(std::move(parts.fileName));
+    return std::move(parts.directories);
+}
+
+// Length of the leading part of a native path that names something on the disk other than a directory; the
+// whole length when there is no such part.
+std::size_t DiskLength(const std::string& native) {
+    for (std::size_t end = native.find('/', 1); end != std::string::npos; end = native.find('/', end + 1)) {
+        CFileStatus status;
+        if (!CFile::GetStatus(native.substr(0, end), status)) return native.size();
+        if (!status.IsDirectory()) return end;
+    }
+    return native.size();
+}
+
+} // namespace
+
+bool IsSeparator(char c) {
+    return c == '/' || c == '\\';
+}
+
+PathParts SplitPath(std::string_view path) {
+    PathParts parts;
+    if (const std::size_t colon = path.rfind(':'); colon != std::string_view::npos) {
+        parts.drive = path.substr(0, colon + 1);
+        path.remove_prefix(colon + 1);
+    }
+    parts.rooted = !path.empty() && IsSeparator(path.front());
+    parts.directories = Components(path);
+    if (!path.empty() && !IsSeparator(path.back())) {
+        parts.fileName = std::move(parts.directories.back());
+        parts.directories.pop_back();
+    }
+    return parts;
+}
+
+std::string_view FileNameOf(std::string_view path) {
+    return path.substr(path.find_last_of("/\\:") + 1);
+}
+
+std::string_view ExtensionOf(std::string_view path) {
+    const std::string_view name = FileNameOf(path);
+    const std::size_t dot = name.rfind('.');
+    return dot == std::string_view::npos ? std::string_view{} : name.substr(dot);
+}
+
+std::string_view BaseNameOf(std::string_view path) {
+    const std::string_view name = FileNameOf(path);
+    return name.substr(0, name.rfind('.'));
+}
+
+std::string ParentOf(std::string_view path) {
+    while (path.size() > 1 && IsSeparator(path.back())) path.remove_suffix(1);
+    std::size_t end = path.find_last_of("/\\:");
+    if (end == std::string_view::npos || path.back() == ':') return {};
+    if (path[end] == ':') return std::string(path.substr(0, end + 1));
+    while (end > 0 && IsSeparator(path[end - 1])) --end;
+    const bool rootLeft = end == 0 && path.size() > 1;
+    return std::string(path.substr(0, rootLeft ? 1 : end));
+}
+
+std::string JoinPath(std::string_view folder, std::string_view name) {
+    std::string joined(folder);
+    if (joined.empty() || !IsSeparator(joined.back())) joined += '\\';
+    return joined += name;
+}
+
+PathBelow SplitBelow(const std::string& root, const std::string& path) {
+    PathParts parts = SplitPath(path);
+    const std::vector<std::string> prefix = AllComponents(root);
+    std::vector<std::string>& directories = parts.directories;
+    if (SplitPath(root).drive != parts.drive || prefix.size() > directories.size()) return {};
+    if (!std::equal(prefix.begin(), prefix.end(), directories.begin(), EqualNoCase)) return {};
+    if (prefix.size() == directories.size() && parts.fileName.empty()) return {};
+    directories.erase(directories.begin(), directories.begin() + static_cast<std::ptrdiff_t>(prefix.size()));
+    return {true, std::move(directories), std::move(parts.fileName)};
+}
+
+std::string ToNativePath(std::string_view path) {
+    std::string native(path);
+    std::replace(native.begin(), native.end(), '\\', '/');
+    return native;
+}
+
+std::string ToDisplayPath(std::string_view path) {
+    return ToUtf8(ToNativePath(path));
+}
+
+std::string FullPath(std::string_view path) {
+    if (path.empty()) return {};
+    std::error_code unreachable; // a current directory that was removed leaves the path as it is
+    const std::filesystem::path full = std::filesystem::absolute(ToNativePath(path), unreachable);
+    std::string text = full.lexically_normal().string();
+    if (text.size() > 1 && text.back() == '/') text.pop_back();
+    return text;
+}
+
+bool SamePath(const std::string& a, const std::string& b) {
+    const std::string first = FullPath(a);
+    const std::string second = FullPath(b);
+    if (first == second) return true;
+    if (!EqualNoCase(first, second)) return false;
+    const std::size_t length = DiskLength(first);
+    return length < first.size() && first.compare(0, length, second, 0, length) == 0;
+}

@@ -1,0 +1,110 @@
+#include "framework/core/ReplacingFile.h"
+
+#include "framework/core/DiskFile.h"
+#include "framework/core/Path.h"
+#include "framework/core/SaveJournal.h"
+
+#include <cerrno>
+#include <climits>
+#include <cstdlib>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+[[noreturn]] void ThrowErrno(const std::string& path) {
+    throw CFileException::FromErrno(errno, path);
+}
+
+// The file behind links, or the path itself when nothing is there yet.
+std::string BehindLinks(const std::string& path) {
+    char resolved[PATH_MAX];
+    return realpath(path.c_str(), resolved) ? resolved : path;
+}
+
+void WriteAll(int descriptor, std::span<const std::byte> bytes, const std::string& path) {
+    while (!bytes.empty()) {
+        const ssize_t put = write(descriptor, bytes.data(), bytes.size());
+        if (put < 0 && errno == EINTR) continue;
+        if (put < 0) ThrowErrno(path);
+        bytes = bytes.subspan(static_cast<std::size_t>(put));
+    }
+}
+
+std::vector<std::byte> ReadAll(const std::string& path) {
+    DiskFile file(path, CFile::modeRead);
+    std::vector<std::byte> bytes(file.GetLength());
+    bytes.resize(file.Read(bytes.data(), bytes.size()));
+    return bytes;
+}
+
+// Overwrites the file where it lies. The room is reserved before the first old byte goes; when writing fails
+// all the same, the old bytes are put back.
+void WriteInPlace(const std::string& target, std::span<const std::byte> bytes) {
+    const std::vector<std::byte> old = ReadAll(target);
+    Descriptor file(open(target.c_str(), O_WRONLY | O_CLOEXEC));
+    if (!file.IsOpen()) ThrowErrno(target);
+    const auto length = static_cast<off_t>(bytes.size());
+    if (length > 0 && fallocate(file.Get(), FALLOC_FL_KEEP_SIZE, 0, length) != 0 && errno == ENOSPC)
+        ThrowErrno(target);
+    try {
+        WriteAll(file.Get(), bytes, target);
+        if (ftruncate(file.Get(), length) != 0 || fsync(file.Get()) != 0) ThrowErrno(target);
+    } catch (const CFileException&) {
+        if (lseek(file.Get(), 0, SEEK_SET) == 0) WriteAll(file.Get(), old, target);
+        if (ftruncate(file.Get(), static_cast<off_t>(old.size())) != 0) ThrowErrno(target);
+        throw;
+    }
+    if (file.Close() != 0) ThrowErrno(target);
+}
+
+void FlushFolder(const std::string& folder) {
+    // The rename has happened; a folder that cannot be flushed is no reason to report a failed save.
+    Descriptor descriptor(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (descriptor.IsOpen()) static_cast<void>(fsync(descriptor.Get()));
+}
+
+void TakeOverRights(int descriptor, const struct stat& old, const std::string& path) {
+    if (fchmod(descriptor, old.st_mode & 07777) != 0) ThrowErrno(path);
+    // Only root may give files away; for others the new file is theirs.
+    static_cast<void>(fchown(descriptor, old.st_uid, old.st_gid) == 0);
+}
+
+bool FolderIsWritable(const std::string& target) {
+    const std::string folder = ParentOf(target);
+    return access(folder.empty() ? "." : folder.c_str(), W_OK | X_OK) == 0;
+}
+
+} // namespace
+
+ReplacingFile::ReplacingFile(const std::string& path) : targetPath(FullPath(path)) {
+    struct stat info {};
+    if (stat(targetPath.c_str(), &info) != 0) {
+        if (errno != ENOENT) ThrowErrno(targetPath);
+        if (!FolderIsWritable(targetPath)) {
+            if (errno == ENOENT) throw CFileException(CFileException::badPath, errno, targetPath);
+            ThrowErrno(targetPath);
+        }
+        return;
+    }
+    if (!S_ISREG(info.st_mode))
+        throw CFileException(CFileException::invalidFile, CFileException::noOsError, targetPath);
+    if (access(targetPath.c_str(), W_OK) != 0) ThrowErrno(targetPath);
+}
+
+void ReplacingFile::Close() {
+    const std::string target = BehindLinks(targetPath);
+    struct stat old {};
+    const bool existed = stat(target.c_str(), &old) == 0;
+    if (existed && (old.st_nlink > 1 || !FolderIsWritable(target))) {
+        WriteInPlace(target, Bytes());
+        return;
+    }
+    TemporaryFile temporary(target);
+    if (existed) TakeOverRights(temporary.GetDescriptor(), old, target);
+    WriteAll(temporary.GetDescriptor(), Bytes(), target);
+    if (fsync(temporary.GetDescriptor()) != 0) ThrowErrno(target);
+    temporary.RenameTo(target);
+    FlushFolder(ParentOf(target));
+}

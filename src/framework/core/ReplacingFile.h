@@ -1,0 +1,25 @@
+#pragma once
+
+#include "framework/core/CMemFile.h"
+
+// A file that is being written anew. What is written gathers in memory; Close puts it in the target's place
+// in one step: a temporary file beside the target, written and flushed whole, then renamed over it. A save
+// that fails or is killed leaves the old file as it was. A link is followed and stays a link. Where the
+// folder cannot be written but the file can, or the file has further hard links, the bytes go into the file
+// itself, and come back out when that fails.
+class ReplacingFile final : public CMemFile {
+public:
+    // CFileException when the target is no place to write to: a folder, a pipe, a file or folder without
+    // permission.
+    explicit ReplacingFile(const std::string& path);
+
+    std::string GetFilePath() const override { return targetPath; }
+    void Close() override;
+
+private:
+    std::string targetPath; // full, as the caller named it
+};
+
+// Removes the temporary files that killed saves of this user left; running saves keep theirs. Call once at
+// start.
+void RemoveAbandonedSaves();
