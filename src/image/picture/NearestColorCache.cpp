@@ -1,0 +1,7 @@
+#include "image/picture/NearestColorCache.h"
+
+#include <stdexcept>
+
+NearestColorCache::NearestColorCache(std::size_t slotCount) : slots(slotCount) {
+    if (slotCount == 0) throw std::invalid_argument("A nearest-colour cache needs a slot.");
+}

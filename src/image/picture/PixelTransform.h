@@ -1,0 +1,67 @@
+#pragma once
+
+#include "image/picture/Color.h"
+
+#include <span>
+#include <variant>
+
+/// The pixel over the background, weighted by its alpha in steps of 1/256. A visible, not opaque pixel over a
+/// background that is not opaque gives 0.
+constexpr Color Composite(Color pixel, Color background) {
+    const std::uint32_t weight = Alpha(pixel);
+    if (weight == transparentAlpha) return background;
+    if (weight == opaqueAlpha) return pixel;
+    if (Alpha(background) != opaqueAlpha) return 0;
+    constexpr Color redAndBlueMask = redMask | blueMask;
+    const std::uint32_t inverse = 256 - weight;
+    const Color redAndBlue =
+        ((pixel & redAndBlueMask) * weight + (background & redAndBlueMask) * inverse) & (redAndBlueMask << 8);
+    const Color green =
+        ((background & greenMask) * inverse + (pixel & greenMask) * weight) & (greenMask << 8);
+    return (redAndBlue | green) >> 8 | alphaMask;
+}
+
+/// Byte k of table entry i is the output of channel k for the input i: byte 0 blue, 1 green, 2 red, 3 alpha.
+constexpr Color MapChannels(const std::uint32_t* table, Color pixel) {
+    return (table[Blue(pixel)] & blueMask) | (table[Green(pixel)] & greenMask) |
+           (table[Red(pixel)] & redMask) | (table[Alpha(pixel)] & alphaMask);
+}
+
+// The transforms that a picture is drawn through. Tables have 256 entries and stay the caller's.
+
+struct IdentityTransform {
+    constexpr Color operator()(Color pixel) const { return pixel; }
+};
+
+struct OverBackgroundTransform {
+    Color background = 0;
+
+    constexpr Color operator()(Color pixel) const { return Composite(pixel, background); }
+};
+
+struct ChannelTableTransform {
+    const std::uint32_t* table = nullptr;
+
+    constexpr Color operator()(Color pixel) const { return MapChannels(table, pixel); }
+};
+
+struct BackgroundThenTableTransform {
+    Color background = 0;
+    const std::uint32_t* table = nullptr;
+
+    constexpr Color operator()(Color pixel) const { return MapChannels(table, Composite(pixel, background)); }
+};
+
+struct TableThenBackgroundTransform {
+    const std::uint32_t* table = nullptr;
+    Color background = 0;
+
+    constexpr Color operator()(Color pixel) const { return Composite(MapChannels(table, pixel), background); }
+};
+
+using PixelTransform = std::variant<IdentityTransform, OverBackgroundTransform, ChannelTableTransform,
+                                    BackgroundThenTableTransform, TableThenBackgroundTransform>;
+
+/// Transforms the pixels of one span into the other, which has the same length and may be the same memory;
+/// the choice between the transforms is made once for the span.
+void TransformPixels(const PixelTransform& transform, std::span<const Color> input, std::span<Color> output);

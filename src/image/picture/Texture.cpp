@@ -1,0 +1,30 @@
+#include "image/picture/Texture.h"
+
+#include "image/picture/ColorList.h"
+
+#include <utility>
+
+namespace {
+
+std::unique_ptr<ColorList> CopyOf(const std::unique_ptr<ColorList>& list) {
+    return list ? std::make_unique<ColorList>(*list) : nullptr;
+}
+
+} // namespace
+
+Texture::Texture() = default;
+Texture::Texture(int initialWidth, int initialHeight) : Image(initialWidth, initialHeight) {}
+Texture::Texture(const Texture& other)
+    : Image(other), palette(CopyOf(other.palette)), quakeName(other.quakeName), quake2(other.quake2) {}
+Texture::Texture(Texture&& other) noexcept = default;
+Texture& Texture::operator=(Texture&& other) noexcept = default;
+Texture::~Texture() = default;
+
+Texture& Texture::operator=(const Texture& other) {
+    // By way of a copy: a failed allocation leaves this texture as it was.
+    return *this = Texture(other);
+}
+
+void Texture::SetPalette(const ColorList& list) {
+    palette = std::make_unique<ColorList>(list);
+}

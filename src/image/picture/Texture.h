@@ -1,0 +1,28 @@
+#pragma once
+
+#include "image/picture/Image.h"
+#include "image/picture/Quake2Properties.h"
+
+#include <memory>
+#include <string>
+
+/// A picture with what the game formats store beside it. Copies are deep.
+class Texture : public Image {
+public:
+    Texture();
+    Texture(int initialWidth, int initialHeight);
+    Texture(const Texture& other);
+    Texture& operator=(const Texture& other);
+    Texture(Texture&& other) noexcept;
+    Texture& operator=(Texture&& other) noexcept;
+    ~Texture() override;
+
+    /// Replaces the palette by a copy of the list.
+    void SetPalette(const ColorList& list);
+
+    /// The picture's own palette, or none for a true-colour picture.
+    std::unique_ptr<ColorList> palette;
+    /// The name of a Quake MIP texture.
+    std::string quakeName;
+    Quake2Properties quake2;
+};
