@@ -1,0 +1,17 @@
+#pragma once
+
+#include "framework/core/CCmdUI.h"
+
+#include <span>
+
+// Menus and accelerators as data. A row with items is a popup, one without text is a separator, any other a command.
+struct MenuRow {
+    const char* text = nullptr; // UTF-8, "&" before the mnemonic, a tab before the keys
+    CommandId id = 0;
+    std::span<const MenuRow> items = {};
+};
+
+struct AcceleratorRow {
+    const char* keys; // portable text, such as "Ctrl+Shift+S"
+    CommandId id;
+};

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "framework/core/Service.h"
+
+#include <cstdint>
+
+class BaseDocument;
+
+// The main window as documents, brushes and views see it.
+class Shell : public Service<Shell> {
+public:
+    // The current colour changed; the value is the id of the command that edits it.
+    static constexpr unsigned colorChanged = 32783;
+
+    // Refreshes the dynamic menu sections; null when no document is meant.
+    virtual void UpdateMenus(BaseDocument* activeDocument) = 0;
+    // `hint` is colorChanged or 0, "anything may have changed".
+    virtual void UpdatePaletteBar(unsigned hint) = 0;
+    // The status bar's pane for positions, in texels.
+    virtual void SetPositionText(double x, double y) = 0;
+    // The status bar's pane for colours, 0xAARRGGBB.
+    virtual void SetColorText(std::uint32_t color) = 0;
+
+    // The colour that brushes paint with and pick, 0xAARRGGBB.
+    virtual std::uint32_t GetCurrentColor() const = 0;
+    virtual void SetCurrentColor(std::uint32_t color) = 0;
+    // 256 entries: the channel table through which pictures are shown.
+    virtual const std::uint32_t* GetGammaTable() const = 0;
+};
