@@ -1,0 +1,123 @@
+#include "resources/BaseDocument.h"
+
+#include "framework/core/CDocTemplate.h"
+#include "framework/core/UserInterface.h"
+#include "res/CommandIds.h"
+#include "resources/DocTemplateRegistry.h"
+#include "resources/FileSource.h"
+#include "resources/Shell.h"
+#include "resources/streams/ArchiveStream.h"
+
+namespace {
+
+// Sets a path for as long as it lives.
+class TransferScope {
+public:
+    TransferScope(std::string& place, const std::string& path) : target(place) { target = path; }
+    ~TransferScope() { target.clear(); }
+    TransferScope(const TransferScope&) = delete;
+    TransferScope& operator=(const TransferScope&) = delete;
+
+private:
+    std::string& target;
+};
+
+} // namespace
+
+void BaseDocument::WriteContents(OutputStream&) {
+    throw CArchiveException(CArchiveException::badClass);
+}
+
+void BaseDocument::ReadContents(InputStream&) {
+    throw CArchiveException(CArchiveException::badClass);
+}
+
+void BaseDocument::OnActivateDocument(bool activate, BaseDocument* activated, BaseDocument*) {
+    Shell* shell = Shell::Find();
+    if (!activate || !shell) return;
+    shell->UpdateMenus(activated);
+    shell->UpdatePaletteBar(0);
+}
+
+bool BaseDocument::OnNewDocument() {
+    return CDocument::OnNewDocument() && OnDocumentReady();
+}
+
+bool BaseDocument::OnOpenDocument(const std::string& path) {
+    const TransferScope transfer(transferPath, path);
+    return CDocument::OnOpenDocument(path) && OnDocumentReady();
+}
+
+bool BaseDocument::OnSaveDocument(const std::string& path) {
+    const TransferScope transfer(transferPath, path);
+    return CDocument::OnSaveDocument(path);
+}
+
+std::unique_ptr<CFile> BaseDocument::GetFile(const std::string& path, unsigned flags,
+                                             CFileException* failure) {
+    FileSource& source = FileSource::Get();
+    EntryStatus status;
+    source.GetStatus(path, status);
+    return status.exists ? source.OpenFile(path, flags, failure) : CDocument::GetFile(path, flags, failure);
+}
+
+void BaseDocument::SetTitle(const std::string& newTitle) {
+    CDocument::SetTitle(newTitle);
+    if (Shell* shell = Shell::Find()) shell->UpdateMenus(nullptr);
+}
+
+bool BaseDocument::DoFileSave() {
+    CFileStatus status;
+    const bool canBeWritten = CFile::GetStatus(GetPathName(), status) && !status.IsReadOnly();
+    return canBeWritten ? Save(GetPathName()) : DoFileSaveAs();
+}
+
+bool BaseDocument::DoFileSaveAs() {
+    FileNameQuestion question;
+    question.proposal = ProposeFileName();
+    question.titleId = AFX_IDS_SAVEFILE;
+    question.open = false;
+    question.type = GetDocTemplate();
+    const std::optional<std::string> path = UserInterface::Get().PromptFileName(question);
+    return path && Save(*path);
+}
+
+BaseDocument* BaseDocument::OpenReference(const std::string& path) {
+    return DocTemplateRegistry::Get().OpenDocument(path);
+}
+
+// References do not keep a document open: it stays until the program ends.
+void BaseDocument::ReleaseReference(BaseDocument*) {}
+
+void BaseDocument::Serialize(CArchive& archive) {
+    ArchiveStream stream(archive);
+    if (archive.IsStoring())
+        WriteContents(stream);
+    else
+        ReadContents(stream);
+}
+
+const CommandMap& BaseDocument::GetCommandMap() const {
+    static const CommandMap map(CDocument::GetCommandMap(),
+                                {
+                                    Command<&BaseDocument::OnFileSave>(ID_FILE_SAVE),
+                                    Command<&BaseDocument::OnFileSaveAs>(ID_FILE_SAVE_AS),
+                                });
+    return map;
+}
+
+// A failed save leaves the target as it was, also when the target did not exist: there is nothing to clean
+// up.
+bool BaseDocument::Save(const std::string& path) {
+    const CWaitCursor wait;
+    if (!OnSaveDocument(path)) return false;
+    SetPathName(path);
+    return true;
+}
+
+// The document's path, or its title as far as it can stand in a file name, with the type's extension.
+std::string BaseDocument::ProposeFileName() const {
+    if (!GetPathName().empty()) return GetPathName();
+    const std::string name = GetTitle().substr(0, GetTitle().find_first_of(" #%;/\\"));
+    return name + GetDocTemplate()->GetDocString(CDocTemplate::filterExt);
+}

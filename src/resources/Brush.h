@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+class Image;
+
+// A point of a picture in texels, from its top left corner; any point will do, for pictures tile without end.
+struct TexelPoint {
+    double x = 0;
+    double y = 0;
+};
+
+// What a brush sees of the view it is applied in.
+class BrushTarget {
+public:
+    virtual ~BrushTarget() = default;
+    virtual Image& GetPicture() = 0;
+};
+
+// A tool that the image view applies where the mouse clicks or drags.
+class Brush {
+public:
+    // The kinds, as brush files number them.
+    static constexpr std::uint32_t texelKind = 1;
+    static constexpr std::uint32_t colorPickerKind = 2;
+
+    virtual ~Brush() = default;
+    // Applies the brush from one point to another; a strength below 1 changes nothing.
+    virtual void Apply(BrushTarget& target, TexelPoint point, int strength, TexelPoint second) = 0;
+    // Number of the cursor to show over a view.
+    unsigned GetCursor() const { return cursor; }
+
+    // The brush of that kind; null when there is none.
+    static std::unique_ptr<Brush> Make(std::uint32_t kind);
+
+protected:
+    explicit Brush(unsigned cursorId) : cursor(cursorId) {}
+
+private:
+    unsigned cursor;
+};

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+
+// Numbers of the files that the program carries inside itself.
+enum BuiltInFile : unsigned {
+    quakePalette = 139,
+    quake2Palette = 140,
+    hexen2Palette = 141,
+    texelBrushFile = 162,
+    colorPickerFile = 163,
+    rgbaColorSpace = 168,
+    internetSafeColors = 184,
+    grayScaleColors = 185,
+    alphaScaleColors = 186
+};
+
+// The resource type under which the files' names stand.
+inline constexpr const char* builtInNameType = "DIR";
+
+// The name of the built-in file of that number; empty when there is none.
+std::string GetBuiltInName(unsigned id);
+
+// The path of the built-in file: the program's own path, "res", the name.
+std::string GetBuiltInPath(unsigned id);

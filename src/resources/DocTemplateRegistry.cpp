@@ -1,0 +1,46 @@
+#include "resources/DocTemplateRegistry.h"
+
+#include "framework/core/CWinApp.h"
+#include "framework/core/ModulePath.h"
+#include "framework/core/Text.h"
+#include "resources/BaseDocument.h"
+
+#include <algorithm>
+
+CDocTemplate* DocTemplateRegistry::FindTemplate(const CRuntimeClass& documentClass) const {
+    const std::vector<CDocTemplate*> types = CWinApp::Get().GetTemplates();
+    const auto place = std::find_if(types.begin(), types.end(), [&](const CDocTemplate* type) {
+        return &type->GetDocumentClass() == &documentClass;
+    });
+    return place == types.end() ? nullptr : *place;
+}
+
+CDocTemplate* DocTemplateRegistry::FindBestTemplate(const std::string& path) const {
+    CFileStatus status;
+    CDocument* openDocument = nullptr;
+    return CWinApp::Get().FindBestTemplate(CFile::GetStatus(path, status) ? status.fullName : path,
+                                           openDocument);
+}
+
+const CRuntimeClass* DocTemplateRegistry::GetDocumentClass(const std::string& path) const {
+    const CDocTemplate* type = FindBestTemplate(path);
+    return type ? &type->GetDocumentClass() : nullptr;
+}
+
+const CRuntimeClass* DocTemplateRegistry::GetDocumentClassOfName(const std::string& name) const {
+    const std::vector<CDocTemplate*> types = CWinApp::Get().GetTemplates();
+    const std::string extension = TypeExtensionOf(name);
+    for (const CDocTemplate* type : types)
+        if (EqualNoCase(type->GetDocString(CDocTemplate::filterExt), extension))
+            return &type->GetDocumentClass();
+    return types.empty() ? nullptr : &types.front()->GetDocumentClass();
+}
+
+std::string DocTemplateRegistry::GetFilterExtension(const CRuntimeClass& documentClass) const {
+    const CDocTemplate* type = FindTemplate(documentClass);
+    return type ? type->GetDocString(CDocTemplate::filterExt) : std::string();
+}
+
+BaseDocument* DocTemplateRegistry::OpenDocument(const std::string& path) const {
+    return dynamic_cast<BaseDocument*>(CWinApp::Get().OpenDocumentFile(path));
+}

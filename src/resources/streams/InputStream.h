@@ -1,0 +1,36 @@
+#pragma once
+
+#include "resources/streams/ByteStream.h"
+
+#include <concepts>
+#include <span>
+#include <type_traits>
+
+// Numbers as files hold them: little-endian.
+template <class T>
+concept StreamNumber = std::is_arithmetic_v<T>;
+
+// Reads a file from front to back, with seeks.
+class InputStream : public virtual ByteStream {
+public:
+    // Exactly `count` bytes; the end-of-file exception of the stream's form when there are fewer.
+    virtual void Read(void* buffer, std::size_t count) = 0;
+
+    template <StreamNumber T>
+    T Read() {
+        T value;
+        Read(&value, sizeof value);
+        return value;
+    }
+    template <StreamNumber T>
+    void Read(std::span<T> values) {
+        Read(values.data(), values.size_bytes());
+    }
+
+    // Bytes from the position to the end. Readers ask before they make room for what a file claims.
+    std::uint64_t GetRemaining() const {
+        const std::uint64_t length = GetLength();
+        const std::uint64_t position = GetPosition();
+        return position < length ? length - position : 0;
+    }
+};

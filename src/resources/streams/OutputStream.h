@@ -1,0 +1,18 @@
+#pragma once
+
+#include "resources/streams/InputStream.h"
+
+// Writes a file from front to back, with seeks.
+class OutputStream : public virtual ByteStream {
+public:
+    virtual void Write(const void* buffer, std::size_t count) = 0;
+
+    template <StreamNumber T>
+    void Write(T value) {
+        Write(&value, sizeof value);
+    }
+    template <StreamNumber T>
+    void Write(std::span<const T> values) {
+        Write(values.data(), values.size_bytes());
+    }
+};

@@ -1,0 +1,25 @@
+#pragma once
+
+// What a stream can report: one numbering for both forms of stream. 2 to 13 are the causes of file
+// exceptions.
+enum class StreamError {
+    generic = 1,
+    fileNotFound,
+    badPath,
+    tooManyOpenFiles,
+    accessDenied,
+    invalidFile,
+    removeCurrentDir,
+    directoryFull,
+    badSeek,
+    hardIO,
+    sharingViolation,
+    lockViolation,
+    diskFull,
+    endOfFile,
+    readOnly,
+    writeOnly,
+    badIndex,
+    badClass,
+    badSchema
+};
