@@ -1,0 +1,162 @@
+#include "framework/ui/CMDIChildWnd.h"
+
+#include "framework/core/CDocument.h"
+#include "framework/core/StandardIds.h"
+#include "framework/core/Text.h"
+#include "framework/ui/CMDIFrameWnd.h"
+#include "framework/ui/CView.h"
+#include "framework/ui/WindowClasses.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QMdiArea>
+#include <QMenu>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+std::vector<CMDIChildWnd*> FramesOf(const CDocument& document) {
+    std::vector<CMDIChildWnd*> frames;
+    for (DocumentView* view : document.GetViews()) {
+        auto* frame = dynamic_cast<CMDIChildWnd*>(view->GetFrame());
+        if (frame && std::find(frames.begin(), frames.end(), frame) == frames.end()) frames.push_back(frame);
+    }
+    return frames;
+}
+
+// The toolkit takes "[*]" in a title for a mark of its own, and two of them for one that is meant.
+QString WindowTitle(const std::string& text) {
+    return ToQString(text).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
+}
+
+void RenewTitles(const CDocument& document) {
+    const std::vector<CMDIChildWnd*> frames = FramesOf(document);
+    for (std::size_t i = 0; i < frames.size(); ++i) {
+        const std::string number = frames.size() > 1 ? ":" + std::to_string(i + 1) : std::string();
+        frames[i]->setWindowTitle(WindowTitle(document.GetTitle() + number));
+    }
+}
+
+} // namespace
+
+CMDIChildWnd::CMDIChildWnd() {
+    // The program has accelerators of its own; the same keys twice would be ambiguous and do nothing.
+    for (QAction* action : systemMenu()->actions()) action->setShortcuts(QList<QKeySequence>());
+}
+
+CMDIChildWnd::~CMDIChildWnd() {
+    DetachViews();
+    if (std::exchange(shown, false) && mdiFrame) mdiFrame->RemoveChild(*this);
+}
+
+void CMDIChildWnd::Create(CDocument& document, const CRuntimeClass& viewClass, CMDIFrameWnd* owner) {
+    mdiFrame = owner;
+    activeView = &CreateClient(document, viewClass);
+    RenewTitles(document);
+}
+
+CView& CMDIChildWnd::CreateClient(CDocument& document, const CRuntimeClass& viewClass) {
+    CView* view = CreateViewWindow(viewClass).release();
+    setWidget(view);
+    view->Attach(document, nullptr);
+    return *view;
+}
+
+void CMDIChildWnd::SetActiveView(CView* view) {
+    if (view == activeView || ending) return;
+    CView* previous = activeView;
+    activeView = view;
+    if (mdiFrame && mdiFrame->MDIGetActive() == this) mdiFrame->ChangeActiveView(view, previous);
+}
+
+CDocument* CMDIChildWnd::GetActiveDocument() const {
+    return activeView ? activeView->GetDocument() : nullptr;
+}
+
+void CMDIChildWnd::ActivateFrame() {
+    if (ending) return;
+    if (!shown) {
+        shown = true;
+        if (mdiFrame) mdiFrame->AddChild(*this);
+    }
+    if (!mdiFrame)
+        show();
+    else
+        mdiFrame->MDIActivate(*this);
+}
+
+void CMDIChildWnd::InitialUpdate(bool visible) {
+    if (CDocument* document = GetActiveDocument()) {
+        const std::vector<DocumentView*> views = document->GetViews();
+        for (DocumentView* view : views)
+            if (auto* window = dynamic_cast<CView*>(view); window && window->GetParentFrame() == this)
+                window->OnInitialUpdate();
+    }
+    if (visible) ActivateFrame();
+}
+
+void CMDIChildWnd::DestroyFrame() {
+    if (ending) return;
+    if (!shown) {
+        delete this; // no event of the window can be under way
+        return;
+    }
+    DetachViews();
+    hide();
+    shown = false;
+    if (mdiFrame) mdiFrame->RemoveChild(*this);
+    deleteLater();
+}
+
+void CMDIChildWnd::DetachViews() {
+    CDocument* document = GetActiveDocument();
+    ending = true;
+    if (!document) return;
+    if (mdiFrame && mdiFrame->MDIGetActive() == this) mdiFrame->ChangeActiveView(nullptr, activeView);
+    activeView = nullptr;
+    std::vector<CView*> own;
+    for (DocumentView* view : document->GetViews()) {
+        auto* window = dynamic_cast<CView*>(view);
+        if (window && window->GetParentFrame() == this) own.push_back(window);
+    }
+    const bool documentStays = own.size() < document->GetViews().size();
+    for (CView* view : own) view->Detach();
+    if (documentStays) RenewTitles(*document);
+}
+
+void CMDIChildWnd::OnTitleChanged() {
+    if (CDocument* document = GetActiveDocument()) RenewTitles(*document);
+}
+
+bool CMDIChildWnd::OnCmdMsg(CommandId id, CCmdUI* state) {
+    return (activeView && activeView->OnCmdMsg(id, state)) || CCmdTarget::OnCmdMsg(id, state);
+}
+
+// Large enough to work in: the toolkit would cascade windows at the smallest size of their contents.
+QSize CMDIChildWnd::sizeHint() const {
+    const QMdiArea* area = mdiArea();
+    return area ? area->viewport()->size() * 2 / 3 : QMdiSubWindow::sizeHint();
+}
+
+const CommandMap& CMDIChildWnd::GetCommandMap() const {
+    static const CommandMap map{Dynamic::GetCommandMap(),
+                                {Command<&CMDIChildWnd::OnFileClose>(ID_FILE_CLOSE)}};
+    return map;
+}
+
+// The event is always refused: the window goes, when it goes, with its views.
+void CMDIChildWnd::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    CDocument* document = GetActiveDocument();
+    if (document && FramesOf(*document).size() == 1)
+        OnFileClose();
+    else
+        DestroyFrame();
+}
+
+void CMDIChildWnd::OnFileClose() {
+    CDocument* document = GetActiveDocument();
+    if (document && document->SaveModified()) document->OnCloseDocument();
+}

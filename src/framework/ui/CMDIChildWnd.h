@@ -1,0 +1,57 @@
+#pragma once
+
+#include "framework/core/CCmdTarget.h"
+#include "framework/core/DocumentView.h"
+
+#include <QMdiSubWindow>
+
+class CDocument;
+class CMDIFrameWnd;
+class CView;
+
+// A document's window inside the main frame.
+class CMDIChildWnd : public QMdiSubWindow,
+                     public Dynamic<"CMDIChildWnd", CMDIChildWnd, CCmdTarget>,
+                     public DocumentFrame {
+public:
+    CMDIChildWnd();
+    ~CMDIChildWnd() override;
+
+    // Fills the new frame with a view of the class on the document. `owner` shows the frame among its
+    // children; without one the frame is a window of its own.
+    void Create(CDocument& document, const CRuntimeClass& viewClass, CMDIFrameWnd* owner);
+
+    // The view that commands go to; null while the frame ends.
+    CView* GetActiveView() const { return activeView; }
+    void SetActiveView(CView* view);
+    // The document of the frame's views; null while the frame ends.
+    CDocument* GetActiveDocument() const;
+    CMDIFrameWnd* GetMDIFrame() const { return mdiFrame; }
+
+    void ActivateFrame() override;
+    void InitialUpdate(bool visible) override;
+    // At once for the views and for people; the window itself is deleted when its events are over.
+    void DestroyFrame() override;
+    // Renews the titles of all frames of the document.
+    void OnTitleChanged() override;
+    bool IsShown() const override { return shown; }
+
+    // The active view and its document, then the frame's own commands.
+    bool OnCmdMsg(CommandId id, CCmdUI* state) override;
+    QSize sizeHint() const override;
+
+protected:
+    // Makes the client area with its first view. Here: the view alone, without scroll bars.
+    virtual CView& CreateClient(CDocument& document, const CRuntimeClass& viewClass);
+    const CommandMap& GetCommandMap() const override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void OnFileClose();
+    void DetachViews();
+
+    CView* activeView = nullptr;
+    CMDIFrameWnd* mdiFrame = nullptr;
+    bool shown = false;
+    bool ending = false;
+};

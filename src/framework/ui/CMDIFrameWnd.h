@@ -1,0 +1,78 @@
+#pragma once
+
+#include "framework/core/CCmdTarget.h"
+#include "framework/core/MenuTable.h"
+
+#include <QMainWindow>
+
+#include <map>
+#include <memory>
+#include <vector>
+
+class CMDIChildWnd;
+class CMenu;
+class CStatusBar;
+class CView;
+class MDIClientArea;
+
+// The program's main window: document windows in its client area, menus and accelerators that carry out
+// commands by id, a status bar. Commands go to the active child (its view, its document, itself), then to
+// this frame, then to the application.
+class CMDIFrameWnd : public QMainWindow, public Dynamic<"CMDIFrameWnd", CMDIFrameWnd, CCmdTarget> {
+public:
+    CMDIFrameWnd();
+    ~CMDIFrameWnd() override;
+
+    // The active child that people see, or null.
+    CMDIChildWnd* MDIGetActive() const { return activeChild; }
+    // In the order of creation.
+    std::vector<CMDIChildWnd*> GetChildren() const;
+    void AddChild(CMDIChildWnd& child);
+    // For a child that ends: it is no longer active, nor listed.
+    void RemoveChild(CMDIChildWnd& child);
+    void MDIActivate(CMDIChildWnd& child);
+    // Tells the views that another one is active, and keeps account of it.
+    void ChangeActiveView(CView* activated, CView* deactivated);
+
+    // The menu that the menu bar shows.
+    CMenu& GetCurrentMenu() { return *currentMenu; }
+    CStatusBar& GetStatusBar() { return *statusBarWindow; }
+    // Brings what people see of the commands' states up to date; runs by itself before the program waits.
+    void OnIdle();
+    bool OnCmdMsg(CommandId id, CCmdUI* state) override;
+
+protected:
+    // Makes the menus and the accelerators; the frame's own menu is shown while no child is active.
+    void LoadFrame(unsigned menuId, std::span<const AcceleratorRow> accelerators);
+    // The menu table of that id.
+    virtual std::span<const MenuRow> GetMenuRows(unsigned menuId) const = 0;
+    // A popup is about to be seen: a place to renew items that change.
+    virtual void OnInitMenuPopup(CMenu& menu);
+    const CommandMap& GetCommandMap() const override;
+
+    bool event(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void OnChildActivated();
+    void SetActiveChild(CMDIChildWnd* child);
+    void ShowMenu(unsigned menuId);
+    void UpdateWindowList(CMenu& menu);
+
+    void OnUpdateWithChild(CCmdUI& state);
+    void OnWindowNew();
+    void OnWindowArrange(CommandId id);
+    void OnWindowActivate(CommandId id);
+    void OnUpdateWindowActivate(CCmdUI& state);
+    void OnViewStatusBar();
+    void OnUpdateViewStatusBar(CCmdUI& state);
+
+    MDIClientArea* clientArea; // children of this window
+    CStatusBar* statusBarWindow;
+    CMDIChildWnd* activeChild = nullptr;
+    unsigned ownMenuId = 0;
+    std::map<unsigned, std::unique_ptr<CMenu>> menus;
+    CMenu* currentMenu = nullptr;
+};

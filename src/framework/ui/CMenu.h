@@ -1,0 +1,55 @@
+#pragma once
+
+#include "framework/core/MenuTable.h"
+
+#include <QMenu>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+class CCmdTarget;
+
+// The popups of a menu table. Items are known by their command ids: a chosen item sends its command to the
+// target, and an opened popup shows how its commands stand. Keys in an item's text are only shown.
+class CMenu {
+public:
+    CMenu(std::span<const MenuRow> rows, CCmdTarget& commandTarget);
+
+    // The popups in the order of the table, which hang in a menu bar or open beside the pointer.
+    const std::vector<std::unique_ptr<QMenu>>& GetPopups() const { return popups; }
+    // Called before a popup's items are asked how they stand: a place to renew items that change.
+    void SetInitPopup(std::function<void(CMenu&)> handler) { initPopup = std::move(handler); }
+
+    // The first item of that id, wherever it stands, or null.
+    QAction* FindItem(CommandId id) const;
+    // Changes, inserts and removes items by id; nothing happens when there is no such item.
+    void ModifyItem(CommandId id, CommandId newId, const std::string& text);
+    void InsertItem(CommandId before, CommandId id, const std::string& text);
+    void RemoveItem(CommandId id);
+    // Adds an item at the end of the popup in which the sibling stands; id 0 adds a separator unless one
+    // stands there.
+    void AppendItem(CommandId sibling, CommandId id, const std::string& text);
+    // Brings the items of the popups that are open up to date.
+    void UpdateOpenPopups();
+    // Brings every item up to date.
+    void UpdateAll();
+
+private:
+    void Fill(QMenu& popup, std::span<const MenuRow> rows);
+    QAction* MakeItem(QMenu& popup, CommandId id, const std::string& text);
+    void SetItem(QAction& action, CommandId id, const std::string& text);
+    void OnShowPopup(QMenu& popup);
+    void UpdatePopup(QMenu& popup);
+    void UpdateItem(QAction& action);
+    QMenu* PopupOf(CommandId id) const;
+
+    CCmdTarget& target;
+    std::function<void(CMenu&)> initPopup;
+    std::vector<std::unique_ptr<QMenu>> popups;
+    std::vector<QMenu*> allPopups; // with the popups inside popups
+};
+
+// A text as a menu item's: shown as it stands, "&" and tabs too.
+std::string MenuText(std::string_view text);

@@ -1,0 +1,60 @@
+#include "framework/ui/CView.h"
+
+#include "framework/core/CDocument.h"
+#include "framework/ui/CMDIChildWnd.h"
+#include "framework/ui/CSplitterWnd.h"
+
+#include <utility>
+
+CView::CView() {
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+CView::~CView() {
+    Detach();
+}
+
+CMDIChildWnd* CView::GetParentFrame() const {
+    for (QWidget* widget = parentWidget(); widget; widget = widget->parentWidget())
+        if (auto* frame = dynamic_cast<CMDIChildWnd*>(widget)) return frame;
+    return nullptr;
+}
+
+DocumentFrame* CView::GetFrame() const {
+    return GetParentFrame();
+}
+
+QScrollBar& CView::GetScrollBar(Qt::Orientation orientation) const {
+    Q_ASSERT(splitter);
+    return splitter->GetScrollBar(*this, orientation);
+}
+
+void CView::OnInitialUpdate() {
+    OnUpdate(nullptr, 0, nullptr);
+}
+
+void CView::OnUpdate(DocumentView*, std::intptr_t, CObject*) {
+    update();
+}
+
+void CView::OnActivateView(bool, CView*, CView*) {}
+
+bool CView::OnCmdMsg(CommandId id, CCmdUI* state) {
+    return CCmdTarget::OnCmdMsg(id, state) || (document && document->OnCmdMsg(id, state));
+}
+
+void CView::Attach(CDocument& shown, CSplitterWnd* pane) {
+    document = &shown;
+    splitter = pane;
+    document->AddView(*this);
+    OnCreate();
+}
+
+void CView::Detach() {
+    if (CDocument* left = std::exchange(document, nullptr)) left->RemoveView(*this);
+}
+
+void CView::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    if (CMDIChildWnd* frame = GetParentFrame(); frame && document) frame->SetActiveView(this);
+}

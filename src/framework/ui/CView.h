@@ -1,0 +1,50 @@
+#pragma once
+
+#include "framework/core/CCmdTarget.h"
+#include "framework/core/DocumentView.h"
+
+#include <QWidget>
+
+class CDocument;
+class CMDIChildWnd;
+class CSplitterWnd;
+class QScrollBar;
+
+// A window that shows a document, in a pane of a frame. Painting and input are the toolkit's events.
+class CView : public QWidget, public Dynamic<"CView", CView, CCmdTarget>, public DocumentView {
+public:
+    CView();
+    ~CView() override;
+
+    // Null only before the view is attached and while it ends.
+    CDocument* GetDocument() const { return document; }
+    // The frame round the view; null while it has none.
+    CMDIChildWnd* GetParentFrame() const;
+    DocumentFrame* GetFrame() const override;
+    // The bar beside the view's pane; panes of a row or a column share theirs. Only in a splitter.
+    QScrollBar& GetScrollBar(Qt::Orientation orientation) const;
+
+    // Called once, when the view stands in its pane and has its document, which may still be empty.
+    virtual void OnCreate() {}
+    // Called once, when the document is filled, before the view is first seen. Here: OnUpdate with no sender.
+    virtual void OnInitialUpdate();
+    // Here: repaints everything.
+    void OnUpdate(DocumentView* sender, std::intptr_t hint, CObject* hintObject) override;
+    // The view became the active one (`activate`), or stopped to be. Either view may be null; a view that
+    // ends is told with a null `activated`.
+    virtual void OnActivateView(bool activate, CView* activated, CView* deactivated);
+    // The view's own commands, then its document's.
+    bool OnCmdMsg(CommandId id, CCmdUI* state) override;
+
+    // Ties the new view to its document and pane (null: no splitter). For those who make views.
+    void Attach(CDocument& shown, CSplitterWnd* pane);
+    // Unties the view from its document, which may end by it.
+    void Detach();
+
+protected:
+    void focusInEvent(QFocusEvent* event) override;
+
+private:
+    CDocument* document = nullptr;
+    CSplitterWnd* splitter = nullptr;
+};

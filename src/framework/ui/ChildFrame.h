@@ -1,0 +1,17 @@
+#pragma once
+
+#include "framework/ui/CMDIChildWnd.h"
+
+class CSplitterWnd;
+
+// A document window whose client area is a splitter.
+class ChildFrame : public Dynamic<"ChildFrame", ChildFrame, CMDIChildWnd> {
+public:
+    CSplitterWnd& GetSplitter() const { return *splitter; }
+
+protected:
+    CView& CreateClient(CDocument& document, const CRuntimeClass& viewClass) override;
+
+private:
+    CSplitterWnd* splitter = nullptr; // a child of this window
+};

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QMdiArea>
+
+class CMDIChildWnd;
+
+// The part of the main frame in which the document windows lie.
+class MDIClientArea : public QMdiArea {
+public:
+    explicit MDIClientArea(QWidget* parent);
+
+    // In the order of creation; only document windows that are not ending.
+    std::vector<CMDIChildWnd*> GetChildren() const;
+    // The child that is active, or was before a window outside became so; null when there is none.
+    CMDIChildWnd* GetCurrentChild() const;
+    // Lays the children that are not minimised one above the other (Qt::Vertical) or side by side.
+    void Tile(Qt::Orientation orientation);
+    // Puts the minimised children in a row at the lower edge.
+    void ArrangeIcons();
+};
