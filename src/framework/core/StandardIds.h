@@ -42,6 +42,7 @@ enum StandardCommand : CommandId {
 enum StandardString : unsigned {
     AFX_IDS_APP_TITLE = 57344,
     AFX_IDS_IDLEMESSAGE = 57345,
+    AFX_IDS_RECENT_FILE = 57346, // the placeholder of the recent files
     AFX_IDS_OPENFILE = 61440,
     AFX_IDS_SAVEFILE = 61441,
     AFX_IDS_ALLFILTER = 61442,
@@ -49,5 +50,7 @@ enum StandardString : unsigned {
     AFX_IDS_ASK_TO_SAVE = 61478,
     AFX_IDS_NEW_TITLE = 61479,
     AFX_IDS_FILE_EXISTS = 61480,
-    AFX_IDS_FILE_MISSING = 61481
+    AFX_IDS_FILE_MISSING = 61481,
+    AFX_IDS_PATH_MISSING = 61482,
+    AFX_IDS_NEW_LABEL = 61483
 };

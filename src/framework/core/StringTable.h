@@ -15,3 +15,6 @@ void AddStrings(std::span<const StringRow> rows);
 
 // The string of that id; empty when there is none.
 std::string LoadString(unsigned id);
+
+// The string of that id as a printf format, which fits the arguments. %s takes UTF-8.
+std::string FormatString(unsigned id, ...);
