@@ -73,6 +73,14 @@ void CMenu::InsertItem(CommandId before, CommandId id, const std::string& text) 
     if (QMenu* popup = PopupOf(before)) popup->insertAction(FindItem(before), MakeItem(*popup, id, text));
 }
 
+void CMenu::InsertItemAfter(CommandId sibling, CommandId id, const std::string& text) {
+    QMenu* popup = PopupOf(sibling);
+    if (!popup) return;
+    const QList<QAction*> items = popup->actions();
+    const qsizetype behind = items.indexOf(FindItem(sibling)) + 1;
+    popup->insertAction(behind < items.size() ? items[behind] : nullptr, MakeItem(*popup, id, text));
+}
+
 void CMenu::RemoveItem(CommandId id) {
     delete FindItem(id);
 }

@@ -27,6 +27,7 @@ public:
     // Changes, inserts and removes items by id; nothing happens when there is no such item.
     void ModifyItem(CommandId id, CommandId newId, const std::string& text);
     void InsertItem(CommandId before, CommandId id, const std::string& text);
+    void InsertItemAfter(CommandId sibling, CommandId id, const std::string& text);
     void RemoveItem(CommandId id);
     // Adds an item at the end of the popup in which the sibling stands; id 0 adds a separator unless one
     // stands there.

@@ -1,0 +1,101 @@
+#include "framework/ui/CFileDialog.h"
+
+#include "framework/core/CDocTemplate.h"
+#include "framework/core/Path.h"
+#include "framework/core/StandardIds.h"
+#include "framework/core/StringTable.h"
+#include "framework/core/Text.h"
+#include "framework/ui/MessageBoxes.h"
+
+#include <QLineEdit>
+
+#include <algorithm>
+
+namespace {
+
+bool IsFolder(const std::string& path) {
+    CFileStatus status;
+    return CFile::GetStatus(path, status) && status.IsDirectory();
+}
+
+bool IsFile(const std::string& path) {
+    CFileStatus status;
+    return CFile::GetStatus(path, status) && !status.IsDirectory();
+}
+
+// A file, as an archive is, counts as a folder of whatever stands behind it.
+bool LeadsThroughFile(std::string path) {
+    for (; !path.empty() && path != ParentOf(path); path = ParentOf(path))
+        if (IsFile(path)) return true;
+    return false;
+}
+
+// In the toolkit's form the patterns stand in the last parentheses. "*.*" means every name, also one without
+// a dot.
+QString NameFilter(const FileFilter& filter) {
+    QString patterns = ToQString(filter.patterns).replace(';', ' ').trimmed();
+    patterns.replace(QStringLiteral("*.*"), QStringLiteral("*"));
+    return ToQString(filter.label) + QStringLiteral(" (") + patterns + ')';
+}
+
+QLineEdit* NameEdit(const QFileDialog& dialog) {
+    return dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+}
+
+} // namespace
+
+CFileDialog::CFileDialog(QWidget* owner, const FileNameQuestion& question,
+                         const std::vector<FileFilter>& filters)
+    : QFileDialog(owner, ToQString(LoadString(question.titleId))), open(question.open),
+      mustExist(question.mustExist) {
+    setOptions(DontUseNativeDialog | HideNameFilterDetails | DontConfirmOverwrite);
+    setAcceptMode(open ? AcceptOpen : AcceptSave);
+    setFileMode(AnyFile); // what may be taken is decided here, not by what is on the disk
+    SetFilters(filters);
+    if (question.type) setDefaultSuffix(ToQString(question.type->GetDocString(CDocTemplate::filterExt)));
+    Propose(question.proposal);
+}
+
+void CFileDialog::SetFilters(const std::vector<FileFilter>& filters) {
+    QStringList names;
+    for (const FileFilter& filter : filters) names << NameFilter(filter);
+    setNameFilters(names);
+}
+
+// The name in its folder, or the whole path where the folder lies in an archive.
+void CFileDialog::Propose(const std::string& proposal) {
+    if (proposal.empty()) return;
+    const std::string folder = ParentOf(ToNativePath(proposal));
+    const bool onDisk = folder.empty() || IsFolder(folder);
+    if (onDisk && !folder.empty()) setDirectory(ToQString(folder));
+    if (QLineEdit* edit = NameEdit(*this)) {
+        edit->setText(ToQString(onDisk ? FileNameOf(proposal) : std::string_view(ToDisplayPath(proposal))));
+        edit->selectAll();
+    }
+}
+
+std::string CFileDialog::GetPathName() const {
+    const QStringList files = selectedFiles();
+    return files.isEmpty() ? std::string() : FullPath(FromQString(files.front()));
+}
+
+void CFileDialog::accept() {
+    if (QLineEdit* edit = NameEdit(*this); edit && edit->text().contains('\\'))
+        edit->setText(edit->text().replace('\\', '/'));
+    const std::string path = GetPathName();
+    if (IsFolder(path) || MayTake(path)) QFileDialog::accept();
+}
+
+// Tells the person why not.
+bool CFileDialog::MayTake(const std::string& path) const {
+    const bool there = IsFile(path);
+    if (open && mustExist && !there && !LeadsThroughFile(path)) {
+        ShowMessageBox(FormatString(AFX_IDS_FILE_MISSING, ToDisplayPath(path).c_str()));
+        return false;
+    }
+    if (!open && !IsFolder(ParentOf(path)) && !LeadsThroughFile(path)) {
+        ShowMessageBox(FormatString(AFX_IDS_PATH_MISSING, ToDisplayPath(path).c_str()));
+        return false;
+    }
+    return open || !there || AskYesNo(FormatString(AFX_IDS_FILE_EXISTS, ToDisplayPath(path).c_str()));
+}

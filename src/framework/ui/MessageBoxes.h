@@ -1,0 +1,14 @@
+#pragma once
+
+#include "framework/core/UserInterface.h"
+
+class QWidget;
+
+// Message boxes over the window in which a person works now. Texts show as they stand.
+void ShowMessageBox(const std::string& text);
+// Yes or No; No is the default.
+bool AskYesNo(const std::string& text);
+SaveAnswer AskSaveChanges(const std::string& name);
+
+// The window over which a dialog opens: the uppermost dialog, else the main window; null without one.
+QWidget* GetDialogOwner();

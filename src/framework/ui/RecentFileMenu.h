@@ -1,0 +1,10 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+class CMenu;
+
+// Puts the recent files in the place of the menu's placeholder for them; where there are none the placeholder
+// is back.
+void UpdateRecentFileMenu(CMenu& menu, const std::vector<std::string>& paths);

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "framework/core/UserInterface.h"
+#include "framework/ui/MDIFrameFactory.h"
+
+// The person at the program, met through dialogs over its windows.
+class WindowedUserInterface : public UserInterface {
+public:
+    WindowedUserInterface(const CRuntimeClass& hiddenFrame, const CRuntimeClass& hiddenView)
+        : frameFactory(hiddenFrame, hiddenView) {}
+
+    void ShowMessage(const std::string& text) override;
+    SaveAnswer AskToSave(const std::string& name) override;
+    const CDocTemplate* PromptNewType() override;
+    void BeginWaitCursor() override;
+    void EndWaitCursor() override;
+    MDIFrameFactory* GetFrameFactory() override { return &frameFactory; }
+
+private:
+    MDIFrameFactory frameFactory;
+};
