@@ -19,11 +19,11 @@ CTime ToTime(const timespec& time) {
 } // namespace
 
 bool CFile::GetStatus(const std::string& path, CFileStatus& status) {
-    const std::string native = ToNativePath(path);
+    const std::string native = FullPath(path); // a separator at the end makes no difference
     struct stat info {};
-    if (stat(native.c_str(), &info) != 0) return false;
+    if (native.empty() || stat(native.c_str(), &info) != 0) return false;
     status = {};
-    status.fullName = FullPath(path);
+    status.fullName = native;
     if (S_ISDIR(info.st_mode))
         status.attributes |= CFileStatus::directoryAttribute;
     else

@@ -62,6 +62,10 @@ public:
     // Another file over the same bytes with a position of its own; both may be used and closed in any order.
     virtual std::unique_ptr<CFile> Duplicate() const = 0;
 
+    // False when the file's path now leads to other bytes than when it was opened, as far as size, time and
+    // identity tell.
+    virtual bool IsUnchanged() const { return true; }
+
     // False, and `status` untouched, when nothing is there.
     static bool GetStatus(const std::string& path, CFileStatus& status);
     // CFileException when the file cannot be removed.

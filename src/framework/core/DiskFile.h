@@ -4,6 +4,8 @@
 
 #include <utility>
 
+struct stat;
+
 // Closes a descriptor of the operating system when it goes.
 class Descriptor {
 public:
@@ -29,7 +31,6 @@ class DiskFile final : public CFile {
 public:
     // Opens an existing ordinary file; CFileException else.
     DiskFile(const std::string& path, unsigned flags);
-    DiskFile(Descriptor file, std::string path) : descriptor(std::move(file)), filePath(std::move(path)) {}
 
     std::string GetFilePath() const override { return filePath; }
     std::size_t Read(void* buffer, std::size_t count) override;
@@ -41,11 +42,23 @@ public:
     void Close() override;
     void Abort() noexcept override { descriptor.Close(); }
     std::unique_ptr<CFile> Duplicate() const override;
+    bool IsUnchanged() const override;
 
 private:
+    // What tells one state of one file from another.
+    struct Fingerprint {
+        std::uint64_t device = 0, inode = 0, size = 0;
+        std::int64_t seconds = 0, nanoseconds = 0; // of the last change
+        bool operator==(const Fingerprint&) const = default;
+    };
+    static Fingerprint FingerprintOf(const struct stat& info);
+
+    DiskFile(Descriptor file, std::string path, const Fingerprint& state)
+        : descriptor(std::move(file)), filePath(std::move(path)), fingerprint(state) {}
     [[noreturn]] void ThrowErrno() const;
 
     Descriptor descriptor;
     std::string filePath;       // full
+    Fingerprint fingerprint;    // when it was opened
     std::uint64_t position = 0; // ours, not the descriptor's, so that duplicates do not disturb each other
 };

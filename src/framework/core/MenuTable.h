@@ -4,7 +4,8 @@
 
 #include <span>
 
-// Menus and accelerators as data. A row with items is a popup, one without text is a separator, any other a command.
+// Menus and accelerators as data. A row with items is a popup, one without text is a separator, any other a
+// command.
 struct MenuRow {
     const char* text = nullptr; // UTF-8, "&" before the mnemonic, a tab before the keys
     CommandId id = 0;

@@ -1,0 +1,56 @@
+#include "app/DocumentTypes.h"
+
+#include "archives/PAKDocument.h"
+#include "archives/ResourceDocument.h"
+#include "archives/WADDocument.h"
+#include "framework/core/CWinApp.h"
+#include "image/ImageDocuments.h"
+#include "preview3d/ModelDocuments.h"
+#include "res/StringIds.h"
+#include "resources/BrushDocument.h"
+#include "resources/ColorSpaceDocument.h"
+#include "resources/LMPDocument.h"
+
+namespace {
+
+// Numbers of the menus: with a document in front, and without one.
+constexpr unsigned documentMenu = 129;
+constexpr unsigned mainMenu = 128;
+
+using Row = CDocTemplate::Row;
+
+Row ImageType(unsigned id, const CRuntimeClass& documentClass) {
+    return {id, documentMenu, &documentClass, "TavloViewFrame", "TavloView"};
+}
+
+Row ModelType(unsigned id, const CRuntimeClass& documentClass, const char* view) {
+    return {id, documentMenu, &documentClass, "ChildFrame", view};
+}
+
+// Documents that others use; they have no window of their own.
+Row HiddenType(unsigned id, const CRuntimeClass& documentClass) {
+    return {id, mainMenu, &documentClass, "HiddenChildFrame", "HiddenView"};
+}
+
+} // namespace
+
+// The order decides the list of File New and which type gets a file of unknown extension.
+void RegisterDocumentTypes(CWinApp& application) {
+    const Row rows[] = {
+        ImageType(IDR_BITMAP, BMPDocument::runtimeClass),
+        ImageType(IDR_MIPMAP, MIPDocument::runtimeClass),
+        ImageType(IDR_PCX, PCXDocument::runtimeClass),
+        ImageType(IDR_TARGA, TGADocument::runtimeClass),
+        ImageType(IDR_WAL, WALDocument::runtimeClass),
+        ModelType(IDR_MDL, MDLDocument::runtimeClass, "ModelView"),
+        ModelType(IDR_MD2, MD2Document::runtimeClass, "MD2View"),
+        HiddenType(IDR_RESOURCES, ResourceDocument::runtimeClass),
+        HiddenType(IDR_PAK, PAKDocument::runtimeClass),
+        HiddenType(IDR_WAD, WADDocument::runtimeClass),
+        HiddenType(IDR_COLOR_SPACE, ColorSpaceDocument::runtimeClass),
+        HiddenType(IDR_COLOR_TABLE, ColorTableDocument::runtimeClass),
+        HiddenType(IDR_LMP, LMPDocument::runtimeClass),
+        HiddenType(IDR_BRUSH, BrushDocument::runtimeClass),
+    };
+    for (const Row& row : rows) application.AddDocTemplate(std::make_unique<CDocTemplate>(row));
+}

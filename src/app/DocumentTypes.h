@@ -1,0 +1,6 @@
+#pragma once
+
+class CWinApp;
+
+// Adds the program's fourteen document types, in their order.
+void RegisterDocumentTypes(CWinApp& application);

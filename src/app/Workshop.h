@@ -1,0 +1,20 @@
+#pragma once
+
+#include "archives/FileSystem.h"
+#include "resources/DocTemplateRegistry.h"
+
+class CWinApp;
+
+// What the program is without its windows: the service that resolves paths, the registry of document types,
+// and the tables of strings and built-in files. Make one beside the application and keep it for as long as
+// documents are open.
+class Workshop {
+public:
+    explicit Workshop(CWinApp& application);
+
+    FileSystem& GetFileSystem() { return fileSystem; }
+
+private:
+    FileSystem fileSystem;
+    DocTemplateRegistry registry;
+};

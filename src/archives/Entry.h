@@ -1,0 +1,77 @@
+#pragma once
+
+#include "framework/core/CFile.h"
+#include "resources/FileSource.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+class FolderDocument;
+
+// A named thing in a folder document: a folder or a file.
+class Entry {
+public:
+    Entry() = default;
+    Entry(const Entry&) = delete;
+    Entry& operator=(const Entry&) = delete;
+    virtual ~Entry() = default;
+
+    virtual std::string GetName() const = 0;
+    // Everything but the full name.
+    virtual void GetStatus(EntryStatus& status) const = 0;
+    // A file over the entry's bytes; null on failure, with `*failure` filled when it is given. Flags:
+    // CFile::OpenFlags.
+    virtual std::unique_ptr<CFile> OpenEntry(unsigned flags, CFileException* failure,
+                                             FolderDocument& owner) = 0;
+};
+
+// A folder: owns its children and keeps their order.
+class FolderEntry : public Entry {
+public:
+    void GetStatus(EntryStatus& status) const override;
+    std::unique_ptr<CFile> OpenEntry(unsigned flags, CFileException* failure, FolderDocument& owner) override;
+
+    const std::vector<std::unique_ptr<Entry>>& GetChildren() const { return children; }
+    void Append(std::unique_ptr<Entry> child) { children.push_back(std::move(child)); }
+    void RemoveChildren();
+
+    // The first child of that name without regard to case, or null.
+    Entry* FindChild(std::string_view name) const;
+    // The first that is a folder; a file of the same name does not stand in its way.
+    FolderEntry* FindFolder(std::string_view name) const;
+
+private:
+    struct Named {
+        Entry* first = nullptr;
+        FolderEntry* firstFolder = nullptr;
+    };
+    const Named* Find(std::string_view name) const;
+
+    std::vector<std::unique_ptr<Entry>> children;
+    // By folded name; made when a child is first looked for, so that reading a large archive does not wait
+    // for it.
+    mutable std::unordered_map<std::string, Named> index;
+    mutable std::size_t indexedCount = 0;
+};
+
+// The root of a folder document's tree.
+class RootEntry final : public FolderEntry {
+public:
+    std::string GetName() const override { return {}; }
+    void GetStatus(EntryStatus& status) const override;
+
+    std::string rootName; // the path of the archive, or of the folder's source
+};
+
+// A folder inside an archive.
+class NamedFolderEntry final : public FolderEntry {
+public:
+    explicit NamedFolderEntry(std::string_view folderName) : name(folderName) {}
+    std::string GetName() const override { return name; }
+
+private:
+    std::string name;
+};

@@ -1,0 +1,20 @@
+#include "archives/EntryFile.h"
+
+EntryFile::EntryFile(std::shared_ptr<EntryBytes> entryBytes, std::size_t length,
+                     std::function<void()> noteWrite)
+    : CMemFile(std::span(*entryBytes).first(length)), bytes(std::move(entryBytes)),
+      beforeWrite(std::move(noteWrite)) {}
+
+void EntryFile::Write(const void* buffer, std::size_t count) {
+    beforeWrite();
+    CMemFile::Write(buffer, count);
+}
+
+void EntryFile::SetLength(std::uint64_t length) {
+    beforeWrite();
+    CMemFile::SetLength(length);
+}
+
+std::unique_ptr<CFile> EntryFile::Duplicate() const {
+    return std::make_unique<EntryFile>(bytes, GetLength(), beforeWrite);
+}

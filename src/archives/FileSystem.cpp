@@ -1,0 +1,70 @@
+#include "archives/FileSystem.h"
+
+#include "archives/FolderDocument.h"
+#include "framework/core/Path.h"
+#include "resources/DocTemplateRegistry.h"
+
+namespace {
+
+// Archives in archives; a pack that contains itself must end somewhere.
+constexpr int maximumDepth = 8;
+
+bool IsFolderType(const std::string& path) {
+    const CRuntimeClass* type = DocTemplateRegistry::Get().GetDocumentClass(path);
+    return type && type->IsDerivedFrom(FolderDocument::runtimeClass);
+}
+
+FolderDocument* OpenFolder(const std::string& path) {
+    return IsFolderType(path) ? dynamic_cast<FolderDocument*>(DocTemplateRegistry::Get().OpenDocument(path))
+                              : nullptr;
+}
+
+// The archive of the disk that the path leads into.
+FolderDocument* FindDiskArchive(const std::string& path) {
+    CFileStatus status;
+    for (std::string folder = path; !folder.empty(); folder = ParentOf(folder)) {
+        if (!CFile::GetStatus(folder, status) || status.IsDirectory()) continue;
+        return folder == path ? nullptr : OpenFolder(status.fullName);
+    }
+    return nullptr;
+}
+
+} // namespace
+
+FolderDocument* FileSystem::FindArchive(const std::string& path) const {
+    FolderDocument* archive = FindDiskArchive(path);
+    for (int depth = 1; archive && depth < maximumDepth; ++depth) {
+        const std::string inner = archive->FindOnTheWay(path, IsFolderType);
+        if (inner.empty()) return archive;
+        archive = OpenFolder(inner);
+    }
+    return archive;
+}
+
+void FileSystem::GetStatus(const std::string& path, EntryStatus& status) {
+    status = {};
+    CFileStatus disk;
+    if (const FolderDocument* archive = FindArchive(path)) {
+        archive->GetEntryStatus(path, status);
+    } else if (CFile::GetStatus(path, disk)) {
+        status = {true,         false,         true,         disk.fullName, disk.size, disk.attributes,
+                  disk.created, disk.accessed, disk.modified};
+    }
+    const bool isFile = status.exists && !(status.attributes & CFileStatus::directoryAttribute);
+    if (isFile && IsFolderType(path)) status.browsable = true;
+}
+
+std::unique_ptr<CFile> FileSystem::OpenFile(const std::string& path, unsigned flags,
+                                            CFileException* failure) {
+    if (FolderDocument* archive = FindArchive(path)) return archive->OpenEntry(path, flags, failure);
+    return OpenDiskFile(path, flags, failure);
+}
+
+void FileSystem::ListFolder(const std::string& path, FolderListing& listing) {
+    listing = {{}, path};
+    const FolderDocument* archive = FindArchive(path);
+    EntryStatus status;
+    GetStatus(path, status);
+    if (status.browsable) archive = OpenFolder(path);
+    if (archive) archive->ListFolder(path, listing);
+}

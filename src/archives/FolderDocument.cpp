@@ -1,0 +1,92 @@
+#include "archives/FolderDocument.h"
+
+#include "framework/core/Text.h"
+#include "resources/streams/InputStream.h"
+
+void FolderDocument::AddEntry(const std::string& path, std::unique_ptr<Entry> entry) {
+    MakeFolder(SplitBelow(GetRootName(), path).directories).Append(std::move(entry));
+}
+
+Entry* FolderDocument::FindEntry(const std::string& path) const {
+    const PathBelow below = SplitBelow(GetRootName(), path);
+    if (!below.below) return nullptr;
+    const FolderEntry* folder = &root;
+    for (const std::string& component : below.directories)
+        if (folder) folder = folder->FindFolder(component);
+    return folder ? folder->FindChild(below.fileName) : nullptr;
+}
+
+void FolderDocument::GetEntryStatus(const std::string& path, EntryStatus& status) const {
+    status = {};
+    const Entry* entry = FindEntry(path);
+    if (!entry) return;
+    entry->GetStatus(status);
+    status.fullName = path;
+}
+
+std::unique_ptr<CFile> FolderDocument::OpenEntry(const std::string& path, unsigned flags,
+                                                 CFileException* failure) {
+    Entry* entry = FindEntry(path);
+    if (!entry) {
+        if (failure) *failure = CFileException(CFileException::fileNotFound, CFileException::noOsError, path);
+        return nullptr;
+    }
+    std::unique_ptr<CFile> file = entry->OpenEntry(flags, failure, *this);
+    if (!file && failure) failure->fileName = path;
+    return file;
+}
+
+void FolderDocument::ListFolder(const std::string& path, FolderListing& listing) const {
+    listing = {{}, path};
+    const bool isRoot = EqualNoCase(FullPath(path), FullPath(GetRootName()));
+    const auto* folder = isRoot ? &root : dynamic_cast<const FolderEntry*>(FindEntry(path));
+    if (!folder) return;
+    for (const auto& child : folder->GetChildren()) listing.names.push_back(child->GetName());
+}
+
+CFile& FolderDocument::GetSource(std::uint64_t offset, std::uint64_t length) const {
+    if (!source->IsUnchanged())
+        throw CFileException(CFileException::generic, GetRootName(),
+                             "The archive was changed or replaced after it was opened.");
+    const std::uint64_t size = source->GetLength();
+    if (length > 0 && (offset > size || length > size - offset))
+        throw CFileException(CFileException::endOfFile, CFileException::noOsError, GetRootName());
+    return *source;
+}
+
+void FolderDocument::BeginReading(InputStream& in) {
+    ResetTree();
+    SetRootName(in.GetName().empty() ? GetTransferPath() : in.GetName());
+    source = in.DuplicateFile();
+    lastFolder = nullptr;
+}
+
+void FolderDocument::AddNamedEntry(std::string_view name, std::unique_ptr<Entry> entry) {
+    const std::size_t end = name.find_last_of("/\\:") + 1;
+    const std::string_view folderName = name.substr(0, end);
+    if (!lastFolder || folderName != lastFolderName) {
+        lastFolder = &MakeFolder(SplitBelow(GetRootName(), JoinPath(GetRootName(), folderName)).directories);
+        lastFolderName = folderName;
+    }
+    lastFolder->Append(std::move(entry));
+}
+
+void FolderDocument::DeleteContents() {
+    ResetTree();
+    source.reset();
+    lastFolder = nullptr;
+}
+
+FolderEntry& FolderDocument::MakeFolder(const std::vector<std::string>& components) {
+    FolderEntry* folder = &root;
+    for (const std::string& component : components) {
+        FolderEntry* next = folder->FindFolder(component);
+        if (!next) {
+            auto made = std::make_unique<NamedFolderEntry>(component);
+            next = made.get();
+            folder->Append(std::move(made));
+        }
+        folder = next;
+    }
+    return *folder;
+}

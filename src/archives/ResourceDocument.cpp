@@ -1,0 +1,25 @@
+#include "archives/ResourceDocument.h"
+
+#include "archives/ResourceEntry.h"
+#include "framework/core/ModulePath.h"
+#include "framework/core/ProgramResources.h"
+#include "resources/BuiltInPath.h"
+#include "resources/streams/OutputStream.h"
+
+bool ResourceDocument::OnDocumentReady() {
+    if (!BaseDocument::OnDocumentReady()) return false;
+    ResetTree();
+    SetRootName(GetModulePath());
+    for (const unsigned id : EnumResources(builtInNameType)) {
+        const std::string name = GetBuiltInName(id);
+        const std::string_view extension = ExtensionOf(name);
+        // A name without bytes would be a file that cannot be opened: it is left out.
+        const ResourceRow* row = extension.empty() ? nullptr : FindResource(id, extension.substr(1));
+        if (row) AddEntry(GetBuiltInPath(id), std::make_unique<ResourceEntry>(name, row->data));
+    }
+    return true;
+}
+
+void ResourceDocument::WriteContents(OutputStream& out) {
+    out.Fail(StreamError::readOnly);
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "archives/FolderDocument.h"
+
+// The files that the program carries inside itself, as a folder "res" below the program's own file. Read
+// only.
+class ResourceDocument final : public Dynamic<"ResourceDocument", ResourceDocument, FolderDocument> {
+public:
+    // Builds the tree; nothing of the file that was opened is looked at.
+    bool OnDocumentReady() override;
+    void ReadContents(InputStream&) override {}
+    void WriteContents(OutputStream& out) override; // readOnly
+};

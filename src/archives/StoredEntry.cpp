@@ -1,0 +1,45 @@
+#include "archives/StoredEntry.h"
+
+#include "archives/FolderDocument.h"
+
+namespace {
+
+// Buffers are a whole number of 32-bit words.
+std::size_t RoundedUp(std::uint64_t length) {
+    return (length + 3) / 4 * 4;
+}
+
+} // namespace
+
+void StoredEntry::GetStatus(EntryStatus& status) const {
+    status = {};
+    status.exists = true;
+    status.onDisk = false;
+    status.size = GetExtent().length;
+}
+
+std::unique_ptr<CFile> StoredEntry::OpenEntry(unsigned, CFileException* failure, FolderDocument& owner) {
+    try {
+        const std::shared_ptr<EntryBytes> bytes = Load(owner);
+        return std::make_unique<EntryFile>(bytes, GetExtent().length,
+                                           [this, &owner, weak = std::weak_ptr(bytes)] {
+                                               changed = weak.lock();
+                                               owner.SetModifiedFlag();
+                                           });
+    } catch (const CFileException& exception) {
+        if (failure) *failure = exception;
+        return nullptr;
+    }
+}
+
+std::shared_ptr<EntryBytes> StoredEntry::Load(FolderDocument& owner) {
+    if (const std::shared_ptr<EntryBytes> bytes = loaded.lock()) return bytes;
+    const Extent extent = GetExtent();
+    CFile& file = owner.GetSource(extent.offset, extent.stored);
+    const auto bytes = std::make_shared<EntryBytes>(RoundedUp(extent.length));
+    file.Seek(static_cast<std::int64_t>(extent.offset), CFile::From::begin);
+    if (file.Read(bytes->data(), extent.stored) != extent.stored)
+        throw CFileException(CFileException::endOfFile, CFileException::noOsError, GetName());
+    loaded = bytes;
+    return bytes;
+}

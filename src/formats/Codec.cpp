@@ -1,0 +1,21 @@
+#include "formats/Codec.h"
+
+#include "formats/WAL.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr std::array codecs{
+    Codec{"WALDocument", ReadWAL, WriteWAL, true, DefaultPalette::quake2},
+};
+
+} // namespace
+
+const Codec* FindCodec(std::string_view documentClass) {
+    const auto* place = std::find_if(codecs.begin(), codecs.end(), [&](const Codec& codec) {
+        return codec.documentClass == documentClass;
+    });
+    return place == codecs.end() ? nullptr : place;
+}

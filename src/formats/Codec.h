@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string_view>
+
+class ColorList;
+class InputStream;
+class OutputStream;
+class Texture;
+
+// The palette that a paletted format falls back on when the texture has none.
+enum class DefaultPalette { none, quake, quake2 };
+
+// One picture format: the document class that stands for it, and how it is read and written. A reader
+// replaces what the file carries and leaves the rest of the texture; both throw the stream's exceptions.
+// `palette` is the default palette of the row (null for none).
+struct Codec {
+    std::string_view documentClass;
+    void (*read)(InputStream& in, Texture& texture, const ColorList* palette);
+    void (*write)(OutputStream& out, const Texture& texture, const ColorList* palette);
+    bool hasGameSizes; // sides must be multiples of 8 from 8 to 256 when it is written
+    DefaultPalette defaultPalette;
+};
+
+// The codec of a document class, or null.
+const Codec* FindCodec(std::string_view documentClass);

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+class TavloDocument;
+
+// A recorded change. It holds the other state, so undoing and redoing are one and the same exchange.
+class EditAction {
+public:
+    explicit EditAction(std::string actionName) : name(std::move(actionName)) {}
+    EditAction(const EditAction&) = delete;
+    EditAction& operator=(const EditAction&) = delete;
+    virtual ~EditAction() = default;
+
+    virtual void Undo(TavloDocument& document) = 0;
+    virtual void Redo(TavloDocument& document) { Undo(document); }
+    // As the Edit menu shows it.
+    const std::string& GetName() const { return name; }
+
+private:
+    std::string name;
+};

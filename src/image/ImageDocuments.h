@@ -1,0 +1,25 @@
+#pragma once
+
+#include "image/TavloDocument.h"
+
+// One class for each picture format; they differ in what File New makes.
+
+// A new one is 64 x 64, all pixels 0.
+class FormatDocument : public Dynamic<"FormatDocument", FormatDocument, TavloDocument> {
+public:
+    bool OnNewDocument() override;
+};
+
+class BMPDocument final : public Dynamic<"BMPDocument", BMPDocument, FormatDocument> {};
+class PCXDocument final : public Dynamic<"PCXDocument", PCXDocument, FormatDocument> {};
+class TGADocument final : public Dynamic<"TGADocument", TGADocument, FormatDocument> {};
+
+// A new one has the built-in palette of its game selected.
+class MIPDocument final : public Dynamic<"MIPDocument", MIPDocument, FormatDocument> {
+public:
+    bool OnNewDocument() override;
+};
+class WALDocument final : public Dynamic<"WALDocument", WALDocument, FormatDocument> {
+public:
+    bool OnNewDocument() override;
+};

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "image/UndoHistory.h"
+#include "image/picture/Texture.h"
+#include "resources/BaseDocument.h"
+
+class BrushDocument;
+class PaletteDocument;
+
+// A texture that is being edited: its picture with what the games store beside it, the documents that it
+// works with, and its history. The class of a document does not fix its format: a file is read and written as
+// its name says.
+class TavloDocument : public Dynamic<"TavloDocument", TavloDocument, BaseDocument> {
+public:
+    TavloDocument();
+
+    bool OnNewDocument() override;
+    bool OnOpenDocument(const std::string& path) override;
+    void OnCloseDocument() override;
+    // badIndex for a name whose type is none of the picture formats.
+    void ReadContents(InputStream& in) override;
+    void WriteContents(OutputStream& out) override;
+
+    Texture& GetTexture() { return texture; }
+    const Texture& GetTexture() const { return texture; }
+    UndoHistory& GetHistory() { return history; }
+
+    // The brush and the palette chosen for this document; null is "None".
+    bool HasBrush() const { return currentBrush != nullptr; }
+    bool HasPalette() const { return currentPalette != nullptr; }
+    BrushDocument* GetCurrentBrush() const { return currentBrush; }
+    void SetCurrentBrush(BrushDocument* brush) { currentBrush = brush; }
+    PaletteDocument* GetCurrentPalette() const { return currentPalette; }
+    void SetCurrentPalette(PaletteDocument* palette) { currentPalette = palette; }
+
+    // Marks the document modified; a changed picture must be told to the views as well.
+    void SetModifiedAndUpdate(bool updateViews);
+    const std::vector<BaseDocument*>& GetReferences() const { return references; }
+
+protected:
+    const CommandMap& GetCommandMap() const override;
+    void SelectBuiltInPalette(unsigned id);
+
+private:
+    void AddBuiltInReferences();
+    void ReleaseReferences();
+    // Brings the sides to what the games allow, as an undoable change.
+    void ReformatForSave();
+
+    void OnEditUndo() { history.Undo(); }
+    void OnEditRedo() { history.Redo(); }
+    void OnUpdateEditUndo(CCmdUI& state) const;
+    void OnUpdateEditRedo(CCmdUI& state) const;
+
+    static constexpr std::size_t historyCapacity = 16;
+
+    Texture texture;
+    std::vector<BaseDocument*>
+        references; // open for as long as the program runs; null where one could not be opened
+    BrushDocument* currentBrush = nullptr;
+    PaletteDocument* currentPalette = nullptr;
+    UndoHistory history{*this, historyCapacity};
+};

@@ -1,0 +1,37 @@
+#pragma once
+
+// Strings that the documents use.
+enum DocumentStringId : unsigned {
+    IDS_UNDO_NAMED = 768,
+    IDS_REDO_NAMED = 769,
+    IDS_UNDO = 770,
+    IDS_REDO = 771,
+    IDS_CANNOT_UNDO = 772,
+    IDS_CANNOT_REDO = 773,
+    IDS_ACTION_REFORMAT = 785,
+    IDS_ACTION_PASTE = 786,
+    IDS_ACTION_RESIZE = 787,
+    IDS_ACTION_QUAKE_NAME = 788,
+    IDS_ACTION_QUAKE2_NAME = 789,
+    IDS_ACTION_QUAKE2_SURFACE = 790,
+    IDS_ACTION_QUAKE2_CONTENTS = 791,
+    IDS_ACTION_QUAKE2_VALUE = 792
+};
+
+// Strings of the document types.
+enum DocumentTypeId : unsigned {
+    IDR_BITMAP = 130,
+    IDR_MIPMAP = 133,
+    IDR_PCX = 134,
+    IDR_TARGA = 136,
+    IDR_WAL = 138,
+    IDR_PAK = 140,
+    IDR_WAD = 141,
+    IDR_LMP = 142,
+    IDR_BRUSH = 149,
+    IDR_MD2 = 150,
+    IDR_MDL = 151,
+    IDR_COLOR_SPACE = 152,
+    IDR_RESOURCES = 153,
+    IDR_COLOR_TABLE = 154
+};
