@@ -3,7 +3,6 @@
 #include "formats/Codec.h"
 #include "formats/GameTexture.h"
 #include "framework/core/StringTable.h"
-#include "framework/core/Text.h"
 #include "image/TextureChangeAction.h"
 #include "res/CommandIds.h"
 #include "res/StringIds.h"
@@ -47,7 +46,7 @@ void UpdateHistoryItem(CCmdUI& state, const std::string* name, unsigned namedTex
     else if (name->empty())
         state.SetText(LoadString(plainText));
     else
-        state.SetText(FillIn(LoadString(namedText), *name));
+        state.SetText(FormatString(namedText, name->c_str()));
 }
 
 } // namespace

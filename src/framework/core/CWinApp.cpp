@@ -6,7 +6,7 @@
 #include <algorithm>
 
 CWinApp::CWinApp(std::unique_ptr<ProfileStore> settings)
-    : profile(std::move(settings)), recentFiles(*profile) {}
+    : profile(std::move(settings)), recentFiles(profile.get()) {}
 
 CWinApp::~CWinApp() {
     CloseAllDocuments();

@@ -9,6 +9,7 @@
 // files.
 class CWinApp : public Dynamic<"CWinApp", CWinApp, CCmdTarget>, public Service<CWinApp> {
 public:
+    // Without settings nothing is remembered from one run to the next.
     explicit CWinApp(std::unique_ptr<ProfileStore> settings);
     ~CWinApp() override;
 
@@ -30,7 +31,7 @@ public:
     void OpenRecentFile(std::size_t n);
     void AddToRecentFileList(const std::string& path) { recentFiles.Add(path); }
     RecentFileList& GetRecentFiles() { return recentFiles; }
-    ProfileStore& GetProfile() { return *profile; }
+    ProfileStore* GetProfile() { return profile.get(); } // may be null
 
     // Asks about every modified document; false as soon as one must stay.
     bool SaveAllModified();

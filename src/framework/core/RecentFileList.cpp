@@ -12,8 +12,10 @@ constexpr const char* value = "Files";
 
 } // namespace
 
-RecentFileList::RecentFileList(ProfileStore& settings)
-    : profile(settings), paths(settings.ReadStrings(section, value)) {
+RecentFileList::RecentFileList(ProfileStore* settings)
+
+    : profile(settings) {
+    if (profile) paths = profile->ReadStrings(section, value);
     paths.resize(std::min(paths.size(), capacity));
 }
 
@@ -30,5 +32,5 @@ void RecentFileList::Remove(const std::string& path) {
 }
 
 void RecentFileList::Write() {
-    profile.WriteStrings(section, value, paths);
+    if (profile) profile->WriteStrings(section, value, paths);
 }

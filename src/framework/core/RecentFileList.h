@@ -5,12 +5,12 @@
 
 class ProfileStore;
 
-// The files opened or saved last, newest first; kept in the user's settings.
+// The files opened or saved last, newest first; kept in the user's settings where there are some.
 class RecentFileList {
 public:
     static constexpr std::size_t capacity = 4;
 
-    explicit RecentFileList(ProfileStore& settings);
+    explicit RecentFileList(ProfileStore* settings);
 
     const std::vector<std::string>& GetPaths() const { return paths; }
     void Add(const std::string& path);
@@ -19,6 +19,6 @@ public:
 private:
     void Write();
 
-    ProfileStore& profile;
+    ProfileStore* profile; // may be null
     std::vector<std::string> paths;
 };

@@ -75,13 +75,6 @@ std::string Format(const char* format, ...) {
     return FromQString(text);
 }
 
-std::string FillIn(std::string pattern, std::string_view value) {
-    constexpr std::string_view mark = "%s";
-    const std::size_t place = pattern.find(mark);
-    if (place != std::string::npos) pattern.replace(place, mark.size(), value);
-    return pattern;
-}
-
 std::string_view UpToNul(std::string_view field) {
     return field.substr(0, field.find('\0'));
 }

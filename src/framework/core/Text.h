@@ -23,9 +23,6 @@ bool EqualNoCase(std::string_view a, std::string_view b);
 // printf-style formatting that never looks at the locale. %s takes UTF-8.
 std::string Format(const char* format, ...) __attribute__((format(printf, 1, 2)));
 
-// The pattern with its first "%s" replaced by the value.
-std::string FillIn(std::string pattern, std::string_view value);
-
 // Text of a fixed-width field: up to the first NUL, or all of it.
 std::string_view UpToNul(std::string_view field);
 

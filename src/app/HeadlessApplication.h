@@ -1,0 +1,34 @@
+#pragma once
+
+#include "app/Workshop.h"
+#include "framework/core/CWinApp.h"
+#include "framework/core/UserInterface.h"
+
+#include <functional>
+
+// The application without windows: messages go where the caller says, and every question gets a fixed answer.
+class HeadlessApplication : public CWinApp, public UserInterface {
+public:
+    // `show` receives each message for the user.
+    explicit HeadlessApplication(std::function<void(const std::string&)> show);
+    ~HeadlessApplication() override;
+
+    void ShowMessage(const std::string& text) override { showMessage(text); }
+    SaveAnswer AskToSave(const std::string&) override { return saveAnswer; }
+    std::optional<std::string> PromptFileName(const FileNameQuestion&) override { return fileName; }
+    const CDocTemplate* PromptNewType() override { return newType; }
+    void BeginWaitCursor() override {}
+    void EndWaitCursor() override {}
+    FrameFactory* GetFrameFactory() override { return nullptr; }
+
+    FileSystem& GetFileSystem() { return workshop.GetFileSystem(); }
+
+    // The answers.
+    SaveAnswer saveAnswer = SaveAnswer::discard;
+    std::optional<std::string> fileName;
+    const CDocTemplate* newType = nullptr;
+
+private:
+    std::function<void(const std::string&)> showMessage;
+    Workshop workshop;
+};

@@ -1,0 +1,58 @@
+#include "support/PackBuilder.h"
+
+#include <algorithm>
+#include <cstring>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+
+namespace {
+
+constexpr std::size_t nameSize = 56;
+
+} // namespace
+
+Bytes ToBytes(std::string_view text) {
+    const auto* first = reinterpret_cast<const std::byte*>(text.data());
+    return {first, first + text.size()};
+}
+
+void PutU32(Bytes& bytes, std::size_t offset, std::uint32_t value) {
+    bytes.resize(std::max(bytes.size(), offset + sizeof value));
+    std::memcpy(bytes.data() + offset, &value, sizeof value);
+}
+
+void WriteFile(const std::string& path, const Bytes& bytes) {
+    std::ofstream out(path, std::ios::binary);
+    out.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    out.close();
+    if (!out) throw std::runtime_error(path + " cannot be written");
+}
+
+Bytes ReadFile(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    if (!in) throw std::runtime_error(path + " cannot be read");
+    return ToBytes(std::string(std::istreambuf_iterator<char>(in), {}));
+}
+
+void PackBuilder::Add(std::string_view name, const Bytes& bytes) {
+    files.push_back({std::string(name.substr(0, nameSize)), bytes});
+}
+
+Bytes PackBuilder::Build() const {
+    Bytes pack = ToBytes("PACK");
+    pack.resize(headerSize);
+    Bytes directory;
+    for (const File& file : files) {
+        const std::size_t record = directory.size();
+        directory.resize(record + nameSize);
+        std::memcpy(directory.data() + record, file.name.data(), file.name.size());
+        PutU32(directory, directory.size(), static_cast<std::uint32_t>(pack.size()));
+        PutU32(directory, directory.size(), static_cast<std::uint32_t>(file.bytes.size()));
+        pack.insert(pack.end(), file.bytes.begin(), file.bytes.end());
+    }
+    PutU32(pack, 4, static_cast<std::uint32_t>(pack.size()));
+    PutU32(pack, 8, static_cast<std::uint32_t>(directory.size()));
+    pack.insert(pack.end(), directory.begin(), directory.end());
+    return pack;
+}

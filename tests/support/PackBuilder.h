@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+using Bytes = std::vector<std::byte>;
+
+Bytes ToBytes(std::string_view text);
+// Overwrites or appends a little-endian u32.
+void PutU32(Bytes& bytes, std::size_t offset, std::uint32_t value);
+void WriteFile(const std::string& path, const Bytes& bytes);
+Bytes ReadFile(const std::string& path);
+
+// Makes packs (".pak"): the header, the files' bytes, the directory.
+class PackBuilder {
+public:
+    void Add(std::string_view name, const Bytes& bytes);
+    Bytes Build() const;
+
+    static constexpr std::size_t headerSize = 12;
+    static constexpr std::size_t recordSize = 64;
+
+private:
+    struct File {
+        std::string name;
+        Bytes bytes;
+    };
+    std::vector<File> files;
+};
