@@ -1,0 +1,11 @@
+#pragma once
+
+#include "framework/core/MenuTable.h"
+
+constexpr unsigned IDR_MAINFRAME = 128; // shown without a document
+constexpr unsigned IDR_DOCUMENT = 129;  // shown while a document is in front
+
+// The menu bar of that number; empty when there is none.
+std::span<const MenuRow> MenuBarRows(unsigned menuId);
+// The keys of the main window, whatever its menu.
+std::span<const AcceleratorRow> AcceleratorRows();
