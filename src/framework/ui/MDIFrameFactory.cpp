@@ -6,9 +6,8 @@
 // The frame is its document's from now on: it ends with its views.
 DocumentFrame* MDIFrameFactory::CreateFrame(const CDocTemplate& type, CDocument& document) {
     const CDocTemplate::Row& row = type.GetRow();
-    const bool hidden = row.frameClass.empty() || row.viewClass.empty();
-    const CRuntimeClass* frameClass = hidden ? &defaultFrame : classes.Find(row.frameClass);
-    const CRuntimeClass* viewClass = hidden ? &defaultView : classes.Find(row.viewClass);
+    const CRuntimeClass* frameClass = classes.Find(row.frameClass);
+    const CRuntimeClass* viewClass = classes.Find(row.viewClass);
     if (!frameClass || !viewClass) return nullptr;
     CMDIChildWnd* frame = CreateFrameWindow(*frameClass).release();
     frame->Create(document, *viewClass, mainFrame);

@@ -6,9 +6,6 @@
 // The person at the program, met through dialogs over its windows.
 class WindowedUserInterface : public UserInterface {
 public:
-    WindowedUserInterface(const CRuntimeClass& hiddenFrame, const CRuntimeClass& hiddenView)
-        : frameFactory(hiddenFrame, hiddenView) {}
-
     void ShowMessage(const std::string& text) override;
     SaveAnswer AskToSave(const std::string& name) override;
     const CDocTemplate* PromptNewType() override;
