@@ -10,5 +10,5 @@ void LMPDocument::ReadContents(InputStream& in) {
     in.Read(std::span<std::uint8_t>(bytes));
     colors = ColorList(count);
     for (std::size_t i = 0; i < count; ++i)
-        colors.SetColor(i, Compose(bytes[3 * i], bytes[3 * i + 1], bytes[3 * i + 2], opaque));
+        colors.SetColor(i, Compose(bytes[3 * i], bytes[3 * i + 1], bytes[3 * i + 2]));
 }
