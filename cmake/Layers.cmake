@@ -10,6 +10,7 @@ endfunction()
 function(add_layer folder uses)
     layer_target("${folder}" target)
     file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/src/${folder}/*.cpp")
+    list(FILTER sources EXCLUDE REGEX "/main[.]cpp$") # belongs to its program
     file(GLOB headers CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/src/${folder}/*.h")
     if(NOT sources)
         add_library(${target} INTERFACE)

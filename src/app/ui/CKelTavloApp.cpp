@@ -1,0 +1,101 @@
+#include "app/ui/CKelTavloApp.h"
+
+#include "app/ui/FileFilters.h"
+#include "app/ui/MainFrame.h"
+#include "archives/ui/HiddenChildFrame.h"
+#include "archives/ui/HiddenView.h"
+#include "framework/core/ReplacingFile.h"
+#include "framework/core/StringTable.h"
+#include "framework/ui/CMenu.h"
+#include "framework/ui/ChildFrame.h"
+#include "framework/ui/MessageBoxes.h"
+#include "framework/ui/NormalCursor.h"
+#include "res/CommandIds.h"
+#include "res/ShellStrings.h"
+
+CKelTavloApp::CKelTavloApp(std::unique_ptr<ProfileStore> settings)
+    : Dynamic(std::move(settings)), workshop(*this) {
+    AddStrings(ShellStrings());
+    RegisterWindowClasses();
+}
+
+// Documents go while the windows and services that they use are there.
+CKelTavloApp::~CKelTavloApp() {
+    CloseAllDocuments();
+    GetFrameFactory()->SetMainFrame(nullptr);
+}
+
+// Classes that a document type names and that are not here leave its documents without a window.
+void CKelTavloApp::RegisterWindowClasses() {
+    WindowClasses& classes = GetFrameFactory()->GetClasses();
+    for (const CRuntimeClass* windowClass :
+         {&ChildFrame::runtimeClass, &HiddenChildFrame::runtimeClass, &HiddenView::runtimeClass})
+        classes.Register(*windowClass);
+}
+
+bool CKelTavloApp::InitInstance(const std::vector<std::string>& paths) {
+    RemoveAbandonedSaves();
+    mainFrame = std::make_unique<MainFrame>();
+    GetFrameFactory()->SetMainFrame(mainFrame.get());
+    mainFrame->show();
+    return CarryOut(paths);
+}
+
+// Cancelling the choice of a new document is no failure.
+bool CKelTavloApp::CarryOut(const std::vector<std::string>& paths) {
+    if (paths.empty()) OnFileNew();
+    bool opened = paths.empty();
+    for (const std::string& path : paths) opened = OpenDocumentFile(path) || opened;
+    return opened;
+}
+
+std::optional<std::string> CKelTavloApp::PromptFileName(const FileNameQuestion& question) {
+    const NormalCursor arrow;
+    CFileDialog dialog(GetDialogOwner(), question, BuildFileFilters(question));
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    return dialog.GetPathName();
+}
+
+void CKelTavloApp::UpdateMenus(BaseDocument*) {
+    if (mainFrame) mainFrame->GetCurrentMenu().UpdateAll();
+}
+
+void CKelTavloApp::SetPositionText(double x, double y) {
+    if (mainFrame) mainFrame->SetPositionText(x, y);
+}
+
+void CKelTavloApp::SetColorText(std::uint32_t color) {
+    if (mainFrame) mainFrame->SetColorText(color);
+}
+
+const std::uint32_t* CKelTavloApp::GetGammaTable() const {
+    return mainFrame->GetGamma().GetTable();
+}
+
+const CommandMap& CKelTavloApp::GetCommandMap() const {
+    using Self = CKelTavloApp;
+    static const CommandMap map{
+        CWinApp::GetCommandMap(),
+        {Command<&Self::OnCommandNew>(ID_FILE_NEW), Command<&Self::OnFileOpen>(ID_FILE_OPEN),
+         Command<&Self::OnAppExit>(ID_APP_EXIT),
+         CommandRange<&Self::OnRecentFile, &Self::OnUpdateRecentFile>(ID_FILE_MRU_FIRST, ID_FILE_MRU_LAST)}};
+    return map;
+}
+
+void CKelTavloApp::OnFileOpen() {
+    const std::optional<std::string> path =
+        PromptFileName({.proposal = {}, .titleId = AFX_IDS_OPENFILE, .open = true, .mustExist = true});
+    if (path) OpenDocumentFile(*path);
+}
+
+void CKelTavloApp::OnRecentFile(CommandId id) {
+    OpenRecentFile(id - ID_FILE_MRU_FIRST);
+}
+
+void CKelTavloApp::OnUpdateRecentFile(CCmdUI& state) {
+    state.Enable(state.id - ID_FILE_MRU_FIRST < GetRecentFiles().GetPaths().size());
+}
+
+void CKelTavloApp::OnAppExit() {
+    mainFrame->close();
+}

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "app/Workshop.h"
+#include "framework/core/CWinApp.h"
+#include "framework/ui/WindowedUserInterface.h"
+#include "resources/Shell.h"
+
+class MainFrame;
+
+// The application: starts the program, opens files, and answers for the main window to documents.
+class CKelTavloApp : public Dynamic<"CKelTavloApp", CKelTavloApp, CWinApp>,
+                     public WindowedUserInterface,
+                     public Shell {
+public:
+    // `settings` is where the program keeps what it remembers.
+    explicit CKelTavloApp(std::unique_ptr<ProfileStore> settings);
+    ~CKelTavloApp() override;
+
+    // Shows the main window, then opens the files, or asks for a new document when there are none. False when
+    // none of the files could be opened (the user has been told): the program is to end.
+    bool InitInstance(const std::vector<std::string>& paths);
+    // Null before InitInstance.
+    MainFrame* GetMainFrame() const { return mainFrame.get(); }
+
+    std::optional<std::string> PromptFileName(const FileNameQuestion& question) override;
+
+    void UpdateMenus(BaseDocument* activeDocument) override;
+    void UpdatePaletteBar(unsigned) override {} // the main window has none
+    void SetPositionText(double x, double y) override;
+    void SetColorText(std::uint32_t color) override;
+    std::uint32_t GetCurrentColor() const override { return currentColor; }
+    void SetCurrentColor(std::uint32_t color) override { currentColor = color; }
+    const std::uint32_t* GetGammaTable() const override;
+
+protected:
+    const CommandMap& GetCommandMap() const override;
+
+private:
+    void RegisterWindowClasses();
+    bool CarryOut(const std::vector<std::string>& paths);
+    void OnCommandNew() { OnFileNew(); }
+    void OnFileOpen();
+    void OnRecentFile(CommandId id);
+    void OnUpdateRecentFile(CCmdUI& state);
+    void OnAppExit();
+
+    Workshop workshop;
+    std::unique_ptr<MainFrame> mainFrame;
+    std::uint32_t currentColor = 0; // 0xAARRGGBB; of the brushes of all documents
+};

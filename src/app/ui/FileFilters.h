@@ -1,0 +1,7 @@
+#pragma once
+
+#include "framework/ui/CFileDialog.h"
+
+// The filters of a file dialog: the type's own first, then the program's list for opening or saving, then all
+// files.
+std::vector<FileFilter> BuildFileFilters(const FileNameQuestion& question);
