@@ -9,13 +9,15 @@
 bool ResourceDocument::OnDocumentReady() {
     if (!BaseDocument::OnDocumentReady()) return false;
     ResetTree();
-    SetRootName(GetModulePath());
+    // The program may have been reached through a link.
+    SetRootName(GetTransferPath().empty() ? GetModulePath() : GetTransferPath());
+    const std::string folder = JoinPath(GetRootName(), builtInFolder);
     for (const unsigned id : EnumResources(builtInNameType)) {
         const std::string name = GetBuiltInName(id);
         const std::string_view extension = ExtensionOf(name);
         // A name without bytes would be a file that cannot be opened: it is left out.
         const ResourceRow* row = extension.empty() ? nullptr : FindResource(id, extension.substr(1));
-        if (row) AddEntry(GetBuiltInPath(id), std::make_unique<ResourceEntry>(name, row->data));
+        if (row) AddEntry(JoinPath(folder, name), std::make_unique<ResourceEntry>(name, row->data));
     }
     return true;
 }

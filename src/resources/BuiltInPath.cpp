@@ -29,5 +29,5 @@ std::string GetBuiltInName(unsigned id) {
 }
 
 std::string GetBuiltInPath(unsigned id) {
-    return JoinPath(JoinPath(GetModulePath(), "res"), GetBuiltInName(id));
+    return JoinPath(JoinPath(GetModulePath(), builtInFolder), GetBuiltInName(id));
 }

@@ -17,6 +17,8 @@ enum BuiltInFile : unsigned {
 
 // The resource type under which the files' names stand.
 inline constexpr const char* builtInNameType = "DIR";
+// The folder below the program's path that holds them.
+inline constexpr const char* builtInFolder = "res";
 
 // The name of the built-in file of that number; empty when there is none.
 std::string GetBuiltInName(unsigned id);

@@ -1,0 +1,153 @@
+#include "archives/FolderDocument.h"
+#include "archives/PAKDocument.h"
+#include "framework/core/ModulePath.h"
+#include "framework/core/Path.h"
+#include "image/ImageDocuments.h"
+#include "resources/BuiltInPath.h"
+#include "support/TestApplication.h"
+
+#include <filesystem>
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+namespace {
+
+class FileSystemTest : public WorkshopTest {
+protected:
+    EntryStatus StatusOf(const std::string& path) {
+        EntryStatus status;
+        application.GetFileSystem().GetStatus(path, status);
+        return status;
+    }
+    std::vector<std::string> NamesIn(const std::string& path) {
+        FolderListing listing;
+        application.GetFileSystem().ListFolder(path, listing);
+        return listing.names;
+    }
+    std::string TextOf(const std::string& path) {
+        const auto file = application.GetFileSystem().OpenFile(path, CFile::modeRead, nullptr);
+        if (!file) return "(none)";
+        std::string text(file->GetLength(), '\0');
+        file->Read(text.data(), text.size());
+        return text;
+    }
+    CFileException::Cause OpenFailure(const std::string& path, unsigned flags = CFile::modeRead) {
+        CFileException failure;
+        EXPECT_EQ(application.GetFileSystem().OpenFile(path, flags, &failure), nullptr);
+        return failure.cause;
+    }
+    std::string PutSamplePack() {
+        PackBuilder inner;
+        inner.Add("deep/letter.txt", ToBytes("from inside"));
+        PackBuilder pack;
+        pack.Add("textures/e1u1/floor1_1.wal", MakeWal(8, 8));
+        pack.Add("readme.txt", ToBytes("first"));
+        pack.Add("README.TXT", ToBytes("second"));
+        pack.Add("a", ToBytes("a file"));
+        pack.Add("a/b", ToBytes("below a folder of its name"));
+        pack.Add("inner.pak", inner.Build());
+        return Put("pak0.pak", pack.Build());
+    }
+};
+
+} // namespace
+
+TEST_F(FileSystemTest, FindsArchivesOnTheWayOnly) {
+    const std::string pack = PutSamplePack();
+    const FileSystem& files = application.GetFileSystem();
+    for (const std::string& path :
+         {std::string("/"), std::string(), std::string("x"), std::string("//a"), pack, pack + "/",
+          folder.path().toStdString(), PathTo("missing/x"), PathTo("a:b")})
+        EXPECT_EQ(files.FindArchive(path), nullptr) << path;
+    const FolderDocument* archive = files.FindArchive(pack + "\\textures");
+    ASSERT_NE(archive, nullptr);
+    EXPECT_EQ(files.FindArchive(pack + "/no/such/thing"), archive);
+    Put("plain.txt", ToBytes("text"));
+    EXPECT_EQ(files.FindArchive(PathTo("plain.txt/x")), nullptr);
+    EXPECT_TRUE(messages.empty());
+}
+
+TEST_F(FileSystemTest, PathsWorkInEverySpelling) {
+    const std::string pack = PutSamplePack();
+    for (const char* name :
+         {"/textures/e1u1/floor1_1.wal", "\\TEXTURES\\E1U1/FLOOR1_1.WAL", "//textures\\\\e1u1/Floor1_1.Wal"})
+        EXPECT_TRUE(StatusOf(pack + name).exists) << name;
+    EXPECT_FALSE(StatusOf(pack + "/textures/e1u1/floor1_1").exists);
+    EXPECT_EQ(StatusOf(pack + "/TEXTURES").attributes, CFileStatus::directoryAttribute);
+    EXPECT_TRUE(StatusOf(pack).browsable);
+    EXPECT_TRUE(StatusOf(pack).onDisk);
+    EXPECT_FALSE(StatusOf(pack + "/readme.txt").onDisk);
+    EXPECT_EQ(TextOf(pack + "/Readme.txt"), "first");
+    EXPECT_EQ(TextOf(pack + "/a"), "a file");
+    EXPECT_EQ(TextOf(pack + "/a/b"), "below a folder of its name");
+    EXPECT_THAT(NamesIn(pack), ElementsAre("textures", "readme.txt", "README.TXT", "a", "a", "inner.pak"));
+    EXPECT_THAT(NamesIn(pack + "/readme.txt"), ElementsAre());
+    EXPECT_EQ(OpenFailure(pack + "/textures"), CFileException::accessDenied);
+    EXPECT_EQ(OpenFailure(pack + "/nothing"), CFileException::fileNotFound);
+}
+
+TEST_F(FileSystemTest, NestedArchivesAreFoldersToo) {
+    const std::string pack = PutSamplePack();
+    EXPECT_TRUE(StatusOf(pack + "/inner.pak").browsable);
+    EXPECT_THAT(NamesIn(pack + "\\INNER.PAK"), ElementsAre("deep"));
+    EXPECT_EQ(TextOf(pack + "/inner.pak/deep/letter.txt"), "from inside");
+    EXPECT_TRUE(SamePath(application.GetFileSystem().FindArchive(pack + "/inner.pak/x")->GetRootName(),
+                         pack + "/inner.pak"));
+}
+
+TEST_F(FileSystemTest, APackInItselfEndsSomewhere) {
+    PackBuilder builder;
+    builder.Add("self.pak", {});
+    Bytes pack = builder.Build();
+    PutU32(pack, PackBuilder::headerSize + 56, 0);
+    PutU32(pack, PackBuilder::headerSize + 60, static_cast<std::uint32_t>(pack.size()));
+    std::string path = Put("self.pak", pack);
+    for (int depth = 0; depth < 12; ++depth) path += "/self.pak";
+    EXPECT_FALSE(StatusOf(path).exists);
+    EXPECT_LE(application.GetDocuments().size(), 8U);
+}
+
+TEST_F(FileSystemTest, EntriesOfAChangedArchiveFail) {
+    const std::string pack = PutSamplePack();
+    EXPECT_EQ(TextOf(pack + "/a"), "a file");
+    const auto kept = application.GetFileSystem().OpenFile(pack + "/a", CFile::modeRead, nullptr);
+    std::filesystem::resize_file(pack, 100);
+    CFileException failure;
+    EXPECT_EQ(application.GetFileSystem().OpenFile(pack + "/readme.txt", CFile::modeRead, &failure), nullptr);
+    EXPECT_THAT(failure.what(), HasSubstr("changed"));
+    EXPECT_EQ(TextOf(pack + "/a"), "a file") << "bytes in use stay";
+}
+
+TEST_F(FileSystemTest, ATextureInAPackIsSavedIntoIt) {
+    const std::string pack = PutSamplePack();
+    const Bytes before = ReadFile(pack);
+    auto* document = Open<WALDocument>(pack + "/textures/e1u1/floor1_1.wal");
+    ASSERT_NE(document, nullptr);
+    EXPECT_EQ(document->GetTexture().quake2.name, "test");
+    document->GetTexture().quake2.value = 77;
+    EXPECT_TRUE(document->OnSaveDocument(document->GetPathName()));
+    EXPECT_TRUE(application.GetFileSystem().FindArchive(pack + "/a")->IsModified());
+    const std::string saved = TextOf(pack + "/textures/e1u1/floor1_1.wal");
+    EXPECT_EQ(saved[96], 77);
+    EXPECT_EQ(ReadFile(pack), before) << "the file on the disk never changes";
+}
+
+TEST_F(FileSystemTest, BuiltInFilesLieBelowTheProgram) {
+    const std::string program = GetModulePath();
+    EXPECT_THAT(NamesIn(program), ElementsAre("res"));
+    EXPECT_THAT(NamesIn(program + "/RES"),
+                ElementsAre("Quake.lmp", "Quake II.lmp", "Hexen II.lmp", "Texel Brush.KelBrush",
+                            "Color Picker.KelBrush", "RGBA.KelColorSpace", "Internet Safe Colors.KelColors",
+                            "Gray Scale Colors.KelColors", "Alpha Scale Colors.KelColors"));
+    const EntryStatus status = StatusOf(program + "/res/quake ii.LMP");
+    EXPECT_EQ(status.size, 768U);
+    EXPECT_EQ(status.attributes, CFileStatus::readOnlyAttribute | CFileStatus::hiddenAttribute);
+    EXPECT_FALSE(status.modified);
+    EXPECT_EQ(OpenFailure(GetBuiltInPath(quakePalette), CFile::modeReadWrite), CFileException::accessDenied);
+    const std::string link = PathTo("program link");
+    std::filesystem::create_symlink(program, link);
+    EXPECT_TRUE(StatusOf(link).browsable);
+    EXPECT_TRUE(StatusOf(link + "/res/Quake.lmp").exists);
+}

@@ -1,0 +1,156 @@
+#include "framework/core/StringTable.h"
+#include "image/ImageDocuments.h"
+#include "image/TextureChangeAction.h"
+#include "image/picture/ColorList.h"
+#include "res/CommandIds.h"
+#include "res/StringIds.h"
+#include "resources/BuiltInPalettes.h"
+#include "resources/BuiltInPath.h"
+#include "resources/PaletteDocument.h"
+#include "support/TestApplication.h"
+
+#include <gmock/gmock.h>
+
+using testing::HasSubstr;
+
+namespace {
+
+struct CountingView : DocumentView {
+    void OnUpdate(DocumentView*, std::intptr_t hint, CObject*) override {
+        ++updates;
+        lastHint = hint;
+    }
+    DocumentFrame* GetFrame() const override { return nullptr; }
+    int updates = 0;
+    std::intptr_t lastHint = -1;
+};
+
+class TavloDocumentTest : public WorkshopTest {
+protected:
+    template <class Document>
+    Document& New() {
+        application.newType = DocTemplateRegistry::Get().FindTemplate(Document::runtimeClass);
+        return dynamic_cast<Document&>(*application.OnFileNew());
+    }
+    static CCmdUI StateOf(TavloDocument& document, CommandId id) {
+        CCmdUI state(id);
+        EXPECT_TRUE(document.OnCmdMsg(id, &state));
+        return state;
+    }
+    static void Record(TavloDocument& document, Color color, unsigned name = IDS_ACTION_PASTE) {
+        auto action = std::make_unique<TextureChangeAction>(name, document);
+        document.GetTexture().SetPixel(0, 0, color);
+        document.SetModifiedAndUpdate(true);
+        document.GetHistory().Add(std::move(action));
+    }
+};
+
+} // namespace
+
+TEST_F(TavloDocumentTest, NewDocuments) {
+    auto& wal = New<WALDocument>();
+    EXPECT_EQ(wal.GetTitle(), "wal1");
+    EXPECT_EQ(wal.GetTexture().GetWidth(), 64);
+    EXPECT_EQ(wal.GetTexture().GetPixel(63, 63), 0U);
+    ASSERT_TRUE(wal.HasPalette());
+    EXPECT_EQ(wal.GetCurrentPalette()->GetTitle(), "Quake II");
+    EXPECT_EQ(New<MIPDocument>().GetCurrentPalette()->GetTitle(), "Quake");
+    auto& bitmap = New<BMPDocument>();
+    EXPECT_FALSE(bitmap.HasPalette() || bitmap.HasBrush() || bitmap.IsModified());
+    ASSERT_EQ(bitmap.GetReferences().size(), 9U);
+    EXPECT_EQ(bitmap.GetReferences()[1]->GetTitle(), "Color Picker");
+    EXPECT_EQ(bitmap.GetReferences()[8]->GetTitle(), "RGBA");
+    EXPECT_EQ(New<WALDocument>().GetTitle(), "wal2");
+}
+
+TEST_F(TavloDocumentTest, OpeningTwiceGivesOneDocument) {
+    const std::string path = Put("Floor.WAL", MakeWal(16, 8, "e1u1/floor"));
+    auto* document = Open<WALDocument>(path);
+    ASSERT_NE(document, nullptr);
+    EXPECT_EQ(document->GetTexture().GetPixel(15, 7), GetQuakeIIPalette()[22]);
+    EXPECT_EQ(Open<WALDocument>(folder.path().toStdString() + "//./Floor.WAL"), document);
+    EXPECT_EQ(application.GetRecentFiles().GetPaths().front(), path);
+    EXPECT_NE(Open<WALDocument>(Put("floor.wal", MakeWal(8, 8))), document)
+        << "the disk tells the two names apart";
+}
+
+TEST_F(TavloDocumentTest, TheNameDecidesTheFormat) {
+    auto* document = Open<WALDocument>(Put("a.wal", MakeWal(8, 8)));
+    EXPECT_FALSE(document->OnSaveDocument(PathTo("palette.lmp")));
+    EXPECT_THAT(TakeMessage(), HasSubstr("Cannot save"));
+    EXPECT_EQ(Open<TavloDocument>(Put("noise.kel", ToBytes("not a picture"))), nullptr)
+        << "unknown names are bitmaps";
+    TakeMessage();
+    EXPECT_EQ(Open<TavloDocument>(PathTo("missing.wal")), nullptr);
+    EXPECT_THAT(TakeMessage(), HasSubstr("not found"));
+}
+
+TEST_F(TavloDocumentTest, SavingFitsTheSizeAsAnUndoableChange) {
+    auto& document = New<WALDocument>();
+    document.GetTexture().SetSize(60, 61);
+    document.GetTexture().SetPixel(59, 60, 0xFFFFFFFF);
+    ASSERT_TRUE(document.OnSaveDocument(PathTo("new.wal")));
+    EXPECT_FALSE(document.IsModified());
+    EXPECT_EQ(ReadFile(PathTo("new.wal")).size(), 5540U);
+    EXPECT_EQ(document.GetTexture().GetPixel(63, 63), 0xFFFFFFFF);
+    EXPECT_EQ(StateOf(document, ID_EDIT_UNDO).text, "&Undo Reformating for File Save\tCtrl+Z");
+    document.OnCmdMsg(ID_EDIT_UNDO, nullptr);
+    EXPECT_EQ(document.GetTexture().GetWidth(), 60);
+    EXPECT_TRUE(document.IsModified());
+    document.OnCmdMsg(ID_EDIT_REDO, nullptr);
+    ASSERT_TRUE(document.OnSaveDocument(PathTo("new.wal")));
+    EXPECT_FALSE(document.GetHistory().CanRedo());
+}
+
+TEST_F(TavloDocumentTest, UndoAndRedoExchangeTheStates) {
+    auto& document = New<BMPDocument>();
+    EXPECT_EQ(StateOf(document, ID_EDIT_UNDO).text, "Can't &Undo\tCtrl+Z");
+    CountingView view;
+    document.AddView(view);
+    for (Color color = 1; color <= 18; ++color) Record(document, color);
+    EXPECT_EQ(StateOf(document, ID_EDIT_UNDO).text, "&Undo Paste\tCtrl+Z");
+    int steps = 0;
+    for (; document.GetHistory().CanUndo(); ++steps) document.GetHistory().Undo();
+    EXPECT_EQ(steps, 16) << "the oldest changes were dropped";
+    EXPECT_EQ(document.GetTexture().GetPixel(0, 0), 2U);
+    EXPECT_EQ(view.updates, 34);
+    EXPECT_EQ(view.lastHint, 0);
+    EXPECT_FALSE(StateOf(document, ID_EDIT_UNDO).enabled);
+    EXPECT_EQ(StateOf(document, ID_EDIT_REDO).text, "&Redo Paste\tCtrl+Y");
+    while (document.GetHistory().CanRedo()) document.GetHistory().Redo();
+    EXPECT_EQ(document.GetTexture().GetPixel(0, 0), 18U);
+    document.GetHistory().Undo();
+    Record(document, 99, 0);
+    EXPECT_FALSE(document.GetHistory().CanRedo());
+    EXPECT_EQ(StateOf(document, ID_EDIT_UNDO).text, "&Undo\tCtrl+Z");
+    EXPECT_EQ(StateOf(document, ID_EDIT_REDO).text, "Can't &Redo\tCtrl+Y");
+    document.RemoveView(view); // the last view: the document goes with it
+    EXPECT_EQ(application.GetTemplates().front()->GetDocuments().size(), 0U);
+}
+
+TEST_F(TavloDocumentTest, SaveAsksForANameWhereItMust) {
+    auto& document = New<WALDocument>();
+    document.SetTitle("wall #2");
+    application.fileName = std::nullopt;
+    EXPECT_FALSE(document.DoFileSave());
+    application.fileName = PathTo("wall.wal");
+    EXPECT_TRUE(document.DoFileSave());
+    EXPECT_EQ(document.GetTitle(), "wall.wal");
+    EXPECT_EQ(application.GetRecentFiles().GetPaths().front(), PathTo("wall.wal"));
+    application.fileName = PathTo("no folder/wall.wal");
+    document.SetModifiedFlag();
+    EXPECT_FALSE(document.DoFileSaveAs());
+    EXPECT_TRUE(document.IsModified());
+    EXPECT_EQ(document.GetPathName(), PathTo("wall.wal"));
+    EXPECT_THAT(TakeMessage(), HasSubstr("no folder/wall.wal"));
+}
+
+TEST_F(TavloDocumentTest, RecentFilesThatFailLeaveTheList) {
+    const std::string path = Put("a.wal", MakeWal(8, 8));
+    Open<WALDocument>(path)->OnCloseDocument();
+    Open<WALDocument>(Put("b.wal", MakeWal(8, 8)));
+    std::remove(path.c_str());
+    application.OpenRecentFile(1);
+    TakeMessage();
+    EXPECT_EQ(application.GetRecentFiles().GetPaths().size(), 1U);
+}

@@ -1,0 +1,99 @@
+#include "framework/core/CMemFile.h"
+#include "resources/streams/ArchiveStream.h"
+#include "resources/streams/FileStream.h"
+#include "resources/streams/TaggedFile.h"
+#include "support/PackBuilder.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+template <class Exception, class Action>
+int CauseOf(Action action) {
+    try {
+        action();
+    } catch (const Exception& exception) {
+        return exception.cause;
+    }
+    return -1;
+}
+
+Bytes Tagged(std::string_view type, std::uint32_t count, std::string_view chunks) {
+    Bytes bytes = ToBytes("KEL\xE5\xD0TAV");
+    const Bytes tag = ToBytes(type);
+    bytes.insert(bytes.end(), tag.begin(), tag.end());
+    PutU32(bytes, bytes.size(), count);
+    const Bytes rest = ToBytes(chunks);
+    bytes.insert(bytes.end(), rest.begin(), rest.end());
+    return bytes;
+}
+
+TaggedContents ReadBrush(Bytes bytes) {
+    CMemFile file{std::span<std::byte>(bytes)};
+    CArchive archive(file, CArchive::load);
+    ArchiveStream stream(archive);
+    return ReadTaggedContents(stream, tagged::brushType);
+}
+
+int BrushFailure(const Bytes& bytes) {
+    return CauseOf<CArchiveException>([&] { ReadBrush(bytes); });
+}
+
+constexpr std::string_view idChunk("id\0\0\1\0\0\0", 8);
+
+} // namespace
+
+TEST(Stream, EveryCodeHasItsCauseInBothForms) {
+    CMemFile file;
+    CArchive archive(file, CArchive::load);
+    const ArchiveStream overArchive(archive);
+    const FileStream overFile(file);
+    for (int code = 0; code <= 20; ++code) {
+        const auto error = static_cast<StreamError>(code);
+        const int archiveCause = code == 14 ? 3 : code == 15 ? 2 : code >= 16 && code <= 19 ? code - 12 : 1;
+        const int fileCause = code >= 1 && code <= 14 ? code : 1;
+        EXPECT_EQ(CauseOf<CArchiveException>([&] { overArchive.Fail(error); }), archiveCause) << code;
+        EXPECT_EQ(CauseOf<CFileException>([&] { overFile.Fail(error); }), fileCause) << code;
+    }
+}
+
+TEST(Stream, ShortReadsFailInTheStreamsForm) {
+    Bytes bytes = ToBytes("abc");
+    CMemFile file{std::span<std::byte>(bytes)};
+    CArchive archive(file, CArchive::load);
+    ArchiveStream overArchive(archive);
+    EXPECT_EQ(overArchive.Read<std::uint16_t>(), 0x6261);
+    EXPECT_EQ(overArchive.GetPosition(), 2U);
+    EXPECT_EQ(overArchive.GetRemaining(), 1U);
+    EXPECT_EQ(CauseOf<CArchiveException>([&] { overArchive.Read<std::uint32_t>(); }),
+              CArchiveException::endOfFile);
+    FileStream overFile(file);
+    overFile.Seek(1);
+    EXPECT_EQ(CauseOf<CFileException>([&] { overFile.Read<std::uint32_t>(); }), CFileException::endOfFile);
+}
+
+TEST(TaggedFile, ReadsChunksInAnyOrder) {
+    const TaggedContents contents =
+        ReadBrush(Tagged("Brsh", 3,
+                         std::string("UITA\4\0\0\0ab\0x", 12) + std::string(idChunk) +
+                             std::string("UITU\2\0\0\0\xFC\0z\0tail", 16)));
+    EXPECT_EQ(contents.id, 1U);
+    EXPECT_EQ(contents.title, "\xC3\xBCz") << "a later title replaces an earlier one";
+    EXPECT_EQ(ReadBrush(Tagged("Brsh", 0, "")).title, "");
+    EXPECT_EQ(ReadBrush(Tagged("Brsh", 1, std::string("UITA\2\0\0\0ab", 10))).title, "ab");
+}
+
+TEST(TaggedFile, RefusesWhatItIsNot) {
+    EXPECT_EQ(BrushFailure(Tagged("ClSp", 0, "")), CArchiveException::badClass);
+    for (std::size_t i = 0; i < 8; ++i) {
+        Bytes bytes = Tagged("Brsh", 0, "");
+        bytes[i] ^= std::byte{1};
+        EXPECT_EQ(BrushFailure(bytes), CArchiveException::badClass) << i;
+    }
+    EXPECT_EQ(BrushFailure(Tagged("Brsh", 1, "Nope")), CArchiveException::badIndex);
+    EXPECT_EQ(BrushFailure(Tagged("Brsh", 1, "UITA\xFF\xFF\xFF\xFF")), CArchiveException::endOfFile);
+    const Bytes whole = Tagged("Brsh", 1, idChunk);
+    for (std::size_t length = 1; length < whole.size(); ++length)
+        EXPECT_EQ(BrushFailure(Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length))),
+                  CArchiveException::endOfFile);
+}
