@@ -1,0 +1,24 @@
+#pragma once
+
+#include "Paint.h"
+#include "TileNoise.h"
+
+// A wall of bricks in stretcher bond, lit from above; tiles.
+class BrickWall {
+public:
+    static constexpr int side = 128; // texels
+
+    explicit BrickWall(const Paint& paintOfTexture) : paint(paintOfTexture) {}
+
+    Color At(int x, int y) const;
+
+private:
+    struct Place;
+
+    Color JointAt(int y, double roughness, double grain) const;
+    static double EdgeLight(const Place& place, double inside);
+
+    Paint paint;
+    TileNoise surface{11};
+    TileNoise grains{12};
+};

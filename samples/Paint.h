@@ -1,0 +1,21 @@
+#pragma once
+
+#include "image/picture/ColorList.h"
+
+// A run of palette entries from bright to dark.
+struct Ramp {
+    int first;
+    int count;
+};
+
+// Takes colours out of a palette by how bright they are to be.
+class Paint {
+public:
+    explicit Paint(const ColorList& paletteOfTexture) : palette(paletteOfTexture) {}
+
+    // Brightness 1 is the ramp's first colour, 0 its last. A grain of 0 to 1 decides between two neighbours.
+    Color operator()(const Ramp& ramp, double brightness, double grain) const;
+
+private:
+    const ColorList& palette;
+};

@@ -1,0 +1,51 @@
+#include "SampleTextures.h"
+#include "app/HeadlessApplication.h"
+#include "formats/Codec.h"
+#include "framework/core/CMemFile.h"
+#include "resources/BuiltInPalettes.h"
+#include "resources/streams/ArchiveStream.h"
+#include "support/PackBuilder.h"
+
+#include <cstdio>
+
+namespace {
+
+Bytes Encode(const Texture& texture, std::string_view documentClass) {
+    CMemFile file;
+    CArchive archive(file, CArchive::store);
+    ArchiveStream out(archive);
+    FindCodec(documentClass)->write(out, texture, &GetQuakeIIPalette());
+    archive.Flush();
+    return {file.Bytes().begin(), file.Bytes().end()};
+}
+
+Bytes BuildPack() {
+    PackBuilder pack;
+    PackBuilder inner; // an archive within the archive, with the still textures once more
+    for (const Texture& texture : DrawSampleTextures(GetQuakeIIPalette())) {
+        const Bytes bytes = Encode(texture, "WALDocument");
+        const std::string name = texture.quake2.name.substr(std::string_view(nameFolder).size()) + ".wal";
+        pack.Add("textures/" + name, bytes);
+        if (texture.quake2.nextFrameName.empty()) inner.Add(name, bytes);
+    }
+    pack.Add("packs/inner.pak", inner.Build());
+    return pack.Build();
+}
+
+} // namespace
+
+int main(int argumentCount, char** arguments) {
+    if (argumentCount != 2) {
+        std::fputs("make_samples PACK: writes an archive of sample textures\n", stderr);
+        return 2;
+    }
+    try {
+        const HeadlessApplication application(
+            [](const std::string& text) { std::fputs(text.c_str(), stderr); });
+        WriteFile(arguments[1], BuildPack());
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "make_samples: %s\n", failure.what());
+        return 1;
+    }
+    return 0;
+}
