@@ -1,7 +1,9 @@
 #pragma once
 
+#include "image/picture/ChannelTable.h"
 #include "image/picture/Color.h"
 
+#include <optional>
 #include <span>
 #include <variant>
 
@@ -62,6 +64,16 @@ struct TableThenBackgroundTransform {
 using PixelTransform = std::variant<IdentityTransform, OverBackgroundTransform, ChannelTableTransform,
                                     BackgroundThenTableTransform, TableThenBackgroundTransform>;
 
-/// Transforms the pixels of one span into the other, which has the same length and may be the same memory;
-/// the choice between the transforms is made once for the span.
-void TransformPixels(const PixelTransform& transform, std::span<const Color> input, std::span<Color> output);
+/// Applies one transform to any number of rows; the choice between the transforms is made once a row, and a
+/// table is arranged once. The table is copied.
+class PixelTransformer {
+public:
+    explicit PixelTransformer(const PixelTransform& pixelTransform);
+
+    /// The output is as long as the input and may be the same memory.
+    void Apply(std::span<const Color> input, std::span<Color> output) const;
+
+private:
+    PixelTransform transform;
+    std::optional<ChannelTable> table;
+};

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "image/picture/Color.h"
+
+#include <bit>
+
+/// Where red, green and blue lie in a 16- or 32-bit pixel value; each mask is one run of bits, or 0 for no
+/// channel.
+struct ChannelMasks {
+    std::uint32_t red = redMask;
+    std::uint32_t green = greenMask;
+    std::uint32_t blue = blueMask;
+
+    static constexpr ChannelMasks FiveBits() { return {0x7C00, 0x03E0, 0x001F}; }
+
+    /// The opaque colour of a pixel value.
+    constexpr Color ToColor(std::uint32_t value) const {
+        return Compose(Extract(value, red), Extract(value, green), Extract(value, blue));
+    }
+
+    constexpr std::uint32_t FromColor(Color color) const {
+        return Insert(Red(color), red) | Insert(Green(color), green) | Insert(Blue(color), blue);
+    }
+
+    constexpr bool operator==(const ChannelMasks&) const = default;
+
+private:
+    /// Widens by repeating the bits, so that all ones stay all ones.
+    static constexpr std::uint32_t Extract(std::uint32_t value, std::uint32_t mask) {
+        const int bits = std::popcount(mask);
+        if (bits == 0) return 0;
+        const std::uint32_t channel = (value & mask) >> std::countr_zero(mask);
+        if (bits >= 8) return channel >> (bits - 8) & 0xFF;
+        std::uint32_t widened = channel << (8 - bits);
+        for (int filled = bits; filled < 8; filled *= 2) widened |= widened >> filled;
+        return widened;
+    }
+
+    static constexpr std::uint32_t Insert(std::uint32_t channel, std::uint32_t mask) {
+        const int bits = std::popcount(mask);
+        if (bits == 0) return 0;
+        const std::uint32_t scaled = bits >= 8 ? channel << (bits - 8) : channel >> (8 - bits);
+        return scaled << std::countr_zero(mask) & mask;
+    }
+};

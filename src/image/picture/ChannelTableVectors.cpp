@@ -1,0 +1,191 @@
+#include "image/picture/ChannelTableVectors.h"
+
+#include "image/picture/ChannelTable.h"
+
+#if defined(__x86_64__)
+
+#include <immintrin.h>
+
+namespace {
+
+constexpr std::size_t shuffledPixels = 32;
+constexpr std::size_t permutedPixels = 16;
+
+/// Four vectors of pixels, or of single channels.
+struct Vectors {
+    __m256i rows[4];
+};
+
+/// Turns 32 pixels into one vector for each channel; Join brings them back in their order.
+[[gnu::target("avx2")]] inline void Split(Vectors& vectors) {
+    auto& rows = vectors.rows;
+    const __m256i channelsTogether = _mm256_setr_epi8(0, 4, 8, 12, 1, 5, 9, 13, 2, 6, 10, 14, 3, 7, 11, 15, //
+                                                      0, 4, 8, 12, 1, 5, 9, 13, 2, 6, 10, 14, 3, 7, 11, 15);
+    for (__m256i& row : rows) row = _mm256_shuffle_epi8(row, channelsTogether);
+    const __m256i low01 = _mm256_unpacklo_epi32(rows[0], rows[1]);
+    const __m256i high01 = _mm256_unpackhi_epi32(rows[0], rows[1]);
+    const __m256i low23 = _mm256_unpacklo_epi32(rows[2], rows[3]);
+    const __m256i high23 = _mm256_unpackhi_epi32(rows[2], rows[3]);
+    rows[0] = _mm256_unpacklo_epi64(low01, low23);
+    rows[1] = _mm256_unpackhi_epi64(low01, low23);
+    rows[2] = _mm256_unpacklo_epi64(high01, high23);
+    rows[3] = _mm256_unpackhi_epi64(high01, high23);
+}
+
+[[gnu::target("avx2")]] inline void Join(Vectors& vectors) {
+    auto& rows = vectors.rows;
+    const __m256i lowBlueGreen = _mm256_unpacklo_epi8(rows[0], rows[1]);
+    const __m256i highBlueGreen = _mm256_unpackhi_epi8(rows[0], rows[1]);
+    const __m256i lowRedAlpha = _mm256_unpacklo_epi8(rows[2], rows[3]);
+    const __m256i highRedAlpha = _mm256_unpackhi_epi8(rows[2], rows[3]);
+    rows[0] = _mm256_unpacklo_epi16(lowBlueGreen, lowRedAlpha);
+    rows[1] = _mm256_unpackhi_epi16(lowBlueGreen, lowRedAlpha);
+    rows[2] = _mm256_unpacklo_epi16(highBlueGreen, highRedAlpha);
+    rows[3] = _mm256_unpackhi_epi16(highBlueGreen, highRedAlpha);
+}
+
+/// Shuffles a piece of 16 table bytes, the same for both lanes.
+[[gnu::target("avx2")]] inline __m256i ShufflePiece(const std::uint8_t* piece, __m256i indices) {
+    const __m128i bytes = _mm_load_si128(reinterpret_cast<const __m128i*>(piece));
+    return _mm256_shuffle_epi8(_mm256_broadcastsi128_si256(bytes), indices);
+}
+
+/// Indices of 8 bits into four pieces of 16 bytes: the low four bits as they are, and with the top bit, for
+/// which a shuffle gives 0, set where bit 4, bit 5 or one of them is set.
+struct PieceIndices {
+    __m256i any;
+    __m256i bit4Clear;
+    __m256i bit5Clear;
+    __m256i bothClear;
+};
+
+[[gnu::target("avx2")]] inline PieceIndices MakePieceIndices(__m256i values) {
+    const auto mask = [](int bits) { return static_cast<char>(bits); };
+    PieceIndices indices;
+    indices.any = _mm256_and_si256(values, _mm256_set1_epi8(mask(0x0F)));
+    // Adding carries the one bit that was kept into the top bit.
+    indices.bit4Clear = _mm256_add_epi8(_mm256_and_si256(values, _mm256_set1_epi8(mask(0x1F))), //
+                                        _mm256_set1_epi8(mask(0x70)));
+    indices.bit5Clear = _mm256_add_epi8(_mm256_and_si256(values, _mm256_set1_epi8(mask(0x2F))), //
+                                        _mm256_set1_epi8(mask(0x60)));
+    indices.bothClear = _mm256_or_si256(indices.bit4Clear, indices.bit5Clear);
+    return indices;
+}
+
+/// Looks up in 64 arranged table bytes.
+[[gnu::target("avx2")]] inline __m256i LookUpQuarter(const std::uint8_t* quarter,
+                                                     const PieceIndices& indices) {
+    return _mm256_xor_si256(_mm256_xor_si256(ShufflePiece(quarter, indices.any), //
+                                             ShufflePiece(quarter + 16, indices.bit4Clear)),
+                            _mm256_xor_si256(ShufflePiece(quarter + 32, indices.bit5Clear),
+                                             ShufflePiece(quarter + 48, indices.bothClear)));
+}
+
+/// A blend looks at the top bit of every byte: bit 7 of the values, or bit 6 of them doubled.
+[[gnu::target("avx2")]] inline void LookUp(const ChannelPlanes& channels, std::size_t channel,
+                                           Vectors& vectors) {
+    if (!channels.changes[channel]) return;
+    const std::uint8_t* plane = channels.planes[channel].data();
+    __m256i& values = vectors.rows[channel];
+    const PieceIndices indices = MakePieceIndices(values);
+    const __m256i doubled = _mm256_add_epi8(values, values);
+    const __m256i lower =
+        _mm256_blendv_epi8(LookUpQuarter(plane, indices), LookUpQuarter(plane + 64, indices), doubled);
+    const __m256i upper =
+        _mm256_blendv_epi8(LookUpQuarter(plane + 128, indices), LookUpQuarter(plane + 192, indices), doubled);
+    values = _mm256_blendv_epi8(lower, upper, values);
+}
+
+/// Replaces the bytes of one channel, which the two byte masks select by the half of the table they need.
+[[gnu::target("avx512f,avx512bw,avx512vbmi")]] inline __m512i
+Permute(const ChannelPlanes::Plane& plane, __m512i pixels, __mmask64 lowerHalf, __mmask64 upperHalf) {
+    const __m512i lower = _mm512_mask2_permutex2var_epi8(_mm512_load_si512(&plane[0]), pixels, lowerHalf,
+                                                         _mm512_load_si512(&plane[64]));
+    return _mm512_mask2_permutex2var_epi8(_mm512_load_si512(&plane[128]), lower, upperHalf,
+                                          _mm512_load_si512(&plane[192]));
+}
+
+} // namespace
+
+bool HasByteShuffles() {
+    return __builtin_cpu_supports("avx2") != 0;
+}
+
+bool HasBytePermutes() {
+    return __builtin_cpu_supports("avx512bw") != 0 && __builtin_cpu_supports("avx512vbmi") != 0;
+}
+
+void ArrangeForShuffles(ChannelPlanes& channels) {
+    for (ChannelPlanes::Plane& plane : channels.planes) {
+        for (std::size_t i = 0; i < plane.size(); i += 64) {
+            // Of the four pieces the last one is always taken; the others hold what must be flipped where bit
+            // 4, bit 5 or both are clear.
+            for (std::size_t k = i; k < i + 16; ++k) {
+                const std::uint8_t both = plane[k + 48];
+                const auto bit4Clear = static_cast<std::uint8_t>(both ^ plane[k + 32]);
+                const auto bit5Clear = static_cast<std::uint8_t>(both ^ plane[k + 16]);
+                plane[k + 48] = static_cast<std::uint8_t>(both ^ plane[k] ^ bit4Clear ^ bit5Clear);
+                plane[k + 32] = bit5Clear;
+                plane[k + 16] = bit4Clear;
+                plane[k] = both;
+            }
+        }
+    }
+}
+
+[[gnu::target("avx2")]] std::size_t ApplyByShuffles(const ChannelPlanes& channels,
+                                                    std::span<const Color> input, std::span<Color> output) {
+    const std::size_t count = input.size() / shuffledPixels * shuffledPixels;
+    for (std::size_t i = 0; i < count; i += shuffledPixels) {
+        const auto* source = reinterpret_cast<const __m256i*>(input.data() + i);
+        auto* destination = reinterpret_cast<__m256i*>(output.data() + i);
+        Vectors vectors;
+        for (std::size_t row = 0; row < 4; ++row) vectors.rows[row] = _mm256_loadu_si256(source + row);
+        Split(vectors);
+        LookUp(channels, 0, vectors);
+        LookUp(channels, 1, vectors);
+        LookUp(channels, 2, vectors);
+        LookUp(channels, 3, vectors);
+        Join(vectors);
+        for (std::size_t row = 0; row < 4; ++row) _mm256_storeu_si256(destination + row, vectors.rows[row]);
+    }
+    return count;
+}
+
+[[gnu::target("avx512f,avx512bw,avx512vbmi")]] std::size_t
+ApplyByPermutes(const ChannelPlanes& channels, std::span<const Color> input, std::span<Color> output) {
+    const std::size_t count = input.size() / permutedPixels * permutedPixels;
+    for (std::size_t i = 0; i < count; i += permutedPixels) {
+        __m512i pixels = _mm512_loadu_si512(input.data() + i);
+        const __mmask64 upperHalf = _mm512_movepi8_mask(pixels);
+        for (std::size_t channel = 0; channel < 4; ++channel) {
+            if (!channels.changes[channel]) continue;
+            const __mmask64 bytes = __mmask64{0x1111111111111111} << channel;
+            pixels = Permute(channels.planes[channel], pixels, bytes & ~upperHalf, bytes & upperHalf);
+        }
+        _mm512_storeu_si512(output.data() + i, pixels);
+    }
+    return count;
+}
+
+#else
+
+bool HasByteShuffles() {
+    return false;
+}
+
+bool HasBytePermutes() {
+    return false;
+}
+
+void ArrangeForShuffles(ChannelPlanes&) {}
+
+std::size_t ApplyByShuffles(const ChannelPlanes&, std::span<const Color>, std::span<Color>) {
+    return 0;
+}
+
+std::size_t ApplyByPermutes(const ChannelPlanes&, std::span<const Color>, std::span<Color>) {
+    return 0;
+}
+
+#endif

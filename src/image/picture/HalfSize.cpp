@@ -1,0 +1,113 @@
+#include "image/picture/HalfSize.h"
+
+#if defined(__x86_64__)
+#include <immintrin.h>
+#endif
+
+namespace {
+
+#if defined(__x86_64__)
+
+// In both widths: the processor's average of two bytes rounds up; averaging the averages is one too much
+// exactly when any of the three roundings happened, which the lowest bits of the differences tell.
+
+__m128i FloorOfMean(__m128i first, __m128i second, __m128i third, __m128i fourth) {
+    const __m128i upper = _mm_avg_epu8(first, second);
+    const __m128i lower = _mm_avg_epu8(third, fourth);
+    const __m128i halves = _mm_or_si128(_mm_xor_si128(first, second), _mm_xor_si128(third, fourth));
+    const __m128i differences = _mm_or_si128(halves, _mm_xor_si128(upper, lower));
+    return _mm_sub_epi8(_mm_avg_epu8(upper, lower), _mm_and_si128(differences, _mm_set1_epi8(1)));
+}
+
+[[gnu::target("avx2")]] inline __m256i FloorOfMean(__m256i first, __m256i second, __m256i third,
+                                                   __m256i fourth) {
+    const __m256i upper = _mm256_avg_epu8(first, second);
+    const __m256i lower = _mm256_avg_epu8(third, fourth);
+    const __m256i halves = _mm256_or_si256(_mm256_xor_si256(first, second), _mm256_xor_si256(third, fourth));
+    const __m256i differences = _mm256_or_si256(halves, _mm256_xor_si256(upper, lower));
+    return _mm256_sub_epi8(_mm256_avg_epu8(upper, lower), _mm256_and_si256(differences, _mm256_set1_epi8(1)));
+}
+
+/// The even and the odd columns of eight pixels.
+struct Columns {
+    explicit Columns(const Color* pixels) {
+        const __m128 left = _mm_loadu_ps(reinterpret_cast<const float*>(pixels));
+        const __m128 right = _mm_loadu_ps(reinterpret_cast<const float*>(pixels + 4));
+        even = _mm_castps_si128(_mm_shuffle_ps(left, right, _MM_SHUFFLE(2, 0, 2, 0)));
+        odd = _mm_castps_si128(_mm_shuffle_ps(left, right, _MM_SHUFFLE(3, 1, 3, 1)));
+    }
+
+    __m128i even;
+    __m128i odd;
+};
+
+/// The even and the odd columns of sixteen pixels, in the order 0 to 3, 8 to 11, 4 to 7, 12 to 15.
+struct WideColumns {
+    [[gnu::target("avx2")]] explicit WideColumns(const Color* pixels) {
+        const __m256 left = _mm256_loadu_ps(reinterpret_cast<const float*>(pixels));
+        const __m256 right = _mm256_loadu_ps(reinterpret_cast<const float*>(pixels + 8));
+        even = _mm256_castps_si256(_mm256_shuffle_ps(left, right, _MM_SHUFFLE(2, 0, 2, 0)));
+        odd = _mm256_castps_si256(_mm256_shuffle_ps(left, right, _MM_SHUFFLE(3, 1, 3, 1)));
+    }
+
+    __m256i even;
+    __m256i odd;
+};
+
+// Both halve from the given output pixel on as many blocks as fill their vectors, and return the pixel they
+// stopped at.
+
+std::size_t HalveByEights(std::span<const Color> upper, std::span<const Color> lower, std::span<Color> output,
+                          std::size_t first) {
+    std::size_t i = first;
+    for (; 2 * i + 8 <= upper.size(); i += 4) {
+        const Columns above(upper.data() + 2 * i);
+        const Columns below(lower.data() + 2 * i);
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(output.data() + i),
+                         FloorOfMean(above.even, above.odd, below.even, below.odd));
+    }
+    return i;
+}
+
+[[gnu::target("avx2")]] std::size_t HalveBySixteens(std::span<const Color> upper,
+                                                    std::span<const Color> lower, std::span<Color> output) {
+    std::size_t i = 0;
+    for (; 2 * i + 16 <= upper.size(); i += 8) {
+        const WideColumns above(upper.data() + 2 * i);
+        const WideColumns below(lower.data() + 2 * i);
+        const __m256i means = FloorOfMean(above.even, above.odd, below.even, below.odd);
+        _mm256_storeu_si256(reinterpret_cast<__m256i*>(output.data() + i),
+                            _mm256_permute4x64_epi64(means, _MM_SHUFFLE(3, 1, 2, 0)));
+    }
+    return i;
+}
+
+/// Without the wider vectors the narrow ones do all, so a test with lengths of every remainder reaches both.
+std::size_t HalveByVectors(std::span<const Color> upper, std::span<const Color> lower,
+                           std::span<Color> output) {
+    static const bool isWide = __builtin_cpu_supports("avx2") != 0;
+    return HalveByEights(upper, lower, output, isWide ? HalveBySixteens(upper, lower, output) : 0);
+}
+
+#else
+
+std::size_t HalveByVectors(std::span<const Color>, std::span<const Color>, std::span<Color>) {
+    return 0;
+}
+
+#endif
+
+} // namespace
+
+void HalveRowsPlain(std::span<const Color> upper, std::span<const Color> lower, std::span<Color> output,
+                    std::size_t first) {
+    const std::size_t blocks = upper.size() / 2;
+    for (std::size_t i = first; i < blocks; ++i) {
+        output[i] = Average4(upper[2 * i], upper[2 * i + 1], lower[2 * i], lower[2 * i + 1]);
+    }
+    if (upper.size() % 2 != 0) output[blocks] = Average2(upper.back(), lower.back());
+}
+
+void HalveRows(std::span<const Color> upper, std::span<const Color> lower, std::span<Color> output) {
+    HalveRowsPlain(upper, lower, output, HalveByVectors(upper, lower, output));
+}

@@ -1,0 +1,110 @@
+#include "image/picture/Image.h"
+
+#include "image/picture/ColorList.h"
+#include "image/picture/DibSection.h"
+#include "image/picture/HalfSize.h"
+
+#include <algorithm>
+#include <cstring>
+#include <string>
+#include <utility>
+
+namespace {
+
+std::size_t CheckedPixelCount(int width, int height) {
+    const auto outside = [](int side) { return side < 0 || side > maximumPictureSide; };
+    const auto count = static_cast<std::uint64_t>(std::int64_t{width} * height);
+    if (outside(width) || outside(height) || count * sizeof(Color) > maximumPictureBytes) {
+        throw PictureSizeError("A picture cannot be " + std::to_string(width) + " x " +
+                               std::to_string(height) + " pixels large.");
+    }
+    return static_cast<std::size_t>(count);
+}
+
+} // namespace
+
+Image::Image() : pixels(1) {}
+
+Image::Image(int initialWidth, int initialHeight)
+    : pixels(CheckedPixelCount(initialWidth, initialHeight)), width(initialWidth), height(initialHeight) {}
+
+Image::Image(const Image& other) = default;
+Image& Image::operator=(const Image& other) = default;
+Image::~Image() = default;
+
+Image::Image(Image&& other) noexcept
+    : pixels(std::exchange(other.pixels, {})), width(std::exchange(other.width, 0)),
+      height(std::exchange(other.height, 0)) {}
+
+Image& Image::operator=(Image&& other) noexcept {
+    if (this == &other) return *this;
+    pixels = std::exchange(other.pixels, {});
+    width = std::exchange(other.width, 0);
+    height = std::exchange(other.height, 0);
+    return *this;
+}
+
+void Image::SetPixelFromPalette(int x, int y, const ColorList& list, std::size_t index) {
+    SetPixel(x, y, list.GetColor(index));
+}
+
+void Image::SetPixelFromPaletteWrapped(unsigned x, unsigned y, const ColorList& list, std::size_t index) {
+    SetPixelWrapped(x, y, list.GetColor(index));
+}
+
+void Image::SetSize(int newWidth, int newHeight) {
+    pixels.resize(CheckedPixelCount(newWidth, newHeight));
+    width = newWidth;
+    height = newHeight;
+}
+
+void Image::Resize(int newWidth, int newHeight) {
+    Image resized(newWidth, newHeight);
+    if (!pixels.empty() && newWidth > 0) {
+        const auto keptWidth = std::min(width, newWidth);
+        for (int y = 0; y < newHeight; ++y) {
+            const std::span<const Color> source = Row(std::min(y, height - 1)).first(Side(keptWidth));
+            const auto edge = std::ranges::copy(source, resized.Row(y).begin()).out;
+            std::fill(edge, resized.Row(y).end(), source.back());
+        }
+    }
+    Image::operator=(std::move(resized));
+}
+
+void Image::MakeHalfSize(Image& output) const {
+    output.SetSize((width + 1) >> 1, (height + 1) >> 1);
+    for (int y = 0; y < output.height; ++y) {
+        // The last row of an odd height is its own partner: the average of equal values is the value.
+        const int partner = std::min(2 * y + 1, height - 1);
+        HalveRows(Row(2 * y), Row(partner), output.Row(y));
+    }
+}
+
+void Image::FromBitmap(const DibSection& bitmap) {
+    SetSize(bitmap.GetWidth(), bitmap.GetHeight());
+    for (int y = 0; y < height; ++y) {
+        const std::span<Color> row = Row(y);
+        for (int x = 0; x < width; ++x) row[Side(x)] = bitmap.GetPixel(x, y);
+    }
+}
+
+void Image::RenderTo(DibSection& bitmap, const PixelTransform& transform) const {
+    if (bitmap.GetWidth() != width || bitmap.GetHeight() != height) {
+        bitmap.Recreate(width, height, bitmap.GetBitCount());
+    }
+    const PixelTransformer transformer(transform);
+    if (bitmap.HasColorRows()) {
+        for (int y = 0; y < height; ++y) transformer.Apply(Row(y), bitmap.Row(y));
+        return;
+    }
+    std::vector<Color> transformed(Side(width));
+    for (int y = 0; y < height; ++y) {
+        transformer.Apply(Row(y), transformed);
+        for (int x = 0; x < width; ++x) bitmap.SetPixel(x, y, transformed[Side(x)]);
+    }
+}
+
+void Image::CopyBytesTo(std::uint8_t* destination) const {
+    // An empty array may have no address, which memcpy must not be given.
+    if (!pixels.empty()) std::memcpy(destination, pixels.data(), pixels.size() * sizeof(Color));
+}
