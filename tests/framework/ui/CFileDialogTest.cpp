@@ -1,0 +1,80 @@
+#include "framework/ui/CFileDialog.h"
+
+#include "framework/core/StandardIds.h"
+#include "support/ui/DialogAnswer.h"
+
+#include <QDialogButtonBox>
+#include <QFile>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class CFileDialogTest : public testing::Test {
+protected:
+    CFileDialogTest() {
+        QFile file(folder.filePath("pak0.pak"));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        QFile plain(folder.filePath("README"));
+        EXPECT_TRUE(plain.open(QIODevice::WriteOnly));
+    }
+
+    // Types the name and presses the button; the path that the dialog takes, or nothing when it stays open.
+    std::optional<std::string> Type(bool open, const QString& name) {
+        FileNameQuestion question;
+        question.open = open;
+        question.mustExist = open;
+        CFileDialog dialog(nullptr, question, {{"All Files (*.*)", "*.*"}});
+        dialog.setDirectory(folder.path());
+        dialog.show();
+        dialog.findChild<QLineEdit*>("fileNameEdit")->setText(name);
+        dialog.findChild<QDialogButtonBox*>()
+            ->button(open ? QDialogButtonBox::Open : QDialogButtonBox::Save)
+            ->click();
+        if (dialog.isVisible()) return std::nullopt;
+        return dialog.GetPathName();
+    }
+    std::string Path(const char* name) const { return folder.filePath(name).toStdString(); }
+
+    QTemporaryDir folder;
+};
+
+TEST_F(CFileDialogTest, TakesPathsThatLeadIntoAnArchive) {
+    for (const bool open : {true, false}) {
+        EXPECT_EQ(Type(open, "pak0.pak/textures/a.wal"), Path("pak0.pak/textures/a.wal"));
+        EXPECT_EQ(Type(open, "pak0.pak\\textures\\a.wal"), Path("pak0.pak/textures/a.wal"));
+        EXPECT_EQ(Type(open, folder.filePath("pak0.pak/b.wal")), Path("pak0.pak/b.wal"));
+    }
+    EXPECT_EQ(Type(true, "README"), Path("README"));
+    EXPECT_EQ(Type(false, "new.wal"), Path("new.wal"));
+}
+
+TEST_F(CFileDialogTest, RefusesWhatIsNotThere) {
+    for (const bool open : {true, false}) {
+        const DialogAnswer noted(Press(QDialogButtonBox::Ok));
+        EXPECT_EQ(Type(open, "nowhere/a.wal"), std::nullopt);
+    }
+}
+
+TEST_F(CFileDialogTest, AsksBeforeItReplacesAFile) {
+    {
+        const DialogAnswer no(Press(QDialogButtonBox::No));
+        EXPECT_EQ(Type(false, "README"), std::nullopt);
+    }
+    const DialogAnswer yes(Press(QDialogButtonBox::Yes));
+    EXPECT_EQ(Type(false, "README"), Path("README"));
+}
+
+TEST_F(CFileDialogTest, ProposesANameInItsFolderOrAWholePathInAnArchive) {
+    FileNameQuestion question;
+    question.open = false;
+    question.proposal = Path("bitmap1.bmp");
+    EXPECT_EQ(CFileDialog(nullptr, question, {}).GetPathName(), Path("bitmap1.bmp"));
+    question.proposal = Path("pak0.pak") + "\\textures\\a.wal";
+    EXPECT_EQ(CFileDialog(nullptr, question, {}).GetPathName(), Path("pak0.pak/textures/a.wal"));
+}
+
+} // namespace

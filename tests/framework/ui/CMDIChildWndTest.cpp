@@ -1,0 +1,64 @@
+#include "framework/ui/CMDIChildWnd.h"
+
+#include "framework/core/StandardIds.h"
+#include "framework/ui/CSplitterWnd.h"
+#include "framework/ui/Commands.h"
+#include "framework/ui/WindowFixture.h"
+#include "support/ui/DialogAnswer.h"
+
+#include <QDialogButtonBox>
+#include <QScrollBar>
+
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+
+namespace {
+
+class CMDIChildWndTest : public WindowFixture {};
+
+TEST_F(CMDIChildWndTest, NumbersTheWindowsOfADocument) {
+    TestDocument& document = NewDocument();
+    document.SetTitle("a&b\tc[*]");
+    CMDIChildWnd& first = FrameOf(document);
+    EXPECT_EQ(first.windowTitle(), "a&b\tc[*][*]"); // the toolkit shows a doubled mark once
+    ASSERT_TRUE(SendCommand(mainFrame, ID_WINDOW_NEW));
+    CMDIChildWnd& second = *mainFrame.MDIGetActive();
+    document.SetTitle("d");
+    EXPECT_EQ(first.windowTitle(), "d:1");
+    EXPECT_EQ(second.windowTitle(), "d:2");
+    EXPECT_FALSE(first.close()); // the window goes by itself, later
+    EXPECT_EQ(second.windowTitle(), "d");
+    EXPECT_THAT(document.GetViews(), ElementsAre(second.GetActiveView()));
+    EXPECT_THAT(mainFrame.GetChildren(), ElementsAre(&second));
+}
+
+TEST_F(CMDIChildWndTest, TheLastWindowAsksBeforeItTakesTheDocumentAlong) {
+    TestDocument& document = NewDocument();
+    document.SetModifiedFlag();
+    {
+        const DialogAnswer cancel(Press(QDialogButtonBox::Cancel));
+        FrameOf(document).close();
+    }
+    EXPECT_EQ(program.GetDocuments().size(), 1U);
+    {
+        const DialogAnswer discard(Press(QDialogButtonBox::No));
+        EXPECT_TRUE(SendCommand(mainFrame, ID_FILE_CLOSE));
+    }
+    EXPECT_TRUE(program.GetDocuments().empty());
+    EXPECT_EQ(mainFrame.MDIGetActive(), nullptr);
+}
+
+TEST_F(CMDIChildWndTest, TheSplitterOwnsTheBarsBesideThePane) {
+    TestDocument& document = NewDocument();
+    auto& frame = dynamic_cast<ChildFrame&>(FrameOf(document));
+    const CView* view = frame.GetSplitter().GetPane(0, 0);
+    ASSERT_EQ(view, frame.GetActiveView());
+    const QScrollBar& horizontal = view->GetScrollBar(Qt::Horizontal);
+    const QScrollBar& vertical = view->GetScrollBar(Qt::Vertical);
+    EXPECT_EQ(horizontal.geometry().top(), view->geometry().bottom() + 1);
+    EXPECT_EQ(vertical.geometry().left(), view->geometry().right() + 1);
+    EXPECT_EQ(horizontal.width(), view->width());
+}
+
+} // namespace

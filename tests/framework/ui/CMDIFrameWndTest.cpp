@@ -1,0 +1,179 @@
+#include "framework/core/StandardIds.h"
+#include "framework/ui/CMenu.h"
+#include "framework/ui/CStatusBar.h"
+#include "framework/ui/Commands.h"
+#include "framework/ui/RecentFileMenu.h"
+#include "framework/ui/WindowFixture.h"
+#include "support/ui/DialogAnswer.h"
+
+#include <QApplication>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+
+namespace {
+
+QString FirstMenuOf(const QMainWindow& frame) {
+    return frame.menuBar()->actions().front()->text();
+}
+
+class CMDIFrameWndTest : public WindowFixture {};
+
+TEST_F(CMDIFrameWndTest, RoutesCommandsFromTheViewOutwards) {
+    for (const CommandId id : {viewCommand, documentCommand, frameCommand})
+        EXPECT_FALSE(SendCommand(mainFrame, id)) << "without a document: " << id;
+    NewDocument();
+    Log().clear();
+    for (const CommandId id :
+         {viewCommand, documentCommand, frameCommand, mainCommand, appCommand, everywhereCommand})
+        EXPECT_TRUE(SendCommand(mainFrame, id)) << id;
+    EXPECT_THAT(Log(), ElementsAre("view", "document", "frame", "main", "application", "document"));
+    EXPECT_FALSE(AskCommand(mainFrame, unknownCommand).enabled);
+    EXPECT_FALSE(SendCommand(mainFrame, unknownCommand));
+}
+
+TEST_F(CMDIFrameWndTest, ShowsTheMenuOfTheDocumentInFront) {
+    EXPECT_EQ(FirstMenuOf(mainFrame), "&Own");
+    CDocument& hidden = NewDocument(1);
+    EXPECT_FALSE(hidden.GetFrame()->IsShown());
+    EXPECT_EQ(FirstMenuOf(mainFrame), "&Own");
+    TestDocument& first = NewDocument();
+    TestDocument& second = NewDocument();
+    EXPECT_EQ(FirstMenuOf(mainFrame), "&File");
+    hidden.GetFrame()->ActivateFrame();
+    EXPECT_EQ(mainFrame.MDIGetActive(), second.GetFrame());
+    FrameOf(second).showMaximized();
+    second.OnCloseDocument();
+    EXPECT_EQ(mainFrame.MDIGetActive(), first.GetFrame());
+    EXPECT_EQ(FirstMenuOf(mainFrame), "&File");
+    first.OnCloseDocument();
+    EXPECT_EQ(mainFrame.MDIGetActive(), nullptr);
+    EXPECT_EQ(FirstMenuOf(mainFrame), "&Own");
+    EXPECT_EQ(program.GetDocuments().size(), 1U);
+}
+
+TEST_F(CMDIFrameWndTest, TellsViewsWhichOneIsActive) {
+    TestDocument& first = NewDocument();
+    TestDocument& second = NewDocument();
+    first.GetFrame()->ActivateFrame();
+    EXPECT_THAT(Log(), ElementsAre("activate shown1", "deactivate shown1", "activate shown2",
+                                   "deactivate shown2", "activate shown1"));
+    Log().clear();
+    first.OnCloseDocument();
+    EXPECT_THAT(Log(), ElementsAre("deactivate shown1", "activate shown2", "end shown1"));
+    EXPECT_EQ(mainFrame.MDIGetActive(), second.GetFrame());
+}
+
+TEST_F(CMDIFrameWndTest, KeepsCommandsForTheDocumentWhileAnotherWindowIsActive) {
+    NewDocument();
+    QWidget other;
+    other.show();
+    QApplication::setActiveWindow(&other);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(AskCommand(mainFrame, viewCommand).enabled);
+    EXPECT_EQ(FirstMenuOf(mainFrame), "&File");
+}
+
+TEST_F(CMDIFrameWndTest, AsksEveryDocumentBeforeItClosesOne) {
+    NewDocument().SetModifiedFlag();
+    NewDocument().SetModifiedFlag();
+    Log().clear();
+    {
+        int questions = 0;
+        QTimer answers;
+        QObject::connect(&answers, &QTimer::timeout, &answers, [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (box) box->button(++questions == 1 ? QMessageBox::No : QMessageBox::Cancel)->click();
+        });
+        answers.start(10);
+        EXPECT_FALSE(mainFrame.close());
+        EXPECT_EQ(questions, 2);
+    }
+    EXPECT_EQ(program.GetDocuments().size(), 2U);
+    for (CDocument* document : program.GetDocuments()) document->SetModifiedFlag(false);
+    EXPECT_TRUE(mainFrame.close());
+    EXPECT_TRUE(program.GetDocuments().empty());
+}
+
+TEST_F(CMDIFrameWndTest, AcceleratorsAskForTheStateWhenTheyFire) {
+    TestDocument& document = NewDocument();
+    QApplication::setActiveWindow(&mainFrame);
+    Log().clear();
+    QTest::keyClick(&mainFrame, Qt::Key_D, Qt::ControlModifier);
+    document.blocked = true;
+    QTest::keyClick(&mainFrame, Qt::Key_D, Qt::ControlModifier);
+    EXPECT_THAT(Log(), ElementsAre("document"));
+    document.blocked = false;
+    // The item's text names the same keys; they must not become ambiguous by it. Ctrl+W is the toolkit's key
+    // for closing a child.
+    mainFrame.GetCurrentMenu().UpdateAll();
+    EXPECT_EQ(mainFrame.GetCurrentMenu().FindItem(documentCommand)->text(), "&Renamed\tCtrl+D");
+    QTest::keyClick(&mainFrame, Qt::Key_D, Qt::ControlModifier);
+    QTest::keyClick(&mainFrame, Qt::Key_W, Qt::ControlModifier);
+    EXPECT_THAT(Log(), ElementsAre("document", "document", "main"));
+}
+
+TEST_F(CMDIFrameWndTest, OpenMenusFollowTheCommandsStates) {
+    TestDocument& document = NewDocument();
+    QMenu& popup = *mainFrame.GetCurrentMenu().GetPopups().front();
+    popup.popup({});
+    const QAction* item = mainFrame.GetCurrentMenu().FindItem(documentCommand);
+    EXPECT_TRUE(item->isEnabled());
+    document.blocked = true;
+    mainFrame.OnIdle();
+    EXPECT_FALSE(item->isEnabled());
+    EXPECT_FALSE(mainFrame.GetCurrentMenu().FindItem(ID_FILE_MRU_FIRST)->isEnabled());
+    popup.close();
+}
+
+TEST_F(CMDIFrameWndTest, PromptsCoverOnlyTheMessagePane) {
+    CStatusBar& bar = mainFrame.GetStatusBar();
+    bar.SetPaneText(0, "idle");
+    QMenu& popup = *mainFrame.GetCurrentMenu().GetPopups().front();
+    popup.popup({});
+    popup.setActiveAction(mainFrame.GetCurrentMenu().FindItem(mainCommand));
+    EXPECT_EQ(bar.GetShownText(0), "Main prompt");
+    bar.SetPaneText(0, "idle still");
+    bar.SetPaneText(2, "1.00, 2.00");
+    EXPECT_EQ(bar.GetShownText(0), "Main prompt");
+    EXPECT_EQ(bar.GetShownText(2), "1.00, 2.00");
+    popup.close();
+    EXPECT_EQ(bar.GetShownText(0), "idle still");
+    EXPECT_EQ(bar.GetShownText(2), "1.00, 2.00");
+}
+
+TEST_F(CMDIFrameWndTest, ListsItsWindows) {
+    TestDocument& first = NewDocument();
+    first.SetTitle("a&b\tc");
+    NewDocument();
+    CMenu& menu = mainFrame.GetCurrentMenu();
+    menu.UpdateAll();
+    EXPECT_EQ(menu.FindItem(ID_WINDOW_CHILD_FIRST)->text(), "&1 a&&b c");
+    EXPECT_TRUE(menu.FindItem(ID_WINDOW_CHILD_FIRST + 1)->isChecked());
+    menu.FindItem(ID_WINDOW_CHILD_FIRST)->trigger();
+    EXPECT_EQ(mainFrame.MDIGetActive(), first.GetFrame());
+    first.OnCloseDocument();
+    menu.UpdateAll();
+    EXPECT_EQ(menu.FindItem(ID_WINDOW_CHILD_FIRST)->text(), "&1 shown2");
+    EXPECT_FALSE(menu.FindItem(ID_WINDOW_CHILD_FIRST + 1));
+}
+
+TEST_F(CMDIFrameWndTest, ListsRecentFilesInThePlaceholdersPlace) {
+    NewDocument();
+    CMenu& menu = mainFrame.GetCurrentMenu();
+    const QMenu& file = *menu.GetPopups().front();
+    UpdateRecentFileMenu(menu, {"/x/a&b.wal", "/x/c.pcx", "/x/d.pcx"});
+    ASSERT_EQ(file.actions().size(), 7);
+    EXPECT_EQ(file.actions()[2]->text(), "&1 /x/a&&b.wal");
+    EXPECT_EQ(file.actions()[4]->text(), "&3 /x/d.pcx");
+    UpdateRecentFileMenu(menu, {"/x/c.pcx"});
+    EXPECT_EQ(file.actions().size(), 5);
+    EXPECT_EQ(file.actions()[2]->text(), "&1 /x/c.pcx");
+}
+
+} // namespace
