@@ -54,7 +54,7 @@ void CMDIFrameWnd::LoadFrame(unsigned menuId, std::span<const AcceleratorRow> ac
 void CMDIFrameWnd::ShowMenu(unsigned menuId) {
     std::unique_ptr<CMenu>& menu = menus[menuId];
     if (!menu) {
-        menu = std::make_unique<CMenu>(GetMenuRows(menuId), *this);
+        menu = std::make_unique<CMenu>(GetMenuRows(menuId), *this, this);
         menu->SetInitPopup([this](CMenu& opened) { OnInitMenuPopup(opened); });
     }
     if (currentMenu == menu.get()) return;

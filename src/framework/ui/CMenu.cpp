@@ -5,6 +5,8 @@
 #include "framework/ui/Commands.h"
 
 #include <QActionGroup>
+#include <QCoreApplication>
+#include <QStatusTipEvent>
 
 namespace {
 
@@ -19,9 +21,10 @@ void MarkAsRadio(QAction& action, bool radio) {
 
 } // namespace
 
-CMenu::CMenu(std::span<const MenuRow> rows, CCmdTarget& commandTarget) : target(commandTarget) {
+CMenu::CMenu(std::span<const MenuRow> rows, CCmdTarget& commandTarget, QWidget* promptOwner)
+    : target(commandTarget), owner(promptOwner) {
     for (const MenuRow& row : rows) {
-        popups.push_back(std::make_unique<QMenu>(ToQString(row.text)));
+        popups.push_back(std::make_unique<QMenu>(ToQString(row.text), owner));
         Fill(*popups.back(), row.items);
     }
 }
@@ -29,6 +32,9 @@ CMenu::CMenu(std::span<const MenuRow> rows, CCmdTarget& commandTarget) : target(
 void CMenu::Fill(QMenu& popup, std::span<const MenuRow> rows) {
     allPopups.push_back(&popup);
     QObject::connect(&popup, &QMenu::aboutToShow, &popup, [this, &popup] { OnShowPopup(popup); });
+    // The toolkit itself shows prompts only for popups that hang in a menu bar.
+    QObject::connect(&popup, &QMenu::hovered, &popup, [this](QAction* item) { Prompt(item->statusTip()); });
+    QObject::connect(&popup, &QMenu::aboutToHide, &popup, [this] { Prompt({}); });
     for (const MenuRow& row : rows) {
         if (!row.text)
             popup.addSeparator();
@@ -92,6 +98,11 @@ void CMenu::AppendItem(CommandId sibling, CommandId id, const std::string& text)
         popup->addAction(MakeItem(*popup, id, text));
     else if (!popup->actions().back()->isSeparator())
         popup->addSeparator();
+}
+
+void CMenu::Prompt(const QString& text) {
+    QStatusTipEvent event(text);
+    QCoreApplication::sendEvent(owner, &event);
 }
 
 void CMenu::OnShowPopup(QMenu& popup) {

@@ -15,7 +15,8 @@ class CCmdTarget;
 // target, and an opened popup shows how its commands stand. Keys in an item's text are only shown.
 class CMenu {
 public:
-    CMenu(std::span<const MenuRow> rows, CCmdTarget& commandTarget);
+    // Prompts of items go to the owner, as status tips.
+    CMenu(std::span<const MenuRow> rows, CCmdTarget& commandTarget, QWidget* promptOwner);
 
     // The popups in the order of the table, which hang in a menu bar or open beside the pointer.
     const std::vector<std::unique_ptr<QMenu>>& GetPopups() const { return popups; }
@@ -41,12 +42,14 @@ private:
     void Fill(QMenu& popup, std::span<const MenuRow> rows);
     QAction* MakeItem(QMenu& popup, CommandId id, const std::string& text);
     void SetItem(QAction& action, CommandId id, const std::string& text);
+    void Prompt(const QString& text);
     void OnShowPopup(QMenu& popup);
     void UpdatePopup(QMenu& popup);
     void UpdateItem(QAction& action);
     QMenu* PopupOf(CommandId id) const;
 
     CCmdTarget& target;
+    QWidget* owner;
     std::function<void(CMenu&)> initPopup;
     std::vector<std::unique_ptr<QMenu>> popups;
     std::vector<QMenu*> allPopups; // with the popups inside popups
