@@ -10,6 +10,8 @@
 #include "framework/ui/ChildFrame.h"
 #include "framework/ui/MessageBoxes.h"
 #include "framework/ui/NormalCursor.h"
+#include "image/ui/TavloView.h"
+#include "image/ui/TavloViewFrame.h"
 #include "res/CommandIds.h"
 #include "res/ShellStrings.h"
 
@@ -29,7 +31,8 @@ CKelTavloApp::~CKelTavloApp() {
 void CKelTavloApp::RegisterWindowClasses() {
     WindowClasses& classes = GetFrameFactory()->GetClasses();
     for (const CRuntimeClass* windowClass :
-         {&ChildFrame::runtimeClass, &HiddenChildFrame::runtimeClass, &HiddenView::runtimeClass})
+         {&TavloViewFrame::runtimeClass, &TavloView::runtimeClass, &ChildFrame::runtimeClass,
+          &HiddenChildFrame::runtimeClass, &HiddenView::runtimeClass})
         classes.Register(*windowClass);
 }
 

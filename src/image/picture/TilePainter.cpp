@@ -2,9 +2,9 @@
 
 #include "image/picture/ChannelTable.h"
 #include "image/picture/Image.h"
+#include "image/picture/StreamPixels.h"
 
 #include <algorithm>
-#include <cstring>
 #include <vector>
 
 namespace {
@@ -14,105 +14,148 @@ int Wrapped(std::int64_t position, int size) {
     return rest < 0 ? rest + size : rest;
 }
 
-// One row of the target, made from one row of texels: each texel `zoom` times, and the whole again and again.
+// Room for pixels whose addresses keep away, modulo the page size, from those of the memory that they are
+// copied from or to. Processors take a load for one of the bytes just stored when the lower 12 bits of their
+// addresses agree, and wait.
+class Scratch {
+public:
+    Scratch(std::size_t count, const Color* other) : memory(count + pagePixels), room(count) {
+        const std::size_t distance = (Index(other) + awayPixels - Index(memory.data())) % pagePixels;
+        start = memory.data() + distance;
+    }
+
+    std::span<Color> Get() const { return {start, room}; }
+
+private:
+    static constexpr std::size_t pagePixels = 4096 / sizeof(Color);
+    // Rows of a surface often lie a multiple of a quarter page apart: this is far from every quarter.
+    static constexpr std::size_t awayPixels = pagePixels * 5 / 8;
+
+    static std::size_t Index(const Color* pixel) {
+        return reinterpret_cast<std::uintptr_t>(pixel) / sizeof(Color) % pagePixels;
+    }
+
+    std::vector<Color> memory;
+    std::size_t room;
+    Color* start;
+};
+
+template <int factor>
+void MagnifyBy(std::span<const Color> texels, Color* output) {
+    for (const Color texel : texels) {
+        for (int i = 0; i < factor; ++i) output[i] = texel;
+        output += factor;
+    }
+}
+
+void Magnify(std::span<const Color> texels, int zoom, Color* output) {
+    switch (zoom) {
+    case 2:
+        return MagnifyBy<2>(texels, output);
+    case 4:
+        return MagnifyBy<4>(texels, output);
+    case 8:
+        return MagnifyBy<8>(texels, output);
+    case 16:
+        return MagnifyBy<16>(texels, output);
+    default:
+        for (const Color texel : texels) output = std::fill_n(output, zoom, texel);
+    }
+}
+
+// Where a row of the target begins in the tiling, and how much of it there is.
+struct RowLayout {
+    RowLayout(const Image& picture, const TileViewport& viewport, const TileTarget& target)
+        : zoom(viewport.zoom), skip(static_cast<std::size_t>(target.left % zoom)),
+          width(static_cast<std::size_t>(target.width)),
+          firstColumn(static_cast<std::size_t>(
+              Wrapped(std::int64_t{viewport.scrollX} + target.left / zoom, picture.GetWidth()))) {
+        const auto factor = static_cast<std::size_t>(zoom);
+        texelCount =
+            std::min((skip + width + factor - 1) / factor, static_cast<std::size_t>(picture.GetWidth()));
+        const std::size_t once = texelCount * factor;
+        const std::size_t wanted = std::min(shortestPattern, skip + width);
+        patternLength = (wanted + once - 1) / once * once;
+    }
+
+    // Pictures that are narrower on the screen are repeated in the pattern, so that it is written in long
+    // runs.
+    static constexpr std::size_t shortestPattern = 1024;
+
+    int zoom;
+    std::size_t skip; // screen pixels of the first texel that lie left of the target
+    std::size_t width;
+    std::size_t firstColumn;   // of the picture
+    std::size_t texelCount;    // that show, the picture's width at most
+    std::size_t patternLength; // of those texels magnified, a whole number of times
+};
+
+// Rows of the target, made from rows of texels: each texel `zoom` times, and the whole again and again.
 class RowExpander {
 public:
     RowExpander(const Image& tiledPicture, const std::uint32_t* table256, const TileViewport& viewport,
                 const TileTarget& target)
-        : picture(tiledPicture), table(table256), zoom(viewport.zoom), skip(target.left % zoom),
-          first(Wrapped(std::int64_t{viewport.scrollX} + target.left / zoom, picture.GetWidth())),
-          width(static_cast<std::size_t>(target.width)) {
-        const auto shown = static_cast<std::size_t>((skip + target.width + zoom - 1) / zoom);
-        texels.resize(std::min(shown, static_cast<std::size_t>(picture.GetWidth())));
-        row.resize(std::max(width, texels.size() * static_cast<std::size_t>(zoom)) +
-                   static_cast<std::size_t>(skip));
-    }
+        : picture(tiledPicture), table(table256), layout(picture, viewport, target),
+          texelRoom(layout.texelCount, picture.Pixels().data()),
+          patternRoom(layout.patternLength, target.pixels) {}
 
-    // The target row that shows this row of texels.
-    const Color* Expand(int y) {
-        FetchTexels(picture.Row(y));
-        std::size_t filled = Magnify();
-        const std::size_t wanted = width + static_cast<std::size_t>(skip);
-        // Each copy doubles what there is; a multiple of the tile's width, so the tiling goes on.
-        while (filled < wanted) {
-            const std::size_t count = std::min(filled, wanted - filled);
-            std::memcpy(row.data() + filled, row.data(), count * sizeof(Color));
+    // Makes the pattern of the row of texels; PutRow then writes it.
+    void Expand(int y) {
+        const std::span<Color> pattern = patternRoom.Get();
+        const std::span<Color> texels = layout.zoom == 1 ? pattern.first(layout.texelCount) : texelRoom.Get();
+        FetchTexels(picture.Row(y), texels);
+        if (layout.zoom > 1) Magnify(texels, layout.zoom, pattern.data());
+        for (std::size_t filled = layout.texelCount * static_cast<std::size_t>(layout.zoom);
+             filled < pattern.size();) {
+            const std::size_t count = std::min(filled, pattern.size() - filled);
+            std::copy_n(pattern.begin(), count, pattern.begin() + static_cast<std::ptrdiff_t>(filled));
             filled += count;
         }
-        return row.data() + skip;
+    }
+
+    void PutRow(Color* output) const {
+        const std::span<const Color> pattern = patternRoom.Get();
+        std::size_t start = layout.skip;
+        for (std::size_t done = 0; done < layout.width; start = 0) {
+            const std::size_t count = std::min(pattern.size() - start, layout.width - done);
+            StreamPixels(pattern.data() + start, output + done, count);
+            done += count;
+        }
     }
 
 private:
     // The texels from the first one that shows, going round at the edge, through the table.
-    void FetchTexels(std::span<const Color> source) {
-        const std::size_t start = static_cast<std::size_t>(first);
-        const std::size_t untilEdge = std::min(texels.size(), source.size() - start);
-        const std::span<Color> out = texels;
-        table.Apply(source.subspan(start, untilEdge), out.first(untilEdge));
-        table.Apply(source.first(texels.size() - untilEdge), out.subspan(untilEdge));
-    }
-
-    template <int factor>
-    void MagnifyBy() {
-        Color* out = row.data();
-        for (const Color texel : texels) {
-            for (int i = 0; i < factor; ++i) out[i] = texel;
-            out += factor;
-        }
-    }
-
-    std::size_t Magnify() {
-        switch (zoom) {
-        case 1:
-            std::copy(texels.begin(), texels.end(), row.begin());
-            break;
-        case 2:
-            MagnifyBy<2>();
-            break;
-        case 4:
-            MagnifyBy<4>();
-            break;
-        case 8:
-            MagnifyBy<8>();
-            break;
-        case 16:
-            MagnifyBy<16>();
-            break;
-        default:
-            for (std::size_t i = 0; i < texels.size(); ++i)
-                std::fill_n(row.begin() + static_cast<std::ptrdiff_t>(i) * zoom, zoom, texels[i]);
-        }
-        return texels.size() * static_cast<std::size_t>(zoom);
+    void FetchTexels(std::span<const Color> source, std::span<Color> texels) const {
+        const std::size_t untilEdge = std::min(texels.size(), source.size() - layout.firstColumn);
+        table.Apply(source.subspan(layout.firstColumn, untilEdge), texels.first(untilEdge));
+        table.Apply(source.first(texels.size() - untilEdge), texels.subspan(untilEdge));
     }
 
     const Image& picture;
     ChannelTable table;
-    int zoom;
-    int skip;  // screen pixels of the first texel that lie left of the target
-    int first; // column of that texel
-    std::size_t width;
-    std::vector<Color> texels;
-    std::vector<Color> row;
+    RowLayout layout;
+    Scratch texelRoom;
+    Scratch patternRoom;
 };
 
 } // namespace
 
-// Each row of texels is expanded once, and copied from the cache to all rows that show it: what is left to do
-// is to write the target once.
+// Each row of texels is expanded once and written to all rows that show it, so what costs is to write the
+// target once.
 void PaintTiles(const Image& picture, const std::uint32_t* table256, const TileViewport& viewport,
                 const TileTarget& target) {
     RowExpander expander(picture, table256, viewport, target);
     const int zoom = viewport.zoom;
     const int period = picture.GetHeight() * zoom; // rows until the tiling repeats
-    const std::size_t rowBytes = static_cast<std::size_t>(target.width) * sizeof(Color);
+    const auto putRows = [&](int from, int to) {
+        for (int y = from; y < std::min(to, target.height); ++y)
+            expander.PutRow(target.pixels + static_cast<std::size_t>(y) * target.stride);
+    };
     for (int start = 0; start < std::min(period, target.height);) {
         const int texelRow = (target.top + start) / zoom;
-        const int end = std::min({(texelRow + 1) * zoom - target.top, target.height, period});
-        const Color* row =
-            expander.Expand(Wrapped(std::int64_t{viewport.scrollY} + texelRow, picture.GetHeight()));
-        for (int repeat = 0; repeat < target.height; repeat += period)
-            for (int y = start + repeat; y < std::min(end + repeat, target.height); ++y)
-                std::memcpy(target.pixels + static_cast<std::size_t>(y) * target.stride, row, rowBytes);
+        const int end = std::min((texelRow + 1) * zoom - target.top, period);
+        expander.Expand(Wrapped(std::int64_t{viewport.scrollY} + texelRow, picture.GetHeight()));
+        for (int repeat = 0; repeat < target.height; repeat += period) putRows(start + repeat, end + repeat);
         start = end;
     }
 }
