@@ -11,6 +11,7 @@
 #include <QCloseEvent>
 #include <QMdiArea>
 #include <QMenu>
+#include <QStyle>
 
 #include <algorithm>
 #include <utility>
@@ -42,6 +43,7 @@ void RenewTitles(const CDocument& document) {
 } // namespace
 
 CMDIChildWnd::CMDIChildWnd() {
+    setWindowIcon(style()->standardIcon(QStyle::SP_FileIcon)); // instead of the toolkit's emblem
     // The program has accelerators of its own; the same keys twice would be ambiguous and do nothing.
     for (QAction* action : systemMenu()->actions()) action->setShortcuts(QList<QKeySequence>());
 }
@@ -104,7 +106,6 @@ void CMDIChildWnd::DestroyFrame() {
         return;
     }
     DetachViews();
-    hide();
     shown = false;
     if (mdiFrame) mdiFrame->RemoveChild(*this);
     deleteLater();

@@ -79,14 +79,18 @@ std::vector<CMDIChildWnd*> CMDIFrameWnd::GetChildren() const {
 }
 
 void CMDIFrameWnd::AddChild(CMDIChildWnd& child) {
+    const std::size_t number = GetChildren().size();
     clientArea->addSubWindow(&child);
-    child.resize(child.sizeHint());
+    clientArea->Place(child, static_cast<int>(number));
 }
 
+// The next child takes over that the last one filled the client area.
 void CMDIFrameWnd::RemoveChild(CMDIChildWnd& child) {
+    const bool maximized = activeChild == &child && child.isMaximized();
     if (activeChild == &child) SetActiveChild(nullptr);
     clientArea->removeSubWindow(&child);
     OnChildActivated();
+    if (maximized && activeChild) activeChild->showMaximized();
 }
 
 void CMDIFrameWnd::MDIActivate(CMDIChildWnd& child) {

@@ -25,8 +25,8 @@ DocumentFrame* CView::GetFrame() const {
 }
 
 QScrollBar& CView::GetScrollBar(Qt::Orientation orientation) const {
-    Q_ASSERT(splitter);
-    return splitter->GetScrollBar(*this, orientation);
+    Q_ASSERT(paneSplitter);
+    return paneSplitter->GetScrollBar(*this, orientation);
 }
 
 void CView::OnInitialUpdate() {
@@ -40,21 +40,21 @@ void CView::OnUpdate(DocumentView*, std::intptr_t, CObject*) {
 void CView::OnActivateView(bool, CView*, CView*) {}
 
 bool CView::OnCmdMsg(CommandId id, CCmdUI* state) {
-    return CCmdTarget::OnCmdMsg(id, state) || (document && document->OnCmdMsg(id, state));
+    return CCmdTarget::OnCmdMsg(id, state) || (attachedDocument && attachedDocument->OnCmdMsg(id, state));
 }
 
 void CView::Attach(CDocument& shown, CSplitterWnd* pane) {
-    document = &shown;
-    splitter = pane;
-    document->AddView(*this);
+    attachedDocument = &shown;
+    paneSplitter = pane;
+    attachedDocument->AddView(*this);
     OnCreate();
 }
 
 void CView::Detach() {
-    if (CDocument* left = std::exchange(document, nullptr)) left->RemoveView(*this);
+    if (CDocument* left = std::exchange(attachedDocument, nullptr)) left->RemoveView(*this);
 }
 
 void CView::focusInEvent(QFocusEvent* event) {
     QWidget::focusInEvent(event);
-    if (CMDIChildWnd* frame = GetParentFrame(); frame && document) frame->SetActiveView(this);
+    if (CMDIChildWnd* frame = GetParentFrame(); frame && attachedDocument) frame->SetActiveView(this);
 }

@@ -17,7 +17,7 @@ public:
     ~CView() override;
 
     // Null only before the view is attached and while it ends.
-    CDocument* GetDocument() const { return document; }
+    CDocument* GetDocument() const { return attachedDocument; }
     // The frame round the view; null while it has none.
     CMDIChildWnd* GetParentFrame() const;
     DocumentFrame* GetFrame() const override;
@@ -45,6 +45,6 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
 
 private:
-    CDocument* document = nullptr;
-    CSplitterWnd* splitter = nullptr;
+    CDocument* attachedDocument = nullptr;
+    CSplitterWnd* paneSplitter = nullptr;
 };

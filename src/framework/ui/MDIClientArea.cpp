@@ -2,6 +2,10 @@
 
 #include "framework/ui/CMDIChildWnd.h"
 
+#include <QStyle>
+
+#include <algorithm>
+
 MDIClientArea::MDIClientArea(QWidget* parent) : QMdiArea(parent) {
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -18,6 +22,14 @@ std::vector<CMDIChildWnd*> MDIClientArea::GetChildren() const {
 CMDIChildWnd* MDIClientArea::GetCurrentChild() const {
     auto* child = dynamic_cast<CMDIChildWnd*>(currentSubWindow());
     return child && child->IsShown() && !child->isHidden() ? child : nullptr;
+}
+
+void MDIClientArea::Place(CMDIChildWnd& child, int number) const {
+    child.resize(child.sizeHint());
+    const QSize room = viewport()->size() - child.size();
+    const int step = child.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &child) + 4;
+    const int steps = std::max(1, std::min(room.width(), room.height()) / step + 1);
+    child.move(number % steps * step, number % steps * step);
 }
 
 void MDIClientArea::Tile(Qt::Orientation orientation) {

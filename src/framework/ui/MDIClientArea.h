@@ -13,6 +13,8 @@ public:
     std::vector<CMDIChildWnd*> GetChildren() const;
     // The child that is active, or was before a window outside became so; null when there is none.
     CMDIChildWnd* GetCurrentChild() const;
+    // Puts a new child below and beside the ones before it, of which there are `number`.
+    void Place(CMDIChildWnd& child, int number) const;
     // Lays the children that are not minimised one above the other (Qt::Vertical) or side by side.
     void Tile(Qt::Orientation orientation);
     // Puts the minimised children in a row at the lower edge.

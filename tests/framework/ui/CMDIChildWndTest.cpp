@@ -49,6 +49,21 @@ TEST_F(CMDIChildWndTest, TheLastWindowAsksBeforeItTakesTheDocumentAlong) {
     EXPECT_EQ(mainFrame.MDIGetActive(), nullptr);
 }
 
+TEST_F(CMDIChildWndTest, AMaximizedWindowNamesItselfInTheMainTitle) {
+    TestDocument& document = NewDocument();
+    EXPECT_EQ(mainFrame.windowTitle(), "KelTavlo");
+    FrameOf(document).showMaximized();
+    EXPECT_EQ(mainFrame.windowTitle(), "KelTavlo - [shown1]");
+    TestDocument& second = NewDocument();
+    EXPECT_EQ(mainFrame.windowTitle(), "KelTavlo - [shown2]");
+    second.SetTitle("b&c");
+    EXPECT_EQ(mainFrame.windowTitle(), "KelTavlo - [b&c]");
+    second.OnCloseDocument();
+    EXPECT_EQ(mainFrame.windowTitle(), "KelTavlo - [shown1]");
+    document.OnCloseDocument();
+    EXPECT_EQ(mainFrame.windowTitle(), "KelTavlo");
+}
+
 TEST_F(CMDIChildWndTest, TheSplitterOwnsTheBarsBesideThePane) {
     TestDocument& document = NewDocument();
     auto& frame = dynamic_cast<ChildFrame&>(FrameOf(document));

@@ -10,6 +10,7 @@ constexpr unsigned shownType = 9001, hiddenType = 9002;
 constexpr StringRow strings[] = {
     {shownType, "\nshown\nShown\n\n\n\n"},
     {hiddenType, "\nhidden\n\n\n\n\n"},
+    {AFX_IDS_APP_TITLE, "KelTavlo"},
     {mainCommand, "Main prompt\nMain tip"},
 };
 constexpr MenuRow ownItems[] = {{"&Main", mainCommand}, {"&Unknown\tCtrl+U", unknownCommand}};
@@ -56,8 +57,11 @@ const CommandMap& TestFrame::GetCommandMap() const {
     return map;
 }
 
-TestMainFrame::TestMainFrame() {
+TestStrings::TestStrings() {
     AddStrings(strings);
+}
+
+TestMainFrame::TestMainFrame() {
     LoadFrame(ownMenu, accelerators);
     resize(640, 480);
     show();

@@ -87,6 +87,10 @@ private:
     void OnCommand() { Log().push_back("application"); }
 };
 
+struct TestStrings {
+    TestStrings();
+};
+
 class WindowFixture : public testing::Test {
 protected:
     WindowFixture();
@@ -94,6 +98,7 @@ protected:
     TestDocument& NewDocument(std::size_t type = 0);
     static CMDIChildWnd& FrameOf(const CDocument& document);
 
+    TestStrings texts;
     QTemporaryDir folder;
     TestProgram program{folder.filePath("settings.ini").toStdString()};
     TestMainFrame& mainFrame = program.mainFrame;
