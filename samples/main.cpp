@@ -25,7 +25,7 @@ Bytes BuildPack() {
     for (const Texture& texture : DrawSampleTextures(GetQuakeIIPalette())) {
         const Bytes bytes = Encode(texture, "WALDocument");
         const std::string name = texture.quake2.name.substr(std::string_view(nameFolder).size()) + ".wal";
-        pack.Add("textures/" + name, bytes);
+        pack.Add("textures/sample/" + name, bytes);
         if (texture.quake2.nextFrameName.empty()) inner.Add(name, bytes);
     }
     pack.Add("packs/inner.pak", inner.Build());
