@@ -1,5 +1,6 @@
 #include "formats/Codec.h"
 
+#include "formats/MIP.h"
 #include "formats/WAL.h"
 
 #include <algorithm>
@@ -8,6 +9,7 @@
 namespace {
 
 constexpr std::array codecs{
+    Codec{"MIPDocument", ReadMIP, WriteMIP, true, DefaultPalette::quake},
     Codec{"WALDocument", ReadWAL, WriteWAL, true, DefaultPalette::quake2},
 };
 

@@ -1,25 +1,47 @@
 #include "formats/GameTexture.h"
 
-#include "framework/core/Exceptions.h"
 #include "image/picture/ColorList.h"
-#include "image/picture/Image.h"
+#include "image/picture/Texture.h"
 #include "resources/streams/OutputStream.h"
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 namespace gametexture {
 
 namespace {
 
+constexpr std::size_t maximumColors = 256; // that a byte can tell apart
+
+bool IsAllowedSide(std::uint32_t side) {
+    return side <= maximumSide && IsFittingSide(static_cast<int>(side));
+}
+
 void WriteIndices(OutputStream& out, const Image& picture, const ColorList& palette) {
-    const std::span<const Color> pixels = picture.Pixels();
-    std::vector<std::uint8_t> indices(pixels.size());
-    std::transform(pixels.begin(), pixels.end(), indices.begin(),
-                   [&](Color color) { return static_cast<std::uint8_t>(palette.FindNearestIndex(color)); });
+    std::vector<std::uint8_t> indices(picture.Pixels().size());
+    FindIndices(picture.Pixels(), palette, indices);
     out.Write(std::span<const std::uint8_t>(indices));
 }
 
 } // namespace
+
+void CheckSides(const InputStream& in, std::uint32_t width, std::uint32_t height) {
+    if (!IsAllowedSide(width) || !IsAllowedSide(height)) in.Fail(StreamError::badIndex);
+}
+
+void CheckSides(const OutputStream& out, const Image& picture) {
+    if (!IsFittingSide(picture.GetWidth()) || !IsFittingSide(picture.GetHeight()))
+        out.Fail(StreamError::badIndex);
+}
+
+const ColorList& PaletteOf(const Texture& texture, const ColorList* fallback) {
+    return texture.palette ? std::as_const(*texture.palette) : *fallback;
+}
+
+void CheckPalette(const OutputStream& out, const ColorList& palette) {
+    if (palette.GetCount() == 0 || palette.GetCount() > maximumColors) out.Fail(StreamError::badIndex);
+}
 
 std::array<std::uint32_t, levelCount> LevelOffsets(std::uint32_t start, int width, int height) {
     std::array<std::uint32_t, levelCount> offsets;
@@ -34,7 +56,7 @@ std::array<std::uint32_t, levelCount> LevelOffsets(std::uint32_t start, int widt
 
 void ReadIndices(InputStream& in, Image& picture, int width, int height, const ColorList& palette) {
     const std::size_t count = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
-    if (count > in.GetRemaining()) throw CArchiveException(CArchiveException::endOfFile);
+    if (count > in.GetRemaining()) in.Fail(StreamError::endOfFile);
     std::vector<std::uint8_t> indices(count);
     in.Read(std::span<std::uint8_t>(indices));
     const std::span<const Color> colors = palette.Colors();
@@ -42,6 +64,11 @@ void ReadIndices(InputStream& in, Image& picture, int width, int height, const C
     picture.SetSize(width, height);
     std::transform(indices.begin(), indices.end(), picture.Pixels().begin(),
                    [&](std::uint8_t index) { return colors[index]; });
+}
+
+void FindIndices(std::span<const Color> pixels, const ColorList& palette, std::span<std::uint8_t> indices) {
+    std::transform(pixels.begin(), pixels.end(), indices.begin(),
+                   [&](Color color) { return static_cast<std::uint8_t>(palette.FindNearestIndex(color)); });
 }
 
 void WriteMipLevels(OutputStream& out, const Image& picture, const ColorList& palette) {

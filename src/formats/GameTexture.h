@@ -1,14 +1,19 @@
 #pragma once
 
+#include "framework/core/Text.h"
+#include "image/picture/Color.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 
 class ColorList;
 class Image;
 class InputStream;
 class OutputStream;
+class Texture;
 
 // What the game texture formats share: their sizes, four mip levels of palette indices, names in fixed
 // fields.
@@ -27,6 +32,16 @@ constexpr bool IsFittingSide(int side) {
     return side > 0 && FittingSide(side) == side;
 }
 
+// Calls Fail(badIndex) for sides that the formats do not allow.
+void CheckSides(const InputStream& in, std::uint32_t width, std::uint32_t height);
+void CheckSides(const OutputStream& out, const Image& picture);
+
+// The palette that the indices of a file refer to: the texture's own, else the default one.
+const ColorList& PaletteOf(const Texture& texture, const ColorList* fallback);
+// Calls Fail(badIndex) for a palette that bytes cannot be indices of: an empty one, or of more than 256
+// colours.
+void CheckPalette(const OutputStream& out, const ColorList& palette);
+
 // Offsets of the four levels when the first lies at `start` and they follow one another.
 std::array<std::uint32_t, levelCount> LevelOffsets(std::uint32_t start, int width, int height);
 
@@ -34,13 +49,23 @@ std::array<std::uint32_t, levelCount> LevelOffsets(std::uint32_t start, int widt
 // an index past the end of the palette; endOfFile before the picture is made when there are too few.
 void ReadIndices(InputStream& in, Image& picture, int width, int height, const ColorList& palette);
 
+// The index of the nearest palette colour for each pixel. The palette has 1 to 256 colours.
+void FindIndices(std::span<const Color> pixels, const ColorList& palette, std::span<std::uint8_t> indices);
+
 // Writes the picture and its three half sizes as indices of the nearest palette colours.
 void WriteMipLevels(OutputStream& out, const Image& picture, const ColorList& palette);
 
-// Fills a zeroed field with a name, which keeps a NUL at its end.
+// The text of a name's field: up to its first NUL, or all of it.
 template <std::size_t n>
-void PutName(char (&field)[n], const std::string& name) {
-    name.copy(field, n - 1);
+std::string GetName(const char (&field)[n]) {
+    return std::string(UpToNul({field, n}));
+}
+
+// Fills a zeroed field with as much of a name as fits; whether a NUL must stay at its end, the format says.
+enum class NameEnd { withNul, anyCharacter };
+template <std::size_t n>
+void PutName(char (&field)[n], const std::string& name, NameEnd end) {
+    name.copy(field, end == NameEnd::withNul ? n - 1 : n);
 }
 
 } // namespace gametexture

@@ -1,0 +1,91 @@
+#include "formats/MIP.h"
+
+#include "formats/GameTexture.h"
+#include "image/picture/RgbTriples.h"
+#include "image/picture/Texture.h"
+#include "resources/streams/OutputStream.h"
+
+#include <algorithm>
+#include <cstring>
+#include <vector>
+
+using namespace gametexture;
+
+namespace {
+
+// As it lies in the file; little-endian.
+struct Header {
+    char name[16]; // ended by a NUL when shorter
+    std::uint32_t width, height;
+    std::uint32_t offsets[levelCount]; // of the levels, from the start of the header
+};
+static_assert(sizeof(Header) == 40);
+
+// After the levels: a signed 16-bit count, then red, green and blue of so many colours. A full palette is
+// what makes the end of a file a palette; some tools fill it up to a multiple of four bytes.
+constexpr std::int16_t fullCount = 256;
+constexpr std::int64_t fullTrailerSize = sizeof fullCount + fullCount * rgbTripleSize;
+constexpr std::int64_t maximumPadding = 2;
+
+// From the start of the header. The offsets are the file's and may be anything.
+std::uint64_t EndOfLevels(const Header& header) {
+    std::uint64_t end = sizeof header;
+    for (int k = 0; k < levelCount; ++k) {
+        const std::uint64_t size = std::uint64_t{header.width >> k} * (header.height >> k);
+        end = std::max(end, header.offsets[k] + size);
+    }
+    return end;
+}
+
+bool IsTrailerSize(std::int64_t size) {
+    return size >= fullTrailerSize && size <= fullTrailerSize + maximumPadding;
+}
+
+// Null when what follows the position is not as long as a palette.
+std::unique_ptr<ColorList> ReadTrailer(InputStream& in, std::uint64_t position) {
+    if (!IsTrailerSize(static_cast<std::int64_t>(in.GetLength()) - static_cast<std::int64_t>(position)))
+        return nullptr;
+    in.Seek(position);
+    const auto count = in.Read<std::int16_t>();
+    if (count < 1 || count > fullCount) in.Fail(StreamError::badIndex);
+    std::vector<std::uint8_t> triples(static_cast<std::size_t>(count) * rgbTripleSize);
+    in.Read(std::span<std::uint8_t>(triples));
+    return std::make_unique<ColorList>(ColorsFromTriples(triples));
+}
+
+void WriteTrailer(OutputStream& out, const ColorList& palette) {
+    out.Write(static_cast<std::int16_t>(palette.GetCount()));
+    std::vector<std::uint8_t> triples(palette.GetCount() * rgbTripleSize);
+    PutTriples(palette, triples);
+    out.Write(std::span<const std::uint8_t>(triples));
+}
+
+} // namespace
+
+void ReadMIP(InputStream& in, Texture& texture, const ColorList* palette) {
+    const std::uint64_t start = in.GetPosition();
+    Header header;
+    in.Read(&header, sizeof header);
+    CheckSides(in, header.width, header.height);
+    std::unique_ptr<ColorList> ownPalette = ReadTrailer(in, start + EndOfLevels(header));
+    in.Seek(start + header.offsets[0]);
+    ReadIndices(in, texture, static_cast<int>(header.width), static_cast<int>(header.height),
+                ownPalette ? *ownPalette : PaletteOf(texture, palette));
+    if (ownPalette) texture.palette = std::move(ownPalette);
+    texture.quakeName = GetName(header.name);
+}
+
+void WriteMIP(OutputStream& out, const Texture& texture, const ColorList* palette) {
+    const ColorList& colors = PaletteOf(texture, palette);
+    CheckSides(out, texture);
+    CheckPalette(out, colors);
+    Header header{};
+    PutName(header.name, texture.quakeName, NameEnd::anyCharacter);
+    header.width = static_cast<std::uint32_t>(texture.GetWidth());
+    header.height = static_cast<std::uint32_t>(texture.GetHeight());
+    const auto offsets = LevelOffsets(sizeof header, texture.GetWidth(), texture.GetHeight());
+    std::memcpy(header.offsets, offsets.data(), sizeof header.offsets);
+    out.Write(&header, sizeof header);
+    WriteMipLevels(out, texture, colors);
+    if (texture.palette) WriteTrailer(out, colors);
+}

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "formats/Codec.h"
+#include "framework/core/CMemFile.h"
+#include "image/picture/ColorList.h"
+#include "image/picture/Texture.h"
+#include "resources/streams/ArchiveStream.h"
+#include "support/PackBuilder.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <random>
+
+// Reading and writing pictures of one format in memory, with a palette of 256 different colours as the
+// format's default one.
+class CodecHarness {
+public:
+    explicit CodecHarness(const char* documentClass) : codec(*FindCodec(documentClass)) {}
+
+    static const ColorList& Palette() {
+        static const ColorList palette = [] {
+            ColorList colors(256);
+            for (std::uint32_t i = 0; i < 256; ++i)
+                colors.SetColor(i, Compose(i, i * 37 % 256, (255 - i) * 11 % 256));
+            return colors;
+        }();
+        return palette;
+    }
+
+    // What reading the bytes makes of the texture.
+    Texture Read(Bytes bytes, Texture texture = Texture()) const {
+        bytes.shrink_to_fit(); // so that a reader past the end is noticed
+        CMemFile file(bytes);
+        CArchive archive(file, CArchive::load);
+        ArchiveStream in(archive);
+        codec.read(in, texture, &Palette());
+        return texture;
+    }
+
+    Bytes Write(const Texture& texture) const {
+        CMemFile file;
+        CArchive archive(file, CArchive::store);
+        ArchiveStream out(archive);
+        codec.write(out, texture, &Palette());
+        archive.Flush();
+        return {file.Bytes().begin(), file.Bytes().end()};
+    }
+
+    // Why the bytes are refused; none when they are not.
+    CArchiveException::Cause ReadFailure(const Bytes& bytes, const Texture& texture = Texture()) const {
+        return FailureOf([&] { Read(bytes, texture); });
+    }
+    CArchiveException::Cause WriteFailure(const Texture& texture) const {
+        return FailureOf([&] { Write(texture); });
+    }
+
+    const Codec& codec;
+
+private:
+    template <class Action>
+    static CArchiveException::Cause FailureOf(Action&& action) {
+        try {
+            action();
+        } catch (const CArchiveException& failure) {
+            return failure.cause;
+        }
+        return CArchiveException::none;
+    }
+};
+
+// Overwrites the number at the offset, little-endian.
+template <class T>
+void Put(Bytes& bytes, std::size_t offset, T value) {
+    std::memcpy(bytes.data() + offset, &value, sizeof value);
+}
+
+inline std::vector<unsigned> Tail(const Bytes& bytes, std::size_t first) {
+    std::vector<unsigned> tail;
+    for (std::size_t i = first; i < bytes.size(); ++i) tail.push_back(std::to_integer<unsigned>(bytes[i]));
+    return tail;
+}
+
+inline bool SamePixels(const Image& left, const Image& right) {
+    return left.GetWidth() == right.GetWidth() && left.GetHeight() == right.GetHeight() &&
+           std::ranges::equal(left.Pixels(), right.Pixels());
+}
+
+// Colours of the list in no order.
+inline Texture RandomTexture(int width, int height, const ColorList& colors) {
+    std::mt19937 random(17);
+    Texture texture(width, height);
+    for (Color& pixel : texture.Pixels()) pixel = colors[random() % colors.GetCount()];
+    return texture;
+}
