@@ -1,6 +1,7 @@
 #include "formats/Codec.h"
 
 #include "formats/MIP.h"
+#include "formats/PCX.h"
 #include "formats/WAL.h"
 
 #include <algorithm>
@@ -10,6 +11,7 @@ namespace {
 
 constexpr std::array codecs{
     Codec{"MIPDocument", ReadMIP, WriteMIP, true, DefaultPalette::quake},
+    Codec{"PCXDocument", ReadPCX, WritePCX, false, DefaultPalette::quake2},
     Codec{"WALDocument", ReadWAL, WriteWAL, true, DefaultPalette::quake2},
 };
 

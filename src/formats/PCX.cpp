@@ -1,0 +1,172 @@
+#include "formats/PCX.h"
+
+#include "formats/ByteReader.h"
+#include "formats/GameTexture.h"
+#include "image/picture/RgbTriples.h"
+#include "image/picture/Texture.h"
+#include "resources/streams/OutputStream.h"
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+using namespace gametexture;
+
+namespace {
+
+constexpr std::uint8_t expectedManufacturer = 10;
+constexpr std::uint8_t expectedVersion = 5;
+constexpr std::uint8_t runLengthEncoding = 1;
+constexpr std::uint16_t writtenResolution = 72; // dots per inch
+constexpr std::uint16_t colorPalette = 1;
+
+// As it lies in the file; little-endian.
+struct Header {
+    std::uint8_t manufacturer, version, encoding, bitsPerPixel;
+    std::uint16_t left, top, right, bottom; // the last column and row still belong to the picture
+    std::uint16_t horizontalResolution, verticalResolution;
+    std::uint8_t firstColors[16 * rgbTripleSize];
+    std::uint8_t reserved;
+    std::uint8_t planes;
+    std::uint16_t bytesPerLine; // of one plane, even
+    std::uint16_t paletteInfo;
+    std::uint16_t screenWidth, screenHeight;
+    std::uint8_t filler[54];
+
+    std::size_t LineSize() const { return std::size_t{planes} * bytesPerLine; }
+    int Width() const { return right - left + 1; }
+    int Height() const { return bottom - top + 1; }
+};
+static_assert(sizeof(Header) == 128);
+
+// Two set bits at the top of a byte make it a run: the lower bits count how often the next byte repeats.
+constexpr unsigned runMark = 0xC0;
+constexpr unsigned maximumRun = 0x3F;
+
+constexpr bool IsRun(unsigned byte) {
+    return (byte & runMark) == runMark;
+}
+
+// The end of a file with a palette.
+constexpr std::uint8_t paletteMark = 12;
+struct Trailer {
+    std::uint8_t mark;
+    std::array<std::uint8_t, 256 * rgbTripleSize> colors;
+};
+static_assert(sizeof(Trailer) == 769);
+
+// In this order: the first fault decides what the user is told.
+void CheckHeader(const InputStream& in, const Header& header) {
+    if (header.manufacturer != expectedManufacturer) in.Fail(StreamError::badClass);
+    if (header.version != expectedVersion) in.Fail(StreamError::badSchema);
+    const bool isReadable = header.encoding == runLengthEncoding && header.bitsPerPixel == 8 &&
+                            header.planes == 1 && header.bytesPerLine % 2 == 0;
+    const bool hasPicture = header.Width() > 0 && header.Height() > 0 &&
+                            header.LineSize() >= static_cast<std::size_t>(header.Width());
+    if (!isReadable || !hasPicture) in.Fail(StreamError::badIndex);
+}
+
+// A row takes at least so many bytes, however well it is coded.
+void CheckLength(const InputStream& in, const Header& header) {
+    const std::uint64_t runs = (header.LineSize() + maximumRun - 1) / maximumRun;
+    if (2 * runs * static_cast<std::uint64_t>(header.Height()) > in.GetRemaining())
+        in.Fail(StreamError::endOfFile);
+}
+
+// Leaves the stream where the rows begin.
+ColorList ReadPalette(InputStream& in, const ColorList& fallback) {
+    const std::uint64_t rows = in.GetPosition();
+    Trailer trailer{};
+    if (in.GetLength() > sizeof trailer) {
+        in.Seek(-static_cast<std::int64_t>(sizeof trailer), CFile::From::end);
+        in.Read(&trailer, sizeof trailer);
+        in.Seek(rows);
+    }
+    return trailer.mark == paletteMark ? ColorsFromTriples(trailer.colors) : fallback;
+}
+
+void ReadLine(ByteReader& bytes, const InputStream& in, std::span<std::uint8_t> line) {
+    for (auto place = line.begin(); place != line.end();) {
+        const std::uint8_t byte = bytes.Next();
+        if (!IsRun(byte)) {
+            *place++ = byte;
+            continue;
+        }
+        const std::ptrdiff_t count = byte & maximumRun;
+        const std::uint8_t value = bytes.Next();
+        if (count > line.end() - place) in.Fail(StreamError::badIndex);
+        place = std::fill_n(place, count, value);
+    }
+}
+
+Header HeaderOf(const Texture& texture, const ColorList& colors) {
+    Header header{};
+    header.manufacturer = expectedManufacturer;
+    header.version = expectedVersion;
+    header.encoding = runLengthEncoding;
+    header.bitsPerPixel = 8;
+    header.right = static_cast<std::uint16_t>(texture.GetWidth() - 1);
+    header.bottom = static_cast<std::uint16_t>(texture.GetHeight() - 1);
+    header.horizontalResolution = header.verticalResolution = writtenResolution;
+    PutTriples(colors, header.firstColors);
+    header.planes = 1;
+    header.bytesPerLine = static_cast<std::uint16_t>((texture.GetWidth() + 1) / 2 * 2);
+    header.paletteInfo = colorPalette;
+    return header;
+}
+
+// Codes each index by itself: a run of one where it would look like the mark of a run.
+void PutLine(std::vector<std::uint8_t>& bytes, std::span<const std::uint8_t> indices) {
+    for (const std::uint8_t index : indices) {
+        if (IsRun(index)) bytes.push_back(runMark | 1);
+        bytes.push_back(index);
+    }
+    if (indices.size() % 2 != 0) bytes.push_back(0);
+}
+
+void WriteLines(OutputStream& out, const Image& picture, const ColorList& colors) {
+    std::vector<std::uint8_t> indices(static_cast<std::size_t>(picture.GetWidth()));
+    std::vector<std::uint8_t> bytes;
+    for (int y = 0; y < picture.GetHeight(); ++y) {
+        FindIndices(picture.Row(y), colors, indices);
+        bytes.clear();
+        PutLine(bytes, indices);
+        out.Write(std::span<const std::uint8_t>(bytes));
+    }
+}
+
+} // namespace
+
+void ReadPCX(InputStream& in, Texture& texture, const ColorList* palette) {
+    Header header;
+    in.Read(&header, sizeof header);
+    CheckHeader(in, header);
+    CheckLength(in, header);
+    const ColorList palette256 = ReadPalette(in, *palette);
+    const std::span<const Color> colors = palette256.Colors();
+    texture.SetSize(header.Width(), header.Height());
+    std::vector<std::uint8_t> line(header.LineSize());
+    ByteReader bytes(in);
+    for (int y = 0; y < header.Height(); ++y) {
+        ReadLine(bytes, in, line);
+        const std::span<Color> row = texture.Row(y);
+        std::transform(line.begin(), line.begin() + header.Width(), row.begin(),
+                       [&](std::uint8_t index) { return colors[index]; });
+    }
+    texture.SetPalette(palette256);
+}
+
+void WritePCX(OutputStream& out, const Texture& texture, const ColorList* palette) {
+    constexpr int maximumWidth = 65534; // rows are brought to an even number of bytes, which is 16 bits wide
+    const ColorList& colors = PaletteOf(texture, palette);
+    if (texture.GetWidth() < 1 || texture.GetWidth() > maximumWidth || texture.GetHeight() < 1)
+        out.Fail(StreamError::badIndex);
+    CheckPalette(out, colors);
+    const Header header = HeaderOf(texture, colors);
+    out.Write(&header, sizeof header);
+    WriteLines(out, texture, colors);
+    if (!texture.palette) return;
+    Trailer trailer{paletteMark, {}};
+    PutTriples(colors, trailer.colors);
+    out.Write(&trailer, sizeof trailer);
+}
