@@ -47,7 +47,7 @@ TEST_F(FileTest, OpensOrdinaryFilesOnly) {
     EXPECT_EQ(OpenFailure(PathTo(""), CFile::modeRead), CFileException::invalidFile);
     EXPECT_EQ(OpenFailure(PathTo("missing"), CFile::modeRead), CFileException::fileNotFound);
     EXPECT_EQ(OpenFailure(PathTo("missing/file"), CFile::modeCreate | CFile::modeWrite),
-              CFileException::fileNotFound);
+              CFileException::badPath);
 }
 
 TEST_F(FileTest, DuplicatesKeepTheirOwnPosition) {
