@@ -54,44 +54,51 @@ struct WideColumns {
     __m256i odd;
 };
 
-// Both halve from the given output pixel on as many blocks as fill their vectors, and return the pixel they
-// stopped at.
+// Both halve the output columns from the given one on as far as whole vectors reach, in all rows before they
+// return, and return the column they stopped at.
 
-std::size_t HalveByEights(std::span<const Color> upper, std::span<const Color> lower, std::span<Color> output,
-                          std::size_t first) {
-    std::size_t i = first;
-    for (; 2 * i + 8 <= upper.size(); i += 4) {
-        const Columns above(upper.data() + 2 * i);
-        const Columns below(lower.data() + 2 * i);
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(output.data() + i),
-                         FloorOfMean(above.even, above.odd, below.even, below.odd));
+std::size_t HalveByEights(const RowPairs& rows, std::size_t firstColumn) {
+    const std::size_t end = rows.width / 8 * 4;
+    for (std::size_t pair = 0; firstColumn < end && pair < rows.count; ++pair) {
+        const Color* upper = rows.Upper(pair);
+        const Color* lower = rows.Lower(pair);
+        Color* output = rows.Output(pair);
+        for (std::size_t i = firstColumn; i < end; i += 4) {
+            const Columns above(upper + 2 * i);
+            const Columns below(lower + 2 * i);
+            _mm_storeu_si128(reinterpret_cast<__m128i*>(output + i),
+                             FloorOfMean(above.even, above.odd, below.even, below.odd));
+        }
     }
-    return i;
+    return end;
 }
 
-[[gnu::target("avx2")]] std::size_t HalveBySixteens(std::span<const Color> upper,
-                                                    std::span<const Color> lower, std::span<Color> output) {
-    std::size_t i = 0;
-    for (; 2 * i + 16 <= upper.size(); i += 8) {
-        const WideColumns above(upper.data() + 2 * i);
-        const WideColumns below(lower.data() + 2 * i);
-        const __m256i means = FloorOfMean(above.even, above.odd, below.even, below.odd);
-        _mm256_storeu_si256(reinterpret_cast<__m256i*>(output.data() + i),
-                            _mm256_permute4x64_epi64(means, _MM_SHUFFLE(3, 1, 2, 0)));
+[[gnu::target("avx2")]] std::size_t HalveBySixteens(const RowPairs& rows) {
+    const std::size_t end = rows.width / 16 * 8;
+    for (std::size_t pair = 0; pair < rows.count; ++pair) {
+        const Color* upper = rows.Upper(pair);
+        const Color* lower = rows.Lower(pair);
+        Color* output = rows.Output(pair);
+        for (std::size_t i = 0; i < end; i += 8) {
+            const WideColumns above(upper + 2 * i);
+            const WideColumns below(lower + 2 * i);
+            const __m256i means = FloorOfMean(above.even, above.odd, below.even, below.odd);
+            _mm256_storeu_si256(reinterpret_cast<__m256i*>(output + i),
+                                _mm256_permute4x64_epi64(means, _MM_SHUFFLE(3, 1, 2, 0)));
+        }
     }
-    return i;
+    return end;
 }
 
-/// Without the wider vectors the narrow ones do all, so a test with lengths of every remainder reaches both.
-std::size_t HalveByVectors(std::span<const Color> upper, std::span<const Color> lower,
-                           std::span<Color> output) {
-    static const bool isWide = __builtin_cpu_supports("avx2") != 0;
-    return HalveByEights(upper, lower, output, isWide ? HalveBySixteens(upper, lower, output) : 0);
+/// Where the wide vectors leave columns over, the narrow ones go on.
+std::size_t HalveByVectors(const RowPairs& rows) {
+    const bool isWide = __builtin_cpu_supports("avx2") != 0;
+    return HalveByEights(rows, isWide ? HalveBySixteens(rows) : 0);
 }
 
 #else
 
-std::size_t HalveByVectors(std::span<const Color>, std::span<const Color>, std::span<Color>) {
+std::size_t HalveByVectors(const RowPairs&) {
     return 0;
 }
 
@@ -99,15 +106,20 @@ std::size_t HalveByVectors(std::span<const Color>, std::span<const Color>, std::
 
 } // namespace
 
-void HalveRowsPlain(std::span<const Color> upper, std::span<const Color> lower, std::span<Color> output,
-                    std::size_t first) {
-    const std::size_t blocks = upper.size() / 2;
-    for (std::size_t i = first; i < blocks; ++i) {
-        output[i] = Average4(upper[2 * i], upper[2 * i + 1], lower[2 * i], lower[2 * i + 1]);
+void HalveRowPairsPlain(const RowPairs& rows, std::size_t firstColumn) {
+    const std::size_t blocks = rows.width / 2;
+    const bool isOdd = rows.width % 2 != 0;
+    for (std::size_t pair = 0; (firstColumn < blocks || isOdd) && pair < rows.count; ++pair) {
+        const Color* upper = rows.Upper(pair);
+        const Color* lower = rows.Lower(pair);
+        Color* output = rows.Output(pair);
+        for (std::size_t i = firstColumn; i < blocks; ++i) {
+            output[i] = Average4(upper[2 * i], upper[2 * i + 1], lower[2 * i], lower[2 * i + 1]);
+        }
+        if (isOdd) output[blocks] = Average2(upper[rows.width - 1], lower[rows.width - 1]);
     }
-    if (upper.size() % 2 != 0) output[blocks] = Average2(upper.back(), lower.back());
 }
 
-void HalveRows(std::span<const Color> upper, std::span<const Color> lower, std::span<Color> output) {
-    HalveRowsPlain(upper, lower, output, HalveByVectors(upper, lower, output));
+void HalveRowPairs(const RowPairs& rows) {
+    HalveRowPairsPlain(rows, HalveByVectors(rows));
 }

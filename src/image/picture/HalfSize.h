@@ -2,7 +2,7 @@
 
 #include "image/picture/Color.h"
 
-#include <span>
+#include <cstddef>
 
 // Averages are the floor of the mean in each of the four channels. Blue and red, and green and alpha, are
 // summed two at a time: shifting green and alpha first leaves room at the top for the carry and keeps their
@@ -24,11 +24,23 @@ constexpr Color Average4(Color first, Color second, Color third, Color fourth) {
     return (lowSum >> 2 & low) | (highSum & high);
 }
 
-/// Averages the 2 x 2 blocks of two rows of equal length into (length + 1) / 2 pixels; an odd last column is
-/// averaged alone. Given one row twice, it averages along that row. Uses the processor's vectors where there
-/// are any.
-void HalveRows(std::span<const Color> upper, std::span<const Color> lower, std::span<Color> output);
+/// Rows to be averaged two by two into rows of (width + 1) / 2 pixels, all without padding.
+struct RowPairs {
+    const Color* pixels = nullptr;
+    std::size_t width = 0;
+    std::size_t count = 0;
+    /// From each pair's upper row to its lower one: the width, or 0 to average a single row with itself.
+    std::size_t lowerDistance = 0;
+    Color* output = nullptr;
 
-/// The same pixel by pixel, from the given output pixel on.
-void HalveRowsPlain(std::span<const Color> upper, std::span<const Color> lower, std::span<Color> output,
-                    std::size_t first = 0);
+    const Color* Upper(std::size_t pair) const { return pixels + 2 * pair * width; }
+    const Color* Lower(std::size_t pair) const { return Upper(pair) + lowerDistance; }
+    Color* Output(std::size_t pair) const { return output + pair * ((width + 1) / 2); }
+};
+
+/// Fills the output with the averages of the 2 x 2 blocks; an odd last column is averaged alone. Uses the
+/// processor's vectors where there are any.
+void HalveRowPairs(const RowPairs& rows);
+
+/// The same pixel by pixel, from the given output column on.
+void HalveRowPairsPlain(const RowPairs& rows, std::size_t firstColumn = 0);

@@ -73,11 +73,12 @@ void Image::Resize(int newWidth, int newHeight) {
 
 void Image::MakeHalfSize(Image& output) const {
     output.SetSize((width + 1) >> 1, (height + 1) >> 1);
-    for (int y = 0; y < output.height; ++y) {
-        // The last row of an odd height is its own partner: the average of equal values is the value.
-        const int partner = std::min(2 * y + 1, height - 1);
-        HalveRows(Row(2 * y), Row(partner), output.Row(y));
-    }
+    const std::size_t columns = Side(width);
+    const std::size_t pairs = Side(height / 2);
+    HalveRowPairs({pixels.data(), columns, pairs, columns, output.pixels.data()});
+    if (height % 2 == 0) return;
+    // The last row is its own partner: the average of equal values is the value.
+    HalveRowPairs({Row(height - 1).data(), columns, 1, 0, output.Row(output.height - 1).data()});
 }
 
 void Image::FromBitmap(const DibSection& bitmap) {

@@ -109,14 +109,13 @@ TEST(HalfSizeTest, AveragesAreTheFloorOfEveryChannel) {
 
 TEST(HalfSizeTest, VectorsGiveWhatSinglePixelsGive) {
     std::mt19937 random(2);
-    for (std::size_t length = 0; length < 200; ++length) {
-        const std::vector<Color> upper = RandomRow(length, random);
-        const std::vector<Color> lower = RandomRow(length, random);
-        std::vector<Color> expected((length + 1) / 2);
+    for (std::size_t width = 0; width < 100; ++width) {
+        const std::vector<Color> pixels = RandomRow(6 * width, random);
+        std::vector<Color> expected((width + 1) / 2 * 3);
         std::vector<Color> actual(expected.size());
-        HalveRowsPlain(upper, lower, expected);
-        HalveRows(upper, lower, actual);
-        ASSERT_EQ(actual, expected) << length;
+        HalveRowPairsPlain({pixels.data(), width, 3, width, expected.data()});
+        HalveRowPairs({pixels.data(), width, 3, width, actual.data()});
+        ASSERT_EQ(actual, expected) << width;
     }
 }
 
@@ -124,12 +123,15 @@ TEST(HalfSizeTest, VectorsRoundEveryCombinationOfLowBitsAndExtremes) {
     const std::vector<Color> values{0, 1, 2, 3, 127, 128, 252, 253, 254, 255};
     std::vector<Color> upper;
     std::vector<Color> lower;
+    // Every four of the values, spread over all channels.
     for (std::size_t i = 0; i < 10000; ++i) {
         upper.insert(upper.end(), {values[i % 10] * 0x01010101U, values[i / 10 % 10] * 0x01010101U});
         lower.insert(lower.end(), {values[i / 100 % 10] * 0x01010101U, values[i / 1000] * 0x01010101U});
     }
+    std::vector<Color> both(upper);
+    both.insert(both.end(), lower.begin(), lower.end());
     std::vector<Color> halved(10000);
-    HalveRows(upper, lower, halved);
+    HalveRowPairs({both.data(), upper.size(), 1, upper.size(), halved.data()});
     for (std::size_t i = 0; i < halved.size(); ++i) {
         ASSERT_EQ(halved[i], Mean({upper[2 * i], upper[2 * i + 1], lower[2 * i], lower[2 * i + 1]})) << i;
     }
