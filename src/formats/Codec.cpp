@@ -2,6 +2,7 @@
 
 #include "formats/MIP.h"
 #include "formats/PCX.h"
+#include "formats/TGA.h"
 #include "formats/WAL.h"
 
 #include <algorithm>
@@ -12,6 +13,7 @@ namespace {
 constexpr std::array codecs{
     Codec{"MIPDocument", ReadMIP, WriteMIP, true, DefaultPalette::quake},
     Codec{"PCXDocument", ReadPCX, WritePCX, false, DefaultPalette::quake2},
+    Codec{"TGADocument", ReadTGA, WriteTGA, false, DefaultPalette::none},
     Codec{"WALDocument", ReadWAL, WriteWAL, true, DefaultPalette::quake2},
 };
 

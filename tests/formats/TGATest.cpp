@@ -1,0 +1,141 @@
+#include "formats/CodecHarness.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+constexpr std::size_t headerSize = 18;
+constexpr std::size_t footerSize = 26;
+
+class TGATest : public testing::Test {
+protected:
+    static constexpr Color pixels[] = {0xFF0000FF, 0xFF00FF00, 0xFFFF0000,
+                                       0xFF112233, 0xFF445566, 0xFF778899};
+
+    // 3 x 2, opaque.
+    TGATest() : picture(3, 2) { std::ranges::copy(pixels, picture.Pixels().begin()); }
+
+    // The picture's file, with a byte of its header changed.
+    Bytes FileWith(std::size_t offset, int value) const {
+        Bytes bytes = tga.Write(picture);
+        Put(bytes, offset, static_cast<std::uint8_t>(value));
+        return bytes;
+    }
+
+    CodecHarness tga{"TGADocument"};
+    Texture picture;
+};
+
+} // namespace
+
+TEST_F(TGATest, WritesAlphaOnlyWhereThereIsSome) {
+    Bytes bytes = tga.Write(picture);
+    ASSERT_EQ(bytes.size(), headerSize + 3 * 6 + footerSize);
+    EXPECT_THAT(Tail({bytes.begin(), bytes.begin() + headerSize + 6}, 0),
+                testing::ElementsAre(0, 0, 2, 0, 0, 0, 0, 0, 0, 0, 0, 0, 3, 0, 2, 0, 24, 0, //
+                                     0x33, 0x22, 0x11, 0x66, 0x55, 0x44));
+    EXPECT_THAT(Tail(bytes, headerSize + 18 + 22), testing::ElementsAre('L', 'E', '.', 0));
+    picture.SetPixel(2, 1, 0xFE778899);
+    bytes = tga.Write(picture);
+    ASSERT_EQ(bytes.size(), headerSize + 4 * 6 + footerSize);
+    EXPECT_EQ(bytes[16], std::byte{32});
+    EXPECT_EQ(bytes[17], std::byte{8});
+    EXPECT_EQ(bytes[headerSize + 11], std::byte{0xFE});
+    EXPECT_TRUE(SamePixels(tga.Read(bytes), picture));
+    EXPECT_EQ(tga.WriteFailure(Texture(0, 1)), CArchiveException::badIndex);
+}
+
+TEST_F(TGATest, TheFirstPixelMayLieInAnyCorner) {
+    const auto& p = pixels;
+    const Texture bottomLeft = tga.Read(FileWith(17, 0));
+    EXPECT_THAT(bottomLeft.Pixels(), testing::ElementsAre(p[0], p[1], p[2], p[3], p[4], p[5]));
+    const Texture bottomRight = tga.Read(FileWith(17, 0x10));
+    EXPECT_THAT(bottomRight.Pixels(), testing::ElementsAre(p[2], p[1], p[0], p[5], p[4], p[3]));
+    const Texture topLeft = tga.Read(FileWith(17, 0x20));
+    EXPECT_THAT(topLeft.Pixels(), testing::ElementsAre(p[3], p[4], p[5], p[0], p[1], p[2]));
+    const Texture topRight = tga.Read(FileWith(17, 0x30 | 0x0F));
+    EXPECT_THAT(topRight.Pixels(), testing::ElementsAre(p[5], p[4], p[3], p[2], p[1], p[0]));
+}
+
+TEST_F(TGATest, AlphaIsReadWhateverTheDescriptorSaysOfIt) {
+    picture.SetPixel(0, 0, 0x00ABCDEF);
+    EXPECT_TRUE(SamePixels(tga.Read(FileWith(17, 0)), picture));
+}
+
+TEST_F(TGATest, SkipsTheIdentifierAndTheColorMap) {
+    const Bytes plain = tga.Write(picture);
+    struct Map {
+        std::uint8_t type;
+        std::uint16_t length;
+        std::uint8_t entryBits;
+        std::size_t bytes;
+    };
+    for (const Map& map : {Map{0, 300, 24, 0}, Map{1, 300, 24, 900}, Map{1, 5, 15, 10}, Map{1, 5, 0, 5}}) {
+        Bytes bytes = plain;
+        Put<std::uint8_t>(bytes, 0, 7);
+        Put(bytes, 1, map.type);
+        Put(bytes, 5, map.length);
+        Put(bytes, 7, map.entryBits);
+        bytes.insert(bytes.begin() + headerSize, 7 + map.bytes, std::byte{0xAA});
+        EXPECT_TRUE(SamePixels(tga.Read(bytes), picture)) << map.bytes;
+    }
+}
+
+TEST_F(TGATest, BytesMayFollowThePixels) {
+    const Bytes bytes = tga.Write(picture);
+    const auto pixelsEnd = bytes.begin() + headerSize + 18;
+    for (const std::size_t extra : {0U, 8U, 3000U}) {
+        Bytes second(bytes.begin(), pixelsEnd);
+        second.resize(second.size() + extra, std::byte{'.'});
+        EXPECT_TRUE(SamePixels(tga.Read(second), picture)) << extra;
+        second.insert(second.end(), pixelsEnd, bytes.end());
+        EXPECT_TRUE(SamePixels(tga.Read(second), picture)) << extra;
+    }
+}
+
+TEST_F(TGATest, ASignedFooterMustBeWhole) {
+    Bytes bytes = tga.Write(picture);
+    Bytes damaged = bytes;
+    damaged.back() = std::byte{1};
+    EXPECT_EQ(tga.ReadFailure(damaged), CArchiveException::badIndex);
+    damaged = bytes;
+    damaged[bytes.size() - 2] = std::byte{','};
+    EXPECT_EQ(tga.ReadFailure(damaged), CArchiveException::badIndex);
+    damaged[bytes.size() - 3] = std::byte{'F'}; // no signature any more
+    EXPECT_TRUE(SamePixels(tga.Read(damaged), picture));
+}
+
+TEST_F(TGATest, AFileShorterThanAFooterHasNoSuchPosition) {
+    Bytes bytes = tga.Write(picture);
+    bytes.resize(footerSize - 1);
+    try {
+        tga.Read(bytes);
+        ADD_FAILURE() << "it was read";
+    } catch (const CFileException& failure) {
+        EXPECT_EQ(failure.cause, CFileException::badSeek);
+    }
+    bytes.resize(footerSize);
+    EXPECT_EQ(tga.ReadFailure(bytes), CArchiveException::endOfFile);
+}
+
+TEST_F(TGATest, APictureWithoutPixelsIsTransparent) {
+    Bytes bytes = FileWith(2, 0);
+    EXPECT_TRUE(SamePixels(tga.Read(bytes, picture), Texture(3, 2)));
+    Put<std::uint16_t>(bytes, 12, 2048);
+    Put<std::uint16_t>(bytes, 14, 2048);
+    EXPECT_EQ(tga.Read(bytes).GetWidth(), 2048);
+    Put<std::uint16_t>(bytes, 14, 2049);
+    EXPECT_EQ(tga.ReadFailure(bytes), CArchiveException::badIndex);
+}
+
+TEST_F(TGATest, RefusesWhatItCannotShow) {
+    for (const int type : {1, 3, 4, 9, 10, 11, 32, 255})
+        EXPECT_EQ(tga.ReadFailure(FileWith(2, type)), CArchiveException::badIndex) << type;
+    for (const int depth : {0, 1, 8, 15, 16, 23, 33, 255})
+        EXPECT_EQ(tga.ReadFailure(FileWith(16, depth)), CArchiveException::badIndex) << depth;
+    for (const int colorMapType : {2, 255})
+        EXPECT_EQ(tga.ReadFailure(FileWith(1, colorMapType)), CArchiveException::badIndex);
+    EXPECT_EQ(tga.ReadFailure(FileWith(12, 0)), CArchiveException::badIndex);
+    EXPECT_EQ(tga.ReadFailure(FileWith(14, 0)), CArchiveException::badIndex);
+    EXPECT_EQ(tga.ReadFailure(FileWith(15, 0xFF)), CArchiveException::endOfFile);
+}
