@@ -21,6 +21,7 @@ struct Vectors {
     auto& rows = vectors.rows;
     const __m256i channelsTogether = _mm256_setr_epi8(0, 4, 8, 12, 1, 5, 9, 13, 2, 6, 10, 14, 3, 7, 11, 15, //
                                                       0, 4, 8, 12, 1, 5, 9, 13, 2, 6, 10, 14, 3, 7, 11, 15);
+#pragma GCC unroll 4
     for (__m256i& row : rows) row = _mm256_shuffle_epi8(row, channelsTogether);
     const __m256i low01 = _mm256_unpacklo_epi32(rows[0], rows[1]);
     const __m256i high01 = _mm256_unpackhi_epi32(rows[0], rows[1]);
@@ -96,17 +97,21 @@ struct PieceIndices {
 template <std::size_t channelCount>
 [[gnu::target("avx2")]] std::size_t ShuffleChannels(const ChannelPlanes& channels,
                                                     std::span<const Color> input, std::span<Color> output) {
+    // The loops over vectors are unrolled so that these stay in registers at every level of optimization.
     const std::size_t count = input.size() / shuffledPixels * shuffledPixels;
     for (std::size_t i = 0; i < count; i += shuffledPixels) {
         const auto* source = reinterpret_cast<const __m256i*>(input.data() + i);
         auto* destination = reinterpret_cast<__m256i*>(output.data() + i);
         Vectors vectors;
+#pragma GCC unroll 4
         for (std::size_t row = 0; row < 4; ++row) vectors.rows[row] = _mm256_loadu_si256(source + row);
         Split(vectors);
+#pragma GCC unroll 4
         for (std::size_t channel = 0; channel < channelCount; ++channel) {
             vectors.rows[channel] = LookUp(channels.planes[channel].data(), vectors.rows[channel]);
         }
         Join(vectors);
+#pragma GCC unroll 4
         for (std::size_t row = 0; row < 4; ++row) _mm256_storeu_si256(destination + row, vectors.rows[row]);
     }
     return count;
