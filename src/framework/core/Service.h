@@ -11,19 +11,20 @@ public:
     // The registered object; there must be one.
     static Interface& Get() {
         assert(current);
-        return *current;
+        return *Find();
     }
     // The registered object, or null.
-    static Interface* Find() { return current; }
+    static Interface* Find() { return static_cast<Interface*>(current); }
 
     Service(const Service&) = delete;
     Service& operator=(const Service&) = delete;
 
 protected:
-    Service() : previous(current) { current = static_cast<Interface*>(this); }
+    Service() : previous(current) { current = this; }
     virtual ~Service() { current = previous; }
 
 private:
-    static inline Interface* current = nullptr;
-    Interface* previous;
+    // Not yet the interface: its constructor has not run when this one does.
+    static inline Service* current = nullptr;
+    Service* previous;
 };
