@@ -62,16 +62,20 @@ void CFileDialog::SetFilters(const std::vector<FileFilter>& filters) {
     setNameFilters(names);
 }
 
-// The name in its folder, or the whole path where the folder lies in an archive.
+// Below the innermost folder of the disk; what lies in an archive is named by its way through it.
 void CFileDialog::Propose(const std::string& proposal) {
-    if (proposal.empty()) return;
-    const std::string folder = ParentOf(ToNativePath(proposal));
-    const bool onDisk = folder.empty() || IsFolder(folder);
-    if (onDisk && !folder.empty()) setDirectory(ToQString(folder));
-    if (QLineEdit* edit = NameEdit(*this)) {
-        edit->setText(ToQString(onDisk ? FileNameOf(proposal) : std::string_view(ToDisplayPath(proposal))));
-        edit->selectAll();
+    QLineEdit* edit = NameEdit(*this);
+    if (proposal.empty() || !edit) return;
+    std::string name = ToNativePath(proposal);
+    std::string folder = ParentOf(name);
+    while (!folder.empty() && folder != ParentOf(folder) && !IsFolder(folder)) folder = ParentOf(folder);
+    if (IsFolder(folder)) {
+        setDirectory(ToQString(folder));
+        name.erase(0, folder.size());
+        name.erase(0, name.find_first_not_of('/'));
     }
+    edit->setText(ToQString(name));
+    edit->selectAll();
 }
 
 std::string CFileDialog::GetPathName() const {

@@ -68,7 +68,7 @@ TEST_F(CFileDialogTest, AsksBeforeItReplacesAFile) {
     EXPECT_EQ(Type(false, "README"), Path("README"));
 }
 
-TEST_F(CFileDialogTest, ProposesANameInItsFolderOrAWholePathInAnArchive) {
+TEST_F(CFileDialogTest, ProposesANameInItsFolderOrTheWayThroughAnArchive) {
     FileNameQuestion question;
     question.open = false;
     question.proposal = Path("bitmap1.bmp");
