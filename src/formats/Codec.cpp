@@ -1,5 +1,6 @@
 #include "formats/Codec.h"
 
+#include "formats/BMP.h"
 #include "formats/MIP.h"
 #include "formats/PCX.h"
 #include "formats/TGA.h"
@@ -11,6 +12,7 @@
 namespace {
 
 constexpr std::array codecs{
+    Codec{"BMPDocument", ReadBMP, WriteBMP, false, DefaultPalette::none},
     Codec{"MIPDocument", ReadMIP, WriteMIP, true, DefaultPalette::quake},
     Codec{"PCXDocument", ReadPCX, WritePCX, false, DefaultPalette::quake2},
     Codec{"TGADocument", ReadTGA, WriteTGA, false, DefaultPalette::none},

@@ -44,6 +44,7 @@ public:
     bool IsTopDown() const { return header.height < 0; }
     int GetBitCount() const { return header.bitCount; }
     const DibHeader& GetHeader() const { return header; }
+    const ChannelMasks& GetMasks() const { return masks; }
     /// Bytes of one stored row and of all of them.
     std::size_t GetStride() const { return stride; }
     std::size_t GetImageSize() const { return words.size() * sizeof(Color); }

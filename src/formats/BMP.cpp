@@ -1,0 +1,17 @@
+#include "formats/BMP.h"
+
+#include "image/picture/DibSection.h"
+#include "image/picture/DibStream.h"
+#include "image/picture/Texture.h"
+#include "resources/streams/OutputStream.h"
+
+void ReadBMP(InputStream& in, Texture& texture, const ColorList*) {
+    ReadDib(in, DibForm::file, texture);
+}
+
+void WriteBMP(OutputStream& out, const Texture& texture, const ColorList*) {
+    if (texture.Pixels().empty()) out.Fail(StreamError::badIndex);
+    DibSection bitmap(texture.GetWidth(), texture.GetHeight(), 32);
+    texture.RenderTo(bitmap, IdentityTransform{});
+    WriteDib(out, DibForm::file, bitmap);
+}

@@ -1,0 +1,64 @@
+#include "image/picture/DibStream.h"
+
+#include "formats/CodecHarness.h"
+#include "image/picture/DibSection.h"
+#include "resources/streams/FileStream.h"
+
+// Without a file header the rows follow the whole table, also the entries that no index can reach.
+TEST(DibStreamTest, SkipsTheRestOfTheTable) {
+    for (const std::uint16_t bitCount : {std::uint16_t{1}, std::uint16_t{32}}) {
+        DibHeader header;
+        header.width = header.height = 1;
+        header.bitCount = bitCount;
+        header.colorsUsed = 3;
+        const Color words[] = {1, 2, 3, 0x00ABCD80};
+        CMemFile file;
+        FileStream stream(file);
+        stream.Write(&header, sizeof header);
+        stream.Write(std::span<const Color>(words));
+        stream.Seek(0);
+        Image picture;
+        ReadDib(stream, DibForm::clipboard, picture);
+        EXPECT_EQ(picture.GetPixel(0, 0), bitCount == 1 ? 0xFF000002 : 0xFFABCD80);
+    }
+}
+
+// Bitmaps of every depth go through both forms of stream and come out as they were, and as the picture that
+// is read without a bitmap.
+TEST(DibStreamTest, BitmapsOfEveryDepthSurvive) {
+    DibHeader header;
+    header.width = 5;
+    for (const int bitCount : {1, 4, 8, 16, 24, 32, 16 + 100, 32 + 100}) {
+        for (const int height : {3, -3}) {
+            header.height = height;
+            header.bitCount = static_cast<std::uint16_t>(bitCount % 100);
+            header.compression = bitCount > 100 ? DibHeader::bitFields : DibHeader::uncompressed;
+            DibSection bitmap;
+            bitmap.Create(header, {0xF000, 0x0FF0, 0x000F});
+            std::mt19937 random(3);
+            for (std::size_t i = 0; i < bitmap.GetImageSize(); ++i)
+                bitmap.GetBits()[i] = static_cast<std::uint8_t>(random());
+            bitmap.SetColorTable(0, CodecHarness::Palette().Colors());
+            for (const DibForm form : {DibForm::file, DibForm::clipboard}) {
+                CMemFile file;
+                FileStream stream(file);
+                WriteDib(stream, form, bitmap);
+                EXPECT_EQ(file.GetLength(), bitmap.GetStreamSize(form == DibForm::file)) << bitCount;
+                stream.Seek(0);
+                DibSection back;
+                ReadDib(stream, form, back);
+                EXPECT_EQ(stream.GetRemaining(), 0U) << bitCount;
+                stream.Seek(0);
+                Image picture;
+                ReadDib(stream, form, picture);
+                Image expected;
+                expected.FromBitmap(bitmap);
+                Image fromBack;
+                fromBack.FromBitmap(back);
+                EXPECT_TRUE(SamePixels(fromBack, expected)) << bitCount;
+                EXPECT_TRUE(SamePixels(picture, expected)) << bitCount;
+                EXPECT_EQ(back.IsTopDown(), height < 0);
+            }
+        }
+    }
+}
