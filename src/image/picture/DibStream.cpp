@@ -15,6 +15,7 @@ void WriteTable(OutputStream& out, const DibSection& bitmap) {
         return;
     }
     std::vector<Color> entries(bitmap.GetHeader().ColorTableEntries());
+    if (entries.empty()) return;
     bitmap.GetColorTable(0, entries);
     for (Color& entry : entries) entry &= ~alphaMask; // the fourth byte is reserved
     out.Write(std::span<const Color>(entries));

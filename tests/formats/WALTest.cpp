@@ -1,0 +1,71 @@
+#include "formats/CodecHarness.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+constexpr std::size_t widthOffset = 32;
+constexpr std::size_t offsetsOffset = 40;
+constexpr std::size_t nextFrameOffset = 56;
+
+class WALTest : public testing::Test {
+protected:
+    CodecHarness wal{"WALDocument"};
+    Texture texture = RandomTexture(64, 64, CodecHarness::Palette());
+};
+
+} // namespace
+
+TEST_F(WALTest, LevelsFollowTheHeader) {
+    const Bytes bytes = wal.Write(texture);
+    ASSERT_EQ(bytes.size(), 5540U);
+    std::uint32_t offsets[4];
+    std::memcpy(offsets, bytes.data() + offsetsOffset, sizeof offsets);
+    EXPECT_THAT(offsets, testing::ElementsAre(100U, 4196U, 5220U, 5476U));
+    // Each level is made from the one before it.
+    Image level = texture;
+    for (const std::uint32_t offset : offsets) {
+        const std::size_t index = CodecHarness::Palette().FindNearestIndex(level.GetPixel(3, 5));
+        const auto place = offset + 5 * static_cast<std::size_t>(level.GetWidth()) + 3;
+        EXPECT_EQ(std::to_integer<std::size_t>(bytes[place]), index) << offset;
+        Image half;
+        level.MakeHalfSize(half);
+        level = half;
+    }
+}
+
+TEST_F(WALTest, NamesKeepANulWhenWritten) {
+    Bytes bytes = wal.Write(texture);
+    std::fill_n(bytes.begin(), 32, std::byte{'n'});
+    std::fill_n(bytes.begin() + nextFrameOffset, 32, std::byte{'f'});
+    const Texture read = wal.Read(bytes);
+    EXPECT_EQ(read.quake2.name, std::string(32, 'n'));
+    EXPECT_EQ(read.quake2.nextFrameName, std::string(32, 'f'));
+    EXPECT_EQ(wal.Read(wal.Write(read)).quake2.name, std::string(31, 'n'));
+}
+
+TEST_F(WALTest, IndicesBelongToThePaletteOfTheTexture) {
+    const Bytes bytes = wal.Write(texture);
+    Texture other;
+    other.SetPalette(ColorList(std::vector<Color>(256, 0xFF123456)));
+    other = wal.Read(bytes, other);
+    EXPECT_EQ(other.GetPixel(1, 1), 0xFF123456U);
+    EXPECT_EQ(wal.Read(bytes).palette, nullptr);
+    other.palette->SetCount(255);
+    EXPECT_EQ(wal.ReadFailure(bytes, other), CArchiveException::badIndex);
+}
+
+TEST_F(WALTest, SidesAndOffsetsAreChecked) {
+    Bytes bytes = wal.Write(texture);
+    for (const std::uint32_t side : {0U, 63U, 260U, 264U, 0xFFFFFFF8U}) {
+        Put(bytes, widthOffset, side);
+        EXPECT_EQ(wal.ReadFailure(bytes), CArchiveException::badIndex) << side;
+    }
+    Put(bytes, widthOffset, 256U);
+    Put(bytes, widthOffset + 4, 8U);
+    EXPECT_EQ(wal.Read(bytes).GetWidth(), 256);
+    for (const std::uint32_t offset : {static_cast<std::uint32_t>(bytes.size()) - 2047, 0xFFFFFFFFU}) {
+        Put(bytes, offsetsOffset, offset);
+        EXPECT_EQ(wal.ReadFailure(bytes), CArchiveException::endOfFile) << offset;
+    }
+}
