@@ -12,6 +12,7 @@ set(LAYERS
     "image             : formats archives"
     "preview3d         : image"
     "app               : preview3d"
+    "tool              : app"
     "framework/ui      : framework/core"
     "image/ui          : image framework/ui"
     "formats/ui        : image framework/ui"

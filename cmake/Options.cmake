@@ -2,7 +2,7 @@
 add_library(project_options INTERFACE)
 target_compile_features(project_options INTERFACE cxx_std_20)
 target_compile_options(project_options INTERFACE
-    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wcast-qual -Wformat=2
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wcast-qual -Wformat -Wformat-security
     -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough -Werror
     $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>) # g++ 12 sees overlaps in std::string that cannot be
 if(KELTAVLO_SANITIZE)

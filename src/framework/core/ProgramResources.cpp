@@ -19,8 +19,8 @@ bool ComesBefore(const ResourceRow& a, const ResourceRow& b) {
 
 void AddResources(std::span<const ResourceRow> rows) {
     for (const ResourceRow& row : rows)
-        if (!FindResource(row.id, row.type)) Table().push_back(row);
-    std::stable_sort(Table().begin(), Table().end(), ComesBefore);
+        if (!FindResource(row.id, row.type))
+            Table().insert(std::upper_bound(Table().begin(), Table().end(), row, ComesBefore), row);
 }
 
 std::vector<unsigned> EnumResources(std::string_view type) {

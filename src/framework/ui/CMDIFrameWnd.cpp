@@ -135,8 +135,9 @@ void CMDIFrameWnd::UpdateWindowList(CMenu& menu) {
     CommandId id = ID_WINDOW_CHILD_FIRST;
     for (const CMDIChildWnd* child : children) {
         const unsigned number = id - ID_WINDOW_CHILD_FIRST + 1;
-        std::string text = MenuText(FromQString(child->windowTitle()));
-        text = (number < 10 ? "&" : "") + std::to_string(number) + " " + text;
+        std::string text = number < 10 ? "&" : "";
+        text += std::to_string(number) + " ";
+        text += MenuText(FromQString(child->windowTitle()));
         if (menu.FindItem(id)) {
             menu.ModifyItem(id, id, text);
         } else {

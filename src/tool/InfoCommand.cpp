@@ -1,0 +1,66 @@
+#include "archives/FolderDocument.h"
+#include "framework/core/Path.h"
+#include "framework/core/Text.h"
+#include "image/SurfaceFlags.h"
+#include "image/TavloDocument.h"
+#include "image/picture/ColorList.h"
+#include "resources/PaletteDocument.h"
+#include "tool/Tool.h"
+#include "tool/ToolCommands.h"
+#include "tool/TreeWalk.h"
+
+#include <ostream>
+
+namespace {
+
+// "label: value", nothing for an empty value.
+void Put(std::ostream& out, std::string_view label, const std::string& value) {
+    if (!value.empty()) out << label << ": " << ToUtf8(value) << "\n";
+}
+
+std::string Numbered(std::uint32_t flags, const std::array<std::string_view, 32>& labels) {
+    return flags == 0 ? std::string() : Format("0x%08X", flags) + " (" + DescribeFlags(flags, labels) + ")";
+}
+
+void DescribeTexture(std::ostream& out, const Texture& texture) {
+    Put(out, "size", std::to_string(texture.GetWidth()) + " x " + std::to_string(texture.GetHeight()));
+    if (texture.palette) Put(out, "palette", std::to_string(texture.palette->GetCount()) + " colors");
+    Put(out, "Quake name", texture.quakeName);
+    Put(out, "Quake II name", texture.quake2.name);
+    Put(out, "next frame", texture.quake2.nextFrameName);
+    Put(out, "surface", Numbered(texture.quake2.surfaceFlags, surfaceFlagLabels));
+    Put(out, "contents", Numbered(texture.quake2.contents, contentsFlagLabels));
+    if (texture.quake2.value != 0) Put(out, "value", std::to_string(texture.quake2.value));
+}
+
+void DescribePalette(std::ostream& out, const PaletteDocument& palette) {
+    Put(out, "palette",
+        palette.IsColorTable() ? std::to_string(palette.GetColorCount()) + " colors" : "a whole color space");
+}
+
+void DescribeFolder(std::ostream& out, const FolderDocument& folder) {
+    FolderListing listing;
+    folder.ListFolder(folder.GetRootName(), listing);
+    Put(out, "entries at the top", std::to_string(listing.names.size()));
+}
+
+void DescribeDocument(std::ostream& out, const CDocument& document) {
+    if (const auto* image = dynamic_cast<const TavloDocument*>(&document))
+        DescribeTexture(out, image->GetTexture());
+    if (const auto* palette = dynamic_cast<const PaletteDocument*>(&document)) DescribePalette(out, *palette);
+    if (const auto* folder = dynamic_cast<const FolderDocument*>(&document)) DescribeFolder(out, *folder);
+}
+
+} // namespace
+
+void ShowInfo(Tool& tool, const ToolArguments& arguments) {
+    const std::string path = FullPath(arguments.paths.front());
+    const CDocument* document = tool.GetApplication().OpenDocumentFile(path);
+    if (!document) return; // the application has said why
+    EntryStatus status;
+    tool.GetApplication().GetFileSystem().GetStatus(path, status);
+    Put(tool.Output(), "file", path);
+    Put(tool.Output(), "format", TypeNameOf(path));
+    Put(tool.Output(), "bytes", std::to_string(status.size));
+    DescribeDocument(tool.Output(), *document);
+}
