@@ -12,7 +12,7 @@ public:
 
 protected:
     // Where the bytes lie: `stored` of them at `offset` of the archive's file, followed by zeros up to
-    // `length`.
+    // `length`. An entry longer than the whole file cannot be opened.
     struct Extent {
         std::uint64_t offset = 0;
         std::uint64_t stored = 0;

@@ -19,6 +19,9 @@ constexpr StringRow rows[] = {
     {IDS_ACTION_QUAKE2_SURFACE, "Quake II Surface"},
     {IDS_ACTION_QUAKE2_CONTENTS, "Quake II Contents"},
     {IDS_ACTION_QUAKE2_VALUE, "Quake II Value"},
+    {IDS_WORKING, "Working..."},
+    {IDS_READING_DIRECTORY, "Reading Directory..."},
+    {IDS_READING_FILES, "Reading Files..."},
     // Window title, document name, new-file name, filter name, filter extension, registry type id and name.
     {IDR_BITMAP, "\nbitmap\nBitmap\nBitmap Files (*.bmp)\n.bmp\nBitmap.Image\nBitmap Image"},
     {IDR_MIPMAP, "\nmipmap\nMipmap\nQuake Texture Files (*.mip)\n.mip\nMipmap.Image\nMipmap Image"},

@@ -1,8 +1,11 @@
 #pragma once
 
 #include "framework/core/Service.h"
+#include "resources/ProgressWindow.h"
 
 #include <cstdint>
+#include <memory>
+#include <string>
 
 class BaseDocument;
 
@@ -26,4 +29,10 @@ public:
     virtual void SetCurrentColor(std::uint32_t color) = 0;
     // 256 entries: the channel table through which pictures are shown.
     virtual const std::uint32_t* GetGammaTable() const = 0;
+
+    // Shows a text above a bar. While the window is there the person can do nothing else. Null where nothing
+    // is shown.
+    virtual std::unique_ptr<ProgressWindow> OpenProgressWindow(const std::string&, const Progress&) {
+        return nullptr;
+    }
 };

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "framework/core/Service.h"
+#include "resources/ProgressWindow.h"
+
+#include <memory>
+#include <string>
+
+// The time as progress meters see it: whole seconds. Where none is registered they go by the system's clock.
+class ProgressClock : public Service<ProgressClock> {
+public:
+    virtual std::int64_t GetSeconds() const = 0;
+};
+
+// Follows a long piece of work from one position to another. Its window comes only when the work is expected
+// to take two seconds or more, and moves at most once a second.
+class ProgressMeter {
+public:
+    ProgressMeter(std::int32_t first, std::int32_t last);
+    // The window, if there is one, goes.
+    ~ProgressMeter();
+    ProgressMeter(const ProgressMeter&) = delete;
+    ProgressMeter& operator=(const ProgressMeter&) = delete;
+
+    // What the window will show above its bar: "Working..." unless it is set.
+    void SetText(unsigned stringId);
+    void SetPosition(std::int32_t newPosition);
+    void Step() { SetPosition(position + 1); }
+
+private:
+    void ShowIfLong(std::int64_t elapsed, std::int32_t reached);
+
+    std::int64_t startTime;  // seconds
+    std::int64_t lastUpdate; // seconds
+    std::int32_t minimum, maximum, position;
+    std::string text;
+    std::unique_ptr<ProgressWindow> window;
+};

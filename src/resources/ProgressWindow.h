@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstdint>
+
+// A window that shows how far a long piece of work is; it goes with the object.
+class ProgressWindow {
+public:
+    virtual ~ProgressWindow() = default;
+    virtual void SetPosition(std::int32_t position) = 0;
+};
+
+// What a progress window shows at first.
+struct Progress {
+    std::int32_t minimum = 0;
+    std::int32_t maximum = 0;
+    std::int32_t position = 0;
+};

@@ -1,0 +1,176 @@
+#include "archives/WADDocument.h"
+
+#include "image/ImageDocuments.h"
+#include "resources/LMPDocument.h"
+#include "support/FakeProgress.h"
+#include "support/TestApplication.h"
+#include "support/WadBuilder.h"
+
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+namespace {
+
+constexpr const char* badFormat = "expected format";
+constexpr const char* badCount = "does not allow";
+constexpr const char* tooShort = "too early";
+
+class WADDocumentTest : public WorkshopTest {
+protected:
+    // Empty when the file opens, else the message.
+    std::string OpenWad(const Bytes& bytes) {
+        const std::string path = Put("test" + std::to_string(++count) + ".wad", bytes);
+        return Open<WADDocument>(path) ? std::string() : TakeMessage();
+    }
+    std::vector<std::string> NamesIn(const std::string& path) {
+        FolderListing listing;
+        application.GetFileSystem().ListFolder(path, listing);
+        return listing.names;
+    }
+    // The entry's bytes; "(fails)" when it does not open.
+    std::string TextOf(const std::string& path) {
+        const auto file = application.GetFileSystem().OpenFile(path, CFile::modeRead, nullptr);
+        if (!file) return "(fails)";
+        std::string text(file->GetLength(), '\xFF');
+        file->Read(text.data(), text.size());
+        return text;
+    }
+    static Bytes ThreeLumps(WadBuilder::Directory place = WadBuilder::Directory::last) {
+        WadBuilder wad;
+        wad.Add("wall1", WadBuilder::wad3TextureType, MakeMip("WALL1", 16, 8, true));
+        wad.Add("words", 65, ToBytes("twelve bytes"), "garbage");
+        wad.Add("set/floor\\tile", WadBuilder::wad2TextureType, ToBytes("x"));
+        return wad.Build(place);
+    }
+    // Where field `field` of the record stands in what ThreeLumps yields.
+    static std::size_t RecordField(const Bytes& wad, std::size_t record, std::size_t field) {
+        return wad.size() - (3 - record) * WadBuilder::recordSize + field;
+    }
+    int count = 0;
+};
+
+} // namespace
+
+TEST_F(WADDocumentTest, NamesFollowTheLumpTypes) {
+    WadBuilder wad("WAD2");
+    wad.Add("PALETTE", WadBuilder::paletteType, Bytes(768, std::byte{7}));
+    wad.Add("wall1", WadBuilder::wad3TextureType, {});
+    wad.Add("{blue.x", WadBuilder::wad2TextureType, {});
+    wad.Add("CONCHARS", 66, {}, "garbage");
+    wad.Add("sixteen_letters_", 0, {});
+    const std::string path = Put("names.wad", wad.Build());
+    EXPECT_THAT(NamesIn(path),
+                ElementsAre("PALETTE.lmp", "wall1.mip", "{blue.x.mip", "CONCHARS", "sixteen_letters_"));
+    auto* palette = Open<LMPDocument>(path + "/palette.LMP");
+    ASSERT_NE(palette, nullptr);
+    EXPECT_EQ(palette->GetColors().GetColor(255), Compose(7, 7, 7));
+}
+
+TEST_F(WADDocumentTest, TexturesOpenWhereverTheArchiveLies) {
+    PackBuilder pack;
+    pack.Add("a/inner.WAD", ThreeLumps(WadBuilder::Directory::first));
+    const std::string paths[] = {Put("last.wad", ThreeLumps()),
+                                 Put("first.wad", ThreeLumps(WadBuilder::Directory::first)),
+                                 Put("pack.pak", pack.Build()) + "/A/Inner.wad"};
+    for (const std::string& path : paths) {
+        EXPECT_THAT(NamesIn(path), ElementsAre("wall1.mip", "words", "set")) << path;
+        EXPECT_THAT(NamesIn(path + "/SET/Floor"), ElementsAre("tile.mip")) << path;
+        EXPECT_EQ(TextOf(path + "/words"), "twelve bytes") << path;
+        auto* texture = Open<MIPDocument>(path + "/Wall1.MIP");
+        ASSERT_NE(texture, nullptr) << path;
+        EXPECT_EQ(texture->GetTexture().GetPixel(3, 2), Compose(5, 5, 5));
+        EXPECT_EQ(texture->GetTexture().quakeName, "WALL1") << "not the directory's";
+    }
+}
+
+TEST_F(WADDocumentTest, LumpsThatAreNoTexturesFailCleanly) {
+    WadBuilder wad("WAD2");
+    wad.Add("CONCHARS", WadBuilder::wad2TextureType, Bytes(128 * 128, std::byte{0x31}));
+    const std::string path = Put("gfx.wad", wad.Build());
+    EXPECT_THAT(NamesIn(path), ElementsAre("CONCHARS.mip"));
+    EXPECT_EQ(Open<MIPDocument>(path + "/conchars.mip"), nullptr);
+    EXPECT_THAT(TakeMessage(), HasSubstr("conchars.mip"));
+}
+
+TEST_F(WADDocumentTest, BytesAreCutOrFilledToTheSize) {
+    Bytes wad = ThreeLumps();
+    const auto fileLength = static_cast<std::uint32_t>(wad.size());
+    const auto reopened = [&](std::uint32_t size) {
+        PutU32(wad, RecordField(wad, 1, 8), size);
+        EXPECT_EQ(OpenWad(wad), "");
+        return PathTo("test" + std::to_string(count) + ".wad/words");
+    };
+    EXPECT_EQ(TextOf(reopened(6)), "twelve");
+    EXPECT_EQ(TextOf(reopened(0)), "");
+    EXPECT_EQ(TextOf(reopened(14)), std::string("twelve bytes\0\0", 14));
+    EXPECT_EQ(TextOf(reopened(fileLength)).size(), fileLength);
+    EXPECT_EQ(TextOf(reopened(fileLength + 1)), "(fails)");
+    const std::string monster = reopened(0xFFFFFFFF);
+    EXPECT_EQ(TextOf(monster), "(fails)");
+    EntryStatus status;
+    application.GetFileSystem().GetStatus(monster, status);
+    EXPECT_EQ(status.size, 0xFFFFFFFF) << "what the record says";
+}
+
+TEST_F(WADDocumentTest, RefusesDamagedHeadersAndExtents) {
+    EXPECT_EQ(OpenWad(WadBuilder("WAD2").Build()), "");
+    EXPECT_THAT(OpenWad(WadBuilder("WAD4").Build()), HasSubstr(badFormat));
+    EXPECT_THAT(OpenWad(WadBuilder("wad3").Build()), HasSubstr(badFormat));
+    const Bytes good = ThreeLumps();
+    EXPECT_EQ(OpenWad(good), "");
+    struct {
+        std::size_t offset;
+        std::uint32_t value;
+        const char* message;
+    } const cases[] = {
+        {4, 4, tooShort},
+        {4, 0x7FFFFFFF, tooShort},
+        {4, 0x80000000, badCount},
+        {4, 0xFFFFFFFF, badCount},
+        {8, 0xFFFFFFFF, tooShort},
+        {8, static_cast<std::uint32_t>(good.size() - 3 * WadBuilder::recordSize + 1), tooShort},
+        {RecordField(good, 1, 0), 0xFFFFFFFF, tooShort},
+        {RecordField(good, 1, 0), static_cast<std::uint32_t>(good.size() - 11), tooShort},
+        {RecordField(good, 1, 4), 0xFFFFFFFF, tooShort},
+    };
+    for (const auto& [offset, value, message] : cases) {
+        Bytes wad = good;
+        PutU32(wad, offset, value);
+        EXPECT_THAT(OpenWad(wad), HasSubstr(message)) << offset << " " << value;
+    }
+    for (const auto place : {WadBuilder::Directory::last, WadBuilder::Directory::first}) {
+        const Bytes whole = ThreeLumps(place);
+        for (std::size_t length = 1; length < whole.size(); ++length)
+            EXPECT_THAT(OpenWad(Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length))),
+                        HasSubstr(tooShort))
+                << length;
+    }
+}
+
+TEST_F(WADDocumentTest, ShowsHowFarALongReadIs) {
+    FakeClock clock;
+    ProgressShell shell;
+    EXPECT_EQ(OpenWad(ThreeLumps()), "");
+    EXPECT_THAT(shell.log, ElementsAre());
+    clock.perLook = 1;
+    EXPECT_EQ(OpenWad(WadBuilder().Build()), "");
+    EXPECT_THAT(shell.log, ElementsAre());
+    EXPECT_EQ(OpenWad(ThreeLumps()), "");
+    EXPECT_THAT(shell.log, ElementsAre("open Reading Directory... 0..3 at 1", "2", "close",
+                                       "open Reading Files... 0..3 at 1", "2", "3", "close"));
+    Bytes wad = ThreeLumps();
+    PutU32(wad, RecordField(wad, 2, 0), 0xFFFFFFFF);
+    shell.log.clear();
+    EXPECT_THAT(OpenWad(wad), HasSubstr(tooShort));
+    EXPECT_EQ(shell.log.back(), "close");
+}
+
+TEST_F(WADDocumentTest, CannotBeSaved) {
+    auto* wad = Open<WADDocument>(Put("a.wad", ThreeLumps()));
+    wad->SetModifiedFlag();
+    EXPECT_FALSE(wad->DoFileSave());
+    EXPECT_THAT(TakeMessage(), HasSubstr("only be read"));
+    EXPECT_EQ(ReadFile(PathTo("a.wad")), ThreeLumps());
+}
