@@ -1,6 +1,7 @@
 #include "archives/FileSystem.h"
 
 #include "archives/FolderDocument.h"
+#include "framework/core/CDocTemplate.h"
 #include "framework/core/Path.h"
 #include "resources/DocTemplateRegistry.h"
 
@@ -9,14 +10,28 @@ namespace {
 // Archives in archives; a pack that contains itself must end somewhere.
 constexpr int maximumDepth = 8;
 
+// By the name alone: what else is open must not slow the listing of a large archive.
+const CRuntimeClass* FolderTypeOf(const std::string& path) {
+    const CRuntimeClass* type = DocTemplateRegistry::Get().GetDocumentClassOfName(path);
+    return type && type->IsDerivedFrom(FolderDocument::runtimeClass) ? type : nullptr;
+}
+
 bool IsFolderType(const std::string& path) {
-    const CRuntimeClass* type = DocTemplateRegistry::Get().GetDocumentClass(path);
-    return type && type->IsDerivedFrom(FolderDocument::runtimeClass);
+    return FolderTypeOf(path) != nullptr;
+}
+
+CDocument* FindOpenFolder(const CRuntimeClass& type, const std::string& path) {
+    for (CDocument* document : DocTemplateRegistry::Get().FindTemplate(type)->GetDocuments())
+        if (document->GetPathName() == path || SamePath(document->GetPathName(), path)) return document;
+    return nullptr;
 }
 
 FolderDocument* OpenFolder(const std::string& path) {
-    return IsFolderType(path) ? dynamic_cast<FolderDocument*>(DocTemplateRegistry::Get().OpenDocument(path))
-                              : nullptr;
+    const CRuntimeClass* type = FolderTypeOf(path);
+    if (!type) return nullptr;
+    CDocument* document = FindOpenFolder(*type, path);
+    if (!document) document = DocTemplateRegistry::Get().OpenDocument(path);
+    return dynamic_cast<FolderDocument*>(document);
 }
 
 // The archive of the disk that the path leads into.
@@ -51,7 +66,7 @@ void FileSystem::GetStatus(const std::string& path, EntryStatus& status) {
                   disk.created, disk.accessed, disk.modified};
     }
     const bool isFile = status.exists && !(status.attributes & CFileStatus::directoryAttribute);
-    if (isFile && IsFolderType(path)) status.browsable = true;
+    if (isFile && IsFolderType(status.fullName)) status.browsable = true;
 }
 
 std::unique_ptr<CFile> FileSystem::OpenFile(const std::string& path, unsigned flags,
