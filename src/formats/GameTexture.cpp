@@ -1,6 +1,7 @@
 #include "formats/GameTexture.h"
 
 #include "image/picture/ColorList.h"
+#include "image/picture/NearestSearch.h"
 #include "image/picture/Texture.h"
 #include "resources/streams/OutputStream.h"
 
@@ -18,9 +19,9 @@ bool IsAllowedSide(std::uint32_t side) {
     return side <= maximumSide && IsFittingSide(static_cast<int>(side));
 }
 
-void WriteIndices(OutputStream& out, const Image& picture, const ColorList& palette) {
+void WriteIndices(OutputStream& out, const Image& picture, NearestSearch& search) {
     std::vector<std::uint8_t> indices(picture.Pixels().size());
-    FindIndices(picture.Pixels(), palette, indices);
+    search.FindIndices(picture.Pixels(), indices);
     out.Write(std::span<const std::uint8_t>(indices));
 }
 
@@ -66,19 +67,14 @@ void ReadIndices(InputStream& in, Image& picture, int width, int height, const C
                    [&](std::uint8_t index) { return colors[index]; });
 }
 
-void FindIndices(std::span<const Color> pixels, const ColorList& palette, std::span<std::uint8_t> indices) {
-    std::transform(pixels.begin(), pixels.end(), indices.begin(),
-                   [&](Color color) { return static_cast<std::uint8_t>(palette.FindNearestIndex(color)); });
-}
-
 void WriteMipLevels(OutputStream& out, const Image& picture, const ColorList& palette) {
-    const NearestColorCacheScope cached(palette);
-    WriteIndices(out, picture, palette);
+    NearestSearch search(palette);
+    WriteIndices(out, picture, search);
     Image level = picture;
     for (int k = 1; k < levelCount; ++k) {
         Image half;
         level.MakeHalfSize(half);
-        WriteIndices(out, half, palette);
+        WriteIndices(out, half, search);
         level = std::move(half);
     }
 }

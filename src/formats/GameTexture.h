@@ -1,12 +1,10 @@
 #pragma once
 
 #include "framework/core/Text.h"
-#include "image/picture/Color.h"
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <span>
 #include <string>
 
 class ColorList;
@@ -48,9 +46,6 @@ std::array<std::uint32_t, levelCount> LevelOffsets(std::uint32_t start, int widt
 // Reads width x height indices at the stream's position into the picture, which gets that size. badIndex for
 // an index past the end of the palette; endOfFile before the picture is made when there are too few.
 void ReadIndices(InputStream& in, Image& picture, int width, int height, const ColorList& palette);
-
-// The index of the nearest palette colour for each pixel. The palette has 1 to 256 colours.
-void FindIndices(std::span<const Color> pixels, const ColorList& palette, std::span<std::uint8_t> indices);
 
 // Writes the picture and its three half sizes as indices of the nearest palette colours.
 void WriteMipLevels(OutputStream& out, const Image& picture, const ColorList& palette);

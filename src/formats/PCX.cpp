@@ -2,6 +2,7 @@
 
 #include "formats/ByteReader.h"
 #include "formats/GameTexture.h"
+#include "image/picture/NearestSearch.h"
 #include "image/picture/RgbTriples.h"
 #include "image/picture/Texture.h"
 #include "resources/streams/OutputStream.h"
@@ -127,8 +128,9 @@ void PutLine(std::vector<std::uint8_t>& bytes, std::span<const std::uint8_t> ind
 void WriteLines(OutputStream& out, const Image& picture, const ColorList& colors) {
     std::vector<std::uint8_t> indices(static_cast<std::size_t>(picture.GetWidth()));
     std::vector<std::uint8_t> bytes;
+    NearestSearch search(colors);
     for (int y = 0; y < picture.GetHeight(); ++y) {
-        FindIndices(picture.Row(y), colors, indices);
+        search.FindIndices(picture.Row(y), indices);
         bytes.clear();
         PutLine(bytes, indices);
         out.Write(std::span<const std::uint8_t>(bytes));

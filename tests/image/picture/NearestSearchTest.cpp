@@ -1,0 +1,147 @@
+#include "image/picture/NearestSearch.h"
+
+#include "image/picture/ColorList.h"
+#include "image/picture/NearestKernels.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <random>
+#include <vector>
+
+namespace {
+
+enum class Alphas { opaque, fewValues, any };
+
+Color RandomColor(std::mt19937& random, Alphas alphas) {
+    const Color color = static_cast<Color>(random());
+    if (alphas == Alphas::opaque) return color | alphaMask;
+    return alphas == Alphas::any ? color : color & 0x81FFFFFF;
+}
+
+/// Coarse channels make duplicates and ties.
+ColorList RandomList(std::size_t count, Alphas alphas, Color channelBits, std::mt19937& random) {
+    std::vector<Color> colors(count);
+    for (Color& color : colors) color = RandomColor(random, alphas) & (channelBits | alphaMask);
+    return ColorList(colors);
+}
+
+/// Random colours, a ramp, corners of cells, and the list's own entries.
+std::vector<Color> MakePixels(const ColorList& list, Alphas alphas, std::mt19937& random) {
+    std::vector<Color> pixels;
+    for (int i = 0; i < 300; ++i) pixels.push_back(RandomColor(random, alphas));
+    for (std::uint32_t i = 0; i < 256; ++i) pixels.push_back(Compose(i, i, i));
+    for (int i = 0; i < 150; ++i) pixels.push_back(RandomColor(random, alphas) & 0xFFF0F0F0);
+    for (int i = 0; i < 150; ++i) pixels.push_back(RandomColor(random, alphas) | 0x000F0F0F);
+    for (std::size_t i = 0; i < 144; ++i) pixels.push_back(list[i % list.GetCount()]);
+    return pixels;
+}
+
+/// Error diffusion as it is defined.
+void DiffusePlainly(std::span<Color> row, const ColorList& list) {
+    int red = 0;
+    int green = 0;
+    int blue = 0;
+    const auto clamped = [](int channel) { return static_cast<std::uint32_t>(std::clamp(channel, 0, 255)); };
+    for (Color& pixel : row) {
+        red += static_cast<int>(Red(pixel));
+        green += static_cast<int>(Green(pixel));
+        blue += static_cast<int>(Blue(pixel));
+        pixel = *list.FindNearest(Compose(clamped(red), clamped(green), clamped(blue), Alpha(pixel)));
+        red -= static_cast<int>(Red(pixel));
+        green -= static_cast<int>(Green(pixel));
+        blue -= static_cast<int>(Blue(pixel));
+    }
+}
+
+/// Each way of searching, on lists of every kind.
+class NearestSearchTest : public testing::TestWithParam<const NearestKernels*> {
+protected:
+    void SetUp() override {
+        if (!GetParam()) GTEST_SKIP() << "not on this processor";
+    }
+
+    template <typename Check>
+    void ForEachList(Check check) {
+        constexpr Color channelBits[] = {0xFFFFFF, 0x707070, 0x1F0F07};
+        std::mt19937 random(11);
+        std::size_t turn = 0;
+        for (const std::size_t count : {1U, 2U, 16U, 200U, 256U, 300U, 2100U}) {
+            for (const Alphas alphas : {Alphas::opaque, Alphas::fewValues, Alphas::any}) {
+                const ColorList list = RandomList(count, alphas, channelBits[turn++ % 4 % 3], random);
+                SCOPED_TRACE(testing::Message() << count << " entries, alphas " << static_cast<int>(alphas));
+                for (const Alphas sought : {Alphas::opaque, Alphas::any})
+                    check(list, MakePixels(list, sought, random));
+                if (HasFatalFailure()) return;
+            }
+        }
+    }
+};
+
+} // namespace
+
+TEST_P(NearestSearchTest, FindsWhatTheListFinds) {
+    ForEachList([](const ColorList& list, const std::vector<Color>& pixels) {
+        NearestSearch search(list, *GetParam());
+        std::vector<Color> replaced(pixels);
+        search.Replace(replaced);
+        std::vector<std::uint8_t> indices(pixels.size());
+        if (list.GetCount() <= 256) search.FindIndices(pixels, indices);
+        for (std::size_t i = 0; i < pixels.size(); ++i) {
+            const std::size_t expected = list.FindNearestIndex(pixels[i]);
+            ASSERT_EQ(search.FindIndex(pixels[i]), expected) << std::hex << pixels[i];
+            ASSERT_EQ(replaced[i], list[expected]) << std::hex << pixels[i];
+            if (list.GetCount() <= 256) {
+                ASSERT_EQ(indices[i], expected) << std::hex << pixels[i];
+            }
+        }
+    });
+}
+
+TEST_P(NearestSearchTest, DiffusesAsDefined) {
+    constexpr std::size_t width = 100;
+    ForEachList([](const ColorList& list, std::vector<Color> pixels) {
+        std::vector<Color> expected(pixels);
+        for (std::size_t start = 0; start < expected.size(); start += width)
+            DiffusePlainly(std::span(expected).subspan(start, width), list);
+        NearestSearch(list, *GetParam()).Diffuse(pixels, width);
+        ASSERT_EQ(pixels, expected);
+    });
+}
+
+TEST_P(NearestSearchTest, CarriesErrorsBeyond16Bits) {
+    const ColorList black{0xFF000000, 0xFF010101};
+    std::vector<Color> row(1000, 0xFFFFFFFF);
+    row.resize(1200, 0xFF000000);
+    std::vector<Color> expected(row);
+    DiffusePlainly(expected, black);
+    NearestSearch(black, *GetParam()).Diffuse(row, row.size());
+    EXPECT_EQ(row, expected);
+}
+
+TEST_P(NearestSearchTest, SearchesListsTooLongForItsGrid) {
+    std::vector<Color> colors(70000, 0xFFFFFFFF);
+    colors[69000] = 0xFF000000;
+    colors[69999] = 0xFF000000;
+    const ColorList list(colors);
+    NearestSearch search(list, *GetParam());
+    EXPECT_EQ(search.FindIndex(0xFF000001), 69000U);
+    EXPECT_EQ(search.FindIndex(0xFFFFFFFE), 0U);
+}
+
+TEST_P(NearestSearchTest, RefusesWhatItCannotFind) {
+    const ColorList nothing;
+    NearestSearch search(nothing, *GetParam());
+    std::vector<Color> pixels(1);
+    std::vector<std::uint8_t> indices(1);
+    EXPECT_THROW(search.FindIndex(0), std::out_of_range);
+    EXPECT_THROW(search.FindIndices(pixels, indices), std::out_of_range);
+    EXPECT_THROW(search.Replace(pixels), std::out_of_range);
+    EXPECT_NO_THROW(search.Replace({}));
+    EXPECT_NO_THROW(search.Diffuse({}, 0));
+    const ColorList tooLong(257);
+    EXPECT_THROW(NearestSearch(tooLong, *GetParam()).FindIndices(pixels, indices), std::length_error);
+}
+
+INSTANTIATE_TEST_SUITE_P(Kernels, NearestSearchTest,
+                         testing::Values(&portableNearestKernels, VectorNearestKernels()),
+                         [](const auto& kernels) { return kernels.index == 0 ? "Portable" : "Vectors"; });
