@@ -120,7 +120,7 @@ struct NearestGrid::Box {
 private:
     static Color OriginOf(std::size_t cell) {
         const auto bits = static_cast<Color>(cell);
-        return (bits & 0xF00) << 12 | (bits & 0xF0) << 8 | (bits & 0xF) << 4;
+        return (bits & 0xF0) | (bits & 0xF0F) << 12;
     }
 };
 

@@ -111,8 +111,9 @@ struct Offsets {
 }
 
 /// For cells that are not filled or have several blocks.
-[[gnu::target("avx2"), gnu::noinline]] std::size_t FindInBlocks(NearestGrid& grid, std::size_t cell,
-                                                                const Offsets& offsets) {
+[[gnu::target("avx2"), gnu::noinline]] std::size_t FindInBlocks(NearestGrid& grid, Color color) {
+    const Offsets offsets(color);
+    const std::size_t cell = NearestGrid::CellOf(color);
     const std::span<const NearestBlock> further = grid.FurtherBlocks(cell);
     const NearestBlock* bestBlock = &grid.FirstBlock(cell);
     std::uint32_t best = BestLane(*bestBlock, offsets);
@@ -165,11 +166,10 @@ struct Offsets {
 [[gnu::target("avx2")]] inline std::size_t FindIndex(NearestTables& tables, Color color) {
     if (!tables.IsInGrid(color)) return Scan(tables, color);
     const std::size_t cell = NearestGrid::CellOf(color);
-    const Offsets offsets(color);
     if (!tables.grid.HasOneBlock(cell)) [[unlikely]]
-        return FindInBlocks(tables.grid, cell, offsets);
+        return FindInBlocks(tables.grid, color);
     const NearestBlock& block = tables.grid.FirstBlock(cell);
-    return block.indices[BestLane(block, offsets) >> 16];
+    return block.indices[BestLane(block, Offsets(color)) >> 16];
 }
 
 [[gnu::target("avx2")]] void FindIndices(NearestTables& tables, std::span<const Color> pixels,
