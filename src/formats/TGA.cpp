@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <cstring>
 #include <string_view>
 
 namespace {
@@ -72,23 +71,18 @@ bool IsReadable(const Header& header) {
     return header.imageType == trueColor && (header.depth == 24 || header.depth == 32);
 }
 
-void ReadRow(StoredRows& rows, int depth, std::span<Color> row) {
-    const std::span<const std::uint8_t> stored = rows.Next();
-    if (depth == 24)
-        ExpandBgr(stored, row);
-    else
-        std::memcpy(row.data(), stored.data(), stored.size());
-}
-
 void ReadPixels(InputStream& in, const Header& header, Image& picture) {
     const std::size_t pixelBytes = header.depth / 8U;
     if (PictureBytes(header, pixelBytes) > in.GetRemaining()) in.Fail(StreamError::endOfFile);
-    picture.SetSize(header.width, header.height);
+    picture.SetSizeUncleared(header.width, header.height);
     StoredRows rows(in, pixelBytes * header.width, header.height);
     for (int i = 0; i < header.height; ++i) {
         const bool fromTop = (header.descriptor & rowsFromTop) != 0;
         const std::span<Color> row = picture.Row(fromTop ? i : header.height - 1 - i);
-        ReadRow(rows, header.depth, row);
+        if (header.depth == 24)
+            ExpandBgr(rows.Next(), row);
+        else
+            in.Read(row); // as they are
         if (header.descriptor & columnsFromRight) std::ranges::reverse(row);
     }
 }

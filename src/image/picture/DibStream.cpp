@@ -26,7 +26,7 @@ void WriteTable(OutputStream& out, const DibSection& bitmap) {
 void ReadDib(InputStream& in, DibForm form, Image& picture) {
     const DibDescription description = ReadDibDescription(in, form);
     const DibRowDecoder decoder(description);
-    picture.SetSize(description.header.width, description.Rows());
+    picture.SetSizeUncleared(description.header.width, description.Rows());
     StoredRows rows(in, description.Stride(), static_cast<std::size_t>(description.Rows()));
     for (int i = 0; i < description.Rows(); ++i)
         decoder.Decode(rows.Next(), picture.Row(description.PictureRow(i)));

@@ -23,10 +23,11 @@ std::size_t CheckedPixelCount(int width, int height) {
 
 } // namespace
 
-Image::Image() : pixels(1) {}
+Image::Image() : pixels(1, Color{0}) {}
 
 Image::Image(int initialWidth, int initialHeight)
-    : pixels(CheckedPixelCount(initialWidth, initialHeight)), width(initialWidth), height(initialHeight) {}
+    : pixels(CheckedPixelCount(initialWidth, initialHeight), Color{0}), width(initialWidth),
+      height(initialHeight) {}
 
 Image::Image(const Image& other) = default;
 Image& Image::operator=(const Image& other) = default;
@@ -53,6 +54,12 @@ void Image::SetPixelFromPaletteWrapped(unsigned x, unsigned y, const ColorList& 
 }
 
 void Image::SetSize(int newWidth, int newHeight) {
+    pixels.resize(CheckedPixelCount(newWidth, newHeight), Color{0});
+    width = newWidth;
+    height = newHeight;
+}
+
+void Image::SetSizeUncleared(int newWidth, int newHeight) {
     pixels.resize(CheckedPixelCount(newWidth, newHeight));
     width = newWidth;
     height = newHeight;

@@ -2,6 +2,7 @@
 
 #include "image/picture/Color.h"
 #include "image/picture/PixelTransform.h"
+#include "image/picture/UnclearedAllocator.h"
 
 #include <cstddef>
 #include <span>
@@ -58,6 +59,8 @@ public:
     /// New pixels are 0, the others are in no useful order: callers fill all of them. Sides of 0 are allowed.
     /// Throws PictureSizeError, with the picture unchanged, for negative sides and sizes beyond the limits.
     void SetSize(int newWidth, int newHeight);
+    /// The same with new pixels of any value, for callers that fill large pictures.
+    void SetSizeUncleared(int newWidth, int newHeight);
     /// Crops to the top-left corner or repeats the right and bottom edges outward. A picture that had no
     /// pixels becomes all 0. Throws as SetSize does.
     void Resize(int newWidth, int newHeight);
@@ -88,7 +91,7 @@ private:
                x % static_cast<unsigned>(width);
     }
 
-    std::vector<Color> pixels;
+    std::vector<Color, UnclearedAllocator<Color>> pixels;
     int width = 1;
     int height = 1;
 };
