@@ -19,6 +19,7 @@ public:
 
     // Reads up to `count` bytes; fewer only at the end of the file.
     std::size_t Read(void* target, std::size_t count) {
+        if (count == 0) return 0; // an empty target may be null
         if (count <= filled - used) {
             std::memcpy(target, buffer.data() + used, count);
             used += count;
@@ -27,6 +28,7 @@ public:
         return ReadThrough(static_cast<std::byte*>(target), count);
     }
     void Write(const void* source, std::size_t count) {
+        if (count == 0) return;
         if (count <= buffer.size() - used) {
             std::memcpy(buffer.data() + used, source, count);
             used += count;
