@@ -130,6 +130,7 @@ struct Offsets {
 [[gnu::target("avx2")]] inline std::int32_t ScanRun(std::span<const NearestScanGroup> groups,
                                                     __m256i blueGreen, __m256i redAlpha) {
     __m256i least = _mm256_set1_epi32(std::numeric_limits<std::int32_t>::max());
+#pragma GCC unroll 4
     for (const NearestScanGroup& group : groups) {
         const __m256i products = _mm256_add_epi32(_mm256_madd_epi16(blueGreen, Load(group.blueGreen)),
                                                   _mm256_madd_epi16(redAlpha, Load(group.redAlpha)));
