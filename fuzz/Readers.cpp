@@ -1,0 +1,240 @@
+#include "Readers.h"
+
+#include "app/HeadlessApplication.h"
+#include "archives/PAKDocument.h"
+#include "archives/WADDocument.h"
+#include "formats/Codec.h"
+#include "framework/core/CMemFile.h"
+#include "image/ImageDocuments.h"
+#include "image/picture/ColorList.h"
+#include "image/picture/DibSection.h"
+#include "image/picture/DibStream.h"
+#include "resources/BrushDocument.h"
+#include "resources/BuiltInPalettes.h"
+#include "resources/ColorSpaceDocument.h"
+#include "resources/LMPDocument.h"
+#include "resources/streams/ArchiveStream.h"
+#include "resources/streams/FileStream.h"
+#include "support/WadBuilder.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace {
+
+using Outcome = std::optional<std::size_t>;
+using ByteSpan = std::span<const std::byte>;
+
+// Built-in palettes come through the application's documents.
+HeadlessApplication& TheApplication() {
+    static HeadlessApplication application([](const std::string&) {});
+    return application;
+}
+
+class Digest {
+public:
+    void Add(std::size_t value) { state = (state ^ value) * 0x100000001B3 + 0x9E3779B9; }
+    void Add(const std::string& text) { Add(std::hash<std::string>()(text)); }
+    void Add(const Image& picture) {
+        Add(static_cast<std::size_t>(picture.GetWidth()));
+        Add(static_cast<std::size_t>(picture.GetHeight()));
+        for (const Color color : picture.Pixels()) Add(color);
+    }
+    std::size_t Get() const { return state; }
+
+private:
+    std::size_t state = 0xCBF29CE484222325;
+};
+
+// Hands the bytes, in a buffer of exactly their size, to the action as a stream.
+template <class Action>
+Outcome WithStream(ByteSpan bytes, Buffering buffering, Action action) {
+    TheApplication();
+    Bytes copy(bytes.begin(), bytes.end());
+    copy.shrink_to_fit();
+    CMemFile file{std::span<std::byte>(copy)};
+    Digest digest;
+    try {
+        if (buffering == Buffering::whole) {
+            CArchive archive(file, CArchive::load);
+            ArchiveStream stream(archive);
+            action(stream, digest);
+        } else {
+            FileStream stream(file);
+            action(stream, digest);
+        }
+    } catch (const CException&) {
+        return std::nullopt;
+    } catch (const PictureSizeError&) {
+        return std::nullopt;
+    } catch (const BitmapError&) {
+        return std::nullopt;
+    }
+    return digest.Get();
+}
+
+void Add(Digest& digest, const TavloDocument& document) {
+    const Texture& texture = document.GetTexture();
+    digest.Add(texture);
+    digest.Add(texture.quakeName);
+    digest.Add(texture.quake2.name + "\n" + texture.quake2.nextFrameName);
+    if (texture.palette)
+        for (const Color color : texture.palette->Colors()) digest.Add(color);
+}
+
+void Add(Digest& digest, const PaletteDocument& document) {
+    for (std::size_t i = 0; i < document.GetColorCount(); ++i) digest.Add(document.GetColor(i));
+}
+
+void Add(Digest& digest, const BrushDocument& document) {
+    digest.Add(document.GetCursor());
+}
+
+// Opens every entry by its path as well.
+void Add(Digest& digest, FolderDocument& document, const std::string& folder) {
+    FolderListing listing;
+    document.ListFolder(folder, listing);
+    std::size_t left = 64; // overlapping entries may each be as large as the file
+    for (const std::string& name : listing.names) {
+        digest.Add(name);
+        const std::string path = JoinPath(folder, name);
+        if (left == 0 || path.size() > 4096) continue;
+        --left;
+        if (const auto file = document.OpenEntry(path, CFile::modeRead, nullptr))
+            digest.Add(file->GetLength());
+        else if (document.FindEntry(path))
+            Add(digest, document, path);
+    }
+}
+
+void Add(Digest& digest, FolderDocument& document) {
+    Add(digest, document, document.GetRootName());
+}
+
+template <class Document>
+Outcome ReadDocument(ByteSpan bytes, Buffering buffering) {
+    return WithStream(bytes, buffering, [](InputStream& in, Digest& digest) {
+        Document document;
+        document.ReadContents(in);
+        Add(digest, document);
+    });
+}
+
+Outcome ReadClipboardBitmap(ByteSpan bytes, Buffering buffering) {
+    return WithStream(bytes, buffering, [](InputStream& in, Digest& digest) {
+        Image picture;
+        ReadDib(in, DibForm::clipboard, picture);
+        digest.Add(picture);
+    });
+}
+
+// A path, a NUL and a pack: what the path leads to in it.
+Outcome ResolvePath(ByteSpan bytes, Buffering buffering) {
+    const auto end = std::find(bytes.begin(), bytes.end(), std::byte{0});
+    const auto length = static_cast<std::size_t>(end - bytes.begin());
+    const std::string path =
+        "/games/pak0.pak" + std::string(reinterpret_cast<const char*>(bytes.data()), length);
+    const ByteSpan pack = bytes.subspan(std::min(length + 1, bytes.size()));
+    return WithStream(pack, buffering, [&](InputStream& in, Digest& digest) {
+        PAKDocument document;
+        document.ReadContents(in);
+        document.SetRootName("/games/pak0.pak");
+        EntryStatus status;
+        document.GetEntryStatus(path, status);
+        digest.Add(status.exists);
+        digest.Add(document.FindOnTheWay(path, [](const std::string& way) { return way.size() % 2 == 0; }));
+        FolderListing listing;
+        document.ListFolder(path, listing);
+        digest.Add(listing.names.size());
+    });
+}
+
+template <class Document>
+Bytes WritePicture() {
+    TheApplication();
+    Document document;
+    document.GetTexture().SetSize(8, 8);
+    for (std::size_t i = 0; i < 64; ++i)
+        document.GetTexture().Pixels()[i] = 0xFF000000 | static_cast<Color>(i * 0x020301);
+    CMemFile file;
+    CArchive archive(file, CArchive::store);
+    ArchiveStream stream(archive);
+    FindCodec(document.GetRuntimeClass().name)->write(stream, document.GetTexture(), &GetQuakeIIPalette());
+    archive.Flush();
+    return {file.Bytes().begin(), file.Bytes().end()};
+}
+
+Bytes MakeTagged(std::string_view type, std::string_view id) {
+    std::string text =
+        "KEL\xE5\xD0TAV" + std::string(type) + std::string("\3\0\0\0id\0\0", 8) + std::string(id);
+    text += std::string("UITA\4\0\0\0abc\0", 12) + std::string("UITU\2\0\0\0a\0b\0", 12);
+    return ToBytes(text);
+}
+
+Bytes MakeBitmapWithoutFileHeader() {
+    const Bytes bitmap = WritePicture<BMPDocument>();
+    return {bitmap.begin() + 14, bitmap.end()};
+}
+
+Bytes MakePack() {
+    PackBuilder pack;
+    pack.Add("a/b.txt", ToBytes("text"));
+    pack.Add("c", ToBytes("more"));
+    return pack.Build();
+}
+
+Bytes MakePathAndPack() {
+    Bytes bytes = ToBytes(std::string_view("/A\\b.txt\0", 9));
+    const Bytes pack = MakePack();
+    bytes.insert(bytes.end(), pack.begin(), pack.end());
+    return bytes;
+}
+
+Bytes MakeWad() {
+    WadBuilder wad("WAD3");
+    wad.Add("wall", WadBuilder::wad3TextureType, MakeMip("wall", 16, 16, true));
+    wad.Add("palette", WadBuilder::paletteType, Bytes(768));
+    return wad.Build();
+}
+
+std::vector<HeaderField> Fields(std::size_t width, std::initializer_list<std::size_t> offsets) {
+    std::vector<HeaderField> fields;
+    for (const std::size_t offset : offsets) fields.push_back({offset, width});
+    return fields;
+}
+
+const std::vector<HeaderField> taggedFields = Fields(4, {8, 12, 16, 20, 24, 28});
+
+} // namespace
+
+std::span<const Reader> Readers() {
+    static const std::vector<Reader> readers{
+        {"wal", ReadDocument<WALDocument>, WritePicture<WALDocument>,
+         Fields(4, {32, 36, 40, 44, 48, 52, 88, 92, 96})},
+        {"mip", ReadDocument<MIPDocument>, WritePicture<MIPDocument>, Fields(4, {16, 20, 24, 28, 32, 36})},
+        {"pcx", ReadDocument<PCXDocument>, WritePicture<PCXDocument>,
+         Fields(2, {0, 2, 4, 6, 8, 10, 64, 66, 68})},
+        {"tga", ReadDocument<TGADocument>, WritePicture<TGADocument>, Fields(2, {0, 2, 3, 5, 7, 12, 14, 16})},
+        {"bmp", ReadDocument<BMPDocument>, WritePicture<BMPDocument>,
+         Fields(4, {2, 10, 14, 18, 22, 26, 28, 30, 34, 46})},
+        {"dib", ReadClipboardBitmap, MakeBitmapWithoutFileHeader, Fields(4, {0, 4, 8, 12, 14, 16, 20, 32})},
+        {"lmp", ReadDocument<LMPDocument>, [] { return Bytes(768); }, {}},
+        {"kelcolors", ReadDocument<ColorTableDocument>, [] { return Bytes(16); }, {}},
+        {"kelbrush", ReadDocument<BrushDocument>,
+         [] { return MakeTagged("Brsh", std::string_view("\1\0\0\0", 4)); }, taggedFields},
+        {"kelcolorspace", ReadDocument<ColorSpaceDocument>, [] { return MakeTagged("ClSp", "RGBA"); },
+         taggedFields},
+        {"pak", ReadDocument<PAKDocument>, MakePack, Fields(4, {4, 8, 76, 80, 140, 144})},
+        {"wad", ReadDocument<WADDocument>, MakeWad, Fields(4, {4, 8})},
+        {"path", ResolvePath, MakePathAndPack, Fields(4, {13, 17, 85, 89})},
+    };
+    return readers;
+}
+
+const Reader& FindReader(std::string_view name) {
+    const std::span<const Reader> readers = Readers();
+    const auto place = std::find_if(readers.begin(), readers.end(),
+                                    [&](const Reader& reader) { return reader.name == name; });
+    if (place == readers.end()) throw std::invalid_argument("no reader " + std::string(name));
+    return *place;
+}

@@ -1,0 +1,26 @@
+#include "Readers.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class MutatedFiles : public testing::TestWithParam<Reader> {};
+
+} // namespace
+
+// Whatever is done to a file, its reader gives a result or one of the program's own exceptions, and the same
+// through a buffer as without one.
+TEST_P(MutatedFiles, AreReadOrRefused) {
+    const Reader& reader = GetParam();
+    const Bytes seed = reader.makeSeed();
+    ASSERT_TRUE(reader.read(seed, Buffering::whole)) << "the seed itself must be good";
+    std::mt19937 random(20);
+    for (int i = 0; i < 1000; ++i) {
+        Bytes bytes = seed;
+        MutateFile(bytes, reader.fields, random);
+        EXPECT_EQ(reader.read(bytes, Buffering::whole), reader.read(bytes, Buffering::none)) << i;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryReader, MutatedFiles, testing::ValuesIn(Readers().begin(), Readers().end()),
+                         [](const auto& reader) { return std::string(reader.param.name); });
