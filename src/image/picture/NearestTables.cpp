@@ -46,4 +46,5 @@ NearestTables::NearestTables(const ColorList& searchedList, std::uint32_t usualA
                              const NearestKernels& kernels)
     : list(searchedList), gridMask(FitsGrid(list) && !HasOneAlpha(list.Colors()) ? alphaMask : 0),
       gridAlpha(FitsGrid(list) ? usualAlpha << 24 & gridMask : noAlpha),
-      grid(list.Colors(), usualAlpha, kernels), scanGroups(MakeScanGroups(list.Colors())) {}
+      grid(list.Colors().first(std::min(list.GetCount(), NearestGrid::maximumColors)), usualAlpha, kernels),
+      scanGroups(MakeScanGroups(list.Colors())) {}
