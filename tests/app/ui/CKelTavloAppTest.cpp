@@ -7,11 +7,16 @@
 #include "framework/ui/CStatusBar.h"
 #include "framework/ui/Commands.h"
 #include "res/CommandIds.h"
+#include "support/TestApplication.h"
 #include "support/ui/DialogAnswer.h"
 
+#include <QCoreApplication>
 #include <QDialogButtonBox>
+#include <QDropEvent>
 #include <QListWidget>
+#include <QMimeData>
 #include <QTemporaryDir>
+#include <QUrl>
 
 #include <gtest/gtest.h>
 
@@ -90,6 +95,19 @@ TEST_F(CKelTavloAppTest, OffersTheTypesFilterFirst) {
     EXPECT_EQ(filters.front().label, "Quake II Texture Files (*.wal)");
     EXPECT_EQ(filters.front().patterns, "*.wal");
     EXPECT_EQ(filters.back().label, "All Files (*.*)");
+}
+
+TEST_F(CKelTavloAppTest, OpensFilesThatAreDropped) {
+    const DialogAnswer cancel([](QDialog& dialog) { dialog.reject(); });
+    program.InitInstance({});
+    const QString path = folder.filePath("floor.wal");
+    WriteFile(path.toStdString(), MakeWal(8, 8));
+    QMimeData files;
+    files.setUrls({QUrl::fromLocalFile(path), QUrl("http://example.invalid/x.wal")});
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(program.GetMainFrame(), &drop);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(program.GetRecentFiles().GetPaths(), std::vector<std::string>{path.toStdString()});
 }
 
 TEST(CommandLineTest, TellsPathsFromOptions) {
