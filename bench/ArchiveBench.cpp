@@ -1,66 +1,122 @@
 #include "app/HeadlessApplication.h"
 #include "archives/FolderDocument.h"
 #include "framework/core/DiskFile.h"
+#include "framework/core/Path.h"
 #include "framework/core/Text.h"
-#include "support/PackBuilder.h"
+#include "support/WadBuilder.h"
 
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
-#include <filesystem>
 #include <fstream>
 
 namespace {
 
-constexpr std::size_t entryCount = 4096;
-constexpr std::uint64_t packSize = std::uint64_t{1} << 30;
-
-// A pack of 1 GiB whose entries fill it evenly.
-class LargePack {
+// An archive on the disk, its directory in front and its entries' bytes behind it.
+class LargeArchive {
 public:
-    LargePack() : path(folder.path().toStdString() + "/large.pak") {
-        PackBuilder builder;
-        for (std::size_t i = 0; i < entryCount; ++i)
-            builder.Add("textures/set" + std::to_string(i / 64) + "/floor" + std::to_string(i) + ".wal", {});
-        Bytes pack = builder.Build();
-        constexpr auto entrySize = static_cast<std::uint32_t>((packSize - 12) / entryCount - 64);
-        for (std::size_t i = 0; i < entryCount; ++i) {
-            PutU32(pack, 12 + i * 64 + 56, static_cast<std::uint32_t>(pack.size() + i * entrySize));
-            PutU32(pack, 12 + i * 64 + 60, entrySize);
-        }
-        WriteFile(path, pack);
+    LargeArchive(const std::string& name, const Bytes& directory, std::uint64_t size)
+        : path(folder.path().toStdString() + "/" + name) {
+        WriteFile(path, directory);
         std::ofstream out(path, std::ios::binary | std::ios::app);
         const std::string block(1 << 20, 'x');
-        for (std::uint64_t size = pack.size(); size < packSize; size += block.size())
+        for (std::uint64_t done = directory.size(); done < size; done += block.size())
             out.write(block.data(),
-                      static_cast<std::streamsize>(std::min<std::uint64_t>(block.size(), packSize - size)));
+                      static_cast<std::streamsize>(std::min<std::uint64_t>(block.size(), size - done)));
     }
 
     QTemporaryDir folder;
     std::string path;
 };
 
-const LargePack& Pack() {
-    static const LargePack pack;
-    return pack;
+// A pack of 1 GiB whose entries fill it evenly.
+const std::string& Pack() {
+    constexpr std::size_t entryCount = 4096;
+    constexpr std::uint64_t packSize = std::uint64_t{1} << 30;
+    static const LargeArchive pack = [] {
+        PackBuilder builder;
+        for (std::size_t i = 0; i < entryCount; ++i)
+            builder.Add("textures/set" + std::to_string(i / 64) + "/floor" + std::to_string(i) + ".wal", {});
+        Bytes bytes = builder.Build();
+        constexpr auto entrySize = static_cast<std::uint32_t>((packSize - 12) / entryCount - 64);
+        for (std::size_t i = 0; i < entryCount; ++i) {
+            PutU32(bytes, 12 + i * 64 + 56, static_cast<std::uint32_t>(bytes.size() + i * entrySize));
+            PutU32(bytes, 12 + i * 64 + 60, entrySize);
+        }
+        return LargeArchive("large.pak", bytes, packSize);
+    }();
+    return pack.path;
 }
 
-void ReadPackThrough(benchmark::State& state) {
-    const std::string& path = Pack().path;
+constexpr std::size_t lumpCount = 20000;
+
+// A WAD file of 300 MB.
+const std::string& Wad() {
+    constexpr std::uint64_t wadSize = 300'000'000;
+    static const LargeArchive wad = [] {
+        WadBuilder builder;
+        for (std::size_t i = 0; i < lumpCount; ++i)
+            builder.Add("texture" + std::to_string(i), WadBuilder::wad3TextureType, {});
+        Bytes bytes = builder.Build();
+        constexpr auto lumpSize =
+            static_cast<std::uint32_t>(wadSize / lumpCount - WadBuilder::recordSize - 1);
+        for (std::size_t i = 0; i < lumpCount; ++i) {
+            const std::size_t record = WadBuilder::headerSize + i * WadBuilder::recordSize;
+            PutU32(bytes, record, static_cast<std::uint32_t>(bytes.size() + i * lumpSize));
+            PutU32(bytes, record + 4, lumpSize);
+            PutU32(bytes, record + 8, lumpSize);
+        }
+        return LargeArchive("large.wad", bytes, wadSize);
+    }();
+    return wad.path;
+}
+
+using GetArchive = const std::string& (*)();
+
+void ReadThrough(benchmark::State& state, GetArchive archive) {
+    const std::string& path = archive();
     std::vector<std::byte> buffer(128 * 1024); // what cat reads at once
     for (auto _ : state) {
         DiskFile file(path, CFile::modeRead);
         while (file.Read(buffer.data(), buffer.size()) > 0) benchmark::ClobberMemory();
     }
 }
-BENCHMARK(ReadPackThrough)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(ReadThrough, Pack, Pack)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(ReadThrough, Wad, Wad)->Unit(benchmark::kMillisecond);
 
-void OpenPack(benchmark::State& state) {
-    const std::string& path = Pack().path;
+void Open(benchmark::State& state, GetArchive archive) {
+    const std::string& path = archive();
     HeadlessApplication application([](const std::string&) {});
-    for (auto _ : state) application.OpenDocumentFile(path)->OnCloseDocument();
+    for (auto _ : state) {
+        CDocument* document = application.OpenDocumentFile(path);
+        state.PauseTiming();
+        document->OnCloseDocument();
+        state.ResumeTiming();
+    }
 }
-BENCHMARK(OpenPack)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Open, Pack, Pack)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Open, Wad, Wad)->Unit(benchmark::kMillisecond);
+
+// What browsing does: the names of a folder, then the status of each. The argument is how many other
+// documents are open.
+void ListWithStatus(benchmark::State& state) {
+    HeadlessApplication application([](const std::string&) {});
+    FileSystem& files = application.GetFileSystem();
+    application.OpenDocumentFile(Wad());
+    CDocTemplate& pictures = *application.GetTemplates().front();
+    for (std::int64_t i = 0; i < state.range(0); ++i) pictures.OpenDocumentFile({});
+    for (auto _ : state) {
+        FolderListing listing;
+        files.ListFolder(Wad(), listing);
+        for (const std::string& name : listing.names) {
+            EntryStatus status;
+            files.GetStatus(JoinPath(Wad(), name), status);
+            benchmark::DoNotOptimize(status);
+        }
+    }
+    state.SetItemsProcessed(state.iterations() * std::int64_t{lumpCount});
+}
+BENCHMARK(ListWithStatus)->Arg(0)->Arg(100)->Unit(benchmark::kMillisecond);
 
 class NamedEntry final : public Entry {
 public:

@@ -23,7 +23,7 @@ std::unique_ptr<CFile> StoredEntry::OpenEntry(unsigned, CFileException* failure,
         const std::shared_ptr<EntryBytes> bytes = Load(owner);
         return std::make_unique<EntryFile>(bytes, GetExtent().length,
                                            [this, &owner, weak = std::weak_ptr(bytes)] {
-                                               changed = weak.lock();
+                                               use->changed = weak.lock();
                                                owner.SetModifiedFlag();
                                            });
     } catch (const CFileException& exception) {
@@ -33,7 +33,8 @@ std::unique_ptr<CFile> StoredEntry::OpenEntry(unsigned, CFileException* failure,
 }
 
 std::shared_ptr<EntryBytes> StoredEntry::Load(FolderDocument& owner) {
-    if (const std::shared_ptr<EntryBytes> bytes = loaded.lock()) return bytes;
+    if (!use) use = std::make_unique<Use>();
+    if (const std::shared_ptr<EntryBytes> bytes = use->loaded.lock()) return bytes;
     const Extent extent = GetExtent();
     CFile& file = owner.GetSource(extent.offset, extent.stored);
     // The zeros have no bytes behind them; a claim of gigabytes must not get them.
@@ -42,6 +43,6 @@ std::shared_ptr<EntryBytes> StoredEntry::Load(FolderDocument& owner) {
     file.Seek(static_cast<std::int64_t>(extent.offset), CFile::From::begin);
     if (file.Read(bytes->data(), extent.stored) != extent.stored)
         throw CFileException(CFileException::endOfFile, CFileException::noOsError, GetName());
-    loaded = bytes;
+    use->loaded = bytes;
     return bytes;
 }

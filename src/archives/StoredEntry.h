@@ -23,6 +23,10 @@ protected:
 private:
     std::shared_ptr<EntryBytes> Load(FolderDocument& owner);
 
-    std::weak_ptr<EntryBytes> loaded;    // for as long as a file is open over them
-    std::shared_ptr<EntryBytes> changed; // set by the first write
+    struct Use {
+        std::weak_ptr<EntryBytes> loaded;    // for as long as a file is open over them
+        std::shared_ptr<EntryBytes> changed; // set by the first write
+    };
+    // Made when the entry is first opened: most of a large archive's never are.
+    std::unique_ptr<Use> use;
 };
