@@ -1,0 +1,94 @@
+#include "preview3d/MDLDocument.h"
+
+#include "resources/streams/InputStream.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <span>
+
+namespace {
+
+using FileBytes = std::span<const std::byte>;
+
+// Where the file tells of its textures; little-endian.
+constexpr std::uint64_t placeOfTable = 180;
+struct TextureTable {
+    std::int32_t count;
+    std::uint32_t offset; // from the start of the file; 0 means no textures
+};
+static_assert(sizeof(TextureTable) == 8);
+
+struct TextureRecord {
+    char name[64];            // not used
+    std::int32_t flags;       // not used
+    std::int32_t width;       // pixels
+    std::int32_t height;      // pixels
+    std::uint32_t dataOffset; // of width x height indices, rows top first; 256 colours follow
+
+    std::uint64_t PixelCount() const {
+        return static_cast<std::uint64_t>(width) * static_cast<std::uint64_t>(height);
+    }
+};
+static_assert(sizeof(TextureRecord) == 80);
+
+constexpr std::size_t colorCount = 256;
+constexpr std::size_t paletteSize = colorCount * 3; // red, green and blue bytes
+
+bool Contains(FileBytes file, std::uint64_t offset, std::uint64_t size) {
+    return offset + size <= file.size();
+}
+
+bool IsPictureSide(std::int32_t side) {
+    return side >= 0 && side <= maximumPictureSide;
+}
+
+bool IsReadable(FileBytes file, const TextureRecord& record) {
+    return IsPictureSide(record.width) && IsPictureSide(record.height) &&
+           record.PixelCount() <= maximumPictureBytes / sizeof(Color) &&
+           Contains(file, record.dataOffset, record.PixelCount() + paletteSize);
+}
+
+// The records, when all of them and what they point to can be read.
+std::vector<TextureRecord> ReadRecords(const InputStream& in, FileBytes file) {
+    if (!Contains(file, placeOfTable, sizeof(TextureTable))) in.Fail(StreamError::badIndex);
+    TextureTable table;
+    std::memcpy(&table, &file[placeOfTable], sizeof table);
+    if (table.offset == 0 || table.count == 0) return {};
+    const std::uint64_t size = static_cast<std::uint64_t>(table.count) * sizeof(TextureRecord);
+    if (table.count < 0 || !Contains(file, table.offset, size)) in.Fail(StreamError::badIndex);
+    std::vector<TextureRecord> records(static_cast<std::size_t>(table.count));
+    std::memcpy(records.data(), &file[table.offset], size);
+    // Textures may share bytes, but a small file must not become a thousand large pictures by that.
+    std::uint64_t pixels = 0;
+    for (const TextureRecord& record : records) {
+        if (!IsReadable(file, record)) in.Fail(StreamError::badIndex);
+        pixels += record.PixelCount();
+    }
+    if (pixels > file.size()) in.Fail(StreamError::badIndex);
+    return records;
+}
+
+Image Decode(FileBytes file, const TextureRecord& record) {
+    const FileBytes indices = file.subspan(record.dataOffset, record.PixelCount());
+    const FileBytes palette = file.subspan(record.dataOffset + record.PixelCount(), paletteSize);
+    const auto channel = [&](std::size_t i) { return std::to_integer<std::uint32_t>(palette[i]); };
+    std::array<Color, colorCount> colors;
+    for (std::size_t k = 0; k < colorCount; ++k)
+        colors[k] = Compose(channel(3 * k), channel(3 * k + 1), channel(3 * k + 2));
+    Image image(record.width, record.height);
+    std::ranges::transform(indices, image.Pixels().begin(),
+                           [&](std::byte index) { return colors[std::to_integer<std::size_t>(index)]; });
+    return image;
+}
+
+} // namespace
+
+void MDLDocument::ReadContents(InputStream& in) {
+    std::vector<std::byte> bytes(in.GetLength());
+    in.Read(bytes.data(), bytes.size());
+    fileData = std::move(bytes);
+    textures.clear();
+    for (const TextureRecord& record : ReadRecords(in, fileData))
+        textures.push_back(Decode(fileData, record));
+}

@@ -1,0 +1,111 @@
+#include "preview3d/MDLDocument.h"
+
+#include "support/ModelBuilder.h"
+#include "support/TestApplication.h"
+
+#include <gmock/gmock.h>
+
+using testing::HasSubstr;
+
+namespace {
+
+constexpr const char* badIndex = "does not allow";
+constexpr std::size_t firstRecord = MdlBuilder::headerSize;
+
+class MDLDocumentTest : public WorkshopTest {
+protected:
+    std::string PutModel(const Bytes& bytes) {
+        return Put("model" + std::to_string(++count) + ".mdl", bytes);
+    }
+    // Empty when the model opens, else the message.
+    std::string OpenModel(const Bytes& bytes) {
+        return Open<MDLDocument>(PutModel(bytes)) ? std::string() : TakeMessage();
+    }
+    // The message for the small model with one field changed.
+    std::string OpenWith(std::size_t field, std::uint32_t value) {
+        Bytes bytes = Small();
+        PutU32(bytes, field, value);
+        return OpenModel(bytes);
+    }
+    static Bytes Small() { return MdlBuilder{{{4, 2}, {16, 16}}}.Build(); }
+    int count = 0;
+};
+
+} // namespace
+
+TEST_F(MDLDocumentTest, DecodesEachTextureThroughItsPalette) {
+    auto* model = Open<MDLDocument>(PutModel(Small()));
+    ASSERT_NE(model, nullptr);
+    EXPECT_EQ(model->GetFileData(), Small());
+    ASSERT_EQ(model->GetTextures().size(), 2U);
+    EXPECT_EQ(model->GetTextures()[0].GetWidth(), 4);
+    EXPECT_EQ(model->GetTextures()[0].GetHeight(), 2);
+    EXPECT_EQ(model->GetTextures()[0].GetPixel(1, 1), Compose(5, 10, 15));
+    EXPECT_EQ(model->GetTextures()[1].GetPixel(15, 15), Compose(255, 254, 253));
+    const Bytes other = MdlBuilder{{{1, 1}}}.Build();
+    EXPECT_TRUE(model->OnOpenDocument(PutModel(other)));
+    EXPECT_EQ(model->GetFileData(), other);
+    ASSERT_EQ(model->GetTextures().size(), 1U);
+    EXPECT_EQ(model->GetTextures()[0].GetWidth(), 1);
+}
+
+TEST_F(MDLDocumentTest, WithoutATableThereAreNoTextures) {
+    Bytes bytes = ToBytes("IDPO");
+    bytes.resize(MdlBuilder::tableOffset + 4);
+    PutU32(bytes, MdlBuilder::textureCount, 0xFFFFFFFF);
+    EXPECT_EQ(OpenModel(bytes), "");
+    EXPECT_EQ(OpenWith(MdlBuilder::textureCount, 0), "");
+    bytes.pop_back();
+    EXPECT_THAT(OpenModel(bytes), HasSubstr(badIndex));
+}
+
+TEST_F(MDLDocumentTest, RefusesWhatLiesOutsideTheFile) {
+    const Bytes whole = Small();
+    for (std::size_t length = 1; length < whole.size(); ++length)
+        EXPECT_THAT(OpenModel(Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length))),
+                    HasSubstr(badIndex))
+            << length;
+    const auto size = static_cast<std::uint32_t>(whole.size());
+    struct {
+        std::size_t field;
+        std::vector<std::uint32_t> values;
+    } const cases[] = {
+        {MdlBuilder::textureCount, {0x7FFFFFFF, 0x80000000, 0xFFFFFFFF, size / 80 + 1}},
+        {MdlBuilder::tableOffset, {size - 159, size, 0x80000000, 0xFFFFFFFF}},
+        {firstRecord + MdlBuilder::width, {0x7FFFFFFF, 0x80000000, 0xFFFFFFFF, 65536, size}},
+        {firstRecord + MdlBuilder::height, {0x7FFFFFFF, 0x80000000, 0xFFFFFFFF, 65536, size}},
+        {firstRecord + MdlBuilder::dataOffset, {size - 775, 0x80000000, 0xFFFFFFFF}},
+    };
+    for (const auto& [field, values] : cases)
+        for (const std::uint32_t value : values)
+            EXPECT_THAT(OpenWith(field, value), HasSubstr(badIndex)) << field << " " << value;
+    Bytes bytes = whole;
+    PutU32(bytes, firstRecord + MdlBuilder::width, 0xFFFFFFFF); // their product is 1
+    PutU32(bytes, firstRecord + MdlBuilder::height, 0xFFFFFFFF);
+    EXPECT_THAT(OpenModel(bytes), HasSubstr(badIndex));
+    EXPECT_EQ(OpenWith(firstRecord + MdlBuilder::width, 0), "") << "a picture without pixels";
+    EXPECT_EQ(OpenWith(firstRecord + MdlBuilder::dataOffset, 0), "") << "any bytes of the file will do";
+    EXPECT_EQ(OpenWith(firstRecord + MdlBuilder::dataOffset, size - 776), "");
+}
+
+TEST_F(MDLDocumentTest, TexturesThatShareBytesTakeNoMoreThanTheFile) {
+    constexpr std::uint32_t shares = 40;
+    Bytes bytes = MdlBuilder{std::vector<MdlBuilder::Size>(shares, {8, 8})}.Build();
+    const auto shareBytes = [&](std::uint32_t side) {
+        for (std::uint32_t t = 0; t < shares; ++t) {
+            const std::size_t record = MdlBuilder::headerSize + t * MdlBuilder::recordSize;
+            PutU32(bytes, record + MdlBuilder::width, side);
+            PutU32(bytes, record + MdlBuilder::height, side);
+            PutU32(bytes, record + MdlBuilder::dataOffset, 0);
+        }
+        return OpenModel(bytes);
+    };
+    EXPECT_EQ(shareBytes(8), "");
+    EXPECT_THAT(shareBytes(100), HasSubstr(badIndex));
+}
+
+TEST_F(MDLDocumentTest, CannotBeSaved) {
+    auto* model = Open<MDLDocument>(PutModel(Small()));
+    EXPECT_FALSE(model->OnSaveDocument(PathTo("saved.mdl")));
+    EXPECT_THAT(TakeMessage(), HasSubstr("saved.mdl"));
+}
