@@ -17,6 +17,7 @@
 #include <QMimeData>
 #include <QTemporaryDir>
 #include <QUrl>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -105,7 +106,10 @@ TEST_F(CKelTavloAppTest, OpensFilesThatAreDropped) {
     QMimeData files;
     files.setUrls({QUrl::fromLocalFile(path), QUrl("http://example.invalid/x.wal")});
     QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(program.GetMainFrame(), &drop);
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+    // Drops come through the native window: it alone knows which widget they are for.
+    QCoreApplication::sendEvent(program.GetMainFrame()->windowHandle(), &enter);
+    QCoreApplication::sendEvent(program.GetMainFrame()->windowHandle(), &drop);
     QCoreApplication::processEvents();
     EXPECT_EQ(program.GetRecentFiles().GetPaths(), std::vector<std::string>{path.toStdString()});
 }
