@@ -25,7 +25,7 @@ ColorList MakePalette(Color alphaBits) {
     return ColorList(colors);
 }
 
-/// Different colours in no order: multiplying by an odd number permutes the numbers of 24 bits.
+// Different colours in no order: multiplying by an odd number permutes the numbers of 24 bits.
 std::vector<Color> MakeDistinctColors(std::size_t count) {
     std::vector<Color> colors(count);
     for (std::size_t i = 0; i < count; ++i)
@@ -72,7 +72,7 @@ void NearestIndices(benchmark::State& state) {
     }
 }
 
-/// Neither the pixels nor the entries have one alpha.
+// Neither the pixels nor the entries have one alpha.
 template <auto find>
 void NearestAlphas(benchmark::State& state) {
     const ColorList list = MakePalette(0);

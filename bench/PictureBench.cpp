@@ -32,7 +32,7 @@ Table MakeRandomTable() {
     return table;
 }
 
-/// As a gamma setting makes it: other colours, the same alpha.
+// As a gamma setting makes it: other colours, the same alpha.
 Table MakeGammaTable() {
     Table table{};
     for (std::uint32_t i = 0; i < 256; ++i) table[i] = Compose(i * i / 255, (i + 255) / 2, 255 - i, i);

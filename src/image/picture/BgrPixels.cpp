@@ -5,7 +5,7 @@
 
 namespace {
 
-/// Four pixels make three words, which are faster to take apart than twelve bytes.
+// Four pixels make three words, which are faster to take apart than twelve bytes.
 constexpr std::size_t groupPixels = 4;
 using Group = std::array<std::uint32_t, 3>;
 

@@ -4,8 +4,8 @@
 
 #include <bit>
 
-/// Where red, green and blue lie in a 16- or 32-bit pixel value; each mask is one run of bits, or 0 for no
-/// channel.
+// Where red, green and blue lie in a 16- or 32-bit pixel value; each mask is one run of bits, or 0 for no
+// channel.
 struct ChannelMasks {
     std::uint32_t red = redMask;
     std::uint32_t green = greenMask;
@@ -13,7 +13,7 @@ struct ChannelMasks {
 
     static constexpr ChannelMasks FiveBits() { return {0x7C00, 0x03E0, 0x001F}; }
 
-    /// The opaque colour of a pixel value.
+    // The opaque colour of a pixel value.
     constexpr Color ToColor(std::uint32_t value) const {
         return Compose(Extract(value, red), Extract(value, green), Extract(value, blue));
     }
@@ -25,7 +25,7 @@ struct ChannelMasks {
     constexpr bool operator==(const ChannelMasks&) const = default;
 
 private:
-    /// Widens by repeating the bits, so that all ones stay all ones.
+    // Widens by repeating the bits, so that all ones stay all ones.
     static constexpr std::uint32_t Extract(std::uint32_t value, std::uint32_t mask) {
         const int bits = std::popcount(mask);
         if (bits == 0) return 0;

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Below this many pixels arranging a table costs more than it saves.
+// Below this many pixels arranging a table costs more than it saves.
 constexpr std::size_t fewPixels = 256;
 
 void MapByLookups(const std::uint32_t* table256, std::span<const Color> input, std::span<Color> output) {

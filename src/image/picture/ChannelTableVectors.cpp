@@ -11,12 +11,12 @@ namespace {
 constexpr std::size_t shuffledPixels = 32;
 constexpr std::size_t permutedPixels = 16;
 
-/// Four vectors of pixels, or of single channels.
+// Four vectors of pixels, or of single channels.
 struct Vectors {
     __m256i rows[4];
 };
 
-/// Turns 32 pixels into one vector for each channel; Join brings them back in their order.
+// Turns 32 pixels into one vector for each channel; Join brings them back in their order.
 [[gnu::target("avx2")]] inline void Split(Vectors& vectors) {
     auto& rows = vectors.rows;
     const __m256i channelsTogether = _mm256_setr_epi8(0, 4, 8, 12, 1, 5, 9, 13, 2, 6, 10, 14, 3, 7, 11, 15, //
@@ -45,14 +45,14 @@ struct Vectors {
     rows[3] = _mm256_unpackhi_epi16(highBlueGreen, highRedAlpha);
 }
 
-/// Shuffles a piece of 16 table bytes, the same for both lanes.
+// Shuffles a piece of 16 table bytes, the same for both lanes.
 [[gnu::target("avx2")]] inline __m256i ShufflePiece(const std::uint8_t* piece, __m256i indices) {
     const __m128i bytes = _mm_load_si128(reinterpret_cast<const __m128i*>(piece));
     return _mm256_shuffle_epi8(_mm256_broadcastsi128_si256(bytes), indices);
 }
 
-/// Indices of 8 bits into four pieces of 16 bytes: the low four bits as they are, and with the top bit, for
-/// which a shuffle gives 0, set where bit 4, bit 5 or one of them is set.
+// Indices of 8 bits into four pieces of 16 bytes: the low four bits as they are, and with the top bit, for
+// which a shuffle gives 0, set where bit 4, bit 5 or one of them is set.
 struct PieceIndices {
     __m256i any;
     __m256i bit4Clear;
@@ -73,7 +73,7 @@ struct PieceIndices {
     return indices;
 }
 
-/// Looks up in 64 arranged table bytes.
+// Looks up in 64 arranged table bytes.
 [[gnu::target("avx2")]] inline __m256i LookUpQuarter(const std::uint8_t* quarter,
                                                      const PieceIndices& indices) {
     return _mm256_xor_si256(_mm256_xor_si256(ShufflePiece(quarter, indices.any), //
@@ -82,7 +82,7 @@ struct PieceIndices {
                                              ShufflePiece(quarter + 48, indices.bothClear)));
 }
 
-/// A blend looks at the top bit of every byte: bit 7 of the values, or bit 6 of them doubled.
+// A blend looks at the top bit of every byte: bit 7 of the values, or bit 6 of them doubled.
 [[gnu::target("avx2")]] inline __m256i LookUp(const std::uint8_t* plane, __m256i values) {
     const PieceIndices indices = MakePieceIndices(values);
     const __m256i doubled = _mm256_add_epi8(values, values);
@@ -93,7 +93,7 @@ struct PieceIndices {
     return _mm256_blendv_epi8(lower, upper, values);
 }
 
-/// Maps the first channels and leaves the others: with a gamma's alpha a quarter of the work is saved.
+// Maps the first channels and leaves the others: with a gamma's alpha a quarter of the work is saved.
 template <std::size_t channelCount>
 [[gnu::target("avx2")]] std::size_t ShuffleChannels(const ChannelPlanes& channels,
                                                     std::span<const Color> input, std::span<Color> output) {
@@ -117,7 +117,7 @@ template <std::size_t channelCount>
     return count;
 }
 
-/// Replaces the bytes of one channel, which the two byte masks select by the half of the table they need.
+// Replaces the bytes of one channel, which the two byte masks select by the half of the table they need.
 [[gnu::target("avx512f,avx512bw,avx512vbmi")]] inline __m512i
 Permute(const ChannelPlanes::Plane& plane, __m512i pixels, __mmask64 lowerHalf, __mmask64 upperHalf) {
     const __m512i lower = _mm512_mask2_permutex2var_epi8(_mm512_load_si512(&plane[0]), pixels, lowerHalf,

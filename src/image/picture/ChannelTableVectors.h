@@ -14,7 +14,7 @@ struct ChannelPlanes;
 bool HasByteShuffles();
 bool HasBytePermutes();
 
-/// Turns the planes into what ApplyByShuffles needs of them.
+// Turns the planes into what ApplyByShuffles needs of them.
 void ArrangeForShuffles(ChannelPlanes& channels);
 std::size_t ApplyByShuffles(const ChannelPlanes& channels, std::span<const Color> input,
                             std::span<Color> output);

@@ -10,15 +10,15 @@
 
 class NearestColorCache;
 
-/// A palette or colour table: entry i is the colour of index i. Copies take the colours only, never the
-/// cache.
+// A palette or colour table: entry i is the colour of index i. Copies take the colours only, never the
+// cache.
 class ColorList {
 public:
-    /// Slots that every conversion and writer asks for: a prime, so that ramps of one channel spread well.
+    // Slots that every conversion and writer asks for: a prime, so that ramps of one channel spread well.
     static constexpr std::size_t defaultSlotCount = 1021;
 
     ColorList();
-    /// A list of that many entries, all 0.
+    // A list of that many entries, all 0.
     explicit ColorList(std::size_t count);
     ColorList(std::initializer_list<Color> initialColors);
     explicit ColorList(std::vector<Color> initialColors);
@@ -30,24 +30,24 @@ public:
 
     std::size_t GetCount() const { return colors.size(); }
     std::span<const Color> Colors() const { return colors; }
-    /// Throws std::out_of_range for an index outside the list, as SetColor does.
+    // Throws std::out_of_range for an index outside the list, as SetColor does.
     Color GetColor(std::size_t index) const { return colors.at(index); }
     Color operator[](std::size_t index) const { return colors.at(index); }
 
     // What changes the colours destroys the cache, whose slots point at them.
     void SetColor(std::size_t index, Color color);
     void Append(Color color);
-    /// New entries are 0.
+    // New entries are 0.
     void SetCount(std::size_t count);
 
-    /// Remembers lookups until DestroyCache, a change or an assignment; a memo only, so constant lists may
-    /// have one.
+    // Remembers lookups until DestroyCache, a change or an assignment; a memo only, so constant lists may
+    // have one.
     void CreateCache(std::size_t slotCount = defaultSlotCount) const;
     void DestroyCache() const;
     bool HasCache() const { return cache != nullptr; }
 
-    /// The entry of the smallest ColorDistance, the first of several. Throws std::out_of_range on an empty
-    /// list.
+    // The entry of the smallest ColorDistance, the first of several. Throws std::out_of_range on an empty
+    // list.
     const Color* FindNearest(Color color) const;
     std::size_t FindNearestIndex(Color color) const;
 
@@ -60,7 +60,7 @@ private:
     mutable std::unique_ptr<NearestColorCache> cache;
 };
 
-/// Keeps a cache on a list for the length of a scope, also when the work inside throws.
+// Keeps a cache on a list for the length of a scope, also when the work inside throws.
 class NearestColorCacheScope {
 public:
     explicit NearestColorCacheScope(const ColorList& cachedList) : list(cachedList) { list.CreateCache(); }
@@ -72,8 +72,8 @@ private:
     const ColorList& list;
 };
 
-/// Squared distance of the channels, alpha weighing three times as much as each of the others; at most
-/// 390,150.
+// Squared distance of the channels, alpha weighing three times as much as each of the others; at most
+// 390,150.
 constexpr std::uint32_t ColorDistance(Color left, Color right) {
     const std::uint32_t alpha = Alpha(left) - Alpha(right);
     const std::uint32_t red = Red(left) - Red(right);

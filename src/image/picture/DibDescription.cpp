@@ -16,7 +16,7 @@ namespace {
 constexpr std::uint32_t sizeFieldBytes = 4;
 constexpr std::uint32_t masksSize = 12;
 
-/// The first form of the header.
+// The first form of the header.
 struct OldHeader {
     static constexpr std::uint32_t storedSize = 12;
 
@@ -25,7 +25,7 @@ struct OldHeader {
 };
 static_assert(sizeof(OldHeader) == OldHeader::storedSize);
 
-/// The 40-byte header and the masks, which follow it or are the next fields of a longer one.
+// The 40-byte header and the masks, which follow it or are the next fields of a longer one.
 struct Header {
     DibHeader fields;
     ChannelMasks masks;
@@ -35,8 +35,8 @@ static_assert(sizeof(Header) == DibHeader::storedSize + masksSize);
 
 enum Compression : std::uint32_t { runs8 = 1, runs4 = 2, jpeg = 4, png = 5 };
 
-/// Reads the fields that a header of this size has and leaves the others; the stream stands behind the size
-/// and, afterwards, behind the header.
+// Reads the fields that a header of this size has and leaves the others; the stream stands behind the size
+// and, afterwards, behind the header.
 template <class Fields>
 void ReadFields(InputStream& in, Fields& header, std::uint32_t size) {
     const std::uint32_t known = std::min<std::uint32_t>(size, sizeof header);
@@ -114,7 +114,7 @@ void CheckMasks(const InputStream& in, const ChannelMasks& masks, int bitCount) 
     if (together == 0 || overlap || !areRuns || !fit) in.Fail(StreamError::badIndex);
 }
 
-/// The entries that an index can reach; the stream stands behind all of them afterwards.
+// The entries that an index can reach; the stream stands behind all of them afterwards.
 ColorList ReadColors(InputStream& in, const DibHeader& header, std::size_t entrySize) {
     const std::size_t entries = header.bitCount <= 8 ? header.ColorTableEntries() : header.colorsUsed;
     const std::size_t reached = header.bitCount <= 8 ? std::size_t{1} << header.bitCount : 0;
@@ -127,7 +127,7 @@ ColorList ReadColors(InputStream& in, const DibHeader& header, std::size_t entry
     return ColorList(std::move(colors));
 }
 
-/// From the size of the information header to the end of the colour table.
+// From the size of the information header to the end of the colour table.
 DibDescription ReadInformation(InputStream& in) {
     constexpr std::size_t oldEntrySize = 3;
     constexpr std::size_t entrySize = 4;

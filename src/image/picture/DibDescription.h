@@ -6,24 +6,24 @@
 
 class InputStream;
 
-/// Where a stored bitmap is: in a file of its own, after a file header of 14 bytes, or on the clipboard.
+// Where a stored bitmap is: in a file of its own, after a file header of 14 bytes, or on the clipboard.
 enum class DibForm { file, clipboard };
 
-/// What a stored bitmap says before its rows.
+// What a stored bitmap says before its rows.
 struct DibDescription {
     DibHeader header;
     ChannelMasks masks;
-    /// Up to 8 bits a pixel only; never more than an index can reach, and opaque.
+    // Up to 8 bits a pixel only; never more than an index can reach, and opaque.
     ColorList colors;
 
     std::size_t Stride() const { return static_cast<std::size_t>(DibStride(header.bitCount, header.width)); }
     int Rows() const { return header.height < 0 ? -header.height : header.height; }
-    /// The row of the picture that is stored as the i-th.
+    // The row of the picture that is stored as the i-th.
     int PictureRow(int i) const { return header.height < 0 ? i : Rows() - 1 - i; }
 };
 
-/// Reads it and leaves the stream at the first row; the stream has all rows then, and the picture's sides are
-/// 1 to 65535. Headers of every size are brought to the 40-byte form. Calls Fail with badClass for another
-/// kind of file, with badIndex for fields that make no bitmap and with endOfFile for one that ends early; a
-/// compressed bitmap is a CArchiveException that says so.
+// Reads it and leaves the stream at the first row; the stream has all rows then, and the picture's sides are
+// 1 to 65535. Headers of every size are brought to the 40-byte form. Calls Fail with badClass for another
+// kind of file, with badIndex for fields that make no bitmap and with endOfFile for one that ends early; a
+// compressed bitmap is a CArchiveException that says so.
 DibDescription ReadDibDescription(InputStream& in, DibForm form);

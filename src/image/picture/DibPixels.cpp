@@ -5,7 +5,7 @@ namespace {
 
 constexpr Color outsideTable = Compose(0, 0, 0);
 
-/// Where the index of a column lies: the first column is in the highest bits of a byte.
+// Where the index of a column lies: the first column is in the highest bits of a byte.
 struct IndexPlace {
     IndexPlace(std::size_t x, unsigned bitCount)
         : byte(x * bitCount / 8), shift(8 - bitCount - static_cast<unsigned>(x * bitCount % 8)),

@@ -58,7 +58,7 @@ ColorList GreyRamp(std::size_t count, std::size_t levels) {
     return ramp;
 }
 
-/// The colour counts of a header may claim more entries than an index can reach.
+// The colour counts of a header may claim more entries than an index can reach.
 ColorList InitialColorTable(const DibHeader& header) {
     if (header.bitCount > 8) return {};
     const std::size_t levels = std::size_t{1} << header.bitCount;

@@ -12,77 +12,77 @@
 class DrawingSurface;
 class QRect;
 
-/// A bitmap could not be created; the text is a sentence for the user.
+// A bitmap could not be created; the text is a sentence for the user.
 class BitmapError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
 
-/// Holds one device-independent bitmap of 1, 4, 8, 16, 24 or 32 bits a pixel in memory of our own, so pixels
-/// of every depth are read and set directly and no device is opened for it. Empty until created.
+// Holds one device-independent bitmap of 1, 4, 8, 16, 24 or 32 bits a pixel in memory of our own, so pixels
+// of every depth are read and set directly and no device is opened for it. Empty until created.
 class DibSection {
 public:
     DibSection() = default;
-    /// Creates the bitmap at once.
+    // Creates the bitmap at once.
     DibSection(int width, int height, int bitCount) { Create(width, height, bitCount); }
 
-    /// All pixel bytes 0; bottom-up rows for a positive height, top-down ones for a negative. Up to 8 bits
-    /// the colour table is a ramp of greys from black to white; 16 bits are five bits a channel. Throws
-    /// BitmapError, with the bitmap unchanged, for other bit counts, for no pixels, for sizes beyond the
-    /// limits of pictures and when memory is short.
+    // All pixel bytes 0; bottom-up rows for a positive height, top-down ones for a negative. Up to 8 bits
+    // the colour table is a ramp of greys from black to white; 16 bits are five bits a channel. Throws
+    // BitmapError, with the bitmap unchanged, for other bit counts, for no pixels, for sizes beyond the
+    // limits of pictures and when memory is short.
     void Create(int width, int height, int bitCount);
-    /// The same from a whole header, whose resolutions and colour counts are kept and whose image size is set
-    /// to the bytes of the rows. Bit fields, in 16 and 32 bits, start with the masks given.
+    // The same from a whole header, whose resolutions and colour counts are kept and whose image size is set
+    // to the bytes of the rows. Bit fields, in 16 and 32 bits, start with the masks given.
     void Create(const DibHeader& description, const ChannelMasks& fieldMasks);
     void Destroy();
     void Recreate(int width, int height, int bitCount);
 
     bool IsEmpty() const { return words.empty(); }
     int GetWidth() const { return header.width; }
-    /// In rows, never negative.
+    // In rows, never negative.
     int GetHeight() const { return header.height < 0 ? -header.height : header.height; }
     bool IsTopDown() const { return header.height < 0; }
     int GetBitCount() const { return header.bitCount; }
     const DibHeader& GetHeader() const { return header; }
     const ChannelMasks& GetMasks() const { return masks; }
-    /// Bytes of one stored row and of all of them.
+    // Bytes of one stored row and of all of them.
     std::size_t GetStride() const { return stride; }
     std::size_t GetImageSize() const { return words.size() * sizeof(Color); }
 
-    /// The stored rows, blue first where pixels are whole bytes; null while empty.
+    // The stored rows, blue first where pixels are whole bytes; null while empty.
     std::uint8_t* GetBits();
     const std::uint8_t* GetBits() const;
 
-    /// Whether pixels are colour values that Row gives access to.
+    // Whether pixels are colour values that Row gives access to.
     bool HasColorRows() const { return header.bitCount == 32 && masks == ChannelMasks{}; }
-    /// Row y of the picture, counted from its top. Only while HasColorRows.
+    // Row y of the picture, counted from its top. Only while HasColorRows.
     std::span<Color> Row(int y) { return {words.data() + RowOffset(y) / sizeof(Color), Columns()}; }
     std::span<const Color> Row(int y) const {
         return {words.data() + RowOffset(y) / sizeof(Color), Columns()};
     }
 
-    /// The opaque colour of the pixel, row 0 at the top; unchecked. An index beyond the colour table is
-    /// black.
+    // The opaque colour of the pixel, row 0 at the top; unchecked. An index beyond the colour table is
+    // black.
     Color GetPixel(int x, int y) const;
-    /// Stores the colour as nearly as the depth allows: the nearest table entry up to 8 bits, alpha only at
-    /// 32 bits.
+    // Stores the colour as nearly as the depth allows: the nearest table entry up to 8 bits, alpha only at
+    // 32 bits.
     void SetPixel(int x, int y, Color color);
 
-    /// Bytes of the bitmap as a stream: header, colour table and rows, and the file header of 14 bytes when
-    /// asked for.
+    // Bytes of the bitmap as a stream: header, colour table and rows, and the file header of 14 bytes when
+    // asked for.
     std::uint64_t GetStreamSize(bool withFileHeader) const;
 
-    /// Copies the entries from the first one on, opaque, and returns how many there were.
+    // Copies the entries from the first one on, opaque, and returns how many there were.
     std::size_t GetColorTable(std::size_t first, std::span<Color> output) const;
-    /// Replaces entries from the first one on as far as the table reaches; alpha is ignored.
+    // Replaces entries from the first one on as far as the table reaches; alpha is ignored.
     void SetColorTable(std::size_t first, std::span<const Color> entries);
 
-    /// Paints the whole bitmap, stretched, onto the rectangle of the surface.
+    // Paints the whole bitmap, stretched, onto the rectangle of the surface.
     void Draw(DrawingSurface& surface, const QRect& destination) const;
 
 private:
     std::size_t Columns() const { return static_cast<std::size_t>(header.width); }
-    /// Byte offset of the picture's row y.
+    // Byte offset of the picture's row y.
     std::size_t RowOffset(int y) const {
         return static_cast<std::size_t>(IsTopDown() ? y : GetHeight() - 1 - y) * stride;
     }
@@ -91,7 +91,7 @@ private:
 
     DibHeader header;
     std::size_t stride = 0;
-    /// The rows. Words, so that 32-bit pixels may be used as such; a stride is always whole words.
+    // The rows. Words, so that 32-bit pixels may be used as such; a stride is always whole words.
     std::vector<Color> words;
     ColorList colorTable;
     ChannelMasks masks;

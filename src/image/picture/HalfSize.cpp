@@ -28,7 +28,7 @@ __m128i FloorOfMean(__m128i first, __m128i second, __m128i third, __m128i fourth
     return _mm256_sub_epi8(_mm256_avg_epu8(upper, lower), _mm256_and_si256(differences, _mm256_set1_epi8(1)));
 }
 
-/// The even and the odd columns of eight pixels.
+// The even and the odd columns of eight pixels.
 struct Columns {
     explicit Columns(const Color* pixels) {
         const __m128 left = _mm_loadu_ps(reinterpret_cast<const float*>(pixels));
@@ -41,7 +41,7 @@ struct Columns {
     __m128i odd;
 };
 
-/// The even and the odd columns of sixteen pixels, in the order 0 to 3, 8 to 11, 4 to 7, 12 to 15.
+// The even and the odd columns of sixteen pixels, in the order 0 to 3, 8 to 11, 4 to 7, 12 to 15.
 struct WideColumns {
     [[gnu::target("avx2")]] explicit WideColumns(const Color* pixels) {
         const __m256 left = _mm256_loadu_ps(reinterpret_cast<const float*>(pixels));
@@ -90,7 +90,7 @@ std::size_t HalveByEights(const RowPairs& rows, std::size_t firstColumn) {
     return end;
 }
 
-/// Where the wide vectors leave columns over, the narrow ones go on.
+// Where the wide vectors leave columns over, the narrow ones go on.
 std::size_t HalveByVectors(const RowPairs& rows) {
     const bool isWide = __builtin_cpu_supports("avx2") != 0;
     return HalveByEights(rows, isWide ? HalveBySixteens(rows) : 0);

@@ -24,12 +24,12 @@ constexpr Color Average4(Color first, Color second, Color third, Color fourth) {
     return (lowSum >> 2 & low) | (highSum & high);
 }
 
-/// Rows to be averaged two by two into rows of (width + 1) / 2 pixels, all without padding.
+// Rows to be averaged two by two into rows of (width + 1) / 2 pixels, all without padding.
 struct RowPairs {
     const Color* pixels = nullptr;
     std::size_t width = 0;
     std::size_t count = 0;
-    /// From each pair's upper row to its lower one: the width, or 0 to average a single row with itself.
+    // From each pair's upper row to its lower one: the width, or 0 to average a single row with itself.
     std::size_t lowerDistance = 0;
     Color* output = nullptr;
 
@@ -38,9 +38,9 @@ struct RowPairs {
     Color* Output(std::size_t pair) const { return output + pair * ((width + 1) / 2); }
 };
 
-/// Fills the output with the averages of the 2 x 2 blocks; an odd last column is averaged alone. Uses the
-/// processor's vectors where there are any.
+// Fills the output with the averages of the 2 x 2 blocks; an odd last column is averaged alone. Uses the
+// processor's vectors where there are any.
 void HalveRowPairs(const RowPairs& rows);
 
-/// The same pixel by pixel, from the given output column on.
+// The same pixel by pixel, from the given output column on.
 void HalveRowPairsPlain(const RowPairs& rows, std::size_t firstColumn = 0);

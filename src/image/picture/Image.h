@@ -12,27 +12,27 @@
 class ColorList;
 class DibSection;
 
-/// A picture was asked for with a negative side or one beyond the limits.
+// A picture was asked for with a negative side or one beyond the limits.
 class PictureSizeError : public std::length_error {
 public:
     using std::length_error::length_error;
 };
 
-/// The largest width and height of a picture, in pixels, and the most bytes that its pixels may take.
+// The largest width and height of a picture, in pixels, and the most bytes that its pixels may take.
 inline constexpr int maximumPictureSide = 65535;
 inline constexpr std::uint64_t maximumPictureBytes = std::uint64_t{1} << 30;
 
-/// A picture in 32-bit colour: width x height pixels, rows top first, no padding. Pixel access is unchecked:
-/// the caller keeps 0 <= x < width and 0 <= y < height.
+// A picture in 32-bit colour: width x height pixels, rows top first, no padding. Pixel access is unchecked:
+// the caller keeps 0 <= x < width and 0 <= y < height.
 class Image {
 public:
-    /// One pixel of 0.
+    // One pixel of 0.
     Image();
-    /// All pixels 0 (transparent black). Throws PictureSizeError as SetSize does.
+    // All pixels 0 (transparent black). Throws PictureSizeError as SetSize does.
     Image(int initialWidth, int initialHeight);
     Image(const Image& other);
     Image& operator=(const Image& other);
-    /// The other picture is 0 x 0 afterwards.
+    // The other picture is 0 x 0 afterwards.
     Image(Image&& other) noexcept;
     Image& operator=(Image&& other) noexcept;
     virtual ~Image();
@@ -47,7 +47,7 @@ public:
     Color GetPixelWrapped(unsigned x, unsigned y) const { return pixels[WrappedOffset(x, y)]; }
     void SetPixelWrapped(unsigned x, unsigned y, Color color) { pixels[WrappedOffset(x, y)] = color; }
 
-    /// Throws std::out_of_range when the list has no such entry, as the wrapped form does.
+    // Throws std::out_of_range when the list has no such entry, as the wrapped form does.
     void SetPixelFromPalette(int x, int y, const ColorList& list, std::size_t index);
     void SetPixelFromPaletteWrapped(unsigned x, unsigned y, const ColorList& list, std::size_t index);
 
@@ -56,31 +56,31 @@ public:
     std::span<Color> Pixels() { return pixels; }
     std::span<const Color> Pixels() const { return pixels; }
 
-    /// New pixels are 0, the others are in no useful order: callers fill all of them. Sides of 0 are allowed.
-    /// Throws PictureSizeError, with the picture unchanged, for negative sides and sizes beyond the limits.
+    // New pixels are 0, the others are in no useful order: callers fill all of them. Sides of 0 are allowed.
+    // Throws PictureSizeError, with the picture unchanged, for negative sides and sizes beyond the limits.
     void SetSize(int newWidth, int newHeight);
-    /// The same with new pixels of any value, for callers that fill large pictures.
+    // The same with new pixels of any value, for callers that fill large pictures.
     void SetSizeUncleared(int newWidth, int newHeight);
-    /// Crops to the top-left corner or repeats the right and bottom edges outward. A picture that had no
-    /// pixels becomes all 0. Throws as SetSize does.
+    // Crops to the top-left corner or repeats the right and bottom edges outward. A picture that had no
+    // pixels becomes all 0. Throws as SetSize does.
     void Resize(int newWidth, int newHeight);
-    /// Fills the output, another picture, with the averages of the 2 x 2 blocks; odd last rows and columns
-    /// are averaged along the edge.
+    // Fills the output, another picture, with the averages of the 2 x 2 blocks; odd last rows and columns
+    // are averaged along the edge.
     void MakeHalfSize(Image& output) const;
 
-    /// Replaces every pixel by the nearest colour of the list. Throws std::out_of_range when the list is
-    /// empty and the picture is not.
+    // Replaces every pixel by the nearest colour of the list. Throws std::out_of_range when the list is
+    // empty and the picture is not.
     void ConvertToNearest(const ColorList& list);
-    /// The same with the error of red, green and blue carried to the next pixel of the row.
+    // The same with the error of red, green and blue carried to the next pixel of the row.
     void ConvertByErrorDiffusion(const ColorList& list);
 
-    /// Takes size and pixels of the bitmap; every pixel becomes opaque.
+    // Takes size and pixels of the bitmap; every pixel becomes opaque.
     void FromBitmap(const DibSection& bitmap);
-    /// Writes every pixel through the transform into the bitmap, which is recreated first where its size
-    /// differs. Throws BitmapError when that fails, as it does for a picture without pixels.
+    // Writes every pixel through the transform into the bitmap, which is recreated first where its size
+    // differs. Throws BitmapError when that fails, as it does for a picture without pixels.
     void RenderTo(DibSection& bitmap, const PixelTransform& transform) const;
 
-    /// Writes the width x height x 4 bytes of the pixels: blue, green, red, alpha.
+    // Writes the width x height x 4 bytes of the pixels: blue, green, red, alpha.
     void CopyBytesTo(std::uint8_t* destination) const;
 
 private:

@@ -5,14 +5,14 @@
 #include <cstddef>
 #include <vector>
 
-/// Remembers which list entry colours were matched to: one colour per slot, the newest replacing what the
-/// slot held. Valid only while the list's colours stay as they are.
+// Remembers which list entry colours were matched to: one colour per slot, the newest replacing what the
+// slot held. Valid only while the list's colours stay as they are.
 class NearestColorCache {
 public:
-    /// Throws std::invalid_argument when there is no slot.
+    // Throws std::invalid_argument when there is no slot.
     explicit NearestColorCache(std::size_t slotCount);
 
-    /// The entry stored for the colour, or null.
+    // The entry stored for the colour, or null.
     const Color* Find(Color color) const {
         const Slot& slot = slots[color % slots.size()];
         return slot.key == color ? slot.match : nullptr;
@@ -23,7 +23,7 @@ public:
 private:
     struct Slot {
         Color key = 0;
-        /// Null while the slot holds nothing.
+        // Null while the slot holds nothing.
         const Color* match = nullptr;
     };
 

@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::size_t laneCount = NearestCandidates::laneCount;
 
-/// Calls back with every candidate that is left.
+// Calls back with every candidate that is left.
 template <typename Use>
 void ForEachLeft(const std::vector<NearestCandidates>& candidates, Use&& use) {
     for (const NearestCandidates& group : candidates) {
@@ -20,7 +20,7 @@ void ForEachLeft(const std::vector<NearestCandidates>& candidates, Use&& use) {
     }
 }
 
-/// Copies the candidates that are left; returns their number.
+// Copies the candidates that are left; returns their number.
 std::size_t CopyLeft(const std::vector<NearestCandidates>& candidates,
                      std::vector<NearestCandidates>& survivors) {
     std::size_t count = 0;
@@ -44,7 +44,7 @@ int Channel(Color color, int shift) {
     return static_cast<int>(color >> shift & 0xFF);
 }
 
-/// Puts the candidates of a cell into one block after another.
+// Puts the candidates of a cell into one block after another.
 class BlockWriter {
 public:
     BlockWriter(NearestBlock& firstBlock, std::vector<NearestBlock>& furtherBlocks)
@@ -81,17 +81,17 @@ private:
     std::uint16_t blockCount = 1;
 };
 
-/// The scores of two candidates of a cell differ by less than twice this: at the middle none is nearer than
-/// the one that was chosen, and on the way from there to a corner, eight steps in each of three channels,
-/// the difference of two squared distances changes by at most that.
+// The scores of two candidates of a cell differ by less than twice this: at the middle none is nearer than
+// the one that was chosen, and on the way from there to a corner, eight steps in each of three channels,
+// the difference of two squared distances changes by at most that.
 constexpr std::int32_t scoreReach = 2 * 8 * 3 * 255;
 
-/// The score of a candidate for a cell's origin, less a number that all of the cell's candidates share.
+// The score of a candidate for a cell's origin, less a number that all of the cell's candidates share.
 std::int32_t ScoreAtOrigin(Color color, Color origin, std::int32_t alphaDistance) {
     return static_cast<std::int32_t>(ColorDistance(color & ~alphaMask, origin)) + alphaDistance;
 }
 
-/// Its lowest score for any colour of the cell.
+// Its lowest score for any colour of the cell.
 std::int32_t LowestScore(Color color, Color origin, std::int32_t alphaDistance) {
     std::int32_t score = ScoreAtOrigin(color, origin, alphaDistance);
     for (const int shift : channelShifts) {
@@ -108,7 +108,7 @@ NearestBlock NearestBlock::Empty() {
     return block;
 }
 
-/// A part of the colour cube; the half of its side is a power of two.
+// A part of the colour cube; the half of its side is a power of two.
 struct NearestGrid::Box {
     Color origin;
     int half;
@@ -143,7 +143,7 @@ std::vector<NearestCandidates>& NearestGrid::RegionOf(std::size_t cell) {
     return region;
 }
 
-/// Returns the number of survivors.
+// Returns the number of survivors.
 std::size_t NearestGrid::Prune(std::vector<NearestCandidates>& candidates, const Box& box,
                                std::vector<NearestCandidates>& survivors) {
     kernels.takeOutBeaten(candidates, kernels.measure(candidates, box.Middle()), box.half);

@@ -9,26 +9,26 @@
 struct NearestCandidates;
 struct NearestTables;
 
-/// The inner loops of the nearest-colour search in one way of doing them; all ways give the same results.
+// The inner loops of the nearest-colour search in one way of doing them; all ways give the same results.
 struct NearestKernels {
     // For filling the grid.
-    /// Sets the distances of the candidates from the middle of a box. Returns the first nearest one's place:
-    /// eight times its group plus its lane.
+    // Sets the distances of the candidates from the middle of a box. Returns the first nearest one's place:
+    // eight times its group plus its lane.
     std::size_t (*measure)(std::span<NearestCandidates> candidates, Color middle);
-    /// Takes out the measured candidates that the one at that place beats everywhere in the box, which
-    /// reaches from the middle less the half to just below the middle and the half.
+    // Takes out the measured candidates that the one at that place beats everywhere in the box, which
+    // reaches from the middle less the half to just below the middle and the half.
     void (*takeOutBeaten)(std::span<NearestCandidates> candidates, std::size_t place, int half);
 
     // For searching. The lists are not empty.
     std::size_t (*findIndex)(NearestTables& tables, Color color);
-    /// For lists of up to 256 entries; as many indices as pixels.
+    // For lists of up to 256 entries; as many indices as pixels.
     void (*findIndices)(NearestTables& tables, std::span<const Color> pixels, std::uint8_t* indices);
     void (*replace)(NearestTables& tables, std::span<Color> pixels);
-    /// Replaces whole rows, carrying each row's error along it.
+    // Replaces whole rows, carrying each row's error along it.
     void (*diffuse)(NearestTables& tables, std::span<Color> pixels, std::size_t width);
 };
 
-/// On any processor.
+// On any processor.
 extern const NearestKernels portableNearestKernels;
-/// With AVX2, or null where the processor has not got it.
+// With AVX2, or null where the processor has not got it.
 const NearestKernels* VectorNearestKernels();

@@ -32,8 +32,8 @@ std::size_t Measure(std::span<NearestCandidates> candidates, Color middle) {
     return nearestPlace;
 }
 
-/// How much, at most, an entry's distance less another one's falls on the way from the middle of the box to
-/// its sides, for the difference of the two in one channel.
+// How much, at most, an entry's distance less another one's falls on the way from the middle of the box to
+// its sides, for the difference of the two in one channel.
 int LargestGain(int difference, int half) {
     return std::max(2 * (half - 1) * difference, -2 * half * difference);
 }
@@ -56,7 +56,7 @@ void TakeOutBeaten(std::span<NearestCandidates> candidates, std::size_t place, i
     }
 }
 
-/// The best lane so far.
+// The best lane so far.
 struct Best {
     int score = 0x10000;
     std::size_t index = 0;
@@ -96,7 +96,7 @@ void Replace(NearestTables& tables, std::span<Color> pixels) {
     for (Color& pixel : pixels) pixel = tables.list.Colors()[FindIndex(tables, pixel)];
 }
 
-/// One channel along a row: what is wanted of the pixel, unclamped, and what the last one left over.
+// One channel along a row: what is wanted of the pixel, unclamped, and what the last one left over.
 struct ChannelError {
     int wanted = 0;
     int error = 0;
@@ -106,7 +106,7 @@ struct ChannelError {
         return static_cast<std::uint32_t>(std::clamp(wanted, 0, 255));
     }
 
-    /// Overshoots past 0 and 255 are carried on too.
+    // Overshoots past 0 and 255 are carried on too.
     void Take(std::uint32_t channel) { error = wanted - static_cast<int>(channel); }
 };
 

@@ -14,7 +14,7 @@ const NearestKernels& FastestNearestKernels() {
     return vectors ? *vectors : portableNearestKernels;
 }
 
-/// The median of a sample: if most pixels have the same alpha, it is almost certainly that one.
+// The median of a sample: if most pixels have the same alpha, it is almost certainly that one.
 std::uint32_t UsualAlpha(std::span<const Color> pixels) {
     constexpr std::size_t sampleSize = 64;
     const std::size_t step = pixels.size() / sampleSize + 1;

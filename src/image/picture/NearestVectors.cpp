@@ -22,10 +22,10 @@ template <typename Lanes>
     return _mm_cvtsi128_si32(least);
 }
 
-/// Eight colours less another one, 16 bits for each channel.
+// Eight colours less another one, 16 bits for each channel.
 struct Differences {
     __m256i blueRed;
-    /// And zeros.
+    // And zeros.
     __m256i green;
 
     [[gnu::target("avx2")]] Differences(const NearestCandidates& candidates, Color color) {
@@ -87,7 +87,7 @@ private:
     }
 }
 
-/// The doubled offsets of a colour, eight times.
+// The doubled offsets of a colour, eight times.
 struct Offsets {
     __m128i blueGreen;
     __m128i red;
@@ -99,7 +99,7 @@ struct Offsets {
     }
 };
 
-/// The lowest score of a block in the low 16 bits, above it the first lane that has it.
+// The lowest score of a block in the low 16 bits, above it the first lane that has it.
 [[gnu::target("avx2")]] inline std::uint32_t BestLane(const NearestBlock& block, const Offsets& offsets) {
     const auto load = [](const auto& lanes) __attribute__((target("avx2"))) {
         return _mm_load_si128(reinterpret_cast<const __m128i*>(lanes.data()));
@@ -110,7 +110,7 @@ struct Offsets {
     return static_cast<std::uint32_t>(_mm_cvtsi128_si32(_mm_minpos_epu16(scores)));
 }
 
-/// For cells that are not filled or have several blocks.
+// For cells that are not filled or have several blocks.
 [[gnu::target("avx2"), gnu::noinline]] std::size_t FindInBlocks(NearestGrid& grid, Color color) {
     const Offsets offsets(color);
     const std::size_t cell = NearestGrid::CellOf(color);
@@ -126,7 +126,7 @@ struct Offsets {
     return bestBlock->indices[best >> 16];
 }
 
-/// The lowest sum of a colour's products with the groups and their bases.
+// The lowest sum of a colour's products with the groups and their bases.
 [[gnu::target("avx2")]] inline std::int32_t ScanRun(std::span<const NearestScanGroup> groups,
                                                     __m256i blueGreen, __m256i redAlpha) {
     __m256i least = _mm256_set1_epi32(std::numeric_limits<std::int32_t>::max());
@@ -139,7 +139,7 @@ struct Offsets {
     return Least(least);
 }
 
-/// Compares a colour with the whole list.
+// Compares a colour with the whole list.
 [[gnu::target("avx2"), gnu::noinline]] std::size_t Scan(const NearestTables& tables, Color color) {
     constexpr std::size_t groupsInRun = NearestScanGroup::scale / 8;
     constexpr std::int32_t numberMask = NearestScanGroup::scale - 1;
@@ -183,7 +183,7 @@ struct Offsets {
     for (Color& pixel : pixels) pixel = colors[FindIndex(tables, pixel)];
 }
 
-/// So many rows are diffused side by side: a pixel waits for the one before it, but not for other rows.
+// So many rows are diffused side by side: a pixel waits for the one before it, but not for other rows.
 constexpr std::size_t rowsAtOnce = 6;
 
 [[gnu::target("avx2")]] inline __m128i Channels(Color color) {

@@ -13,7 +13,7 @@ const std::uint32_t* TableOf(const PixelTransform& transform) {
         transform);
 }
 
-/// One row through one transform, by way of whole-row steps.
+// One row through one transform, by way of whole-row steps.
 struct RowTransformer {
     const std::optional<ChannelTable>& table;
     std::span<const Color> input;

@@ -7,8 +7,8 @@
 #include <span>
 #include <variant>
 
-/// The pixel over the background, weighted by its alpha in steps of 1/256. A visible, not opaque pixel over a
-/// background that is not opaque gives 0.
+// The pixel over the background, weighted by its alpha in steps of 1/256. A visible, not opaque pixel over a
+// background that is not opaque gives 0.
 constexpr Color Composite(Color pixel, Color background) {
     const std::uint32_t weight = Alpha(pixel);
     if (weight == transparentAlpha) return background;
@@ -23,7 +23,7 @@ constexpr Color Composite(Color pixel, Color background) {
     return (redAndBlue | green) >> 8 | alphaMask;
 }
 
-/// Byte k of table entry i is the output of channel k for the input i: byte 0 blue, 1 green, 2 red, 3 alpha.
+// Byte k of table entry i is the output of channel k for the input i: byte 0 blue, 1 green, 2 red, 3 alpha.
 constexpr Color MapChannels(const std::uint32_t* table, Color pixel) {
     return (table[Blue(pixel)] & blueMask) | (table[Green(pixel)] & greenMask) |
            (table[Red(pixel)] & redMask) | (table[Alpha(pixel)] & alphaMask);
@@ -64,13 +64,13 @@ struct TableThenBackgroundTransform {
 using PixelTransform = std::variant<IdentityTransform, OverBackgroundTransform, ChannelTableTransform,
                                     BackgroundThenTableTransform, TableThenBackgroundTransform>;
 
-/// Applies one transform to any number of rows; the choice between the transforms is made once a row, and a
-/// table is arranged once. The table is copied.
+// Applies one transform to any number of rows; the choice between the transforms is made once a row, and a
+// table is arranged once. The table is copied.
 class PixelTransformer {
 public:
     explicit PixelTransformer(const PixelTransform& pixelTransform);
 
-    /// The output is as long as the input and may be the same memory.
+    // The output is as long as the input and may be the same memory.
     void Apply(std::span<const Color> input, std::span<Color> output) const;
 
 private:

@@ -3,10 +3,10 @@
 #include <cstdint>
 #include <string>
 
-/// What a Quake II WAL texture stores beside its picture.
+// What a Quake II WAL texture stores beside its picture.
 struct Quake2Properties {
     std::string name;
-    /// The texture that follows this one in its animation.
+    // The texture that follows this one in its animation.
     std::string nextFrameName;
     std::uint32_t surfaceFlags = 0;
     std::uint32_t contents = 0;

@@ -9,8 +9,8 @@
 
 inline constexpr std::size_t rgbTripleSize = 3;
 
-/// As many opaque colours as the bytes hold.
+// As many opaque colours as the bytes hold.
 ColorList ColorsFromTriples(std::span<const std::uint8_t> bytes);
 
-/// Fills the bytes from the list's first entry on; black where the list ends early.
+// Fills the bytes from the list's first entry on; black where the list ends early.
 void PutTriples(const ColorList& list, std::span<std::uint8_t> bytes);

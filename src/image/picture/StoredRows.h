@@ -5,14 +5,14 @@
 #include <algorithm>
 #include <vector>
 
-/// Reads the rows of a stored picture, all of the same length, and asks the stream for many at a time.
+// Reads the rows of a stored picture, all of the same length, and asks the stream for many at a time.
 class StoredRows {
 public:
-    /// The caller has made sure that the stream has all of them.
+    // The caller has made sure that the stream has all of them.
     StoredRows(InputStream& stream, std::size_t bytesPerRow, std::size_t rows)
         : in(stream), rowBytes(bytesPerRow), rowsLeft(rows) {}
 
-    /// The next row; its bytes stay until the one after it is asked for.
+    // The next row; its bytes stay until the one after it is asked for.
     std::span<const std::uint8_t> Next() {
         if (used == block.size()) Fill();
         const std::size_t first = used;

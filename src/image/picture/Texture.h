@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-/// A picture with what the game formats store beside it. Copies are deep.
+// A picture with what the game formats store beside it. Copies are deep.
 class Texture : public Image {
 public:
     Texture();
@@ -17,12 +17,12 @@ public:
     Texture& operator=(Texture&& other) noexcept;
     ~Texture() override;
 
-    /// Replaces the palette by a copy of the list.
+    // Replaces the palette by a copy of the list.
     void SetPalette(const ColorList& list);
 
-    /// The picture's own palette, or none for a true-colour picture.
+    // The picture's own palette, or none for a true-colour picture.
     std::unique_ptr<ColorList> palette;
-    /// The name of a Quake MIP texture.
+    // The name of a Quake MIP texture.
     std::string quakeName;
     Quake2Properties quake2;
 };

@@ -3,8 +3,8 @@
 #include <memory>
 #include <utility>
 
-/// Lets a vector grow without clearing the new elements: clearing a large picture that is filled at once
-/// takes a quarter of the time of filling it. Elements with a given value are made as ever.
+// Lets a vector grow without clearing the new elements: clearing a large picture that is filled at once
+// takes a quarter of the time of filling it. Elements with a given value are made as ever.
 template <class T>
 struct UnclearedAllocator : std::allocator<T> {
     template <class U>

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Pixel (x, y) is 10 y + x, so that pictures read like their coordinates.
+// Pixel (x, y) is 10 y + x, so that pictures read like their coordinates.
 Image Numbered(int width, int height) {
     Image picture(width, height);
     for (int y = 0; y < height; ++y) {

@@ -18,14 +18,14 @@ Color RandomColor(std::mt19937& random, Alphas alphas) {
     return alphas == Alphas::any ? color : color & 0x81FFFFFF;
 }
 
-/// Coarse channels make duplicates and ties.
+// Coarse channels make duplicates and ties.
 ColorList RandomList(std::size_t count, Alphas alphas, Color channelBits, std::mt19937& random) {
     std::vector<Color> colors(count);
     for (Color& color : colors) color = RandomColor(random, alphas) & (channelBits | alphaMask);
     return ColorList(colors);
 }
 
-/// Random colours, a ramp, corners of cells, and the list's own entries.
+// Random colours, a ramp, corners of cells, and the list's own entries.
 std::vector<Color> MakePixels(const ColorList& list, Alphas alphas, std::mt19937& random) {
     std::vector<Color> pixels;
     for (int i = 0; i < 300; ++i) pixels.push_back(RandomColor(random, alphas));
@@ -36,7 +36,7 @@ std::vector<Color> MakePixels(const ColorList& list, Alphas alphas, std::mt19937
     return pixels;
 }
 
-/// Error diffusion as it is defined.
+// Error diffusion as it is defined.
 void DiffusePlainly(std::span<Color> row, const ColorList& list) {
     int red = 0;
     int green = 0;
@@ -53,7 +53,7 @@ void DiffusePlainly(std::span<Color> row, const ColorList& list) {
     }
 }
 
-/// Each way of searching, on lists of every kind.
+// Each way of searching, on lists of every kind.
 class NearestSearchTest : public testing::TestWithParam<const NearestKernels*> {
 protected:
     void SetUp() override {

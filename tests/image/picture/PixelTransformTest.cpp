@@ -17,7 +17,7 @@ std::vector<Color> RandomPixels(std::size_t count) {
     return pixels;
 }
 
-/// Channels within the mask are random, the others map every value to itself.
+// Channels within the mask are random, the others map every value to itself.
 Table MakeTable(Color changedChannels) {
     std::mt19937 random(5);
     Table table{};
