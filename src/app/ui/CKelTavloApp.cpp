@@ -4,8 +4,10 @@
 #include "app/ui/MainFrame.h"
 #include "archives/ui/HiddenChildFrame.h"
 #include "archives/ui/HiddenView.h"
+#include "archives/ui/ProgressDialog.h"
 #include "framework/core/ReplacingFile.h"
 #include "framework/core/StringTable.h"
+#include "framework/core/Text.h"
 #include "framework/ui/CMenu.h"
 #include "framework/ui/ChildFrame.h"
 #include "framework/ui/MessageBoxes.h"
@@ -73,6 +75,11 @@ void CKelTavloApp::SetColorText(std::uint32_t color) {
 
 const std::uint32_t* CKelTavloApp::GetGammaTable() const {
     return mainFrame->GetGamma().GetTable();
+}
+
+std::unique_ptr<ProgressWindow> CKelTavloApp::OpenProgressWindow(const std::string& text,
+                                                                 const Progress& progress) {
+    return std::make_unique<ProgressDialog>(GetDialogOwner(), ToQString(text), progress);
 }
 
 const CommandMap& CKelTavloApp::GetCommandMap() const {

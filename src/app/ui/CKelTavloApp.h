@@ -31,6 +31,8 @@ public:
     std::uint32_t GetCurrentColor() const override { return currentColor; }
     void SetCurrentColor(std::uint32_t color) override { currentColor = color; }
     const std::uint32_t* GetGammaTable() const override;
+    std::unique_ptr<ProgressWindow> OpenProgressWindow(const std::string& text,
+                                                       const Progress& progress) override;
 
 protected:
     const CommandMap& GetCommandMap() const override;

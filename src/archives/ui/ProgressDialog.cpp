@@ -1,0 +1,68 @@
+#include "archives/ui/ProgressDialog.h"
+
+#include <QApplication>
+#include <QDeadlineTimer>
+#include <QEvent>
+#include <QLabel>
+#include <QProgressBar>
+#include <QVBoxLayout>
+#include <QWindow>
+
+namespace {
+
+constexpr int widthInUnits = 212,
+              heightInUnits = 38; // quarters of a character's width, eighths of its height
+
+void HandleSystemEvents() {
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+} // namespace
+
+ProgressDialog::ProgressDialog(QWidget* owner, const QString& text, const Progress& progress)
+    : QDialog(owner, Qt::Dialog | Qt::CustomizeWindowHint), bar(new QProgressBar(this)) {
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    auto* label = new QLabel(text, this);
+    label->setTextFormat(Qt::PlainText);
+    bar->setTextVisible(false);
+    bar->setRange(progress.minimum, progress.maximum);
+    bar->setValue(progress.position);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(label);
+    layout->addWidget(bar);
+    const QFontMetrics metrics = fontMetrics();
+    setFixedSize(QSize(widthInUnits * metrics.averageCharWidth() / 4, heightInUnits * metrics.height() / 8)
+                     .expandedTo(sizeHint()));
+    qApp->installEventFilter(this);
+    show();
+    WaitUntilDrawn();
+}
+
+void ProgressDialog::SetPosition(std::int32_t position) {
+    bar->setValue(position);
+    HandleSystemEvents();
+}
+
+// Closing a window and dropping files on it are not among the events that count as a person's input
+// everywhere.
+bool ProgressDialog::eventFilter(QObject*, QEvent* event) {
+    switch (event->type()) {
+    case QEvent::Close:
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+    case QEvent::Drop:
+        event->ignore();
+        return true;
+    default:
+        return false;
+    }
+}
+
+// The next chance to draw comes a second later.
+void ProgressDialog::WaitUntilDrawn() {
+    constexpr int patience = 100; // milliseconds
+    const QDeadlineTimer deadline(patience);
+    do HandleSystemEvents();
+    while (!windowHandle()->isExposed() && !deadline.hasExpired());
+    HandleSystemEvents();
+}
