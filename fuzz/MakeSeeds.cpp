@@ -1,0 +1,17 @@
+// MakeSeeds FOLDER: writes FOLDER/READER/seed for every reader, and prints the readers' names.
+
+#include "Readers.h"
+
+#include <cstdio>
+#include <filesystem>
+
+int main(int argc, char** argv) {
+    if (argc != 2) return 2;
+    for (const Reader& reader : Readers()) {
+        const std::filesystem::path folder = std::filesystem::path(argv[1]) / reader.name;
+        std::filesystem::create_directories(folder);
+        WriteFile((folder / "seed").string(), reader.makeSeed());
+        std::puts(reader.name);
+    }
+    return 0;
+}
