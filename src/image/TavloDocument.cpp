@@ -2,14 +2,12 @@
 
 #include "formats/Codec.h"
 #include "formats/GameTexture.h"
-#include "framework/core/StringTable.h"
 #include "image/TextureChangeAction.h"
-#include "res/CommandIds.h"
 #include "res/StringIds.h"
 #include "resources/BuiltInPalettes.h"
 #include "resources/BuiltInPath.h"
+#include "resources/ColorTableDocument.h"
 #include "resources/DocTemplateRegistry.h"
-#include "resources/PaletteDocument.h"
 #include "resources/streams/OutputStream.h"
 
 namespace {
@@ -36,17 +34,6 @@ const ColorList* DefaultPaletteOf(const Codec& codec) {
         break;
     }
     return nullptr;
-}
-
-void UpdateHistoryItem(CCmdUI& state, const std::string* name, unsigned namedText, unsigned plainText,
-                       unsigned disabledText) {
-    state.Enable(name != nullptr);
-    if (!name)
-        state.SetText(LoadString(disabledText));
-    else if (name->empty())
-        state.SetText(LoadString(plainText));
-    else
-        state.SetText(FormatString(namedText, name->c_str()));
 }
 
 } // namespace
@@ -85,19 +72,14 @@ void TavloDocument::WriteContents(OutputStream& out) {
     codec.write(out, texture, DefaultPaletteOf(codec));
 }
 
+const ColorList* TavloDocument::GetPaletteColors() const {
+    const auto* table = dynamic_cast<const ColorTableDocument*>(currentPalette);
+    return table && table->GetColorCount() > 0 ? &table->GetColors() : nullptr;
+}
+
 void TavloDocument::SetModifiedAndUpdate(bool updateViews) {
     SetModifiedFlag();
     if (updateViews) UpdateAllViews(nullptr);
-}
-
-const CommandMap& TavloDocument::GetCommandMap() const {
-    static const CommandMap map(
-        BaseDocument::GetCommandMap(),
-        {
-            Command<&TavloDocument::OnEditUndo, &TavloDocument::OnUpdateEditUndo>(ID_EDIT_UNDO),
-            Command<&TavloDocument::OnEditRedo, &TavloDocument::OnUpdateEditRedo>(ID_EDIT_REDO),
-        });
-    return map;
 }
 
 void TavloDocument::SelectBuiltInPalette(unsigned id) {
@@ -126,14 +108,4 @@ void TavloDocument::ReformatForSave() {
     texture.Resize(width, height);
     SetModifiedAndUpdate(true);
     history.Add(std::move(action));
-}
-
-void TavloDocument::OnUpdateEditUndo(CCmdUI& state) const {
-    const std::string* name = history.CanUndo() ? &history.TopUndoName() : nullptr;
-    UpdateHistoryItem(state, name, IDS_UNDO_NAMED, IDS_UNDO, IDS_CANNOT_UNDO);
-}
-
-void TavloDocument::OnUpdateEditRedo(CCmdUI& state) const {
-    const std::string* name = history.CanRedo() ? &history.TopRedoName() : nullptr;
-    UpdateHistoryItem(state, name, IDS_REDO_NAMED, IDS_REDO, IDS_CANNOT_REDO);
 }

@@ -5,6 +5,7 @@
 #include "resources/BaseDocument.h"
 
 class BrushDocument;
+class ColorList;
 class PaletteDocument;
 
 // A texture that is being edited: its picture with what the games store beside it, the documents that it
@@ -32,6 +33,9 @@ public:
     void SetCurrentBrush(BrushDocument* brush) { currentBrush = brush; }
     PaletteDocument* GetCurrentPalette() const { return currentPalette; }
     void SetCurrentPalette(PaletteDocument* palette) { currentPalette = palette; }
+    // The colours of the chosen palette to which a picture can be brought; null without a palette and for one
+    // that lists no colours.
+    const ColorList* GetPaletteColors() const;
 
     // Marks the document modified; a changed picture must be told to the views as well.
     void SetModifiedAndUpdate(bool updateViews);
@@ -47,10 +51,25 @@ private:
     // Brings the sides to what the games allow, as an undoable change.
     void ReformatForSave();
 
+    // Brings the picture to the palette's colours, as an undoable change unless it has only such already.
+    void ConvertPicture(unsigned nameId, void (Image::*convert)(const ColorList&));
+
     void OnEditUndo() { history.Undo(); }
     void OnEditRedo() { history.Redo(); }
     void OnUpdateEditUndo(CCmdUI& state) const;
     void OnUpdateEditRedo(CCmdUI& state) const;
+    void OnBrush(CommandId id);
+    void OnBrushNone() { SetCurrentBrush(nullptr); }
+    void OnUpdateBrush(CCmdUI& state) const;
+    void OnUpdateBrushNone(CCmdUI& state) const { state.SetCheck(!HasBrush()); }
+    void OnPalette(CommandId id);
+    void OnPaletteNone() { SelectPalette(nullptr); }
+    void SelectPalette(PaletteDocument* palette);
+    void OnUpdatePalette(CCmdUI& state) const;
+    void OnUpdatePaletteNone(CCmdUI& state) const { state.SetCheck(!HasPalette()); }
+    void OnFormatNearest();
+    void OnFormatDither();
+    void OnUpdateFormat(CCmdUI& state) const { state.Enable(HasPalette()); }
 
     static constexpr std::size_t historyCapacity = 16;
 

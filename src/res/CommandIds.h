@@ -28,5 +28,14 @@ enum ProgramCommand : CommandId {
     ID_3D_SOLID = 32813,
     ID_3D_TEXTURED = 32814,
     ID_3D_WIREFRAME = 32815,
-    ID_EDIT_PROPERTIES = 32839
+    ID_EDIT_PROPERTIES = 32839,
+    // The runs of items that change: one id for each entry.
+    ID_BAR_FIRST = 49152,
+    ID_BAR_LAST = 49407,
+    ID_BRUSH_FIRST = 50432,
+    ID_BRUSH_LAST = 50687,
+    ID_COLOR_TABLE_FIRST = 50688,
+    ID_COLOR_TABLE_LAST = 50943,
+    ID_COLOR_SPACE_FIRST = 50944,
+    ID_COLOR_SPACE_LAST = 51199
 };

@@ -91,6 +91,10 @@ void CMenu::RemoveItem(CommandId id) {
     delete FindItem(id);
 }
 
+void CMenu::SetItemPrompt(CommandId id, const std::string& prompt) {
+    if (QAction* item = FindItem(id)) item->setStatusTip(ToQString(prompt));
+}
+
 void CMenu::AppendItem(CommandId sibling, CommandId id, const std::string& text) {
     QMenu* popup = PopupOf(sibling);
     if (!popup) return;
@@ -133,13 +137,4 @@ void CMenu::UpdateOpenPopups() {
 void CMenu::UpdateAll() {
     if (initPopup) initPopup(*this);
     for (QMenu* popup : allPopups) UpdatePopup(*popup);
-}
-
-std::string MenuText(std::string_view text) {
-    std::string shown;
-    for (const char c : text) {
-        if (c == '&') shown += '&';
-        shown += c == '\t' ? ' ' : c;
-    }
-    return shown;
 }

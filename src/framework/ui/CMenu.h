@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/core/MenuItems.h"
 #include "framework/core/MenuTable.h"
 
 #include <QMenu>
@@ -13,7 +14,7 @@ class CCmdTarget;
 
 // The popups of a menu table. Items are known by their command ids: a chosen item sends its command to the
 // target, and an opened popup shows how its commands stand. Keys in an item's text are only shown.
-class CMenu {
+class CMenu : public MenuItems {
 public:
     // Prompts of items go to the owner, as status tips.
     CMenu(std::span<const MenuRow> rows, CCmdTarget& commandTarget, QWidget* promptOwner);
@@ -25,11 +26,12 @@ public:
 
     // The first item of that id, wherever it stands, or null.
     QAction* FindItem(CommandId id) const;
-    // Changes, inserts and removes items by id; nothing happens when there is no such item.
-    void ModifyItem(CommandId id, CommandId newId, const std::string& text);
-    void InsertItem(CommandId before, CommandId id, const std::string& text);
+    bool HasItem(CommandId id) const override { return FindItem(id) != nullptr; }
+    void ModifyItem(CommandId id, CommandId newId, const std::string& text) override;
+    void InsertItem(CommandId before, CommandId id, const std::string& text) override;
     void InsertItemAfter(CommandId sibling, CommandId id, const std::string& text);
-    void RemoveItem(CommandId id);
+    void RemoveItem(CommandId id) override;
+    void SetItemPrompt(CommandId id, const std::string& prompt) override;
     // Adds an item at the end of the popup in which the sibling stands; id 0 adds a separator unless one
     // stands there.
     void AppendItem(CommandId sibling, CommandId id, const std::string& text);
@@ -54,6 +56,3 @@ private:
     std::vector<std::unique_ptr<QMenu>> popups;
     std::vector<QMenu*> allPopups; // with the popups inside popups
 };
-
-// A text as a menu item's: shown as it stands, "&" and tabs too.
-std::string MenuText(std::string_view text);

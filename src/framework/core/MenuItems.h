@@ -1,0 +1,24 @@
+#pragma once
+
+#include "framework/core/CCmdUI.h"
+
+#include <string>
+#include <string_view>
+
+// A menu whose items are known by their command ids, wherever in it they stand; the first item of an id is
+// meant. What changes an item that is not there does nothing.
+class MenuItems {
+public:
+    virtual ~MenuItems() = default;
+
+    virtual bool HasItem(CommandId id) const = 0;
+    // Texts are menu texts: see MenuText.
+    virtual void ModifyItem(CommandId id, CommandId newId, const std::string& text) = 0;
+    virtual void InsertItem(CommandId before, CommandId id, const std::string& text) = 0;
+    virtual void RemoveItem(CommandId id) = 0;
+    // What the status bar says about the item, until it is modified.
+    virtual void SetItemPrompt(CommandId id, const std::string& prompt) = 0;
+};
+
+// A text as a menu item's: shown as it stands, "&" and tabs too.
+std::string MenuText(std::string_view text);
