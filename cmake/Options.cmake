@@ -18,5 +18,7 @@ if(KELTAVLO_FUZZ)
 endif()
 find_program(CCACHE ccache)
 if(CCACHE)
-    set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE}")
+    # The sloppiness that precompiled headers need; nothing of ours uses __DATE__ or __TIME__.
+    set(CMAKE_CXX_COMPILER_LAUNCHER
+        "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros "${CCACHE}")
 endif()
