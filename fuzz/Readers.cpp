@@ -3,6 +3,7 @@
 #include "app/HeadlessApplication.h"
 #include "archives/PAKDocument.h"
 #include "archives/WADDocument.h"
+#include "builders/WadBuilder.h"
 #include "formats/Codec.h"
 #include "framework/core/CMemFile.h"
 #include "image/ImageDocuments.h"
@@ -15,7 +16,6 @@
 #include "resources/LMPDocument.h"
 #include "resources/streams/ArchiveStream.h"
 #include "resources/streams/FileStream.h"
-#include "support/WadBuilder.h"
 
 #include <algorithm>
 #include <stdexcept>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/PackBuilder.h"
+#include "builders/PackBuilder.h"
 
 #include <optional>
 #include <random>

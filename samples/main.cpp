@@ -1,10 +1,10 @@
 #include "SampleTextures.h"
 #include "app/HeadlessApplication.h"
+#include "builders/PackBuilder.h"
 #include "formats/Codec.h"
 #include "framework/core/CMemFile.h"
 #include "resources/BuiltInPalettes.h"
 #include "resources/streams/ArchiveStream.h"
-#include "support/PackBuilder.h"
 
 #include <cstdio>
 

@@ -1,10 +1,10 @@
 #include "archives/WADDocument.h"
 
+#include "builders/WadBuilder.h"
 #include "image/ImageDocuments.h"
 #include "resources/LMPDocument.h"
 #include "support/FakeProgress.h"
 #include "support/TestApplication.h"
-#include "support/WadBuilder.h"
 
 #include <gmock/gmock.h>
 

@@ -1,6 +1,6 @@
 #include "preview3d/MD2Document.h"
 
-#include "support/ModelBuilder.h"
+#include "builders/ModelBuilder.h"
 #include "support/TestApplication.h"
 
 #include <cstring>

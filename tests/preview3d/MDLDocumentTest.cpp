@@ -1,6 +1,6 @@
 #include "preview3d/MDLDocument.h"
 
-#include "support/ModelBuilder.h"
+#include "builders/ModelBuilder.h"
 #include "support/TestApplication.h"
 
 #include <gmock/gmock.h>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/HeadlessApplication.h"
-#include "support/PackBuilder.h"
+#include "builders/PackBuilder.h"
 
 #include <QTemporaryDir>
 

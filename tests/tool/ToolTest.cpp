@@ -1,6 +1,6 @@
 #include "tool/Tool.h"
 
-#include "support/PackBuilder.h"
+#include "builders/PackBuilder.h"
 #include "support/TestApplication.h"
 
 #include <QTemporaryDir>

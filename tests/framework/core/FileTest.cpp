@@ -1,7 +1,7 @@
+#include "builders/PackBuilder.h"
 #include "framework/core/CArchive.h"
 #include "framework/core/CMemFile.h"
 #include "framework/core/ReplacingFile.h"
-#include "support/PackBuilder.h"
 
 #include <QTemporaryDir>
 

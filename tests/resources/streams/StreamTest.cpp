@@ -1,8 +1,8 @@
+#include "builders/PackBuilder.h"
 #include "framework/core/CMemFile.h"
 #include "resources/streams/ArchiveStream.h"
 #include "resources/streams/FileStream.h"
 #include "resources/streams/TaggedFile.h"
-#include "support/PackBuilder.h"
 
 #include <gtest/gtest.h>
 

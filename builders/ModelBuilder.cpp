@@ -1,4 +1,4 @@
-#include "support/ModelBuilder.h"
+#include "builders/ModelBuilder.h"
 
 #include <bit>
 #include <cstring>

@@ -1,4 +1,4 @@
-#include "support/WadBuilder.h"
+#include "builders/WadBuilder.h"
 
 #include <cstring>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/PackBuilder.h"
+#include "builders/PackBuilder.h"
 
 // Makes WAD files (".wad"): the header, the lumps' bytes, the directory.
 class WadBuilder {

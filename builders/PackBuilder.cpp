@@ -1,4 +1,4 @@
-#include "support/PackBuilder.h"
+#include "builders/PackBuilder.h"
 
 #include <algorithm>
 #include <cstring>

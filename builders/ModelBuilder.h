@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/PackBuilder.h"
+#include "builders/PackBuilder.h"
 
 // Makes Quake II models (".md2"): the header, the skins, texture coordinates, triangles and frames in this
 // order. Texture coordinate i is (i, -i); frame f scales by (1, 2, 3) and has the name "frame" and f; its
