@@ -36,6 +36,8 @@ public:
 
     const std::vector<std::unique_ptr<Entry>>& GetChildren() const { return children; }
     void Append(std::unique_ptr<Entry> child) { children.push_back(std::move(child)); }
+    // Makes room for so many children.
+    void Reserve(std::size_t count) { children.reserve(count); }
     void RemoveChildren();
 
     // The first child of that name without regard to case, or null.

@@ -43,6 +43,10 @@ protected:
     void BeginReading(InputStream& in);
     // AddEntry for a name that stands in an archive's directory.
     void AddNamedEntry(std::string_view name, std::unique_ptr<Entry> entry);
+    // The same for a name that is known to have no folder.
+    void AddRootEntry(std::unique_ptr<Entry> entry) { root.Append(std::move(entry)); }
+    // Before so many entries are added, most of them to the root.
+    void ReserveRootEntries(std::size_t count) { root.Reserve(count); }
     void DeleteContents() override;
 
 private:

@@ -34,12 +34,12 @@ std::unique_ptr<CFile> StoredEntry::OpenEntry(unsigned, CFileException* failure,
 
 std::shared_ptr<EntryBytes> StoredEntry::Load(FolderDocument& owner) {
     if (!use) use = std::make_unique<Use>();
-    if (const std::shared_ptr<EntryBytes> bytes = use->loaded.lock()) return bytes;
+    if (std::shared_ptr<EntryBytes> bytes = use->loaded.lock()) return bytes;
     const Extent extent = GetExtent();
     CFile& file = owner.GetSource(extent.offset, extent.stored);
     // The zeros have no bytes behind them; a claim of gigabytes must not get them.
     static_cast<void>(owner.GetSource(0, extent.length));
-    const auto bytes = std::make_shared<EntryBytes>(RoundedUp(extent.length));
+    auto bytes = std::make_shared<EntryBytes>(RoundedUp(extent.length));
     file.Seek(static_cast<std::int64_t>(extent.offset), CFile::From::begin);
     if (file.Read(bytes->data(), extent.stored) != extent.stored)
         throw CFileException(CFileException::endOfFile, CFileException::noOsError, GetName());

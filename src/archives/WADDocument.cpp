@@ -58,9 +58,14 @@ void WADDocument::ReadContents(InputStream& in) {
         ProgressMeter meter(0, header.lumpCount);
         meter.SetText(IDS_READING_DIRECTORY);
         records = ReadDirectory(in, header);
+        ReserveRootEntries(records.size());
         std::int32_t i = 0;
         for (const WADRecord& record : records) {
-            AddNamedEntry(record.GetPath(), std::make_unique<WADEntry>(record));
+            auto entry = std::make_unique<WADEntry>(record);
+            if (record.MayHaveFolder())
+                AddNamedEntry(record.GetPath(), std::move(entry));
+            else
+                AddRootEntry(std::move(entry));
             meter.SetPosition(i++);
         }
     }

@@ -14,6 +14,13 @@ struct WADRecord {
     char name[16]; // ended by a NUL when shorter
 
     std::string_view GetPath() const { return UpToNul({name, sizeof name}); }
+    // False when the name has no folder. Looks at the whole field and not for its end: one step for all 16
+    // characters, of which large files have tens of thousands.
+    bool MayHaveFolder() const {
+        unsigned found = 0;
+        for (const char c : name) found |= unsigned{c == '/'} | unsigned{c == '\\'} | unsigned{c == ':'};
+        return found != 0;
+    }
 };
 static_assert(sizeof(WADRecord) == 32);
 
