@@ -5,6 +5,7 @@
 #include "framework/core/StandardIds.h"
 #include "framework/core/StringTable.h"
 #include "framework/core/Text.h"
+#include "framework/ui/CControlBar.h"
 #include "framework/ui/CMDIChildWnd.h"
 #include "framework/ui/CMenu.h"
 #include "framework/ui/CStatusBar.h"
@@ -72,6 +73,7 @@ bool CMDIFrameWnd::OnCmdMsg(CommandId id, CCmdUI* state) {
 
 void CMDIFrameWnd::OnIdle() {
     if (currentMenu) currentMenu->UpdateOpenPopups();
+    for (CControlBar* bar : controlBars) bar->OnUpdateCmdUI();
 }
 
 std::vector<CMDIChildWnd*> CMDIFrameWnd::GetChildren() const {

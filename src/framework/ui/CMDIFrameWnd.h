@@ -2,6 +2,7 @@
 
 #include "framework/core/CCmdTarget.h"
 #include "framework/core/MenuTable.h"
+#include "framework/core/WindowPlacement.h"
 
 #include <QMainWindow>
 
@@ -9,9 +10,12 @@
 #include <memory>
 #include <vector>
 
+class CControlBar;
+class CDialogBar;
 class CMDIChildWnd;
 class CMenu;
 class CStatusBar;
+class CToolBar;
 class CView;
 class MDIClientArea;
 
@@ -41,6 +45,21 @@ public:
     void OnIdle();
     bool OnCmdMsg(CommandId id, CCmdUI* state) override;
 
+    // Docks a bar, which is a child of this window: at the top behind the others, or at a side.
+    void DockControlBar(CToolBar& bar);
+    void DockControlBar(CDialogBar& bar, Qt::DockWidgetArea side);
+    // Keeps in the settings, and puts back from there, where the bars are and which of them are shown, the
+    // status bar included. What cannot be read whole and unharmed changes nothing.
+    void SaveBarState(const std::string& profileName) const;
+    void LoadBarState(const std::string& profileName);
+
+    WindowPlacement GetWindowPlacement() const;
+    // Moves the window to where it stands when it is neither minimised nor maximised, on a screen that there
+    // is; does not show it.
+    void SetWindowPlacement(const WindowPlacement& placement);
+    // Shows the window as a WindowPlacement::ShowCommand says.
+    void ShowWindow(std::uint32_t showCommand);
+
 protected:
     // Makes the menus and the accelerators; the frame's own menu is shown while no child is active.
     void LoadFrame(unsigned menuId, std::span<const AcceleratorRow> accelerators);
@@ -68,9 +87,13 @@ private:
     void OnUpdateWindowActivate(CCmdUI& state);
     void OnViewStatusBar();
     void OnUpdateViewStatusBar(CCmdUI& state);
+    CControlBar* FindControlBar(unsigned barId) const;
+    void OnViewControlBar(CommandId id);
+    void OnUpdateViewControlBar(CCmdUI& state);
 
     MDIClientArea* clientArea; // children of this window
     CStatusBar* statusBarWindow;
+    std::vector<CControlBar*> controlBars; // docked in this order
     CMDIChildWnd* activeChild = nullptr;
     unsigned ownMenuId = 0;
     std::map<unsigned, std::unique_ptr<CMenu>> menus;

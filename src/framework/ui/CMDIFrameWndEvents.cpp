@@ -22,6 +22,7 @@ const CommandMap& CMDIFrameWnd::GetCommandMap() const {
                                                                         ID_WINDOW_TILE_VERT),
          CommandRange<&Self::OnWindowActivate, &Self::OnUpdateWindowActivate>(ID_WINDOW_CHILD_FIRST,
                                                                               ID_WINDOW_CHILD_LAST),
+         Command<&Self::OnViewControlBar, &Self::OnUpdateViewControlBar>(ID_VIEW_TOOLBAR),
          Command<&Self::OnViewStatusBar, &Self::OnUpdateViewStatusBar>(ID_VIEW_STATUS_BAR)}};
     return map;
 }

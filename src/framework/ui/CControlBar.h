@@ -1,0 +1,30 @@
+#pragma once
+
+#include "framework/core/CCmdTarget.h"
+
+#include <QString>
+
+#include <string>
+
+class QWidget;
+
+// A bar at the edge of the main window, which people move, hide and find again where they left it.
+class CControlBar : public Dynamic<"CControlBar", CControlBar, CCmdTarget> {
+public:
+    // What people know the bar by.
+    std::string GetWindowText() const;
+    // Whether the bar is shown whenever the main window is.
+    bool IsVisible() const;
+    void Show(bool visible);
+    unsigned GetBarId() const { return id; }
+    // Brings what the bar shows of its commands' states up to date.
+    virtual void OnUpdateCmdUI() {}
+
+protected:
+    // `barWindow` is the bar itself, as the toolkit sees it.
+    CControlBar(unsigned barId, QWidget& barWindow);
+
+private:
+    unsigned id;
+    QWidget& window;
+};

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "framework/ui/CControlBar.h"
+
+#include <QDockWidget>
+
+// A bar of controls that docks at the left or the right side of the main window, or floats. Commands are
+// offered to it like to any other window.
+class CDialogBar : public QDockWidget, public Dynamic<"CDialogBar", CDialogBar, CControlBar> {
+public:
+    CDialogBar(unsigned barId, const std::string& title, QWidget* parent);
+};

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "framework/core/ToolBarTable.h"
+#include "framework/ui/CControlBar.h"
+
+#include <QToolBar>
+
+// A toolbar from a table: its buttons know only command ids, send them to the target and show how they stand.
+// It may be docked at any side.
+class CToolBar : public QToolBar, public Dynamic<"CToolBar", CToolBar, CControlBar> {
+public:
+    CToolBar(unsigned barId, const std::string& title, QWidget* parent);
+
+    void LoadToolBar(std::span<const ToolBarRow> rows, CCmdTarget& commandTarget);
+    void OnUpdateCmdUI() override;
+
+private:
+    void AddButton(const ToolBarRow& row);
+
+    CCmdTarget* target = nullptr;
+};
