@@ -41,6 +41,20 @@ constexpr StringRow rows[] = {
     {IDS_SAMPLE_COLOR, "rgba: AA AA AA AA"},
     {IDS_SAMPLE_ZOOM, "100%"},
 
+    // The lower list of the file dialogs.
+    {IDS_COLUMN_NAME, "Name"},
+    {IDS_COLUMN_SIZE, "Size"},
+    {IDS_COLUMN_TYPE, "Type"},
+    {IDS_COLUMN_MODIFIED, "Modified"},
+    {IDS_KILOBYTES, "%uKB"},
+    {IDS_DATE_AND_TIME, "%c"},
+    {IDS_PREVIEW_SIZE, "%d x %d"},
+    {IDS_NO_PREVIEW, "This picture cannot be read."},
+    {IDS_NOT_IMPLEMENTED_TITLE, "Not Implemented"},
+    {IDS_NOT_IMPLEMENTED, "%s is not implemented.\nKelTavlo is not fully implemented yet. Sorry.\n\n"
+                          "keltavlo@example.org\nwww.example.org/keltavlo\n"},
+    {IDS_NO_OPENGL, "Models cannot be shown: this system offers no OpenGL to draw them with."},
+
     {ID_FILE_NEW, "Create a new texture\nNew"},
     {ID_FILE_OPEN, "Open a file, also one inside an archive\nOpen"},
     {ID_FILE_CLOSE, "Close the active document\nClose"},

@@ -12,7 +12,18 @@ enum ShellStringId : unsigned {
     IDS_COLOR_ALPHA = 1093,
     IDS_SAMPLE_POSITION = 1105,
     IDS_SAMPLE_COLOR = 1109,
-    IDS_SAMPLE_ZOOM = 1110
+    IDS_SAMPLE_ZOOM = 1110,
+    IDS_COLUMN_NAME = 1376,
+    IDS_COLUMN_SIZE = 1377,
+    IDS_COLUMN_TYPE = 1378,
+    IDS_COLUMN_MODIFIED = 1379,
+    IDS_KILOBYTES = 1393,
+    IDS_DATE_AND_TIME = 1400,
+    IDS_PREVIEW_SIZE = 1410,
+    IDS_NO_PREVIEW = 1411,
+    IDS_NOT_IMPLEMENTED_TITLE = 1412,
+    IDS_NOT_IMPLEMENTED = 1413,
+    IDS_NO_OPENGL = 2400
 };
 
 // Those strings, the framework's, and one for each command: the prompt, then the tool tip.

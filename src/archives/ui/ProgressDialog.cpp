@@ -1,5 +1,7 @@
 #include "archives/ui/ProgressDialog.h"
 
+#include "archives/ui/DialogUnits.h"
+
 #include <QApplication>
 #include <QDeadlineTimer>
 #include <QEvent>
@@ -10,8 +12,7 @@
 
 namespace {
 
-constexpr int widthInUnits = 212,
-              heightInUnits = 38; // quarters of a character's width, eighths of its height
+constexpr QSize sizeInUnits(212, 38);
 
 void HandleSystemEvents() {
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
@@ -30,9 +31,7 @@ ProgressDialog::ProgressDialog(QWidget* owner, const QString& text, const Progre
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(label);
     layout->addWidget(bar);
-    const QFontMetrics metrics = fontMetrics();
-    setFixedSize(QSize(widthInUnits * metrics.averageCharWidth() / 4, heightInUnits * metrics.height() / 8)
-                     .expandedTo(sizeHint()));
+    setFixedSize(FromDialogUnits(*this, sizeInUnits).expandedTo(sizeHint()));
     qApp->installEventFilter(this);
     show();
     WaitUntilDrawn();

@@ -7,6 +7,7 @@
 #include "framework/core/Text.h"
 #include "framework/ui/MessageBoxes.h"
 
+#include <QGridLayout>
 #include <QLineEdit>
 
 #include <algorithm>
@@ -21,13 +22,6 @@ bool IsFolder(const std::string& path) {
 bool IsFile(const std::string& path) {
     CFileStatus status;
     return CFile::GetStatus(path, status) && !status.IsDirectory();
-}
-
-// A file, as an archive is, counts as a folder of whatever stands behind it.
-bool LeadsThroughFile(std::string path) {
-    for (; !path.empty() && path != ParentOf(path); path = ParentOf(path))
-        if (IsFile(path)) return true;
-    return false;
 }
 
 // In the toolkit's form the patterns stand in the last parentheses. "*.*" means every name, also one without
@@ -54,6 +48,8 @@ CFileDialog::CFileDialog(QWidget* owner, const FileNameQuestion& question,
     SetFilters(filters);
     if (question.type) setDefaultSuffix(ToQString(question.type->GetDocString(CDocTemplate::filterExt)));
     Propose(question.proposal);
+    connect(this, &QFileDialog::currentChanged,
+            [this](const QString& path) { OnFileNameChange(FullPath(FromQString(path))); });
 }
 
 void CFileDialog::SetFilters(const std::vector<FileFilter>& filters) {
@@ -87,12 +83,15 @@ void CFileDialog::accept() {
     if (QLineEdit* edit = NameEdit(*this); edit && edit->text().contains('\\'))
         edit->setText(edit->text().replace('\\', '/'));
     const std::string path = GetPathName();
-    if (IsFolder(path) || MayTake(path)) QFileDialog::accept();
+    if (IsFolder(path) || OnFileNameOK()) QFileDialog::accept();
 }
 
-// Tells the person why not.
+bool CFileDialog::IsFileThere(const std::string& path) const {
+    return IsFile(path);
+}
+
 bool CFileDialog::MayTake(const std::string& path) const {
-    const bool there = IsFile(path);
+    const bool there = IsFileThere(path);
     if (open && mustExist && !there && !LeadsThroughFile(path)) {
         ShowMessageBox(FormatString(AFX_IDS_FILE_MISSING, ToDisplayPath(path).c_str()));
         return false;
@@ -102,4 +101,16 @@ bool CFileDialog::MayTake(const std::string& path) const {
         return false;
     }
     return open || !there || AskYesNo(FormatString(AFX_IDS_FILE_EXISTS, ToDisplayPath(path).c_str()));
+}
+
+bool CFileDialog::LeadsThroughFile(const std::string& path) {
+    for (std::string folder = ParentOf(path); !folder.empty(); folder = ParentOf(folder)) {
+        if (IsFile(folder)) return true;
+        if (folder == ParentOf(folder)) break;
+    }
+    return false;
+}
+
+QGridLayout& CFileDialog::GetGrid() const {
+    return *qobject_cast<QGridLayout*>(layout());
 }

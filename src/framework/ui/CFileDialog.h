@@ -12,8 +12,10 @@ struct FileFilter {
     std::string patterns; // such as "*.pak;*.wal"
 };
 
+class QGridLayout;
+
 // Asks for a file name, to open or to save. A typed path may lead into an archive, where the disk knows
-// nothing.
+// nothing. A derived dialog adds controls of its own and follows what the person selects.
 class CFileDialog : public QFileDialog {
 public:
     // The first filter is the selected one.
@@ -25,10 +27,23 @@ public:
 protected:
     void accept() override;
 
+    // Another file or folder is selected in the list.
+    virtual void OnFileNameChange(const std::string&) {}
+    // The person pressed the button, and the path is no folder of the disk. False keeps the dialog open.
+    virtual bool OnFileNameOK() { return MayTake(GetPathName()); }
+    // Whether there is a file of that path, which the person would replace.
+    virtual bool IsFileThere(const std::string& path) const;
+
+    // Whether the path will do for what the dialog was opened for; tells the person why not.
+    bool MayTake(const std::string& path) const;
+    // Whether a part of the path before its last is a file: an archive, as far as the disk can tell.
+    static bool LeadsThroughFile(const std::string& path);
+    // The controls of the standard part.
+    QGridLayout& GetGrid() const;
+
 private:
     void SetFilters(const std::vector<FileFilter>& filters);
     void Propose(const std::string& proposal);
-    bool MayTake(const std::string& path) const;
 
     bool open;
     bool mustExist;

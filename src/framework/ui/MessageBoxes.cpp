@@ -14,10 +14,9 @@ namespace {
 using Button = QMessageBox::StandardButton;
 
 Button Ask(QMessageBox::Icon icon, const std::string& text, QMessageBox::StandardButtons buttons,
-           Button standard) {
+           Button standard, unsigned titleId = AFX_IDS_APP_TITLE) {
     const NormalCursor arrow;
-    QMessageBox box(icon, ToQString(LoadString(AFX_IDS_APP_TITLE)), ToQString(text), buttons,
-                    GetDialogOwner());
+    QMessageBox box(icon, ToQString(LoadString(titleId)), ToQString(text), buttons, GetDialogOwner());
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(standard);
     return static_cast<Button>(box.exec());
@@ -32,8 +31,8 @@ QWidget* GetDialogOwner() {
     return nullptr;
 }
 
-void ShowMessageBox(const std::string& text) {
-    Ask(QMessageBox::Warning, text, QMessageBox::Ok, QMessageBox::Ok);
+void ShowMessageBox(const std::string& text, unsigned titleId) {
+    Ask(QMessageBox::Warning, text, QMessageBox::Ok, QMessageBox::Ok, titleId);
 }
 
 bool AskYesNo(const std::string& text) {

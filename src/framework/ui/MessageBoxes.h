@@ -1,11 +1,12 @@
 #pragma once
 
+#include "framework/core/StandardIds.h"
 #include "framework/core/UserInterface.h"
 
 class QWidget;
 
 // Message boxes over the window in which a person works now. Texts show as they stand.
-void ShowMessageBox(const std::string& text);
+void ShowMessageBox(const std::string& text, unsigned titleId = AFX_IDS_APP_TITLE);
 // Yes or No; No is the default.
 bool AskYesNo(const std::string& text);
 SaveAnswer AskSaveChanges(const std::string& name);

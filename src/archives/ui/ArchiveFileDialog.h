@@ -1,0 +1,56 @@
+#pragma once
+
+#include "archives/FolderDocument.h"
+#include "framework/ui/CFileDialog.h"
+
+#include <functional>
+
+class ArchivePanel;
+class FileSystem;
+class PreviewPanel;
+struct ArchiveListItem;
+struct Preview;
+
+// The file dialog of the program. Its lower part lists the archive that is selected in the standard list, and
+// a file chosen there is what the dialog is about.
+class ArchiveFileDialog final : public CFileDialog {
+public:
+    // What the dialog asks the program for.
+    struct Services {
+        FileSystem& fileSystem;
+        std::function<Preview(const std::string& path)> readPreview;
+        std::function<void(const std::string& what)> notImplemented; // tells the person
+    };
+
+    ArchiveFileDialog(QWidget* owner, const FileNameQuestion& question,
+                      const std::vector<FileFilter>& filters, Services programServices);
+
+    // The file chosen in the lower list; empty when there is none or no archive is selected.
+    std::string GetSelectedInnerPath() const;
+
+protected:
+    void OnFileNameChange(const std::string& path) override { ShowSelection(path); }
+    bool OnFileNameOK() override;
+    bool IsFileThere(const std::string& path) const override;
+
+private:
+    void AddPanels();
+    void SetUpPreview();
+    // False when an archive on the way cannot be read: the person has been told.
+    bool ShowSelection(const std::string& path);
+    void FillLowerList(const std::string& path);
+    ArchiveListItem MakeItem(std::size_t place) const;
+    void SelectItem(const ArchiveListItem& item);
+    void OpenItem(const ArchiveListItem& item);
+    EntryStatus StatusOf(const std::string& path) const;
+    bool CanBeResolved(const std::string& path) const;
+
+    Services services;
+    std::string selection;    // what is selected in the standard list, or was typed
+    std::string archivePath;  // the archive, or the folder in it, that the lower list shows; or empty
+    std::string innerName;    // of the file chosen in the lower list; outlives a change of archive
+    std::string selectedPath; // of the line last selected in the lower list
+    FolderListing listing;
+    ArchivePanel* panel;
+    PreviewPanel* preview;
+};

@@ -1,0 +1,72 @@
+#include "archives/ui/ArchiveListModel.h"
+
+#include "framework/core/StringTable.h"
+#include "framework/core/Text.h"
+#include "res/ShellStrings.h"
+
+#include <QApplication>
+#include <QStyle>
+
+#include <algorithm>
+
+namespace {
+
+struct Column {
+    unsigned title;
+    QString ArchiveListItem::*text;
+    Qt::Alignment alignment;
+};
+
+const Column columns[] = {
+    {IDS_COLUMN_NAME, &ArchiveListItem::name, Qt::AlignLeft | Qt::AlignVCenter},
+    {IDS_COLUMN_SIZE, &ArchiveListItem::size, Qt::AlignRight | Qt::AlignVCenter},
+    {IDS_COLUMN_TYPE, &ArchiveListItem::type, Qt::AlignLeft | Qt::AlignVCenter},
+    {IDS_COLUMN_MODIFIED, &ArchiveListItem::modified, Qt::AlignLeft | Qt::AlignVCenter},
+};
+
+} // namespace
+
+ArchiveListModel::ArchiveListModel(QObject* parent)
+    : QAbstractTableModel(parent), fileIcon(QApplication::style()->standardIcon(QStyle::SP_FileIcon)),
+      folderIcon(QApplication::style()->standardIcon(QStyle::SP_DirIcon)) {}
+
+void ArchiveListModel::SetItems(std::vector<ArchiveListItem> newItems) {
+    beginResetModel();
+    items = std::move(newItems);
+    std::stable_sort(items.begin(), items.end(), [](const ArchiveListItem& a, const ArchiveListItem& b) {
+        return a.name.compare(b.name, Qt::CaseInsensitive) < 0;
+    });
+    endResetModel();
+}
+
+int ArchiveListModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(items.size());
+}
+
+int ArchiveListModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(std::size(columns));
+}
+
+QVariant ArchiveListModel::data(const QModelIndex& index, int role) const {
+    if (!index.isValid()) return {};
+    const ArchiveListItem& item = GetItem(index.row());
+    const Column& column = columns[index.column()];
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::ToolTipRole:
+        return item.*column.text;
+    case Qt::DecorationRole:
+        if (index.column() > 0) return {};
+        return item.folder ? folderIcon : fileIcon;
+    case Qt::TextAlignmentRole:
+        return QVariant::fromValue(column.alignment);
+    default:
+        return {};
+    }
+}
+
+QVariant ArchiveListModel::headerData(int column, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal) return {};
+    if (role == Qt::TextAlignmentRole) return QVariant::fromValue(columns[column].alignment);
+    return role == Qt::DisplayRole ? ToQString(LoadString(columns[column].title)) : QVariant();
+}

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QFontMetrics>
+#include <QWidget>
+
+// Pixels of a size in dialog units: quarters of a character's average width, eighths of its height.
+inline QSize FromDialogUnits(const QWidget& widget, const QSize& units) {
+    const QFontMetrics metrics = widget.fontMetrics();
+    return {units.width() * metrics.averageCharWidth() / 4, units.height() * metrics.height() / 8};
+}
