@@ -139,6 +139,15 @@ constexpr MenuRow documentMenu[] = {
     {"&Help", 0, help},
 };
 
+constexpr MenuRow imageItems[] = {
+    {"&Brush", 0, brushes}, {"&Color...", ID_FORMAT_COLOR},
+    {"&Zoom", 0, zoom},     {"Propert&ies", ID_EDIT_PROPERTIES},
+    {"Ca&ncel", ID_CANCEL},
+};
+constexpr MenuRow imageContextMenu[] = {
+    {"Image", 0, imageItems},
+};
+
 constexpr AcceleratorRow accelerators[] = {
     {"Ctrl+A", ID_EDIT_SELECT_ALL},  {"Ctrl+C", ID_EDIT_COPY},     {"Ctrl+N", ID_FILE_NEW},
     {"Ctrl+O", ID_FILE_OPEN},        {"Ctrl+S", ID_FILE_SAVE},     {"Ctrl+V", ID_EDIT_PASTE},
@@ -159,6 +168,10 @@ std::span<const MenuRow> MenuBarRows(unsigned menuId) {
     default:
         return {};
     }
+}
+
+std::span<const MenuRow> ImageContextMenuRows() {
+    return imageContextMenu;
 }
 
 std::span<const AcceleratorRow> AcceleratorRows() {

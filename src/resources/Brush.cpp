@@ -1,6 +1,5 @@
 #include "resources/Brush.h"
 
-#include "image/picture/Image.h"
 #include "resources/Shell.h"
 
 namespace {
@@ -8,19 +7,13 @@ namespace {
 constexpr unsigned paintCursor = 146;
 constexpr unsigned pickCursor = 147;
 
-// Truncated toward zero, so that texel 0 reaches half over the seam; the picture wraps it.
-unsigned TexelIndex(double coordinate) {
-    return static_cast<unsigned>(static_cast<int>(coordinate));
-}
-
 // Paints single texels with the current colour.
 class TexelBrush final : public Brush {
 public:
     TexelBrush() : Brush(paintCursor) {}
     void Apply(BrushTarget& target, TexelPoint point, int strength, TexelPoint) override {
         if (strength < 1) return;
-        target.GetPicture().SetPixelWrapped(TexelIndex(point.x), TexelIndex(point.y),
-                                            Shell::Get().GetCurrentColor());
+        target.SetTexel(point.Column(), point.Row(), Shell::Get().GetCurrentColor());
     }
 };
 
@@ -31,7 +24,7 @@ public:
     void Apply(BrushTarget& target, TexelPoint point, int strength, TexelPoint) override {
         if (strength < 1) return;
         Shell& shell = Shell::Get();
-        shell.SetCurrentColor(target.GetPicture().GetPixelWrapped(TexelIndex(point.x), TexelIndex(point.y)));
+        shell.SetCurrentColor(target.GetTexel(point.Column(), point.Row()));
         shell.UpdatePaletteBar(Shell::colorChanged);
     }
 };

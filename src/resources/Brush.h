@@ -1,21 +1,27 @@
 #pragma once
 
+#include "image/picture/Color.h"
+
 #include <cstdint>
 #include <memory>
-
-class Image;
 
 // A point of a picture in texels, from its top left corner; any point will do, for pictures tile without end.
 struct TexelPoint {
     double x = 0;
     double y = 0;
+
+    // The texel at the point, for whoever paints, picks or tells of it. Truncated toward zero, so that texel
+    // 0 reaches over the seam; the picture wraps it.
+    unsigned Column() const { return static_cast<unsigned>(static_cast<int>(x)); }
+    unsigned Row() const { return static_cast<unsigned>(static_cast<int>(y)); }
 };
 
-// What a brush sees of the view it is applied in.
+// What a brush sees of the view it is applied in: the texels of the picture, which tiles without end.
 class BrushTarget {
 public:
     virtual ~BrushTarget() = default;
-    virtual Image& GetPicture() = 0;
+    virtual Color GetTexel(unsigned x, unsigned y) const = 0;
+    virtual void SetTexel(unsigned x, unsigned y, Color color) = 0;
 };
 
 // A tool that the image view applies where the mouse clicks or drags.

@@ -49,7 +49,8 @@ struct FakeShell : Shell {
 };
 
 struct FakeTarget : BrushTarget {
-    Image& GetPicture() override { return picture; }
+    Color GetTexel(unsigned x, unsigned y) const override { return picture.GetPixelWrapped(x, y); }
+    void SetTexel(unsigned x, unsigned y, Color color) override { picture.SetPixelWrapped(x, y, color); }
     Image picture{4, 4};
 };
 

@@ -71,3 +71,10 @@ void ApplyChannelTable(const std::uint32_t* table256, std::span<const Color> inp
         ChannelTable(table256).Apply(input, output);
     }
 }
+
+std::array<std::uint32_t, 256> HalveBrightness(const std::uint32_t* table256) {
+    std::array<std::uint32_t, 256> halved;
+    for (std::size_t v = 0; v < halved.size(); ++v)
+        halved[v] = (table256[v / 2] & ~alphaMask) | (table256[v] & alphaMask);
+    return halved;
+}

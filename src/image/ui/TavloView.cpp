@@ -1,21 +1,22 @@
 #include "image/ui/TavloView.h"
 
 #include "image/TavloDocument.h"
+#include "image/picture/ChannelTable.h"
 #include "image/picture/TilePainter.h"
 #include "image/ui/TavloViewFrame.h"
+#include "res/CommandIds.h"
 #include "resources/Shell.h"
 
-#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
-#include <QWheelEvent>
 
+#include <array>
 #include <cmath>
 
 namespace {
 
-constexpr int wheelStep = 120;           // one notch
-constexpr int scrollPixelsPerNotch = 48; // screen pixels
+// More rectangles to repaint than these cost more than the whole view.
+constexpr int largestRectCount = 64;
 
 // The whole screen pixels that a rectangle of the widget touches.
 QRect ToDevice(const QRect& area, double ratio, const QSize& limit) {
@@ -35,14 +36,10 @@ TavloView::TavloView() {
     setAttribute(Qt::WA_OpaquePaintEvent); // every paint covers the whole area
 }
 
-QPointF TavloView::TexelAt(const QPointF& devicePoint) const {
-    const double zoom = GetZoom();
-    return {devicePoint.x() / zoom + GetScrollX(), devicePoint.y() / zoom + GetScrollY()};
-}
-
 void TavloView::OnUpdate(DocumentView*, std::intptr_t, CObject*) {
     const TavloDocument* shown = GetTavloDocument();
     if (!shown) return;
+    converted.Invalidate();
     update();
     SetRangeX(shown->GetTexture().GetWidth());
     SetRangeY(shown->GetTexture().GetHeight());
@@ -57,43 +54,90 @@ void TavloView::OnActivateView(bool activate, CView* activated, CView* deactivat
     InfiniteScrollView::OnActivateView(activate, activated, deactivated);
 }
 
+// Conversion comes first, gamma last.
 void TavloView::paintEvent(QPaintEvent* event) {
     const TavloDocument* shown = GetTavloDocument();
     if (!shown) return;
-    const double ratio = devicePixelRatioF();
-    const QRect area = ToDevice(event->region().boundingRect(), ratio, DeviceSize(*this));
-    if (area.isEmpty()) return;
     if (surface.size() != DeviceSize(*this)) surface = QImage(DeviceSize(*this), QImage::Format_RGB32);
+    const Image& picture = converted.Get(shown->GetTexture(), GetConversion(), shown->GetPaletteColors());
+    const std::uint32_t* gamma = Shell::Get().GetGammaTable();
+    std::array<std::uint32_t, 256> halved;
+    if (halfFilter) halved = HalveBrightness(gamma);
+    const QRegion& region = event->region();
+    const QRegion areas = region.rectCount() > largestRectCount ? QRegion(region.boundingRect()) : region;
+    for (const QRect& area : areas)
+        PaintArea(picture, halfFilter ? halved.data() : gamma,
+                  ToDevice(area, devicePixelRatioF(), surface.size()));
+}
+
+// The area is in screen pixels.
+void TavloView::PaintArea(const Image& picture, const std::uint32_t* table, const QRect& area) {
+    if (area.isEmpty()) return;
     const auto stride = static_cast<std::size_t>(surface.bytesPerLine()) / sizeof(Color);
     auto* pixels =
         reinterpret_cast<Color*>(surface.bits()) + static_cast<std::size_t>(area.y()) * stride + area.x();
-    PaintTiles(shown->GetTexture(), Shell::Get().GetGammaTable(), {GetZoom(), GetScrollX(), GetScrollY()},
+    PaintTiles(picture, table, GetViewport(),
                {area.x(), area.y(), area.width(), area.height(), pixels, stride});
     QPainter painter(this);
-    painter.scale(1 / ratio, 1 / ratio);
+    painter.scale(1 / devicePixelRatioF(), 1 / devicePixelRatioF());
     painter.drawImage(area.topLeft(), surface, area);
 }
 
-void TavloView::mouseMoveEvent(QMouseEvent* event) {
-    ShowTexel(TexelAt(event->position() * devicePixelRatioF()));
-    InfiniteScrollView::mouseMoveEvent(event);
+Color TavloView::GetTexel(unsigned x, unsigned y) const {
+    return GetTavloDocument()->GetTexture().GetPixelWrapped(x, y);
 }
 
-void TavloView::mousePressEvent(QMouseEvent* event) {
-    ShowTexel(TexelAt(event->position() * devicePixelRatioF()));
-    InfiniteScrollView::mousePressEvent(event);
+void TavloView::SetTexel(unsigned x, unsigned y, Color color) {
+    TavloDocument* shown = GetTavloDocument();
+    Texture& texture = shown->GetTexture();
+    if (texture.GetPixelWrapped(x, y) == color) return;
+    texture.SetPixelWrapped(x, y, color);
+    const auto column = static_cast<int>(x % static_cast<unsigned>(texture.GetWidth()));
+    const auto row = static_cast<int>(y % static_cast<unsigned>(texture.GetHeight()));
+    for (DocumentView* view : shown->GetViews())
+        if (auto* other = dynamic_cast<TavloView*>(view); other && other != this)
+            other->update(other->UpdateTexel(column, row));
+    repaint(UpdateTexel(column, row));
 }
 
-// With Ctrl alone the wheel zooms; without keys it scrolls up and down, with Shift sideways.
-void TavloView::wheelEvent(QWheelEvent* event) {
-    const Qt::KeyboardModifiers keys = event->modifiers();
-    if (event->buttons() == Qt::NoButton && keys == Qt::ControlModifier)
-        ZoomByWheel(event->angleDelta().y());
-    else if (keys == Qt::NoModifier || keys == Qt::ShiftModifier)
-        ScrollByWheel(event->angleDelta(), keys == Qt::ShiftModifier);
-    else
-        return InfiniteScrollView::wheelEvent(event);
-    event->accept();
+QRegion TavloView::UpdateTexel(int x, int y) {
+    const TavloDocument* shown = GetTavloDocument();
+    return shown ? FindTexels(converted.UpdateTexel(shown->GetTexture(), x, y)) : QRegion();
+}
+
+// In units of the widget, which are whole where screen pixels are not.
+QRegion TavloView::FindTexels(const TexelRun& run) const {
+    const Texture& texture = GetTavloDocument()->GetTexture();
+    const QSize size = DeviceSize(*this);
+    const double ratio = devicePixelRatioF();
+    QRegion region;
+    for (const ScreenRect& rect :
+         FindTexelRects(run, {texture.GetWidth(), texture.GetHeight()}, GetViewport(),
+                        {size.width(), size.height()}, largestRectCount))
+        region += QRectF(rect.left / ratio, rect.top / ratio, rect.width / ratio, rect.height / ratio)
+                      .toAlignedRect();
+    return region;
+}
+
+const CommandMap& TavloView::GetCommandMap() const {
+    using Self = TavloView;
+    static const CommandMap map{
+        InfiniteScrollView::GetCommandMap(),
+        {Command<&Self::OnFilterNearest, &Self::OnUpdateFilterNearest>(ID_FILTER_NEAREST),
+         Command<&Self::OnFilterDither, &Self::OnUpdateFilterDither>(ID_FILTER_DITHER),
+         Command<&Self::OnFilterHalf, &Self::OnUpdateFilterHalf>(ID_FILTER_HALF)}};
+    return map;
+}
+
+void TavloView::ToggleFilter(bool& filter) {
+    filter = !filter;
+    update();
+}
+
+void TavloView::UpdatePaletteFilter(CCmdUI& state, bool filter) const {
+    const TavloDocument* shown = GetTavloDocument();
+    state.Enable(shown && shown->HasPalette());
+    state.SetCheck(filter);
 }
 
 TavloDocument* TavloView::GetTavloDocument() const {
@@ -109,36 +153,11 @@ int TavloView::GetZoom() const {
     return frame ? frame->GetZoom() : 1;
 }
 
-// Position and colour in the status bar; the texel is the one that a brush would change.
-void TavloView::ShowTexel(const QPointF& texel) const {
-    const TavloDocument* shown = GetTavloDocument();
-    if (!shown) return;
-    const Texture& texture = shown->GetTexture();
-    Shell& shell = Shell::Get();
-    shell.SetPositionText(std::fmod(texel.x(), texture.GetWidth()),
-                          std::fmod(texel.y(), texture.GetHeight()));
-    shell.SetColorText(texture.GetPixelWrapped(static_cast<unsigned>(static_cast<int>(texel.x())),
-                                               static_cast<unsigned>(static_cast<int>(texel.y()))));
+TileViewport TavloView::GetViewport() const {
+    return {GetZoom(), GetScrollX(), GetScrollY()};
 }
 
-void TavloView::ZoomByWheel(int delta) {
-    TavloViewFrame* frame = GetViewFrame();
-    if (!frame) return;
-    wheelRemainder += delta;
-    int zoom = frame->GetZoom();
-    for (; wheelRemainder >= wheelStep; wheelRemainder -= wheelStep)
-        zoom = std::min(zoom * 2, TavloViewFrame::maximumZoom);
-    for (; wheelRemainder <= -wheelStep; wheelRemainder += wheelStep) zoom = std::max(zoom / 2, 1);
-    frame->SetZoom(zoom);
-}
-
-void TavloView::ScrollByWheel(const QPoint& delta, bool sideways) {
-    // Some systems turn the delta themselves while Shift is held.
-    const QPoint turned = sideways && delta.x() == 0 ? delta.transposed() : delta;
-    scrollRemainder -= turned * scrollPixelsPerNotch;
-    const int perTexel = wheelStep * GetZoom();
-    const QPoint whole(scrollRemainder.x() / perTexel, scrollRemainder.y() / perTexel);
-    scrollRemainder -= whole * perTexel;
-    if (whole.x() != 0) SetScrollX(GetScrollX() + whole.x());
-    if (whole.y() != 0) SetScrollY(GetScrollY() + whole.y());
+PictureConversion TavloView::GetConversion() const {
+    if (ditherFilter) return PictureConversion::errorDiffusion;
+    return nearestFilter ? PictureConversion::nearest : PictureConversion::none;
 }

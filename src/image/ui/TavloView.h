@@ -1,27 +1,38 @@
 #pragma once
 
+#include "image/ConvertedPicture.h"
 #include "image/ui/InfiniteScrollView.h"
+#include "resources/Brush.h"
 
 #include <QImage>
 
 class TavloDocument;
 class TavloViewFrame;
+struct TileViewport;
 
-// Shows an image document's picture tiled without end, so that its seams show.
-class TavloView final : public Dynamic<"TavloView", TavloView, InfiniteScrollView> {
+// Shows an image document's picture tiled without end, so that its seams show, and applies the document's
+// brush to it.
+class TavloView final : public Dynamic<"TavloView", TavloView, InfiniteScrollView>, public BrushTarget {
 public:
     TavloView();
 
     // The texel under a point of the screen, from the top left corner of the view; not wrapped.
-    QPointF TexelAt(const QPointF& devicePoint) const;
+    TexelPoint TexelAt(const QPointF& devicePoint) const;
+
+    Color GetTexel(unsigned x, unsigned y) const override;
+    // Repaints what it changes: here at once, in the document's other views with the next events.
+    void SetTexel(unsigned x, unsigned y, Color color) override;
 
     void OnUpdate(DocumentView* sender, std::intptr_t hint, CObject* hintObject) override;
     void OnActivateView(bool activate, CView* activated, CView* deactivated) override;
 
 protected:
+    const CommandMap& GetCommandMap() const override;
     void paintEvent(QPaintEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
 private:
@@ -29,11 +40,38 @@ private:
     TavloDocument* GetTavloDocument() const;
     TavloViewFrame* GetViewFrame() const;
     int GetZoom() const;
-    void ShowTexel(const QPointF& texel) const;
+    TileViewport GetViewport() const;
+    PictureConversion GetConversion() const;
+
+    void PaintArea(const Image& picture, const std::uint32_t* table, const QRect& area);
+    QRegion FindTexels(const TexelRun& run) const;
+    // What shows a texel that changed.
+    QRegion UpdateTexel(int x, int y);
+
+    TexelPoint TexelUnder(const QMouseEvent& event) const;
+    void ShowTexel(const TexelPoint& texel) const;
+    void ShowBrushCursor();
+    void ApplyBrush(const TexelPoint& texel);
+    void EndStroke();
     void ZoomByWheel(int delta);
     void ScrollByWheel(const QPoint& delta, bool sideways);
 
+    void OnFilterNearest() { ToggleFilter(nearestFilter); }
+    void OnFilterDither() { ToggleFilter(ditherFilter); }
+    void OnFilterHalf() { ToggleFilter(halfFilter); }
+    void ToggleFilter(bool& filter);
+    void OnUpdateFilterNearest(CCmdUI& state) const { UpdatePaletteFilter(state, nearestFilter); }
+    void OnUpdateFilterDither(CCmdUI& state) const { UpdatePaletteFilter(state, ditherFilter); }
+    void OnUpdateFilterHalf(CCmdUI& state) const { state.SetCheck(halfFilter); }
+    void UpdatePaletteFilter(CCmdUI& state, bool filter) const;
+
+    bool nearestFilter = false;
+    bool ditherFilter = false;
+    bool halfFilter = false;
+    ConvertedPicture converted;
     QImage surface;           // what was painted last, in screen pixels; kept for its memory
+    bool captured = false;    // a stroke is under way: the mouse is ours until the button is released
+    unsigned shownCursor = 0; // number of the brush's cursor that the pointer shows
     int wheelRemainder = 0;   // wheel movement that was not enough for a zoom step yet
     QPoint scrollRemainder{}; // and for scrolling by a texel, in 1/120 of a screen pixel
 };

@@ -1,0 +1,51 @@
+#include "image/ConvertedPicture.h"
+
+#include "image/picture/NearestSearch.h"
+
+#include <algorithm>
+
+ConvertedPicture::ConvertedPicture() = default;
+ConvertedPicture::~ConvertedPicture() = default;
+
+const Image& ConvertedPicture::Get(const Image& picture, PictureConversion newConversion,
+                                   const ColorList* list) {
+    if (newConversion == PictureConversion::none || !list) {
+        converted.reset();
+        return picture;
+    }
+    Prepare(newConversion, *list);
+    if (!converted) {
+        converted = picture;
+        Convert(converted->Pixels(), static_cast<std::size_t>(picture.GetWidth()));
+    }
+    return *converted;
+}
+
+// The search's tables outlive changes of the picture.
+void ConvertedPicture::Prepare(PictureConversion newConversion, const ColorList& list) {
+    if (newConversion != conversion) converted.reset();
+    conversion = newConversion;
+    if (search && colors == list) return;
+    converted.reset();
+    colors = list;
+    search = std::make_unique<NearestSearch>(colors);
+}
+
+void ConvertedPicture::Convert(std::span<Color> pixels, std::size_t width) {
+    if (conversion == PictureConversion::nearest)
+        search->Replace(pixels);
+    else
+        search->Diffuse(pixels, width);
+}
+
+// Errors are carried to the end of the row and no further.
+TexelRun ConvertedPicture::UpdateTexel(const Image& picture, int x, int y) {
+    if (!converted) return {y, x, 1};
+    const bool wholeRow = conversion == PictureConversion::errorDiffusion;
+    const int first = wholeRow ? 0 : x;
+    const auto count = static_cast<std::size_t>(wholeRow ? picture.GetWidth() : 1);
+    const std::span<Color> target = converted->Row(y).subspan(static_cast<std::size_t>(first), count);
+    std::ranges::copy(picture.Row(y).subspan(static_cast<std::size_t>(first), count), target.begin());
+    Convert(target, count);
+    return {y, x, wholeRow ? picture.GetWidth() - x : 1};
+}

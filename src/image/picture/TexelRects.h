@@ -1,0 +1,30 @@
+#pragma once
+
+#include "image/picture/TilePainter.h"
+
+#include <vector>
+
+// Texels of one row of a picture, from the first on; they do not reach over its right edge.
+struct TexelRun {
+    int row = 0;
+    int first = 0;
+    int count = 1;
+};
+
+struct PixelSize {
+    int width = 0;
+    int height = 0;
+};
+
+// A rectangle of a view in screen pixels.
+struct ScreenRect {
+    int left = 0;
+    int top = 0;
+    int width = 0;
+    int height = 0;
+};
+
+// Where the texels show in a view of a picture: a rectangle for each tile that shows them, or the whole view
+// where these would be more than `largestCount`.
+std::vector<ScreenRect> FindTexelRects(const TexelRun& run, PixelSize picture, const TileViewport& viewport,
+                                       PixelSize view, std::size_t largestCount);
