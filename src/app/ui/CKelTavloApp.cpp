@@ -14,6 +14,7 @@
 #include "framework/ui/NormalCursor.h"
 #include "image/ui/TavloView.h"
 #include "image/ui/TavloViewFrame.h"
+#include "preview3d/ui/MD2View.h"
 #include "res/CommandIds.h"
 #include "res/ShellStrings.h"
 
@@ -34,7 +35,8 @@ void CKelTavloApp::RegisterWindowClasses() {
     WindowClasses& classes = GetFrameFactory()->GetClasses();
     for (const CRuntimeClass* windowClass :
          {&TavloViewFrame::runtimeClass, &TavloView::runtimeClass, &ChildFrame::runtimeClass,
-          &HiddenChildFrame::runtimeClass, &HiddenView::runtimeClass})
+          &HiddenChildFrame::runtimeClass, &HiddenView::runtimeClass, &ModelView::runtimeClass,
+          &MD2View::runtimeClass})
         classes.Register(*windowClass);
 }
 

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QImage>
+
+// Memory of the graphics system that OpenGL draws into: the back buffer of a window.
+class OffScreenSurface {
+public:
+    // For RenderingContext. `surfaceHandle` is the surface's own from now on.
+    OffScreenSurface(void* displayHandle, void* surfaceHandle, QSize surfaceSize)
+        : display(displayHandle), handle(surfaceHandle), size(surfaceSize) {}
+    OffScreenSurface(const OffScreenSurface&) = delete;
+    OffScreenSurface& operator=(const OffScreenSurface&) = delete;
+    ~OffScreenSurface();
+
+    void* GetHandle() const { return handle; }
+    QSize GetSize() const { return size; } // pixels
+    // Copies what was drawn, top row first. The surface must be current. `picture` becomes RGB32 of the
+    // surface's size; its memory is used again when it fits.
+    void CopyTo(QImage& picture) const;
+
+private:
+    void* display;
+    void* handle;
+    QSize size;
+};

@@ -1,0 +1,189 @@
+#include "preview3d/ui/OpenGLCtrl.h"
+
+#include "framework/core/StringTable.h"
+#include "framework/core/Text.h"
+#include "preview3d/ui/OffScreenSurface.h"
+#include "preview3d/ui/PixelFormat.h"
+#include "preview3d/ui/RenderingContext.h"
+#include "res/ShellStrings.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+
+#include <GL/glu.h>
+#include <cmath>
+#include <utility>
+
+namespace {
+
+struct Corner {
+    int x, y, z;
+};
+
+// The faces of the cube, each counter-clockwise as seen from outside.
+constexpr Corner cube[][4] = {
+    {{-1, -1, -1}, {-1, 1, -1}, {1, 1, -1}, {1, -1, -1}}, {{-1, -1, 1}, {1, -1, 1}, {1, 1, 1}, {-1, 1, 1}},
+    {{-1, -1, -1}, {1, -1, -1}, {1, -1, 1}, {-1, -1, 1}}, {{-1, 1, -1}, {-1, 1, 1}, {1, 1, 1}, {1, 1, -1}},
+    {{-1, -1, -1}, {-1, -1, 1}, {-1, 1, 1}, {-1, 1, -1}}, {{1, -1, -1}, {1, 1, -1}, {1, 1, 1}, {1, -1, 1}},
+};
+
+} // namespace
+
+OpenGLCtrl::OpenGLCtrl() {
+    setAttribute(Qt::WA_OpaquePaintEvent); // every paint covers the whole area
+}
+
+OpenGLCtrl::~OpenGLCtrl() {
+    OpenGLCtrl::DestroyContext();
+}
+
+void OpenGLCtrl::Create(const QRect& area, QWidget& parent) {
+    setParent(&parent);
+    setGeometry(area);
+    CreateContext();
+    if (const QSize size = DeviceSize(); !size.isEmpty()) Fit(size);
+    show();
+}
+
+void OpenGLCtrl::CreateContext() {
+    PixelFormat format;
+    AdjustPixelFormat(format);
+    renderingContext = RenderingContext::Create(format);
+    if (!renderingContext) return;
+    ReplaceSurface(DeviceSize());
+    if (!surface || !renderingContext->MakeCurrent(*surface)) return;
+    deviceContext = surface.get();
+    InitGL();
+    RenderingContext::MakeNoneCurrent();
+    deviceContext = nullptr;
+}
+
+void OpenGLCtrl::AdjustPixelFormat(PixelFormat&) {}
+
+void OpenGLCtrl::DestroyContext() {
+    if (renderingContext && surface && renderingContext->MakeCurrent(*surface)) {
+        deviceContext = surface.get();
+        ReleaseResources();
+        RenderingContext::MakeNoneCurrent();
+    }
+    deviceContext = nullptr;
+    surface.reset();
+    renderingContext.reset();
+}
+
+void OpenGLCtrl::ResizeView(int cx, int cy) {
+    SetViewport(cx, cy);
+    glMatrixMode(GL_PROJECTION);
+    glLoadIdentity();
+    SetProjection(static_cast<double>(cx) / cy);
+    glMatrixMode(GL_MODELVIEW);
+    glLoadIdentity();
+    SetCamera();
+}
+
+void OpenGLCtrl::Render() {
+    glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
+    glPushMatrix();
+    DrawScene();
+    glPopMatrix();
+    glFinish();
+    if (deviceContext) deviceContext->CopyTo(picture);
+}
+
+void OpenGLCtrl::InitGL() {
+    glClearColor(0, 0, 0, 0);
+    glClearDepth(1);
+    glEnable(GL_DEPTH_TEST);
+    glEnable(GL_CULL_FACE);
+}
+
+void OpenGLCtrl::SetViewport(int cx, int cy) {
+    glViewport(0, 0, cx, cy);
+}
+
+void OpenGLCtrl::SetProjection(double aspect) {
+    gluPerspective(45, aspect, 1, 10);
+}
+
+void OpenGLCtrl::SetCamera() {
+    gluLookAt(4, 4, 4, 0, 0, 0, 0, 0, 1);
+}
+
+void OpenGLCtrl::DrawScene() {
+    const auto share = [](int coordinate) { return static_cast<float>(coordinate + 1) / 2; };
+    glBegin(GL_QUADS);
+    for (const auto& face : cube)
+        for (const auto& [x, y, z] : face) {
+            glColor3f(share(x), share(y), share(z));
+            glVertex3i(x, y, z);
+        }
+    glEnd();
+}
+
+void OpenGLCtrl::ReleaseResources() {}
+
+void OpenGLCtrl::MakeCurrent() {
+    if (++currentDepth > 1) return;
+    if (surface && renderingContext->MakeCurrent(*surface)) deviceContext = surface.get();
+}
+
+void OpenGLCtrl::ReleaseCurrent() {
+    if (--currentDepth > 0) return;
+    RenderingContext::MakeNoneCurrent();
+    deviceContext = nullptr;
+}
+
+void OpenGLCtrl::paintEvent(QPaintEvent* event) {
+    paintRect = event->rect();
+    if (!paintRect.isEmpty()) {
+        // A move to another screen changes the number of its pixels without a resize.
+        if (surface && surface->GetSize() != DeviceSize()) Fit(DeviceSize());
+        MakeCurrent();
+        Render();
+        const bool drawn = deviceContext != nullptr;
+        ReleaseCurrent();
+        drawn ? PaintPicture() : PaintExcuse();
+    }
+    paintRect = QRect();
+}
+
+void OpenGLCtrl::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    if (const QSize size = DeviceSize(); !size.isEmpty()) Fit(size);
+}
+
+QSize OpenGLCtrl::DeviceSize() const {
+    const double ratio = devicePixelRatioF();
+    return {static_cast<int>(std::ceil(width() * ratio)), static_cast<int>(std::ceil(height() * ratio))};
+}
+
+// Surfaces cannot change their size, so another one takes the place.
+void OpenGLCtrl::ReplaceSurface(const QSize& size) {
+    std::unique_ptr<OffScreenSurface> fitting = renderingContext->CreateSurface(size.expandedTo({1, 1}));
+    if (currentDepth > 0)
+        deviceContext = fitting && renderingContext->MakeCurrent(*fitting) ? fitting.get() : nullptr;
+    surface = std::move(fitting);
+}
+
+void OpenGLCtrl::Fit(const QSize& size) {
+    if (!renderingContext) return;
+    if (!surface || surface->GetSize() != size) ReplaceSurface(size);
+    MakeCurrent();
+    ResizeView(size.width(), size.height());
+    ReleaseCurrent();
+}
+
+void OpenGLCtrl::PaintPicture() {
+    QPainter painter(this);
+    painter.scale(1 / devicePixelRatioF(), 1 / devicePixelRatioF());
+    painter.drawImage(0, 0, picture);
+}
+
+void OpenGLCtrl::PaintExcuse() {
+    constexpr int margin = 8;
+    QPainter painter(this);
+    painter.fillRect(rect(), palette().window());
+    painter.setPen(palette().windowText().color());
+    painter.drawText(rect().marginsRemoved({margin, margin, margin, margin}),
+                     Qt::AlignCenter | Qt::TextWordWrap, ToQString(LoadString(IDS_NO_OPENGL)));
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "framework/ui/CView.h"
+
+class OpenGLCtrl;
+
+// A view that one OpenGL control covers. The control sees commands first.
+class OpenGLView : public Dynamic<"OpenGLView", OpenGLView, CView> {
+public:
+    void OnCreate() override;
+    void OnUpdate(DocumentView* sender, std::intptr_t hint, CObject* hintObject) override;
+    bool OnCmdMsg(CommandId id, CCmdUI* state) override;
+
+protected:
+    // Called by the constructor of the class derived from this one, which owns the control.
+    void Host(OpenGLCtrl& hosted) { control = &hosted; }
+
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    OpenGLCtrl* control = nullptr;
+};
