@@ -8,7 +8,6 @@
 #include "framework/core/ReplacingFile.h"
 #include "framework/core/StringTable.h"
 #include "framework/core/Text.h"
-#include "framework/ui/CMenu.h"
 #include "framework/ui/ChildFrame.h"
 #include "framework/ui/MessageBoxes.h"
 #include "framework/ui/NormalCursor.h"
@@ -63,8 +62,8 @@ std::optional<std::string> CKelTavloApp::PromptFileName(const FileNameQuestion& 
     return dialog.GetPathName();
 }
 
-void CKelTavloApp::UpdateMenus(BaseDocument*) {
-    if (mainFrame) mainFrame->GetCurrentMenu().UpdateAll();
+void CKelTavloApp::UpdateMenus(BaseDocument* activeDocument) {
+    if (mainFrame) mainFrame->UpdateMenus(activeDocument);
 }
 
 void CKelTavloApp::SetPositionText(double x, double y) {

@@ -6,7 +6,6 @@
 #include "framework/ui/CStatusBar.h"
 #include "framework/ui/RecentFileMenu.h"
 #include "image/picture/Color.h"
-#include "res/CommandIds.h"
 #include "res/Menus.h"
 #include "res/ShellStrings.h"
 
@@ -47,15 +46,6 @@ std::span<const MenuRow> MainFrame::GetMenuRows(unsigned menuId) const {
 
 void MainFrame::OnInitMenuPopup(CMenu& menu) {
     CMDIFrameWnd::OnInitMenuPopup(menu);
+    MenuItemList::UpdateAll(menu, nullptr);
     UpdateRecentFileMenu(menu, CWinApp::Get().GetRecentFiles().GetPaths());
-}
-
-const CommandMap& MainFrame::GetCommandMap() const {
-    static const CommandMap map{CMDIFrameWnd::GetCommandMap(),
-                                {Command<&MainFrame::OnViewRefresh>(ID_VIEW_REFRESH)}};
-    return map;
-}
-
-void MainFrame::OnViewRefresh() {
-    UpdateAllDocuments(nullptr, 0, nullptr);
 }

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "app/GammaSettings.h"
+#include "app/ui/MenuRuns.h"
 #include "framework/ui/CMDIFrameWnd.h"
 
 #include <cstdint>
 #include <string>
 
+class BaseDocument;
 class DocumentView;
 
 // The program's main window.
@@ -19,6 +21,8 @@ public:
     void SetColorText(std::uint32_t argb);
     // Tells every view of every open document but the sender.
     void UpdateAllDocuments(DocumentView* sender, std::intptr_t hint, CObject* hintObject);
+    // Brings the runs of the menu bar's menu up to date.
+    void UpdateMenus(BaseDocument* activeDocument);
     GammaSettings& GetGamma() { return gamma; }
 
 protected:
@@ -28,6 +32,12 @@ protected:
 
 private:
     void OnViewRefresh();
+    void OnFormatColor();
+    void OnCancel() {} // a menu's way out
+    void OnBar(CommandId id);
+    void OnUpdateBar(CCmdUI& state);
 
     GammaSettings gamma;
+    std::vector<CControlBar*> controlBars; // children of this window, in the order of the menu
+    MenuRuns menuRuns{controlBars};
 };

@@ -1,0 +1,15 @@
+#include "app/ui/MenuRuns.h"
+
+#include "res/CommandIds.h"
+#include "resources/BrushDocument.h"
+#include "resources/ColorSpaceDocument.h"
+#include "resources/ColorTableDocument.h"
+
+MenuRuns::MenuRuns(const std::vector<CControlBar*>& bars)
+    : toolbarMenu(bars), brushMenu(BrushDocument::runtimeClass),
+      colorTableMenu(ColorTableDocument::runtimeClass), colorSpaceMenu(ColorSpaceDocument::runtimeClass) {
+    toolbarMenu.Init(ID_VIEW_TOOLBAR, ID_BAR_FIRST, ID_BAR_LAST + 1);
+    brushMenu.Init(ID_BRUSHES, ID_BRUSH_FIRST, ID_BRUSH_LAST + 1);
+    colorTableMenu.Init(ID_PALETTE_TABLES, ID_COLOR_TABLE_FIRST, ID_COLOR_TABLE_LAST + 1);
+    colorSpaceMenu.Init(ID_PALETTE_SPACES, ID_COLOR_SPACE_FIRST, ID_COLOR_SPACE_LAST + 1);
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "app/ui/ControlBarMenuList.h"
+#include "resources/DocumentMenuList.h"
+
+// The runs of the main window's menus that change while the program runs.
+struct MenuRuns {
+    explicit MenuRuns(const std::vector<CControlBar*>& bars);
+
+    ControlBarMenuList toolbarMenu;
+    DocumentMenuList brushMenu;
+    DocumentMenuList colorTableMenu;
+    DocumentMenuList colorSpaceMenu;
+};
