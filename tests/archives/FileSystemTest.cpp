@@ -7,7 +7,6 @@
 #include "support/TestApplication.h"
 
 #include <filesystem>
-#include <gmock/gmock.h>
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -20,18 +19,6 @@ protected:
         EntryStatus status;
         application.GetFileSystem().GetStatus(path, status);
         return status;
-    }
-    std::vector<std::string> NamesIn(const std::string& path) {
-        FolderListing listing;
-        application.GetFileSystem().ListFolder(path, listing);
-        return listing.names;
-    }
-    std::string TextOf(const std::string& path) {
-        const auto file = application.GetFileSystem().OpenFile(path, CFile::modeRead, nullptr);
-        if (!file) return "(none)";
-        std::string text(file->GetLength(), '\0');
-        file->Read(text.data(), text.size());
-        return text;
     }
     CFileException::Cause OpenFailure(const std::string& path, unsigned flags = CFile::modeRead) {
         CFileException failure;

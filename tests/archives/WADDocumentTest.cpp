@@ -6,37 +6,14 @@
 #include "support/FakeProgress.h"
 #include "support/TestApplication.h"
 
-#include <gmock/gmock.h>
-
 using testing::ElementsAre;
 using testing::HasSubstr;
 
 namespace {
 
-constexpr const char* badFormat = "expected format";
-constexpr const char* badCount = "does not allow";
-constexpr const char* tooShort = "too early";
-
 class WADDocumentTest : public WorkshopTest {
 protected:
-    // Empty when the file opens, else the message.
-    std::string OpenWad(const Bytes& bytes) {
-        const std::string path = Put("test" + std::to_string(++count) + ".wad", bytes);
-        return Open<WADDocument>(path) ? std::string() : TakeMessage();
-    }
-    std::vector<std::string> NamesIn(const std::string& path) {
-        FolderListing listing;
-        application.GetFileSystem().ListFolder(path, listing);
-        return listing.names;
-    }
-    // The entry's bytes; "(fails)" when it does not open.
-    std::string TextOf(const std::string& path) {
-        const auto file = application.GetFileSystem().OpenFile(path, CFile::modeRead, nullptr);
-        if (!file) return "(fails)";
-        std::string text(file->GetLength(), '\xFF');
-        file->Read(text.data(), text.size());
-        return text;
-    }
+    std::string OpenWad(const Bytes& bytes) { return Try<WADDocument>(bytes, ".wad"); }
     static Bytes ThreeLumps(WadBuilder::Directory place = WadBuilder::Directory::last) {
         WadBuilder wad;
         wad.Add("wall1", WadBuilder::wad3TextureType, MakeMip("WALL1", 16, 8, true));
@@ -48,7 +25,6 @@ protected:
     static std::size_t RecordField(const Bytes& wad, std::size_t record, std::size_t field) {
         return wad.size() - (3 - record) * WadBuilder::recordSize + field;
     }
-    int count = 0;
 };
 
 } // namespace
@@ -100,7 +76,7 @@ TEST_F(WADDocumentTest, BytesAreCutOrFilledToTheSize) {
     const auto reopened = [&](std::uint32_t size) {
         PutU32(wad, RecordField(wad, 1, 8), size);
         EXPECT_EQ(OpenWad(wad), "");
-        return PathTo("test" + std::to_string(count) + ".wad/words");
+        return PathTo("file" + std::to_string(fileCount) + ".wad/words");
     };
     EXPECT_EQ(TextOf(reopened(6)), "twelve");
     EXPECT_EQ(TextOf(reopened(0)), "");
@@ -127,8 +103,8 @@ TEST_F(WADDocumentTest, RefusesDamagedHeadersAndExtents) {
     } const cases[] = {
         {4, 4, tooShort},
         {4, 0x7FFFFFFF, tooShort},
-        {4, 0x80000000, badCount},
-        {4, 0xFFFFFFFF, badCount},
+        {4, 0x80000000, badIndex},
+        {4, 0xFFFFFFFF, badIndex},
         {8, 0xFFFFFFFF, tooShort},
         {8, static_cast<std::uint32_t>(good.size() - 3 * WadBuilder::recordSize + 1), tooShort},
         {RecordField(good, 1, 0), 0xFFFFFFFF, tooShort},
@@ -140,13 +116,8 @@ TEST_F(WADDocumentTest, RefusesDamagedHeadersAndExtents) {
         PutU32(wad, offset, value);
         EXPECT_THAT(OpenWad(wad), HasSubstr(message)) << offset << " " << value;
     }
-    for (const auto place : {WadBuilder::Directory::last, WadBuilder::Directory::first}) {
-        const Bytes whole = ThreeLumps(place);
-        for (std::size_t length = 1; length < whole.size(); ++length)
-            EXPECT_THAT(OpenWad(Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length))),
-                        HasSubstr(tooShort))
-                << length;
-    }
+    for (const auto place : {WadBuilder::Directory::last, WadBuilder::Directory::first})
+        ExpectNoCutOpens<WADDocument>(ThreeLumps(place), ".wad", tooShort);
 }
 
 TEST_F(WADDocumentTest, ShowsHowFarALongReadIs) {
@@ -168,9 +139,5 @@ TEST_F(WADDocumentTest, ShowsHowFarALongReadIs) {
 }
 
 TEST_F(WADDocumentTest, CannotBeSaved) {
-    auto* wad = Open<WADDocument>(Put("a.wad", ThreeLumps()));
-    wad->SetModifiedFlag();
-    EXPECT_FALSE(wad->DoFileSave());
-    EXPECT_THAT(TakeMessage(), HasSubstr("only be read"));
-    EXPECT_EQ(ReadFile(PathTo("a.wad")), ThreeLumps());
+    ExpectCannotBeSaved(*Open<WADDocument>(Put("a.wad", ThreeLumps())), "only be read");
 }

@@ -3,24 +3,15 @@
 #include "builders/ModelBuilder.h"
 #include "support/TestApplication.h"
 
-#include <gmock/gmock.h>
-
 using testing::HasSubstr;
 
 namespace {
 
-constexpr const char* badIndex = "does not allow";
 constexpr std::size_t firstRecord = MdlBuilder::headerSize;
 
 class MDLDocumentTest : public WorkshopTest {
 protected:
-    std::string PutModel(const Bytes& bytes) {
-        return Put("model" + std::to_string(++count) + ".mdl", bytes);
-    }
-    // Empty when the model opens, else the message.
-    std::string OpenModel(const Bytes& bytes) {
-        return Open<MDLDocument>(PutModel(bytes)) ? std::string() : TakeMessage();
-    }
+    std::string OpenModel(const Bytes& bytes) { return Try<MDLDocument>(bytes, ".mdl"); }
     // The message for the small model with one field changed.
     std::string OpenWith(std::size_t field, std::uint32_t value) {
         Bytes bytes = Small();
@@ -28,13 +19,12 @@ protected:
         return OpenModel(bytes);
     }
     static Bytes Small() { return MdlBuilder{{{4, 2}, {16, 16}}}.Build(); }
-    int count = 0;
 };
 
 } // namespace
 
 TEST_F(MDLDocumentTest, DecodesEachTextureThroughItsPalette) {
-    auto* model = Open<MDLDocument>(PutModel(Small()));
+    auto* model = Open<MDLDocument>(Put("a.mdl", Small()));
     ASSERT_NE(model, nullptr);
     EXPECT_EQ(model->GetFileData(), Small());
     ASSERT_EQ(model->GetTextures().size(), 2U);
@@ -43,7 +33,7 @@ TEST_F(MDLDocumentTest, DecodesEachTextureThroughItsPalette) {
     EXPECT_EQ(model->GetTextures()[0].GetPixel(1, 1), Compose(5, 10, 15));
     EXPECT_EQ(model->GetTextures()[1].GetPixel(15, 15), Compose(255, 254, 253));
     const Bytes other = MdlBuilder{{{1, 1}}}.Build();
-    EXPECT_TRUE(model->OnOpenDocument(PutModel(other)));
+    EXPECT_TRUE(model->OnOpenDocument(Put("other.mdl", other)));
     EXPECT_EQ(model->GetFileData(), other);
     ASSERT_EQ(model->GetTextures().size(), 1U);
     EXPECT_EQ(model->GetTextures()[0].GetWidth(), 1);
@@ -61,10 +51,7 @@ TEST_F(MDLDocumentTest, WithoutATableThereAreNoTextures) {
 
 TEST_F(MDLDocumentTest, RefusesWhatLiesOutsideTheFile) {
     const Bytes whole = Small();
-    for (std::size_t length = 1; length < whole.size(); ++length)
-        EXPECT_THAT(OpenModel(Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length))),
-                    HasSubstr(badIndex))
-            << length;
+    ExpectNoCutOpens<MDLDocument>(whole, ".mdl", badIndex);
     const auto size = static_cast<std::uint32_t>(whole.size());
     struct {
         std::size_t field;
@@ -105,7 +92,5 @@ TEST_F(MDLDocumentTest, TexturesThatShareBytesTakeNoMoreThanTheFile) {
 }
 
 TEST_F(MDLDocumentTest, CannotBeSaved) {
-    auto* model = Open<MDLDocument>(PutModel(Small()));
-    EXPECT_FALSE(model->OnSaveDocument(PathTo("saved.mdl")));
-    EXPECT_THAT(TakeMessage(), HasSubstr("saved.mdl"));
+    ExpectCannotBeSaved(*Open<MDLDocument>(Put("a.mdl", Small())), "Cannot save");
 }

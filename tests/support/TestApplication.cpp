@@ -1,5 +1,7 @@
 #include "support/TestApplication.h"
 
+#include "archives/FolderDocument.h"
+
 #include <utility>
 
 std::string WorkshopTest::Put(const std::string& name, const Bytes& bytes) const {
@@ -11,6 +13,28 @@ std::string WorkshopTest::TakeMessage() {
     EXPECT_EQ(messages.size(), 1U);
     const std::vector<std::string> taken = std::exchange(messages, {});
     return taken.empty() ? std::string() : taken.front();
+}
+
+void WorkshopTest::ExpectCannotBeSaved(CDocument& document, const char* message) {
+    const std::string path = PathTo("copy");
+    EXPECT_FALSE(document.OnSaveDocument(path));
+    EXPECT_THAT(TakeMessage(), testing::HasSubstr(message));
+    CFileStatus status;
+    EXPECT_FALSE(CFile::GetStatus(path, status));
+}
+
+std::vector<std::string> WorkshopTest::NamesIn(const std::string& path) {
+    FolderListing listing;
+    application.GetFileSystem().ListFolder(path, listing);
+    return listing.names;
+}
+
+std::string WorkshopTest::TextOf(const std::string& path) {
+    const auto file = application.GetFileSystem().OpenFile(path, CFile::modeRead, nullptr);
+    if (!file) return "(fails)";
+    std::string text(file->GetLength(), '\xFF');
+    file->Read(text.data(), text.size());
+    return text;
 }
 
 Bytes MakeWal(std::uint32_t width, std::uint32_t height, const std::string& name) {

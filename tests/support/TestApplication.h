@@ -5,9 +5,20 @@
 
 #include <QTemporaryDir>
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 #include <string>
 #include <vector>
+
+// What the sentences for files that cannot be opened say.
+inline constexpr const char* badFormat = "expected format";
+inline constexpr const char* badVersion = "version";
+inline constexpr const char* badIndex = "does not allow";
+inline constexpr const char* tooShort = "too early";
+
+// The first bytes of a file.
+inline Bytes CutTo(const Bytes& bytes, std::size_t length) {
+    return {bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(length)};
+}
 
 // The program without windows and a folder for files, made afresh for each test.
 class WorkshopTest : public testing::Test {
@@ -21,11 +32,31 @@ protected:
     Document* Open(const std::string& path) {
         return dynamic_cast<Document*>(application.OpenDocumentFile(path));
     }
+    // Opens the bytes as a new file: empty when that goes well, else the message.
+    template <class Document>
+    std::string Try(const Bytes& bytes, const std::string& extension) {
+        const std::string path = Put("file" + std::to_string(++fileCount) + extension, bytes);
+        return Open<Document>(path) ? std::string() : TakeMessage();
+    }
+    // No shorter file opens; each fails with the same sentence.
+    template <class Document>
+    void ExpectNoCutOpens(const Bytes& whole, const std::string& extension, const char* message) {
+        for (std::size_t length = 1; length < whole.size(); ++length)
+            EXPECT_THAT(Try<Document>(CutTo(whole, length), extension), testing::HasSubstr(message))
+                << length;
+    }
+    // Saving the document fails with a message that says this, and leaves nothing behind.
+    void ExpectCannotBeSaved(CDocument& document, const char* message);
     // The one message since the last call; none and several are failures of the test.
     std::string TakeMessage();
+    // What the file system has in a folder or archive.
+    std::vector<std::string> NamesIn(const std::string& path);
+    // The bytes that lie under a path of the file system; "(fails)" when it does not open.
+    std::string TextOf(const std::string& path);
 
     QTemporaryDir folder;
     std::vector<std::string> messages;
+    int fileCount = 0;
     HeadlessApplication application{[this](const std::string& text) { messages.push_back(text); }};
 };
 

@@ -1,9 +1,6 @@
 #include "image/picture/DibSection.h"
 
-#include "image/picture/DrawingSurface.h"
 #include "image/picture/Image.h"
-
-#include <QRect>
 
 #include <gtest/gtest.h>
 #include <limits>
@@ -17,17 +14,6 @@ Image RandomPicture(int width, int height) {
     for (Color& pixel : picture.Pixels()) pixel = static_cast<Color>(random());
     return picture;
 }
-
-class RecordingSurface : public DrawingSurface {
-public:
-    void StretchBits(const DibSection& bitmap, const QRect& destination) override {
-        painted = &bitmap;
-        rectangle = destination;
-    }
-
-    const DibSection* painted = nullptr;
-    QRect rectangle;
-};
 
 } // namespace
 
@@ -152,12 +138,4 @@ TEST(DibSectionTest, ColorRowsTakeThePictureUpsideDownWithItsAlpha) {
     back.FromBitmap(bitmap);
     EXPECT_EQ(back.GetPixel(2, 1), picture.GetPixel(2, 1) | 0xFF000000);
     EXPECT_THROW(Image(0, 2).RenderTo(bitmap, IdentityTransform{}), BitmapError);
-}
-
-TEST(DibSectionTest, DrawsItselfWhole) {
-    const DibSection bitmap(2, 2, 24);
-    RecordingSurface surface;
-    bitmap.Draw(surface, QRect(1, 2, 30, 40));
-    EXPECT_EQ(surface.painted, &bitmap);
-    EXPECT_EQ(surface.rectangle, QRect(1, 2, 30, 40));
 }
