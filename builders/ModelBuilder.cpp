@@ -25,16 +25,18 @@ void PutSection(Bytes& bytes, std::size_t countField, std::size_t count, std::si
     PutU32(bytes, offsetField, static_cast<std::uint32_t>(bytes.size()));
 }
 
-void PutFrame(Bytes& bytes, std::uint32_t number, std::uint32_t vertices) {
-    for (const float value : {1.F, 2.F, 3.F, 10.F, 20.F, 30.F}) PutFloat(bytes, value);
+} // namespace
+
+void Md2Builder::PutFrame(Bytes& bytes, std::uint32_t number) const {
+    for (const float value : scale) PutFloat(bytes, value);
+    for (const float value : translate) PutFloat(bytes, value);
     PutField(bytes, "frame" + std::to_string(number), 16);
     for (std::uint32_t i = 0; i < vertices; ++i) {
-        PutU16(bytes, (number & 0xFF) | i << 8);
-        PutU16(bytes, (i + 1) & 0xFF);
+        for (const int value : vertexAt(static_cast<int>(number), static_cast<int>(i)))
+            bytes.push_back(static_cast<std::byte>(value));
+        bytes.push_back({}); // the light normal
     }
 }
-
-} // namespace
 
 Bytes Md2Builder::Build() const {
     Bytes bytes = ToBytes("IDP2");
@@ -44,16 +46,15 @@ Bytes Md2Builder::Build() const {
     PutSection(bytes, skinCount, skins.size(), skinOffset);
     for (const std::string& skin : skins) PutField(bytes, skin, 64);
     PutSection(bytes, texCoordCount, texCoords, texCoordOffset);
-    for (std::uint32_t i = 0; i < texCoords; ++i) {
-        PutU16(bytes, i);
-        PutU16(bytes, 0U - i);
-    }
+    for (std::uint32_t i = 0; i < texCoords; ++i)
+        for (const int value : texCoordAt(static_cast<int>(i)))
+            PutU16(bytes, static_cast<std::uint32_t>(value));
     PutSection(bytes, triangleCount, triangles.size(), triangleOffset);
     for (const auto& triangle : triangles)
         for (const std::uint16_t index : triangle) PutU16(bytes, index);
     PutSection(bytes, frameCount, frames, frameOffset);
     PutU32(bytes, vertexCount, vertices);
-    for (std::uint32_t f = 0; f < frames; ++f) PutFrame(bytes, f, vertices);
+    for (std::uint32_t f = 0; f < frames; ++f) PutFrame(bytes, f);
     return bytes;
 }
 

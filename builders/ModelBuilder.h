@@ -2,9 +2,12 @@
 
 #include "builders/PackBuilder.h"
 
+#include <array>
+#include <functional>
+
 // Makes Quake II models (".md2"): the header, the skins, texture coordinates, triangles and frames in this
-// order. Texture coordinate i is (i, -i); frame f scales by (1, 2, 3) and has the name "frame" and f; its
-// vertex i is (f, i, i + 1, 0), modulo 256.
+// order. Frame f has the name "frame" and f. Unless the rules are replaced, texture coordinate i is (i, -i)
+// and vertex i of frame f is (f, i, i + 1), modulo 256.
 struct Md2Builder {
     static constexpr std::size_t headerSize = 68;
     // Offsets of the header's fields.
@@ -17,10 +20,20 @@ struct Md2Builder {
     std::vector<std::vector<std::uint16_t>> triangles; // six indices each
     std::uint32_t frames = 0;
     std::uint32_t vertices = 0; // of each frame
+    std::array<float, 3> scale{1, 2, 3};
+    std::array<float, 3> translate{10, 20, 30};
+
+    using TexCoord = std::array<int, 2>; // s and t in pixels of the skin
+    std::function<TexCoord(int i)> texCoordAt = [](int i) { return TexCoord{i, -i}; };
+    using Vertex = std::array<int, 3>; // bytes, before they are scaled
+    std::function<Vertex(int f, int i)> vertexAt = [](int f, int i) { return Vertex{f, i, i + 1}; };
 
     Bytes Build() const;
     // As large as the game allows.
     static Bytes Largest();
+
+private:
+    void PutFrame(Bytes& bytes, std::uint32_t number) const;
 };
 
 // Makes studio models (".mdl"): a header of zeros, the texture table, then each texture's indices i % 256 and
