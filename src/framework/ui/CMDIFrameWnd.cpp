@@ -73,7 +73,7 @@ bool CMDIFrameWnd::OnCmdMsg(CommandId id, CCmdUI* state) {
 
 void CMDIFrameWnd::OnIdle() {
     if (currentMenu) currentMenu->UpdateOpenPopups();
-    for (CControlBar* bar : controlBars) bar->OnUpdateCmdUI();
+    for (CControlBar* bar : dockedBars) bar->OnUpdateCmdUI();
 }
 
 std::vector<CMDIChildWnd*> CMDIFrameWnd::GetChildren() const {

@@ -93,7 +93,7 @@ private:
 
     MDIClientArea* clientArea; // children of this window
     CStatusBar* statusBarWindow;
-    std::vector<CControlBar*> controlBars; // docked in this order
+    std::vector<CControlBar*> dockedBars; // docked in this order
     CMDIChildWnd* activeChild = nullptr;
     unsigned ownMenuId = 0;
     std::map<unsigned, std::unique_ptr<CMenu>> menus;

@@ -49,12 +49,12 @@ QRect OnScreen(const WindowPlacement::Rectangle& wanted) {
 
 void CMDIFrameWnd::DockControlBar(CToolBar& bar) {
     addToolBar(Qt::TopToolBarArea, &bar);
-    controlBars.push_back(&bar);
+    dockedBars.push_back(&bar);
 }
 
 void CMDIFrameWnd::DockControlBar(CDialogBar& bar, Qt::DockWidgetArea side) {
     addDockWidget(side, &bar);
-    controlBars.push_back(&bar);
+    dockedBars.push_back(&bar);
 }
 
 void CMDIFrameWnd::SaveBarState(const std::string& profileName) const {
@@ -101,9 +101,9 @@ void CMDIFrameWnd::ShowWindow(std::uint32_t showCommand) {
 }
 
 CControlBar* CMDIFrameWnd::FindControlBar(unsigned barId) const {
-    const auto place = std::find_if(controlBars.begin(), controlBars.end(),
+    const auto place = std::find_if(dockedBars.begin(), dockedBars.end(),
                                     [barId](const CControlBar* bar) { return bar->GetBarId() == barId; });
-    return place == controlBars.end() ? nullptr : *place;
+    return place == dockedBars.end() ? nullptr : *place;
 }
 
 // The ids of these commands are those of the bars.

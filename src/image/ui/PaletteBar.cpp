@@ -1,0 +1,154 @@
+#include "image/ui/PaletteBar.h"
+
+#include "framework/core/StringTable.h"
+#include "framework/core/Text.h"
+#include "framework/ui/Commands.h"
+#include "image/ui/PaletteChooser.h"
+#include "res/ShellStrings.h"
+#include "resources/Shell.h"
+
+#include <QImage>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QVBoxLayout>
+#include <QtMath>
+
+namespace {
+
+// Shows a bitmap in its top left corner, a pixel of the bitmap for one of the widget.
+class BitmapView final : public QWidget {
+public:
+    BitmapView(const DibSection& shown, QWidget* parent) : QWidget(parent), bitmap(shown) {
+        setFixedSize(bitmap.GetWidth(), bitmap.GetHeight());
+        setAttribute(Qt::WA_TransparentForMouseEvents); // clicks are the bar's
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        const QImage picture(bitmap.GetBits(), bitmap.GetWidth(), bitmap.GetHeight(),
+                             static_cast<qsizetype>(bitmap.GetStride()), QImage::Format_RGB32);
+        QPainter(this).drawImage(0, 0, picture);
+    }
+
+private:
+    const DibSection& bitmap;
+};
+
+// Half a point of the bar is a pixel of the screen at twice the scale; it belongs to the point before it.
+QPoint PointOf(const QMouseEvent& mouse) {
+    return {qFloor(mouse.position().x()), qFloor(mouse.position().y())};
+}
+
+Color ToColor(const QColor& color) {
+    return color.rgb() | alphaMask;
+}
+
+} // namespace
+
+PaletteBar::PaletteBar(unsigned barId, QWidget* parent)
+    : Dynamic(barId, LoadString(IDS_PALETTE_BAR), parent) {
+    CreateControls();
+    Renew();
+}
+
+void PaletteBar::CreateControls() {
+    auto* contents = new QWidget(this);
+    auto* column = new QVBoxLayout(contents);
+    chooser = new PaletteChooser(contents);
+    chooser->setToolTip(ToQString(CommandToolTip(IDS_PALETTE_CHOOSER)));
+    chooser->setStatusTip(ToQString(CommandPrompt(IDS_PALETTE_CHOOSER)));
+    chooser->setAccessibleName(chooser->toolTip());
+    connect(chooser, &QComboBox::activated, this, [this] { ChooserSelected(); });
+    column->addWidget(chooser);
+    for (const PalettePlanes::Part part :
+         {PalettePlanes::plane, PalettePlanes::strip1, PalettePlanes::strip2}) {
+        parts[part] = new BitmapView(planes.GetBitmap(part), contents);
+        parts[part]->setObjectName(QString::fromLatin1(partNames[part]));
+        column->addWidget(parts[part], 0, Qt::AlignHCenter);
+    }
+    column->addStretch();
+    contents->setStatusTip(ToQString(CommandPrompt(IDS_PALETTE_PICK)));
+    contents->setMouseTracking(true);
+    contents->installEventFilter(this);
+    setWidget(contents);
+}
+
+void PaletteBar::OnUpdate(QWidget*, unsigned, CObject*) {
+    Renew();
+}
+
+void PaletteBar::SetMode(PalettePlanes::Mode mode) {
+    planes.SetMode(mode);
+    Renew();
+}
+
+void PaletteBar::Renew() {
+    const Shell* shell = Shell::Find();
+    planes.Rebuild(shell ? shell->GetCurrentColor() : 0);
+    planes.Render(shell ? shell->GetGammaTable() : nullptr, GetLook());
+    widget()->update();
+}
+
+PalettePlanes::Look PaletteBar::GetLook() const {
+    const QPalette& colors = palette();
+    return {ToColor(colors.color(QPalette::Button)), ToColor(colors.color(QPalette::Dark)),
+            ToColor(colors.color(QPalette::Shadow)), ToColor(colors.color(QPalette::Midlight)),
+            ToColor(colors.color(QPalette::Light))};
+}
+
+void PaletteBar::FillChooser() {
+    chooser->FillChooser();
+}
+
+// A list whose document has closed since the chooser was filled is left alone.
+void PaletteBar::ChooserSelected() {
+    constexpr std::uintptr_t firstAddress = 256;
+    const std::uintptr_t value = chooser->GetSelectedValue();
+    if (value < firstAddress) return SetMode(static_cast<PalettePlanes::Mode>(value));
+    const ColorList* list = PaletteChooser::FindList(value);
+    if (!list) return FillChooser();
+    planes.SetColors(*list);
+    SetMode(PalettePlanes::colorTable);
+}
+
+std::optional<Color> PaletteBar::HitTest(const QPoint& point) const {
+    for (const PalettePlanes::Part part :
+         {PalettePlanes::plane, PalettePlanes::strip1, PalettePlanes::strip2}) {
+        const QPoint inside = parts[part]->mapFrom(widget(), point);
+        if (const auto color = planes.HitTest(part, inside.x(), inside.y())) return color;
+    }
+    return std::nullopt;
+}
+
+void PaletteBar::Pick(const QPoint& point) {
+    const std::optional<Color> color = HitTest(point);
+    if (!color) return;
+    Shell::Get().SetCurrentColor(*color);
+    Shell::Get().UpdatePaletteBar(Shell::colorChanged);
+}
+
+void PaletteBar::ShowColorAt(const QPoint& point) const {
+    if (const std::optional<Color> color = HitTest(point)) Shell::Get().SetColorText(*color);
+}
+
+bool PaletteBar::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == widget()) {
+        const auto* mouse = dynamic_cast<QMouseEvent*>(event);
+        if (event->type() == QEvent::MouseButtonPress && mouse->button() == Qt::LeftButton)
+            Pick(PointOf(*mouse));
+        else if (event->type() == QEvent::MouseMove)
+            ShowColorAt(PointOf(*mouse));
+    }
+    return CDialogBar::eventFilter(watched, event);
+}
+
+void PaletteBar::showEvent(QShowEvent* event) {
+    FillChooser();
+    CDialogBar::showEvent(event);
+}
+
+// The edges and the ground take their colours from the palette of the desktop.
+void PaletteBar::changeEvent(QEvent* event) {
+    CDialogBar::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && widget()) Renew();
+}

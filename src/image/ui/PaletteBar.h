@@ -1,0 +1,44 @@
+#pragma once
+
+#include "framework/ui/CDialogBar.h"
+#include "image/PalettePlanes.h"
+
+#include <array>
+
+class CObject;
+class PaletteChooser;
+
+// The bar in which the current colour is picked: from the entries of a colour table, from the palette of an
+// open picture, or from planes of red, green, blue and alpha.
+class PaletteBar final : public Dynamic<"PaletteBar", PaletteBar, CDialogBar> {
+public:
+    // The object names of the parts that show the plane and the strips, in the order of PalettePlanes::Part.
+    static constexpr std::array<const char*, 3> partNames{"Palette A", "Palette B", "Palette C"};
+
+    PaletteBar(unsigned barId, QWidget* parent);
+
+    // The current colour changed, or anything else that the bar shows.
+    virtual void OnUpdate(QWidget* sender, unsigned hint, CObject* hintObject);
+    void SetMode(PalettePlanes::Mode mode);
+    const PalettePlanes& GetPlanes() const { return planes; }
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void CreateControls();
+    void Renew();
+    void FillChooser();
+    void ChooserSelected();
+    void Pick(const QPoint& point);
+    void ShowColorAt(const QPoint& point) const;
+    // The colour under a point of the bar's contents, if there is one.
+    std::optional<Color> HitTest(const QPoint& point) const;
+    PalettePlanes::Look GetLook() const;
+
+    PalettePlanes planes;
+    PaletteChooser* chooser = nullptr; // children of the contents
+    std::array<QWidget*, 3> parts{};
+};
