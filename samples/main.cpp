@@ -1,4 +1,6 @@
 #include "SampleTextures.h"
+#include "UrnModel.h"
+#include "UrnSkin.h"
 #include "app/HeadlessApplication.h"
 #include "builders/PackBuilder.h"
 #include "formats/Codec.h"
@@ -29,6 +31,8 @@ Bytes BuildPack() {
         if (texture.quake2.nextFrameName.empty()) inner.Add(name, bytes);
     }
     pack.Add("packs/inner.pak", inner.Build());
+    pack.Add(UrnSkin::path, Encode(UrnSkin::Draw(GetQuakeIIPalette()), "PCXDocument"));
+    pack.Add("models/sample/urn.md2", BuildUrnModel());
     return pack.Build();
 }
 
