@@ -27,7 +27,7 @@ public:
     // The colour that brushes paint with and pick, 0xAARRGGBB.
     virtual std::uint32_t GetCurrentColor() const = 0;
     virtual void SetCurrentColor(std::uint32_t color) = 0;
-    // 256 entries: the channel table through which pictures are shown.
+    // 256 entries: the channel table through which pictures are shown; null before there is a main window.
     virtual const std::uint32_t* GetGammaTable() const = 0;
 
     // Shows a text above a bar. While the window is there the person can do nothing else. Null where nothing

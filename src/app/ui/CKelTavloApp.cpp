@@ -2,6 +2,8 @@
 
 #include "app/ui/FileFilters.h"
 #include "app/ui/MainFrame.h"
+#include "app/ui/PicturePreview.h"
+#include "archives/ui/ArchiveFileDialog.h"
 #include "archives/ui/HiddenChildFrame.h"
 #include "archives/ui/HiddenView.h"
 #include "archives/ui/ProgressDialog.h"
@@ -43,7 +45,7 @@ bool CKelTavloApp::InitInstance(const std::vector<std::string>& paths) {
     RemoveAbandonedSaves();
     mainFrame = std::make_unique<MainFrame>();
     GetFrameFactory()->SetMainFrame(mainFrame.get());
-    mainFrame->show();
+    mainFrame->ShowAsLeft();
     return CarryOut(paths);
 }
 
@@ -57,13 +59,24 @@ bool CKelTavloApp::CarryOut(const std::vector<std::string>& paths) {
 
 std::optional<std::string> CKelTavloApp::PromptFileName(const FileNameQuestion& question) {
     const NormalCursor arrow;
-    CFileDialog dialog(GetDialogOwner(), question, BuildFileFilters(question));
+    ArchiveFileDialog dialog(GetDialogOwner(), question, BuildFileFilters(question),
+                             {workshop.GetFileSystem(), ReadPicturePreview,
+                              [this](const std::string& what) { NotImplemented(what); }});
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
-    return dialog.GetPathName();
+    const std::string inner = dialog.GetSelectedInnerPath();
+    return inner.empty() ? dialog.GetPathName() : inner;
+}
+
+void CKelTavloApp::NotImplemented(const std::string& what) {
+    ShowMessageBox(FormatString(IDS_NOT_IMPLEMENTED, what.c_str()), IDS_NOT_IMPLEMENTED_TITLE);
 }
 
 void CKelTavloApp::UpdateMenus(BaseDocument* activeDocument) {
     if (mainFrame) mainFrame->UpdateMenus(activeDocument);
+}
+
+void CKelTavloApp::UpdatePaletteBar(unsigned hint) {
+    if (mainFrame) mainFrame->UpdatePaletteBar(nullptr, hint, nullptr);
 }
 
 void CKelTavloApp::SetPositionText(double x, double y) {
@@ -75,7 +88,7 @@ void CKelTavloApp::SetColorText(std::uint32_t color) {
 }
 
 const std::uint32_t* CKelTavloApp::GetGammaTable() const {
-    return mainFrame->GetGamma().GetTable();
+    return mainFrame ? mainFrame->GetGamma().GetTable() : nullptr;
 }
 
 std::unique_ptr<ProgressWindow> CKelTavloApp::OpenProgressWindow(const std::string& text,

@@ -23,9 +23,11 @@ public:
     MainFrame* GetMainFrame() const { return mainFrame.get(); }
 
     std::optional<std::string> PromptFileName(const FileNameQuestion& question) override;
+    // Tells the person that the program lacks this.
+    void NotImplemented(const std::string& what);
 
     void UpdateMenus(BaseDocument* activeDocument) override;
-    void UpdatePaletteBar(unsigned) override {} // the main window has none
+    void UpdatePaletteBar(unsigned hint) override;
     void SetPositionText(double x, double y) override;
     void SetColorText(std::uint32_t color) override;
     std::uint32_t GetCurrentColor() const override { return currentColor; }

@@ -4,15 +4,21 @@
 #include "framework/core/StringTable.h"
 #include "framework/ui/CMenu.h"
 #include "framework/ui/CStatusBar.h"
+#include "framework/ui/CToolBar.h"
 #include "framework/ui/RecentFileMenu.h"
 #include "image/picture/Color.h"
+#include "image/ui/PaletteBar.h"
+#include "res/CommandIds.h"
 #include "res/Menus.h"
 #include "res/ShellStrings.h"
+#include "res/ToolBars.h"
 
 namespace {
 
 constexpr std::size_t positionPane = 2;
 constexpr std::size_t colorPane = 3;
+constexpr unsigned filterBarId = 59398;
+constexpr unsigned paletteBarId = 59401;
 
 std::string ColorText(std::uint32_t argb) {
     if (Alpha(argb) == 255) return FormatString(IDS_COLOR_OPAQUE, Red(argb), Green(argb), Blue(argb));
@@ -25,6 +31,20 @@ std::string ColorText(std::uint32_t argb) {
 MainFrame::MainFrame() {
     LoadFrame(IDR_MAINFRAME, AcceleratorRows());
     resize(1000, 720);
+    CreateBars();
+    LoadSettings();
+}
+
+void MainFrame::CreateBars() {
+    standardToolBar = new CToolBar(ID_VIEW_TOOLBAR, LoadString(IDS_STANDARD_BAR), this);
+    filterToolBar = new CToolBar(filterBarId, LoadString(IDS_FILTER_BAR), this);
+    paletteBar = new PaletteBar(paletteBarId, this);
+    standardToolBar->LoadToolBar(ToolBarRows(IDR_STANDARD_BAR), *this);
+    filterToolBar->LoadToolBar(ToolBarRows(IDR_FILTER_BAR), *this);
+    DockControlBar(*standardToolBar);
+    DockControlBar(*filterToolBar);
+    DockControlBar(*paletteBar, Qt::RightDockWidgetArea);
+    controlBars = {paletteBar, standardToolBar, filterToolBar};
 }
 
 void MainFrame::SetPositionText(double x, double y) {
@@ -38,6 +58,15 @@ void MainFrame::SetColorText(std::uint32_t argb) {
 void MainFrame::UpdateAllDocuments(DocumentView* sender, std::intptr_t hint, CObject* hintObject) {
     for (CDocument* document : CWinApp::Get().GetDocuments())
         document->UpdateAllViews(sender, hint, hintObject);
+}
+
+void MainFrame::UpdatePaletteBar(const QWidget* sender, unsigned hint, CObject* hintObject) {
+    if (sender != paletteBar) paletteBar->OnUpdate(sender, hint, hintObject);
+}
+
+// The palette bar comes before everybody else.
+bool MainFrame::OnCmdMsg(CommandId id, CCmdUI* state) {
+    return (paletteBar && paletteBar->OnCmdMsg(id, state)) || CMDIFrameWnd::OnCmdMsg(id, state);
 }
 
 std::span<const MenuRow> MainFrame::GetMenuRows(unsigned menuId) const {

@@ -8,7 +8,9 @@
 #include <string>
 
 class BaseDocument;
+class CToolBar;
 class DocumentView;
+class PaletteBar;
 
 // The program's main window.
 class MainFrame : public Dynamic<"MainFrame", MainFrame, CMDIFrameWnd> {
@@ -21,16 +23,25 @@ public:
     void SetColorText(std::uint32_t argb);
     // Tells every view of every open document but the sender.
     void UpdateAllDocuments(DocumentView* sender, std::intptr_t hint, CObject* hintObject);
+    // Tells the palette bar that something changed, unless it is the sender: Shell::colorChanged or 0.
+    void UpdatePaletteBar(const QWidget* sender, unsigned hint, CObject* hintObject);
     // Brings the runs of the menu bar's menu up to date.
     void UpdateMenus(BaseDocument* activeDocument);
     GammaSettings& GetGamma() { return gamma; }
+    // Shows the window, as it stands normally and then as it was left, and paints it.
+    void ShowAsLeft();
+    bool OnCmdMsg(CommandId id, CCmdUI* state) override;
 
 protected:
     std::span<const MenuRow> GetMenuRows(unsigned menuId) const override;
     void OnInitMenuPopup(CMenu& menu) override;
     const CommandMap& GetCommandMap() const override;
+    void closeEvent(QCloseEvent* event) override;
 
 private:
+    void CreateBars();
+    void LoadSettings();
+    void SaveSettings() const;
     void OnViewRefresh();
     void OnFormatColor();
     void OnCancel() {} // a menu's way out
@@ -38,6 +49,10 @@ private:
     void OnUpdateBar(CCmdUI& state);
 
     GammaSettings gamma;
+    std::uint32_t showCommand = WindowPlacement::show; // once the window has been shown
+    CToolBar* standardToolBar = nullptr;               // children of this window
+    CToolBar* filterToolBar = nullptr;
+    PaletteBar* paletteBar = nullptr;
     std::vector<CControlBar*> controlBars; // children of this window, in the order of the menu
     MenuRuns menuRuns{controlBars};
 };

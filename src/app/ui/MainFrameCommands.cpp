@@ -24,6 +24,7 @@ void MainFrame::UpdateMenus(BaseDocument* activeDocument) {
 
 void MainFrame::OnViewRefresh() {
     UpdateAllDocuments(nullptr, 0, nullptr);
+    UpdatePaletteBar(nullptr, 0, nullptr);
 }
 
 void MainFrame::OnBar(CommandId id) {

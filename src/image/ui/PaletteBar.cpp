@@ -73,7 +73,7 @@ void PaletteBar::CreateControls() {
     setWidget(contents);
 }
 
-void PaletteBar::OnUpdate(QWidget*, unsigned, CObject*) {
+void PaletteBar::OnUpdate(const QWidget*, unsigned, CObject*) {
     Renew();
 }
 

@@ -18,7 +18,7 @@ public:
     PaletteBar(unsigned barId, QWidget* parent);
 
     // The current colour changed, or anything else that the bar shows.
-    virtual void OnUpdate(QWidget* sender, unsigned hint, CObject* hintObject);
+    virtual void OnUpdate(const QWidget* sender, unsigned hint, CObject* hintObject);
     void SetMode(PalettePlanes::Mode mode);
     const PalettePlanes& GetPlanes() const { return planes; }
 
