@@ -1,4 +1,10 @@
+#include "formats/Codec.h"
+#include "framework/core/CMemFile.h"
 #include "framework/core/Path.h"
+#include "framework/core/Text.h"
+#include "image/picture/Texture.h"
+#include "preview3d/MDLDocument.h"
+#include "resources/streams/ArchiveStream.h"
 #include "tool/OutputPlace.h"
 #include "tool/Tool.h"
 #include "tool/ToolCommands.h"
@@ -24,6 +30,43 @@ void ExtractFile(Tool& tool, const std::string& path, const std::string& target,
     }
 }
 
+std::vector<std::byte> ToTarga(const Image& picture) {
+    Texture texture;
+    static_cast<Image&>(texture) = picture;
+    CMemFile file;
+    CArchive archive(file, CArchive::store);
+    ArchiveStream out(archive);
+    FindCodec("TGADocument")->write(out, texture, nullptr);
+    archive.Flush();
+    return {file.Bytes().begin(), file.Bytes().end()};
+}
+
+// Writes each texture that the model carries, numbered from 1: the file does not say which names are theirs
+// to keep.
+void ExtractTextures(Tool& tool, const std::string& path, const std::string& folder, bool force) {
+    auto* model = dynamic_cast<MDLDocument*>(tool.GetApplication().OpenDocumentFile(path));
+    if (!model) return; // the application has said why
+    int number = 0;
+    for (const Image& texture : model->GetTextures()) {
+        const std::string name = std::string(BaseNameOf(path)) + "_" + std::to_string(++number) + ".tga";
+        if (texture.Pixels().empty())
+            tool.Note("\"" + name + "\" would have no pixels and was left out.");
+        else if (PrepareOutput(tool, folder + "/" + name, force))
+            WriteOutput(tool, folder + "/" + name, ToTarga(texture));
+    }
+    if (number == 0) tool.Note("\"" + ToDisplayPath(path) + "\" carries no textures.");
+    model->OnCloseDocument();
+}
+
+// A file of an archive, and the textures of a model wherever it lies.
+void ExtractOne(Tool& tool, const std::string& path, const EntryStatus& status, const std::string& folder,
+                bool force) {
+    const bool isModel = EqualNoCase(ExtensionOf(path), ".mdl");
+    if (isModel) ExtractTextures(tool, path, folder, force);
+    if (!isModel || !status.onDisk)
+        ExtractFile(tool, path, folder + "/" + std::string(FileNameOf(path)), force);
+}
+
 } // namespace
 
 void Extract(Tool& tool, const ToolArguments& arguments) {
@@ -32,8 +75,7 @@ void Extract(Tool& tool, const ToolArguments& arguments) {
     EntryStatus status;
     tool.GetApplication().GetFileSystem().GetStatus(path, status);
     if (!status.exists) return tool.Fail("\"" + ToDisplayPath(path) + "\" was not found.");
-    if (!IsTree(status))
-        return ExtractFile(tool, path, folder + "/" + std::string(FileNameOf(path)), arguments.force);
+    if (!IsTree(status)) return ExtractOne(tool, path, status, folder, arguments.force);
     WalkTree(tool, path, [&](const std::string& file, const std::string& name) {
         tool.ShowProgress(name);
         ExtractFile(tool, file, folder + "/" + name, arguments.force);

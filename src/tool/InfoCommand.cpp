@@ -4,6 +4,8 @@
 #include "image/SurfaceFlags.h"
 #include "image/TavloDocument.h"
 #include "image/picture/ColorList.h"
+#include "preview3d/MD2Document.h"
+#include "preview3d/MDLDocument.h"
 #include "resources/PaletteDocument.h"
 #include "tool/Tool.h"
 #include "tool/ToolCommands.h"
@@ -22,8 +24,12 @@ std::string Numbered(std::uint32_t flags, const std::array<std::string_view, 32>
     return flags == 0 ? std::string() : Format("0x%08X", flags) + " (" + DescribeFlags(flags, labels) + ")";
 }
 
+std::string SizeOf(const Image& picture) {
+    return std::to_string(picture.GetWidth()) + " x " + std::to_string(picture.GetHeight());
+}
+
 void DescribeTexture(std::ostream& out, const Texture& texture) {
-    Put(out, "size", std::to_string(texture.GetWidth()) + " x " + std::to_string(texture.GetHeight()));
+    Put(out, "size", SizeOf(texture));
     if (texture.palette) Put(out, "palette", std::to_string(texture.palette->GetCount()) + " colors");
     Put(out, "Quake name", texture.quakeName);
     Put(out, "Quake II name", texture.quake2.name);
@@ -44,11 +50,28 @@ void DescribeFolder(std::ostream& out, const FolderDocument& folder) {
     Put(out, "entries at the top", std::to_string(listing.names.size()));
 }
 
+void DescribeModel(std::ostream& out, const MD2Document& model) {
+    const auto& frames = model.GetFrames();
+    Put(out, "frames", std::to_string(frames.size()));
+    Put(out, "vertices of a frame", std::to_string(frames.empty() ? 0 : frames.front().vertices.size()));
+    Put(out, "texture coordinates", std::to_string(model.GetTexCoords().size()));
+    Put(out, "triangles", std::to_string(model.GetTriangles().size()));
+    Put(out, "skins", std::to_string(model.GetSkins().size()));
+    for (const std::string& skin : model.GetSkins()) Put(out, "skin", skin);
+}
+
+void DescribeModel(std::ostream& out, const MDLDocument& model) {
+    Put(out, "textures", std::to_string(model.GetTextures().size()));
+    for (const Image& texture : model.GetTextures()) Put(out, "texture", SizeOf(texture));
+}
+
 void DescribeDocument(std::ostream& out, const CDocument& document) {
     if (const auto* image = dynamic_cast<const TavloDocument*>(&document))
         DescribeTexture(out, image->GetTexture());
     if (const auto* palette = dynamic_cast<const PaletteDocument*>(&document)) DescribePalette(out, *palette);
     if (const auto* folder = dynamic_cast<const FolderDocument*>(&document)) DescribeFolder(out, *folder);
+    if (const auto* model = dynamic_cast<const MD2Document*>(&document)) DescribeModel(out, *model);
+    if (const auto* model = dynamic_cast<const MDLDocument*>(&document)) DescribeModel(out, *model);
 }
 
 } // namespace

@@ -23,8 +23,8 @@ constexpr CommandRow commands[] = {
     {"convert", "IN OUT", "Writes the picture IN in the format that OUT's name picks.", 2, Convert},
     {"convert", "TREE OUTDIR --to FORMAT",
      "Converts every picture of a folder or archive, keeping its folders.", 2, Convert},
-    {"extract", "PATH OUTDIR", "Writes the files of an archive, or the textures of an MDL model as Targa.", 2,
-     Extract},
+    {"extract", "PATH OUTDIR", "Writes the files of an archive, and the textures of an MDL model as Targa.",
+     2, Extract},
 };
 
 void PrintHelp(std::ostream& out) {

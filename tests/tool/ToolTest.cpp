@@ -1,6 +1,6 @@
 #include "tool/Tool.h"
 
-#include "builders/PackBuilder.h"
+#include "builders/ModelBuilder.h"
 #include "support/TestApplication.h"
 
 #include <QTemporaryDir>
@@ -25,6 +25,7 @@ protected:
         pack.Add("readme.txt", ToBytes("hello"));
         pack.Add("README.txt", ToBytes("second"));
         pack.Add("../escape.txt", ToBytes("out"));
+        pack.Add("models/player.mdl", MdlBuilder{{{4, 2}, {0, 1}, {16, 16}}}.Build());
         WriteFile(At("a.pak"), pack.Build());
     }
     std::string At(const std::string& name) const { return folder.path().toStdString() + "/" + name; }
@@ -99,4 +100,29 @@ TEST_F(ToolTest, ExtractsInsideTheFolderOnly) {
     EXPECT_EQ(Run({"extract", At("a.pak/readme.txt"), At("one")}), 0);
     EXPECT_EQ(ReadFile(At("one/readme.txt")), ToBytes("hello"));
     EXPECT_EQ(Run({"extract", At("a.pak/nothing"), At("one")}), 1);
+}
+
+TEST_F(ToolTest, DescribesModelsAndWritesTheirTextures) {
+    Md2Builder model;
+    model.skins = {"models/a.pcx"};
+    model.texCoords = 5;
+    model.triangles = {{0, 1, 2, 0, 1, 2}};
+    model.frames = 2;
+    model.vertices = 3;
+    WriteFile(At("a.md2"), model.Build());
+    EXPECT_EQ(Run({"info", At("a.md2")}), 0);
+    EXPECT_THAT(out, HasSubstr("frames: 2\nvertices of a frame: 3\ntexture coordinates: 5\ntriangles: 1\n"
+                               "skins: 1\nskin: models/a.pcx\n"));
+    const std::string path = At("a.pak/models/player.mdl");
+    EXPECT_EQ(Run({"info", path}), 0);
+    EXPECT_THAT(out, HasSubstr("textures: 3\ntexture: 4 x 2\ntexture: 0 x 1\ntexture: 16 x 16\n"));
+    EXPECT_EQ(Run({"extract", path, At("out")}), 0);
+    EXPECT_THAT(err, HasSubstr("\"player_2.tga\" would have no pixels"));
+    EXPECT_TRUE(fs::exists(At("out/player.mdl")));
+    EXPECT_EQ(ReadFile(At("out/player_1.tga"))[18], std::byte{4 * 3}) << "blue of the bottom left";
+    EXPECT_EQ(Run({"info", At("out/player_3.tga")}), 0);
+    EXPECT_THAT(out, HasSubstr("size: 16 x 16\n"));
+    EXPECT_EQ(Run({"extract", At("out/player.mdl"), At("out")}), 1) << "nothing is written over";
+    EXPECT_EQ(Run({"extract", At("out/player.mdl"), At("again")}), 0);
+    EXPECT_FALSE(fs::exists(At("again/player.mdl"))) << "it lies on the disk already";
 }
