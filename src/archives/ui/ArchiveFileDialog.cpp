@@ -109,25 +109,21 @@ void ArchiveFileDialog::FillLowerList(const std::string& path) {
     std::vector<ArchiveListItem> items;
     if (!path.empty()) {
         services.fileSystem.ListFolder(path, listing);
-        for (std::size_t i = 0; i < listing.names.size(); ++i) items.push_back(MakeItem(i));
+        for (const std::string& name : listing.names) items.push_back({ToQString(name), items.size()});
     }
-    panel->GetList().SetItems(std::move(items));
+    panel->GetList().SetItems(std::move(items), [this](ArchiveListItem& item) { Describe(item); });
     panel->SetActive(!path.empty());
     panel->SetName(ToQString(innerName));
 }
 
-ArchiveListItem ArchiveFileDialog::MakeItem(std::size_t place) const {
-    const std::string& name = listing.names[place];
+void ArchiveFileDialog::Describe(ArchiveListItem& item) const {
+    const std::string& name = listing.names[item.data];
     const EntryStatus status = StatusOf(JoinPath(archivePath, name));
     const bool directory = (status.attributes & CFileStatus::directoryAttribute) != 0;
-    ArchiveListItem item;
-    item.name = ToQString(name);
     if (!directory) item.size = SizeText(status);
     item.type = directory ? TypeNameOfFolder() : TypeNameOfFile(name);
     item.modified = TimeText(status.modified);
     item.folder = IsFolder(status);
-    item.data = place;
-    return item;
 }
 
 void ArchiveFileDialog::SelectItem(const ArchiveListItem& item) {

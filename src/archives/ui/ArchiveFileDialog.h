@@ -39,7 +39,7 @@ private:
     // False when an archive on the way cannot be read: the person has been told.
     bool ShowSelection(const std::string& path);
     void FillLowerList(const std::string& path);
-    ArchiveListItem MakeItem(std::size_t place) const;
+    void Describe(ArchiveListItem& item) const;
     void SelectItem(const ArchiveListItem& item);
     void OpenItem(const ArchiveListItem& item);
     EntryStatus StatusOf(const std::string& path) const;

@@ -30,13 +30,21 @@ ArchiveListModel::ArchiveListModel(QObject* parent)
     : QAbstractTableModel(parent), fileIcon(QApplication::style()->standardIcon(QStyle::SP_FileIcon)),
       folderIcon(QApplication::style()->standardIcon(QStyle::SP_DirIcon)) {}
 
-void ArchiveListModel::SetItems(std::vector<ArchiveListItem> newItems) {
+void ArchiveListModel::SetItems(std::vector<ArchiveListItem> newItems, Describer newDescriber) {
     beginResetModel();
     items = std::move(newItems);
+    describe = std::move(newDescriber);
     std::stable_sort(items.begin(), items.end(), [](const ArchiveListItem& a, const ArchiveListItem& b) {
         return a.name.compare(b.name, Qt::CaseInsensitive) < 0;
     });
     endResetModel();
+}
+
+const ArchiveListItem& ArchiveListModel::GetItem(int row) const {
+    ArchiveListItem& item = items[static_cast<std::size_t>(row)];
+    if (!item.described) describe(item);
+    item.described = true;
+    return item;
 }
 
 int ArchiveListModel::rowCount(const QModelIndex& parent) const {
@@ -49,15 +57,16 @@ int ArchiveListModel::columnCount(const QModelIndex& parent) const {
 
 QVariant ArchiveListModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid()) return {};
-    const ArchiveListItem& item = GetItem(index.row());
     const Column& column = columns[index.column()];
     switch (role) {
     case Qt::DisplayRole:
     case Qt::ToolTipRole:
-        return item.*column.text;
+        // A name needs no description: all of them are looked at when one is searched for.
+        if (index.column() == 0) return items[static_cast<std::size_t>(index.row())].name;
+        return GetItem(index.row()).*column.text;
     case Qt::DecorationRole:
         if (index.column() > 0) return {};
-        return item.folder ? folderIcon : fileIcon;
+        return GetItem(index.row()).folder ? folderIcon : fileIcon;
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(column.alignment);
     default:

@@ -3,13 +3,18 @@
 #include <QAbstractTableModel>
 #include <QIcon>
 
+#include <functional>
 #include <vector>
 
 // A line of the lower list.
 struct ArchiveListItem {
-    QString name, size, type, modified; // as people read them
+    QString name;         // as people read it, like the other texts
+    std::size_t data = 0; // the place of the name in the listing: lines are sorted, listings are not
+
+    // Empty until the line is described.
+    bool described = false;
     bool folder = false;
-    std::size_t data = 0; // the place of its name in the listing: lines are sorted, listings are not
+    QString size{}, type{}, modified{};
 };
 
 // What the lower list shows, sorted by name without regard to case; equal names keep their order.
@@ -17,8 +22,13 @@ class ArchiveListModel final : public QAbstractTableModel {
 public:
     explicit ArchiveListModel(QObject* parent);
 
-    void SetItems(std::vector<ArchiveListItem> newItems);
-    const ArchiveListItem& GetItem(int row) const { return items[static_cast<std::size_t>(row)]; }
+    // Fills what a line has beside its name and data. Archives have tens of thousands of lines and a window
+    // shows a few: a line is described when it is first looked at.
+    using Describer = std::function<void(ArchiveListItem& item)>;
+
+    void SetItems(std::vector<ArchiveListItem> newItems, Describer newDescriber);
+    // Described.
+    const ArchiveListItem& GetItem(int row) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -26,6 +36,7 @@ public:
     QVariant headerData(int column, Qt::Orientation orientation, int role) const override;
 
 private:
-    std::vector<ArchiveListItem> items;
+    mutable std::vector<ArchiveListItem> items;
+    Describer describe;
     QIcon fileIcon, folderIcon;
 };

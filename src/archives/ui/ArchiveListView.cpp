@@ -39,8 +39,8 @@ void ArchiveListView::SetUp(QAbstractItemView& view) {
     addWidget(&view);
 }
 
-void ArchiveListView::SetItems(std::vector<ArchiveListItem> items) {
-    model->SetItems(std::move(items));
+void ArchiveListView::SetItems(std::vector<ArchiveListItem> items, ArchiveListModel::Describer describe) {
+    model->SetItems(std::move(items), std::move(describe));
 }
 
 void ArchiveListView::SetStyle(Style style) {

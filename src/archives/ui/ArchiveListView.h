@@ -17,7 +17,7 @@ public:
 
     explicit ArchiveListView(QWidget* parent);
 
-    void SetItems(std::vector<ArchiveListItem> items);
+    void SetItems(std::vector<ArchiveListItem> items, ArchiveListModel::Describer describe);
     // Where the keyboard goes and how the lines show; the selected line stays.
     void SetStyle(Style style);
     Style GetStyle() const;
