@@ -77,6 +77,7 @@ void ArchiveFileDialog::AddPanels() {
     grid.addWidget(preview, 0, beside, below, 1);
     grid.addWidget(MakeHelp(this), below, beside);
     grid.setRowStretch(below, 1);
+    resize(FromDialogUnits(*this, {460, 340}).expandedTo(sizeHint()));
 }
 
 void ArchiveFileDialog::SetUpPreview() {

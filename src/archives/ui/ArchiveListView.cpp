@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QListView>
+#include <QStyle>
 #include <QTreeView>
 
 ArchiveListView::ArchiveListView(QWidget* parent)
@@ -32,6 +33,8 @@ void ArchiveListView::SetUp(QAbstractItemView& view) {
     view.setSelectionBehavior(QAbstractItemView::SelectRows);
     view.setEditTriggers(QAbstractItemView::NoEditTriggers);
     view.setTextElideMode(Qt::ElideMiddle);
+    const int icon = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
+    view.setIconSize({icon, icon});
     view.installEventFilter(this);
     connect(&view, &QAbstractItemView::doubleClicked, [this](const QModelIndex& index) {
         if (onOpen) onOpen(model->GetItem(index.row()));
