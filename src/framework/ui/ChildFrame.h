@@ -11,7 +11,12 @@ public:
 
 protected:
     CView& CreateClient(CDocument& document, const CRuntimeClass& viewClass) override;
+    const CommandMap& GetCommandMap() const override;
 
 private:
+    void OnWindowSplit();
+    void OnNextPane(CommandId id);
+    void OnUpdateNextPane(CCmdUI& state);
+
     CSplitterWnd* splitter = nullptr; // a child of this window
 };

@@ -1,0 +1,119 @@
+#include "framework/ui/SplitTracker.h"
+
+#include "framework/ui/SplitHandle.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+constexpr int keyStep = 10; // pixels
+constexpr std::array directions{CSplitterWnd::rows, CSplitterWnd::columns};
+
+} // namespace
+
+SplitTracker::SplitTracker(CSplitterWnd& owner) : QWidget(&owner), splitter(owner) {
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    hide();
+}
+
+// A window in one piece is offered four panes; where there is a line it starts from its place.
+void SplitTracker::BeginByKeyboard() {
+    const bool whole =
+        splitter.GetCount(CSplitterWnd::rows) == 1 && splitter.GetCount(CSplitterWnd::columns) == 1;
+    for (const CSplitterWnd::Direction direction : directions)
+        lines[direction] = {true, whole ? splitter.GetExtent(direction) / 2 : splitter.GetSplit(direction)};
+    focused = QApplication::focusWidget();
+    Begin(false);
+    changed = true;
+    setFocus();
+}
+
+void SplitTracker::BeginByMouse(CSplitterWnd::Direction direction) {
+    lines = {};
+    lines[direction] = {true, splitter.GetSplit(direction)};
+    Begin(true);
+}
+
+void SplitTracker::Begin(bool byMouse) {
+    changed = false;
+    setAttribute(Qt::WA_TransparentForMouseEvents, byMouse);
+    setCursor(Qt::SizeAllCursor);
+    setGeometry(splitter.rect());
+    show();
+    raise();
+}
+
+void SplitTracker::SetPosition(CSplitterWnd::Direction direction, int position) {
+    Line& line = lines[direction];
+    if (!line.tracked) return;
+    line.position = std::clamp(position, 0, splitter.GetExtent(direction));
+    changed = true;
+    update();
+}
+
+void SplitTracker::MoveTo(const QPoint& point) {
+    SetPosition(CSplitterWnd::rows, point.y());
+    SetPosition(CSplitterWnd::columns, point.x());
+}
+
+void SplitTracker::End(bool accepted) {
+    if (isHidden()) return;
+    hide();
+    if (QWidget* back = std::exchange(focused, nullptr)) back->setFocus();
+    for (const CSplitterWnd::Direction direction : directions)
+        if (accepted && changed && lines[direction].tracked)
+            splitter.SetSplit(direction, lines[direction].position);
+}
+
+void SplitTracker::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    QColor color = palette().color(QPalette::Highlight);
+    color.setAlpha(160);
+    const int rowsExtent = splitter.GetExtent(CSplitterWnd::rows);
+    const int columnsExtent = splitter.GetExtent(CSplitterWnd::columns);
+    if (lines[CSplitterWnd::rows].tracked)
+        painter.fillRect(0, lines[CSplitterWnd::rows].position, columnsExtent, SplitHandle::thickness, color);
+    if (lines[CSplitterWnd::columns].tracked)
+        painter.fillRect(lines[CSplitterWnd::columns].position, 0, SplitHandle::thickness, rowsExtent, color);
+}
+
+void SplitTracker::keyPressEvent(QKeyEvent* event) {
+    const int step = event->modifiers() & Qt::ControlModifier ? 1 : keyStep;
+    switch (event->key()) {
+    case Qt::Key_Up:
+        return SetPosition(CSplitterWnd::rows, lines[CSplitterWnd::rows].position - step);
+    case Qt::Key_Down:
+        return SetPosition(CSplitterWnd::rows, lines[CSplitterWnd::rows].position + step);
+    case Qt::Key_Left:
+        return SetPosition(CSplitterWnd::columns, lines[CSplitterWnd::columns].position - step);
+    case Qt::Key_Right:
+        return SetPosition(CSplitterWnd::columns, lines[CSplitterWnd::columns].position + step);
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return End(true);
+    case Qt::Key_Escape:
+        return End(false);
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void SplitTracker::mouseMoveEvent(QMouseEvent* event) {
+    MoveTo(event->position().toPoint());
+}
+
+void SplitTracker::mousePressEvent(QMouseEvent* event) {
+    MoveTo(event->position().toPoint());
+    End(true);
+}
+
+void SplitTracker::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
+    if (event->reason() != Qt::PopupFocusReason) End(false);
+}
