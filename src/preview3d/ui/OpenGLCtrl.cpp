@@ -139,8 +139,8 @@ void OpenGLCtrl::paintEvent(QPaintEvent* event) {
         // A move to another screen changes the number of its pixels without a resize.
         if (surface && surface->GetSize() != DeviceSize()) Fit(DeviceSize());
         MakeCurrent();
-        Render();
         const bool drawn = deviceContext != nullptr;
+        if (drawn) Render();
         ReleaseCurrent();
         drawn ? PaintPicture() : PaintExcuse();
     }

@@ -1,0 +1,182 @@
+#include "preview3d/ui/OpenGLCtrl.h"
+
+#include "framework/core/StringTable.h"
+#include "preview3d/ui/PixelFormat.h"
+#include "preview3d/ui/RenderingContext.h"
+#include "res/ShellStrings.h"
+#include "support/ui/SoftwareProjection.h"
+
+#include <QCoreApplication>
+#include <QPaintEvent>
+
+#include <EGL/egl.h>
+#include <GL/gl.h>
+#include <gmock/gmock.h>
+#include <string>
+#include <vector>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+bool IsAnyCurrent() {
+    return eglGetCurrentContext() != EGL_NO_CONTEXT;
+}
+
+// A control that notes its steps, on a widget of its own.
+class NotingCtrl final : public OpenGLCtrl {
+public:
+    explicit NotingCtrl(QRect area = {0, 0, 120, 90}) {
+        host.resize(200, 200);
+        OpenGLCtrl::Create(area, host);
+        host.show();
+        QCoreApplication::processEvents();
+    }
+    ~NotingCtrl() override {
+        setParent(nullptr);
+        DestroyContext();
+    }
+
+    using OpenGLCtrl::DestroyContext;
+    std::vector<std::string> Take() { return std::exchange(log, {}); }
+    QImage Picture() { return grab().toImage().convertToFormat(QImage::Format_RGB32); }
+
+    QWidget host;
+    std::vector<std::string> log;
+    bool resizeWhileDrawing = false;
+
+protected:
+    void InitGL() override {
+        Note("init");
+        OpenGLCtrl::InitGL();
+    }
+    void ResizeView(int cx, int cy) override {
+        Note("resize " + std::to_string(cx) + " x " + std::to_string(cy));
+        OpenGLCtrl::ResizeView(cx, cy);
+    }
+    void DrawScene() override {
+        if (std::exchange(resizeWhileDrawing, false)) resize(60, 40);
+        Note("draw");
+        OpenGLCtrl::DrawScene();
+        EXPECT_EQ(glGetError(), GLenum{GL_NO_ERROR});
+    }
+    void ReleaseResources() override { Note("release"); }
+
+private:
+    void Note(const std::string& step) { log.push_back(IsAnyCurrent() ? step : step + ", not current"); }
+};
+
+// Asks for more than any system has.
+class GreedyCtrl final : public OpenGLCtrl {
+public:
+    bool drew = false;
+
+protected:
+    void AdjustPixelFormat(PixelFormat& format) override { format.colorBits = 4096; }
+    void DrawScene() override { drew = true; }
+};
+
+SoftwareProjection CubeIn(QSize size) {
+    SoftwareProjection cube({4, 4, 4}, {0, 0, 0}, size, [](const SoftwareProjection::Vector& color) {
+        return qRgb(static_cast<int>(std::lround(255 * color[0])),
+                    static_cast<int>(std::lround(255 * color[1])),
+                    static_cast<int>(std::lround(255 * color[2])));
+    });
+    const auto corner = [](double x, double y, double z) {
+        return SoftwareProjection::Corner{{x, y, z}, {(x + 1) / 2, (y + 1) / 2, (z + 1) / 2}};
+    };
+    for (const double sign : {-1.0, 1.0}) { // opposite faces turn the other way
+        cube.AddQuad(
+            {corner(sign, sign, 1), corner(-sign, sign, 1), corner(-sign, -sign, 1), corner(sign, -sign, 1)});
+        cube.AddQuad({corner(1, -1, -sign), corner(1, 1, -sign), corner(1, 1, sign), corner(1, -1, sign)});
+        cube.AddQuad({corner(1, 1, -sign), corner(-1, 1, -sign), corner(-1, 1, sign), corner(1, 1, sign)});
+    }
+    return cube;
+}
+
+} // namespace
+
+TEST(OpenGLCtrlTest, DrawsACube) {
+    NotingCtrl control;
+    CubeIn({120, 90}).ExpectSeenIn(control.Picture(), 2);
+    control.resize(97, 151);
+    CubeIn({97, 151}).ExpectSeenIn(control.Picture(), 2);
+}
+
+TEST(OpenGLCtrlTest, IsCurrentOnlyWithinASteps) {
+    NotingCtrl control;
+    EXPECT_EQ(control.log.front(), "init");
+    EXPECT_EQ(control.log[1], "resize 120 x 90");
+    EXPECT_EQ(control.log.back(), "draw");
+    EXPECT_FALSE(IsAnyCurrent());
+    control.Take();
+    control.resize(0, 30);
+    QPaintEvent nothing{QRegion()};
+    QCoreApplication::sendEvent(&control, &nothing);
+    EXPECT_THAT(control.Take(), IsEmpty()) << "a control without an area keeps what it has";
+    control.MakeCurrent();
+    control.MakeCurrent();
+    control.ReleaseCurrent();
+    EXPECT_TRUE(IsAnyCurrent());
+    control.ReleaseCurrent();
+    EXPECT_FALSE(IsAnyCurrent());
+    control.DestroyContext();
+    EXPECT_THAT(control.Take(), ElementsAre("release"));
+    EXPECT_FALSE(IsAnyCurrent());
+}
+
+TEST(OpenGLCtrlTest, ASurfaceThatIsReplacedWhileItIsDrawnOnIsCurrentAtOnce) {
+    NotingCtrl control;
+    control.Take();
+    control.resizeWhileDrawing = true;
+    control.repaint();
+    EXPECT_EQ(control.Take()[1], "draw");
+    EXPECT_FALSE(IsAnyCurrent());
+    CubeIn({60, 40}).ExpectSeenIn(control.Picture(), 2);
+}
+
+TEST(OpenGLCtrlTest, StartsWithoutAnArea) {
+    NotingCtrl control(QRect(5, 5, 0, 0));
+    EXPECT_THAT(control.Take(), ElementsAre("init"));
+    control.resize(30, 20);
+    EXPECT_EQ(control.Take().front(), "resize 30 x 20");
+    CubeIn({30, 20}).ExpectSeenIn(control.Picture(), 2);
+}
+
+TEST(OpenGLCtrlTest, KeepsItsContextWhenItMoves) {
+    NotingCtrl first, second(QRect(0, 0, 50, 50));
+    QWidget other;
+    first.Take();
+    first.setParent(&other);
+    first.show();
+    other.show();
+    CubeIn({120, 90}).ExpectSeenIn(first.Picture(), 2);
+    first.hide();
+    CubeIn({50, 50}).ExpectSeenIn(second.Picture(), 2);
+    first.show();
+    CubeIn({120, 90}).ExpectSeenIn(first.Picture(), 2);
+    EXPECT_EQ(std::ranges::count(first.log, "init"), 0);
+    first.setParent(nullptr);
+}
+
+TEST(OpenGLCtrlTest, SaysSoWhenItCannotDraw) {
+    AddStrings(ShellStrings());
+    QWidget host;
+    host.resize(300, 80);
+    GreedyCtrl control;
+    control.Create(host.rect(), host);
+    host.show();
+    const QImage picture = host.grab().toImage();
+    EXPECT_FALSE(control.drew);
+    int ink = 0;
+    for (int x = 0; x < picture.width(); ++x)
+        for (int y = 0; y < picture.height(); ++y) ink += picture.pixel(x, y) != picture.pixel(0, 0);
+    EXPECT_GT(ink, 100) << "a sentence on a plain ground";
+    control.setParent(nullptr);
+}
+
+TEST(OpenGLCtrlTest, TellsWhatDraws) {
+    EXPECT_NE(DescribeOpenGL().find("OpenGL "), std::string::npos);
+    EXPECT_FALSE(IsAnyCurrent());
+}
