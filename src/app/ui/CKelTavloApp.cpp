@@ -1,18 +1,21 @@
 #include "app/ui/CKelTavloApp.h"
 
 #include "app/ui/FileFilters.h"
+#include "app/ui/HelpWindow.h"
 #include "app/ui/MainFrame.h"
 #include "app/ui/PicturePreview.h"
 #include "archives/ui/ArchiveFileDialog.h"
 #include "archives/ui/HiddenChildFrame.h"
 #include "archives/ui/HiddenView.h"
 #include "archives/ui/ProgressDialog.h"
+#include "formats/ui/EditPropertySheet.h"
 #include "framework/core/ReplacingFile.h"
 #include "framework/core/StringTable.h"
 #include "framework/core/Text.h"
 #include "framework/ui/ChildFrame.h"
 #include "framework/ui/MessageBoxes.h"
 #include "framework/ui/NormalCursor.h"
+#include "image/TavloDocument.h"
 #include "image/ui/TavloView.h"
 #include "image/ui/TavloViewFrame.h"
 #include "preview3d/ui/MD2View.h"
@@ -91,6 +94,10 @@ const std::uint32_t* CKelTavloApp::GetGammaTable() const {
     return mainFrame ? mainFrame->GetGamma().GetTable() : nullptr;
 }
 
+void CKelTavloApp::EditProperties(BaseDocument& document) {
+    EditPropertySheet(mainFrame.get(), dynamic_cast<TavloDocument&>(document)).DoModal();
+}
+
 std::unique_ptr<ProgressWindow> CKelTavloApp::OpenProgressWindow(const std::string& text,
                                                                  const Progress& progress) {
     return std::make_unique<ProgressDialog>(GetDialogOwner(), ToQString(text), progress);
@@ -101,7 +108,9 @@ const CommandMap& CKelTavloApp::GetCommandMap() const {
     static const CommandMap map{
         CWinApp::GetCommandMap(),
         {Command<&Self::OnCommandNew>(ID_FILE_NEW), Command<&Self::OnFileOpen>(ID_FILE_OPEN),
-         Command<&Self::OnAppExit>(ID_APP_EXIT),
+         Command<&Self::OnAppExit>(ID_APP_EXIT), Command<&Self::OnHelpFinder>(ID_HELP_FINDER),
+         Command<&Self::OnHelpFinder>(ID_DEFAULT_HELP), Command<&Self::OnHelp>(ID_HELP),
+         Command<&Self::OnHelp>(ID_CONTEXT_HELP),
          CommandRange<&Self::OnRecentFile, &Self::OnUpdateRecentFile>(ID_FILE_MRU_FIRST, ID_FILE_MRU_LAST)}};
     return map;
 }
@@ -122,4 +131,21 @@ void CKelTavloApp::OnUpdateRecentFile(CCmdUI& state) {
 
 void CKelTavloApp::OnAppExit() {
     mainFrame->close();
+}
+
+void CKelTavloApp::OnHelpFinder() {
+    ShowHelp("index.html");
+}
+
+// What there is to do in the active window.
+void CKelTavloApp::OnHelp() {
+    const CMDIChildWnd* active = mainFrame->MDIGetActive();
+    const CDocument* document = active ? active->GetActiveDocument() : nullptr;
+    if (dynamic_cast<const TavloDocument*>(document)) return ShowHelp("painting.html");
+    ShowHelp(document ? "models.html" : "index.html");
+}
+
+void CKelTavloApp::ShowHelp(const char* page) {
+    if (!help) help = std::make_unique<HelpWindow>();
+    help->ShowPage(QString::fromLatin1(page));
 }

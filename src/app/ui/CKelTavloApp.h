@@ -5,6 +5,7 @@
 #include "framework/ui/WindowedUserInterface.h"
 #include "resources/Shell.h"
 
+class HelpWindow;
 class MainFrame;
 
 // The application: starts the program, opens files, and answers for the main window to documents.
@@ -33,6 +34,7 @@ public:
     std::uint32_t GetCurrentColor() const override { return currentColor; }
     void SetCurrentColor(std::uint32_t color) override { currentColor = color; }
     const std::uint32_t* GetGammaTable() const override;
+    void EditProperties(BaseDocument& document) override;
     std::unique_ptr<ProgressWindow> OpenProgressWindow(const std::string& text,
                                                        const Progress& progress) override;
 
@@ -47,8 +49,12 @@ private:
     void OnRecentFile(CommandId id);
     void OnUpdateRecentFile(CCmdUI& state);
     void OnAppExit();
+    void OnHelpFinder();
+    void OnHelp();
+    void ShowHelp(const char* page);
 
     Workshop workshop;
     std::unique_ptr<MainFrame> mainFrame;
-    std::uint32_t currentColor = 0; // 0xAARRGGBB; of the brushes of all documents
+    std::unique_ptr<HelpWindow> help; // made when it is first asked for
+    std::uint32_t currentColor = 0;   // 0xAARRGGBB; of the brushes of all documents
 };

@@ -1,0 +1,86 @@
+#include "app/ui/HelpWindow.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSplitter>
+#include <QStyle>
+#include <QTextBrowser>
+#include <QTextDocument>
+#include <QVBoxLayout>
+
+namespace {
+
+// In the order in which they are best read.
+constexpr const char* pages[] = {"index.html",    "first-steps.html", "formats.html",
+                                 "archives.html", "painting.html",    "flags.html",
+                                 "models.html",   "keys.html",        "disabled.html"};
+
+QUrl UrlOf(const QString& name) {
+    return QUrl(QStringLiteral("qrc:/help/") + name);
+}
+
+} // namespace
+
+HelpWindow::HelpWindow() : topics(new QListWidget), browser(new QTextBrowser) {
+    setWindowTitle(QStringLiteral("KelTavlo Help"));
+    setAttribute(Qt::WA_QuitOnClose, false);
+    browser->setOpenLinks(true);
+    auto* back = new QPushButton(style()->standardIcon(QStyle::SP_ArrowBack), QStringLiteral("&Back"));
+    auto* forward =
+        new QPushButton(style()->standardIcon(QStyle::SP_ArrowForward), QStringLiteral("&Forward"));
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(back);
+    buttons->addWidget(forward);
+    buttons->addStretch();
+    auto* panes = new QSplitter;
+    panes->addWidget(topics);
+    panes->addWidget(browser);
+    panes->setStretchFactor(1, 1);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(buttons);
+    layout->addWidget(panes, 1);
+    connect(back, &QPushButton::clicked, browser, &QTextBrowser::backward);
+    connect(forward, &QPushButton::clicked, browser, &QTextBrowser::forward);
+    connect(browser, &QTextBrowser::backwardAvailable, back, &QWidget::setEnabled);
+    connect(browser, &QTextBrowser::forwardAvailable, forward, &QWidget::setEnabled);
+    back->setEnabled(false);
+    forward->setEnabled(false);
+    FillTopics();
+    connect(browser, &QTextBrowser::sourceChanged, [this] { FollowPage(); });
+    connect(topics, &QListWidget::currentRowChanged, [this](int row) {
+        const QUrl page = UrlOf(QString::fromLatin1(pages[row]));
+        if (browser->source() != page) browser->setSource(page);
+    });
+    resize(60 * fontMetrics().averageCharWidth() * 2, 40 * fontMetrics().height());
+}
+
+// The titles stand in the pages.
+void HelpWindow::FillTopics() {
+    for (const char* page : pages) {
+        browser->setSource(UrlOf(QString::fromLatin1(page)));
+        topics->addItem(browser->documentTitle());
+    }
+    browser->clearHistory();
+    topics->setMaximumWidth(topics->sizeHintForColumn(0) + 4 * fontMetrics().averageCharWidth());
+}
+
+void HelpWindow::FollowPage() {
+    for (int row = 0; row < topics->count(); ++row)
+        if (browser->source() == UrlOf(QString::fromLatin1(pages[row]))) topics->setCurrentRow(row);
+}
+
+void HelpWindow::ShowPage(const QString& name) {
+    browser->setSource(UrlOf(name));
+    show();
+    raise();
+    activateWindow();
+}
+
+void HelpWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape)
+        close();
+    else
+        QWidget::keyPressEvent(event);
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QWidget>
+
+class QListWidget;
+class QTextBrowser;
+
+// The help: the pages that the program carries, with a list of them. It stays open beside the main window and
+// does not keep the program running.
+class HelpWindow final : public QWidget {
+public:
+    HelpWindow();
+
+    // Shows a page, such as "models.html", in front of the other windows.
+    void ShowPage(const QString& name);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void FillTopics();
+    void FollowPage();
+
+    QListWidget* topics;
+    QTextBrowser* browser;
+};
