@@ -72,6 +72,11 @@ void TavloDocument::WriteContents(OutputStream& out) {
     codec.write(out, texture, DefaultPaletteOf(codec));
 }
 
+void TavloDocument::SetQuake2Names(Quake2Names names) {
+    texture.quake2.name = std::move(names.name);
+    texture.quake2.nextFrameName = std::move(names.nextFrameName);
+}
+
 const ColorList* TavloDocument::GetPaletteColors() const {
     const auto* table = dynamic_cast<const ColorTableDocument*>(currentPalette);
     return table && table->GetColorCount() > 0 ? &table->GetColors() : nullptr;

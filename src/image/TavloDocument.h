@@ -8,6 +8,14 @@ class BrushDocument;
 class ColorList;
 class PaletteDocument;
 
+// The names that a Quake II texture stores: its own and that of the next frame of its animation.
+struct Quake2Names {
+    std::string name;
+    std::string nextFrameName;
+
+    bool operator==(const Quake2Names&) const = default;
+};
+
 // A texture that is being edited: its picture with what the games store beside it, the documents that it
 // works with, and its history. The class of a document does not fix its format: a file is read and written as
 // its name says.
@@ -25,6 +33,19 @@ public:
     Texture& GetTexture() { return texture; }
     const Texture& GetTexture() const { return texture; }
     UndoHistory& GetHistory() { return history; }
+
+    // What the games store beside the picture. Setting it changes nothing else: whoever does it marks the
+    // document modified.
+    const std::string& GetQuakeName() const { return texture.quakeName; }
+    void SetQuakeName(std::string name) { texture.quakeName = std::move(name); }
+    Quake2Names GetQuake2Names() const { return {texture.quake2.name, texture.quake2.nextFrameName}; }
+    void SetQuake2Names(Quake2Names names);
+    std::uint32_t GetSurfaceFlags() const { return texture.quake2.surfaceFlags; }
+    void SetSurfaceFlags(std::uint32_t flags) { texture.quake2.surfaceFlags = flags; }
+    std::uint32_t GetContents() const { return texture.quake2.contents; }
+    void SetContents(std::uint32_t contents) { texture.quake2.contents = contents; }
+    std::uint32_t GetValue() const { return texture.quake2.value; }
+    void SetValue(std::uint32_t value) { texture.quake2.value = value; }
 
     // The brush and the palette chosen for this document; null is "None".
     bool HasBrush() const { return currentBrush != nullptr; }
@@ -58,6 +79,7 @@ private:
     void OnEditRedo() { history.Redo(); }
     void OnUpdateEditUndo(CCmdUI& state) const;
     void OnUpdateEditRedo(CCmdUI& state) const;
+    void OnEditProperties();
     void OnBrush(CommandId id);
     void OnBrushNone() { SetCurrentBrush(nullptr); }
     void OnUpdateBrush(CCmdUI& state) const;

@@ -8,6 +8,7 @@
 #include "resources/BrushDocument.h"
 #include "resources/MenuItemList.h"
 #include "resources/PaletteDocument.h"
+#include "resources/Shell.h"
 
 #include <algorithm>
 
@@ -46,6 +47,7 @@ const CommandMap& TavloDocument::GetCommandMap() const {
         {
             Command<&Self::OnEditUndo, &Self::OnUpdateEditUndo>(ID_EDIT_UNDO),
             Command<&Self::OnEditRedo, &Self::OnUpdateEditRedo>(ID_EDIT_REDO),
+            Command<&Self::OnEditProperties>(ID_EDIT_PROPERTIES),
             CommandRange<&Self::OnBrush, &Self::OnUpdateBrush>(ID_BRUSH_FIRST, ID_BRUSH_LAST),
             Command<&Self::OnBrushNone, &Self::OnUpdateBrushNone>(ID_BRUSH_NONE),
             CommandRange<&Self::OnPalette, &Self::OnUpdatePalette>(ID_COLOR_TABLE_FIRST, ID_COLOR_SPACE_LAST),
@@ -64,6 +66,10 @@ void TavloDocument::OnUpdateEditUndo(CCmdUI& state) const {
 void TavloDocument::OnUpdateEditRedo(CCmdUI& state) const {
     const std::string* name = history.CanRedo() ? &history.TopRedoName() : nullptr;
     UpdateHistoryItem(state, name, IDS_REDO_NAMED, IDS_REDO, IDS_CANNOT_REDO);
+}
+
+void TavloDocument::OnEditProperties() {
+    if (Shell* shell = Shell::Find()) shell->EditProperties(*this);
 }
 
 // An item without a document, such as "(None)", selects none; an id that no menu has changes nothing.

@@ -17,6 +17,8 @@ constexpr StringRow rows[] = {
     {AFX_IDS_NEW_LABEL, "&New document of type:"},
     {AFX_IDS_FILE_EXISTS, "%s already exists.\nDo you want to replace it?"},
     {AFX_IDS_FILE_MISSING, "%s\nThere is no such file."},
+    {AFX_IDP_PARSE_INT_RANGE, "Enter a whole number between %d and %d."},
+    {AFX_IDP_PARSE_STRING_SIZE, "Enter no more than %u characters. Letters beyond ASCII count as several."},
     {AFX_IDS_PATH_MISSING, "%s\nThere is no such folder."},
 
     // Labels and patterns of the file dialogs. Archives stand in every row: they count as folders.
@@ -33,6 +35,9 @@ constexpr StringRow rows[] = {
      "Targa Files (*.tga)\n*.pak;*.tga;*.wad\n"
      "Quake II Texture Files (*.wal)\n*.pak;*.wad;*.wal"},
 
+    {IDS_EDIT_PROPERTIES_TITLE, "Edit Properties"},
+    {IDS_OPTIONS_TITLE, "Options"},
+    {IDS_GAMMA_VALUE, "%.2f"},
     {IDS_POSITION, "%.2f, %.2f"},
     {IDS_COLOR_OPAQUE, "rgb: %.2X %.2X %.2X"},
     {IDS_COLOR_TRANSPARENT, "rgb: (%.2X %.2X %.2X)"},

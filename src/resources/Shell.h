@@ -30,6 +30,8 @@ public:
     // 256 entries: the channel table through which pictures are shown; null before there is a main window.
     virtual const std::uint32_t* GetGammaTable() const = 0;
 
+    // Lets the person edit what a texture document stores beside its pixels.
+    virtual void EditProperties(BaseDocument&) {}
     // Shows a text above a bar. While the window is there the person can do nothing else. Null where nothing
     // is shown.
     virtual std::unique_ptr<ProgressWindow> OpenProgressWindow(const std::string&, const Progress&) {

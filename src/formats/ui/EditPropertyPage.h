@@ -1,0 +1,14 @@
+#pragma once
+
+#include "framework/ui/CPropertyPage.h"
+
+class TavloDocument;
+
+// A page of the sheet that edits a texture's properties.
+class EditPropertyPage : public CPropertyPage {
+public:
+    using CPropertyPage::CPropertyPage;
+
+    // The document of the sheet that holds the page.
+    TavloDocument& GetDocument() const;
+};

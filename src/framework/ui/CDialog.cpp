@@ -1,0 +1,13 @@
+#include "framework/ui/CDialog.h"
+
+#include "framework/ui/NormalCursor.h"
+
+bool CDialog::DoModal() {
+    const NormalCursor arrow;
+    OnInitDialog();
+    return exec() == Accepted;
+}
+
+void CDialog::accept() {
+    if (UpdateData(true)) QDialog::accept();
+}

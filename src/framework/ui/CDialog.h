@@ -1,0 +1,20 @@
+#pragma once
+
+#include "framework/ui/DialogControls.h"
+
+#include <QDialog>
+
+// A dialog whose controls carry values.
+class CDialog : public QDialog, public DialogControls {
+public:
+    using QDialog::QDialog;
+
+    // Runs the dialog until it is closed. True when it was confirmed.
+    bool DoModal();
+    // OK: confirmed when no value is refused.
+    void accept() override;
+
+protected:
+    // The dialog is about to be seen. Here: fills the controls.
+    virtual void OnInitDialog() { UpdateData(false); }
+};

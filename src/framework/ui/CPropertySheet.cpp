@@ -1,0 +1,120 @@
+#include "framework/ui/CPropertySheet.h"
+
+#include "framework/ui/CPropertyPage.h"
+#include "framework/ui/NormalCursor.h"
+
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+// The window round a sheet that runs on its own; the sheet is its guest, not its child for good.
+class SheetDialog : public QDialog {
+public:
+    SheetDialog(CPropertySheet& guest, QWidget* owner) : QDialog(owner), sheet(guest) {
+        auto* column = new QVBoxLayout(this);
+        column->addWidget(&sheet);
+        column->addWidget(&buttons);
+        connect(&buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+        connect(&buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+        connect(GetApplyButton(), &QPushButton::clicked, this, [this] { sheet.Apply(); });
+    }
+    ~SheetDialog() override { sheet.setParent(nullptr); }
+
+    QPushButton* GetApplyButton() const { return buttons.button(QDialogButtonBox::Apply); }
+    void accept() override {
+        if (sheet.Apply()) QDialog::accept();
+    }
+
+private:
+    CPropertySheet& sheet;
+    QDialogButtonBox buttons{QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Apply};
+};
+
+} // namespace
+
+CPropertySheet::CPropertySheet(const QString& caption, QWidget* dialogOwner)
+    : owner(dialogOwner), tabs(new QTabWidget(this)) {
+    setWindowTitle(caption);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(tabs);
+    connect(tabs, &QTabWidget::currentChanged, this, [this](int index) { ActivatePage(index); });
+}
+
+CPropertySheet::~CPropertySheet() {
+    while (!pages.empty()) RemovePage(*pages.back());
+}
+
+// The first tab would become the current one at once, before the sheet is to be seen.
+void CPropertySheet::AddPage(CPropertyPage& page) {
+    const QSignalBlocker quiet(tabs);
+    page.sheet = this;
+    pages.push_back(&page);
+    tabs->addTab(&page, page.windowTitle());
+}
+
+void CPropertySheet::RemovePage(CPropertyPage& page) {
+    const QSignalBlocker quiet(tabs);
+    tabs->removeTab(tabs->indexOf(&page));
+    page.setParent(nullptr);
+    page.sheet = nullptr;
+    std::erase(pages, &page);
+    if (activePage == &page) activePage = nullptr;
+}
+
+void CPropertySheet::DoModal() {
+    const NormalCursor arrow;
+    SheetDialog dialog(*this, owner);
+    dialog.setWindowTitle(windowTitle());
+    applyButton = dialog.GetApplyButton();
+    UpdateApplyButton();
+    ActivatePage(tabs->currentIndex());
+    activePage->FocusFirstControl();
+    dialog.exec();
+    applyButton = nullptr;
+}
+
+void CPropertySheet::Create(QWidget& parentWindow) {
+    setParent(&parentWindow);
+    ActivatePage(tabs->currentIndex());
+    show();
+}
+
+bool CPropertySheet::KillActivePage() {
+    return !activePage || activePage->OnKillActive();
+}
+
+// The toolkit changes the page first and tells then.
+void CPropertySheet::ActivatePage(int index) {
+    if (!KillActivePage()) {
+        const QSignalBlocker quiet(tabs);
+        tabs->setCurrentWidget(activePage);
+        return;
+    }
+    activePage = pages.at(static_cast<std::size_t>(index));
+    if (activePage->shown) return;
+    activePage->shown = true;
+    activePage->OnInitDialog();
+}
+
+bool CPropertySheet::Apply() {
+    if (!KillActivePage()) return false;
+    for (CPropertyPage* page : pages) {
+        if (!page->shown || page->OnApply()) continue;
+        tabs->setCurrentWidget(page);
+        return false;
+    }
+    return true;
+}
+
+void CPropertySheet::UpdateApplyButton() {
+    if (applyButton)
+        applyButton->setEnabled(std::ranges::any_of(pages, [](const auto* page) { return page->modified; }));
+}

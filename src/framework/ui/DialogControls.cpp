@@ -1,0 +1,18 @@
+#include "framework/ui/DialogControls.h"
+
+#include "framework/ui/CDataExchange.h"
+#include "framework/ui/MessageBoxes.h"
+
+#include <QLineEdit>
+
+DialogControls::~DialogControls() = default;
+
+bool DialogControls::UpdateData(bool saveAndValidate) {
+    CDataExchange exchange(*this, saveAndValidate);
+    DoDataExchange(exchange);
+    if (!exchange.WasRefused()) return true;
+    ShowMessageBox(exchange.GetRefusal());
+    exchange.GetRefusedEdit().setFocus();
+    exchange.GetRefusedEdit().selectAll();
+    return false;
+}
