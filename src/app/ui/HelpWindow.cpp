@@ -4,10 +4,12 @@
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QSplitter>
 #include <QStyle>
 #include <QTextBrowser>
 #include <QTextDocument>
+#include <QUrl>
 #include <QVBoxLayout>
 
 namespace {
@@ -48,12 +50,12 @@ HelpWindow::HelpWindow() : topics(new QListWidget), browser(new QTextBrowser) {
     back->setEnabled(false);
     forward->setEnabled(false);
     FillTopics();
-    connect(browser, &QTextBrowser::sourceChanged, [this] { FollowPage(); });
-    connect(topics, &QListWidget::currentRowChanged, [this](int row) {
-        const QUrl page = UrlOf(QString::fromLatin1(pages[row]));
-        if (browser->source() != page) browser->setSource(page);
-    });
-    resize(60 * fontMetrics().averageCharWidth() * 2, 40 * fontMetrics().height());
+    connect(browser, &QTextBrowser::sourceChanged, [this](const QUrl& page) { FollowPage(page); });
+    connect(topics, &QListWidget::currentRowChanged,
+            [this](int row) { browser->setSource(UrlOf(QString::fromLatin1(pages[row]))); });
+    const int character = fontMetrics().averageCharWidth();
+    resize(130 * character, 46 * fontMetrics().height());
+    panes->setSizes({topics->sizeHintForColumn(0) + 3 * character, width()});
 }
 
 // The titles stand in the pages.
@@ -62,13 +64,17 @@ void HelpWindow::FillTopics() {
         browser->setSource(UrlOf(QString::fromLatin1(page)));
         topics->addItem(browser->documentTitle());
     }
+    browser->setSource(UrlOf(QString::fromLatin1(pages[0])));
     browser->clearHistory();
-    topics->setMaximumWidth(topics->sizeHintForColumn(0) + 4 * fontMetrics().averageCharWidth());
 }
 
-void HelpWindow::FollowPage() {
+// A link or a button led to another page.
+void HelpWindow::FollowPage(const QUrl& page) {
     for (int row = 0; row < topics->count(); ++row)
-        if (browser->source() == UrlOf(QString::fromLatin1(pages[row]))) topics->setCurrentRow(row);
+        if (page == UrlOf(QString::fromLatin1(pages[row]))) {
+            const QSignalBlocker quiet(topics);
+            topics->setCurrentRow(row);
+        }
 }
 
 void HelpWindow::ShowPage(const QString& name) {

@@ -19,7 +19,7 @@ protected:
 
 private:
     void FillTopics();
-    void FollowPage();
+    void FollowPage(const QUrl& page);
 
     QListWidget* topics;
     QTextBrowser* browser;
