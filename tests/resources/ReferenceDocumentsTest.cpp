@@ -5,7 +5,7 @@
 #include "resources/BuiltInPath.h"
 #include "resources/ColorSpaceDocument.h"
 #include "resources/LMPDocument.h"
-#include "resources/Shell.h"
+#include "support/FakeShell.h"
 #include "support/TestApplication.h"
 
 #include <gmock/gmock.h>
@@ -33,19 +33,6 @@ protected:
         CFileStatus status;
         EXPECT_FALSE(CFile::GetStatus(PathTo("copy"), status));
     }
-};
-
-struct FakeShell : Shell {
-    void UpdateMenus(BaseDocument*) override {}
-    void UpdatePaletteBar(unsigned hint) override { lastHint = hint; }
-    void SetPositionText(double, double) override {}
-    void SetColorText(std::uint32_t) override {}
-    std::uint32_t GetCurrentColor() const override { return color; }
-    void SetCurrentColor(std::uint32_t newColor) override { color = newColor; }
-    const std::uint32_t* GetGammaTable() const override { return nullptr; }
-
-    std::uint32_t color = 0;
-    unsigned lastHint = 0;
 };
 
 struct FakeTarget : BrushTarget {

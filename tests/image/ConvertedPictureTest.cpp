@@ -1,0 +1,71 @@
+#include "image/ConvertedPicture.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <random>
+
+namespace {
+
+constexpr int width = 7, height = 5;
+
+bool SamePixels(const Image& a, const Image& b) {
+    return std::ranges::equal(a.Pixels(), b.Pixels());
+}
+
+class ConvertedPictureTest : public testing::TestWithParam<PictureConversion> {
+protected:
+    ConvertedPictureTest() {
+        for (Color& pixel : picture.Pixels()) pixel = RandomColor();
+    }
+
+    Color RandomColor() { return static_cast<Color>(random()) | 0xFF000000; }
+    int RandomBelow(int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); }
+    Image ConvertAnew() const {
+        Image result = picture;
+        if (GetParam() == PictureConversion::nearest)
+            result.ConvertToNearest(list);
+        else
+            result.ConvertByErrorDiffusion(list);
+        return result;
+    }
+
+    std::mt19937 random{1};
+    Image picture{width, height};
+    const ColorList list{0xFF000000, 0xFF80FF00, 0xFFFFFFFF};
+    ConvertedPicture converted;
+};
+
+TEST_P(ConvertedPictureTest, ConvertsOnceForEachChange) {
+    EXPECT_EQ(&converted.Get(picture, PictureConversion::none, &list), &picture);
+    EXPECT_EQ(&converted.Get(picture, GetParam(), nullptr), &picture);
+    const Image before = ConvertAnew();
+    EXPECT_TRUE(SamePixels(converted.Get(picture, GetParam(), &list), before));
+    std::ranges::reverse(picture.Pixels());
+    EXPECT_TRUE(SamePixels(converted.Get(picture, GetParam(), &list), before)) << "nobody told of the change";
+    converted.Invalidate();
+    EXPECT_TRUE(SamePixels(converted.Get(picture, GetParam(), &list), ConvertAnew()));
+    const ColorList other{0xFF123456};
+    EXPECT_EQ(converted.Get(picture, GetParam(), &other).GetPixel(3, 3), 0xFF123456);
+}
+
+// What a stroke says to look different must be all that does.
+TEST_P(ConvertedPictureTest, StrokesConvertOnlyWhatTheyMust) {
+    for (int stroke = 0; stroke < 500; ++stroke) {
+        const Image before = converted.Get(picture, GetParam(), &list);
+        const int x = RandomBelow(width), y = RandomBelow(height);
+        picture.SetPixel(x, y, RandomColor());
+        const TexelRun run = converted.UpdateTexel(picture, x, y);
+        const Image& after = converted.Get(picture, GetParam(), &list);
+        ASSERT_TRUE(SamePixels(after, ConvertAnew()));
+        for (int column = 0; column < width; ++column)
+            for (int row = 0; row < height; ++row) {
+                const bool told = row == run.row && column >= run.first && column < run.first + run.count;
+                ASSERT_TRUE(told || after.GetPixel(column, row) == before.GetPixel(column, row));
+            }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Conversions, ConvertedPictureTest,
+                         testing::Values(PictureConversion::nearest, PictureConversion::errorDiffusion));
+
+} // namespace

@@ -1,0 +1,56 @@
+#include "image/picture/TexelRects.h"
+
+#include "image/picture/Image.h"
+
+#include <array>
+#include <gtest/gtest.h>
+#include <random>
+
+namespace {
+
+constexpr PixelSize view{50, 40};
+constexpr std::size_t anyCount = 10000;
+
+// Every screen pixel that shows one of the texels, as the painter of the tiles has it.
+std::vector<Color> PaintRun(const TexelRun& run, PixelSize size, const TileViewport& viewport) {
+    Image picture(size.width, size.height);
+    for (int x = run.first; x < run.first + run.count; ++x) picture.SetPixel(x, run.row, 1);
+    std::array<std::uint32_t, 256> table;
+    for (std::uint32_t v = 0; v < table.size(); ++v) table[v] = v;
+    std::vector<Color> pixels(static_cast<std::size_t>(view.width * view.height));
+    PaintTiles(picture, table.data(), viewport,
+               {0, 0, view.width, view.height, pixels.data(), static_cast<std::size_t>(view.width)});
+    return pixels;
+}
+
+std::vector<Color> FillRects(const std::vector<ScreenRect>& rects) {
+    std::vector<Color> pixels(static_cast<std::size_t>(view.width * view.height));
+    for (const ScreenRect& rect : rects)
+        for (int y = rect.top; y < rect.top + rect.height; ++y)
+            for (int x = rect.left; x < rect.left + rect.width; ++x)
+                ++pixels.at(static_cast<std::size_t>(y * view.width + x));
+    return pixels;
+}
+
+TEST(TexelRectsTest, CoverTheTexelsInAllTilesAndNothingElse) {
+    std::mt19937 random(1);
+    const auto below = [&](int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); };
+    for (int round = 0; round < 500; ++round) {
+        const PixelSize size{1 + below(60), 1 + below(60)};
+        const int first = below(size.width);
+        const TexelRun run{below(size.height), first, 1 + below(size.width - first)};
+        const TileViewport viewport{1 << below(5), below(100), below(100)};
+        ASSERT_EQ(FillRects(FindTexelRects(run, size, viewport, view, anyCount)),
+                  PaintRun(run, size, viewport))
+            << size.width << " x " << size.height << " at " << viewport.zoom;
+    }
+}
+
+TEST(TexelRectsTest, ManyTilesAreTheWholeView) {
+    const std::vector<ScreenRect> rects = FindTexelRects({0, 0, 1}, {2, 2}, {}, view, 100);
+    ASSERT_EQ(rects.size(), 1U);
+    EXPECT_EQ(rects[0].width, view.width);
+    EXPECT_EQ(rects[0].height, view.height);
+}
+
+} // namespace

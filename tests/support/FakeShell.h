@@ -1,0 +1,17 @@
+#pragma once
+
+#include "resources/Shell.h"
+
+// A main window that only keeps the current colour and what it was told of it.
+struct FakeShell : Shell {
+    void UpdateMenus(BaseDocument*) override {}
+    void UpdatePaletteBar(unsigned hint) override { lastHint = hint; }
+    void SetPositionText(double, double) override {}
+    void SetColorText(std::uint32_t) override {}
+    std::uint32_t GetCurrentColor() const override { return color; }
+    void SetCurrentColor(std::uint32_t newColor) override { color = newColor; }
+    const std::uint32_t* GetGammaTable() const override { return nullptr; }
+
+    std::uint32_t color = 0;
+    unsigned lastHint = 0;
+};
