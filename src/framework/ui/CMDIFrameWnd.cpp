@@ -31,6 +31,7 @@ CMDIFrameWnd::CMDIFrameWnd()
     statusBarWindow->SetPaneText(0, LoadString(AFX_IDS_IDLEMESSAGE));
     setWindowTitle(ToQString(LoadString(AFX_IDS_APP_TITLE)));
     setAcceptDrops(true);
+    menuBar()->installEventFilter(this);
     connect(clientArea, &QMdiArea::subWindowActivated, this, [this] { OnChildActivated(); });
     if (auto* dispatcher = QAbstractEventDispatcher::instance())
         connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, this, [this] { OnIdle(); });

@@ -9,6 +9,7 @@
 
 #include <QCloseEvent>
 #include <QDropEvent>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QStatusTipEvent>
 #include <QUrl>
@@ -74,6 +75,20 @@ bool CMDIFrameWnd::event(QEvent* event) {
     if (event->type() != QEvent::StatusTip) return QMainWindow::event(event);
     statusBarWindow->ShowPrompt(static_cast<QStatusTipEvent*>(event)->tip());
     return true;
+}
+
+// Of menus with the same mnemonic the toolkit takes each in turn; here it is always the first.
+bool CMDIFrameWnd::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != menuBar() || event->type() != QEvent::Shortcut)
+        return QMainWindow::eventFilter(watched, event);
+    const auto* shortcut = static_cast<QShortcutEvent*>(event);
+    if (!shortcut->isAmbiguous()) return false;
+    for (QAction* menu : menuBar()->actions())
+        if (QKeySequence::mnemonic(menu->text()) == shortcut->key()) {
+            menuBar()->setActiveAction(menu);
+            return true;
+        }
+    return false;
 }
 
 // Every document is asked before the first one closes: a refusal leaves all of them open.
