@@ -2,6 +2,7 @@
 
 #include "app/Workshop.h"
 #include "framework/core/CWinApp.h"
+#include "framework/ui/CClipboard.h"
 #include "framework/ui/WindowedUserInterface.h"
 #include "resources/Shell.h"
 
@@ -54,6 +55,7 @@ private:
     void ShowHelp(const char* page);
 
     Workshop workshop;
+    CClipboard clipboard;
     std::unique_ptr<MainFrame> mainFrame;
     std::unique_ptr<HelpWindow> help; // made when it is first asked for
     std::uint32_t currentColor = 0;   // 0xAARRGGBB; of the brushes of all documents

@@ -1,6 +1,10 @@
 #include "image/ui/TavloViewFrame.h"
 
-#include "framework/core/CDocument.h"
+#include "framework/core/UserInterface.h"
+#include "framework/ui/CClipboard.h"
+#include "image/TavloDocument.h"
+#include "image/TextureEdits.h"
+#include "image/ui/ClipboardPicture.h"
 #include "res/CommandIds.h"
 
 void TavloViewFrame::SetZoom(int newZoom) {
@@ -18,6 +22,44 @@ const CommandMap& TavloViewFrame::GetCommandMap() const {
                                     Command<&Self::OnZoom<4>, &Self::OnUpdateZoom<4>>(ID_ZOOM_400),
                                     Command<&Self::OnZoom<8>, &Self::OnUpdateZoom<8>>(ID_ZOOM_800),
                                     Command<&Self::OnZoom<16>, &Self::OnUpdateZoom<16>>(ID_ZOOM_1600),
+                                    Command<&Self::OnEditCopy>(ID_EDIT_COPY),
+                                    Command<&Self::OnEditCut>(ID_EDIT_CUT),
+                                    Command<&Self::OnEditPaste, &Self::OnUpdateEditPaste>(ID_EDIT_PASTE),
+                                    Command<&Self::OnEditClear, &Self::OnUpdateEditClear>(ID_EDIT_CLEAR),
                                 });
     return map;
+}
+
+TavloDocument* TavloViewFrame::GetDocument() const {
+    return dynamic_cast<TavloDocument*>(GetActiveDocument());
+}
+
+void TavloViewFrame::OnEditCopy() {
+    const CWaitCursor wait;
+    const TavloDocument* document = GetDocument();
+    if (auto picture = document ? MakeClipboardPicture(document->GetTexture()) : nullptr)
+        CClipboard::Get().SetData(std::move(picture));
+}
+
+void TavloViewFrame::OnEditCut() {
+    OnEditCopy();
+    OnEditClear();
+}
+
+// What cannot be pasted leaves the document as it is.
+void TavloViewFrame::OnEditPaste() {
+    const CWaitCursor wait;
+    TavloDocument* document = GetDocument();
+    if (!document) return;
+    try {
+        if (std::optional<Image> picture = ReadClipboardPicture(CClipboard::Get()))
+            PastePicture(*document, std::move(*picture));
+    } catch (const std::bad_alloc&) {
+        // The old picture and the new one are more than there is memory for.
+    }
+    document->UpdateAllViews(nullptr);
+}
+
+void TavloViewFrame::OnUpdateEditPaste(CCmdUI& state) const {
+    state.Enable(OffersPicture(CClipboard::Get().GetFormats()));
 }

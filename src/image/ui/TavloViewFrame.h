@@ -2,7 +2,10 @@
 
 #include "framework/ui/ChildFrame.h"
 
-// The window round an image document's views, which share its zoom.
+class TavloDocument;
+
+// The window round an image document's views, which share its zoom. Its document's picture goes to the
+// clipboard and comes from there.
 class TavloViewFrame final : public Dynamic<"TavloViewFrame", TavloViewFrame, ChildFrame> {
 public:
     static constexpr int maximumZoom = 16;
@@ -23,6 +26,16 @@ private:
     void OnUpdateZoom(CCmdUI& state) const {
         state.SetRadio(zoom == value);
     }
+
+    // Null while the window ends.
+    TavloDocument* GetDocument() const;
+    void OnEditCopy();
+    void OnEditCut();
+    void OnEditPaste();
+    void OnUpdateEditPaste(CCmdUI& state) const;
+    // There is no selection that could be cleared.
+    void OnEditClear() {}
+    void OnUpdateEditClear(CCmdUI& state) const { state.Enable(false); }
 
     int zoom = 1;
 };
