@@ -20,11 +20,13 @@ void SplitHandle::paintEvent(QPaintEvent*) {
 }
 
 void SplitHandle::mousePressEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton) splitter.GetTracker().BeginByMouse(direction);
+    if (event->button() != Qt::LeftButton) return;
+    grip = event->position().toPoint();
+    splitter.GetTracker().BeginByMouse(direction);
 }
 
 void SplitHandle::mouseMoveEvent(QMouseEvent* event) {
-    splitter.GetTracker().MoveTo(mapTo(&splitter, event->position().toPoint()));
+    splitter.GetTracker().MoveTo(mapTo(&splitter, event->position().toPoint() - grip));
 }
 
 // A click alone is no drag: it leaves everything as it is.

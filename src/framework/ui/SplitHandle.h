@@ -20,4 +20,5 @@ protected:
 private:
     CSplitterWnd& splitter;
     CSplitterWnd::Direction direction;
+    QPoint grip; // where the mouse took hold of the handle
 };

@@ -73,7 +73,7 @@ TEST_F(CMDIChildWndTest, TheSplitterOwnsTheBarsBesideThePane) {
     const QScrollBar& vertical = view->GetScrollBar(Qt::Vertical);
     EXPECT_EQ(horizontal.geometry().top(), view->geometry().bottom() + 1);
     EXPECT_EQ(vertical.geometry().left(), view->geometry().right() + 1);
-    EXPECT_EQ(horizontal.width(), view->width());
+    EXPECT_EQ(horizontal.geometry().right(), view->geometry().right());
 }
 
 } // namespace
