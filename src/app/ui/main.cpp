@@ -2,6 +2,7 @@
 #include "app/ui/CommandLine.h"
 
 #include <QApplication>
+#include <QIcon>
 
 #include <cstdio>
 
@@ -23,6 +24,15 @@ bool AnswerOnConsole(int argc, char** argv) {
     return line.help || line.version;
 }
 
+// The desktop finds the program's name and icon under the name of its desktop file.
+void NameWindows() {
+    QGuiApplication::setDesktopFileName(QStringLiteral("keltavlo"));
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128})
+        icon.addFile(QStringLiteral(":/icons/keltavlo-%1.png").arg(size));
+    QGuiApplication::setWindowIcon(icon);
+}
+
 int RunProgram(const CommandLine& line) {
     if (!line.error.empty()) {
         std::fprintf(stderr, "keltavlo: %s\n", line.error.c_str());
@@ -38,5 +48,6 @@ int main(int argc, char** argv) {
     NameApplication();
     if (AnswerOnConsole(argc, argv)) return 0;
     const QApplication windows(argc, argv);
+    NameWindows();
     return RunProgram(ParseCommandLine(QCoreApplication::arguments()));
 }
