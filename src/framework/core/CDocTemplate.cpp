@@ -34,10 +34,15 @@ CDocTemplate::Confidence CDocTemplate::MatchDocType(const std::string& path, CDo
 
 CDocument* CDocTemplate::OpenDocumentFile(const std::string& path) {
     CDocument& document = CreateNewDocument();
-    DocumentFrame* frame = CreateNewFrame(document);
-    if (FillDocument(document, path)) {
-        if (frame) frame->InitialUpdate(true);
-        return &document;
+    try {
+        DocumentFrame* frame = CreateNewFrame(document);
+        if (FillDocument(document, path)) {
+            if (frame) frame->InitialUpdate(true);
+            return &document;
+        }
+    } catch (...) { // out of memory: a document that is half made must not stay
+        document.OnCloseDocument();
+        throw;
     }
     document.OnCloseDocument();
     return nullptr;
@@ -54,11 +59,11 @@ void CDocTemplate::CloseAllDocuments() {
 
 CDocument& CDocTemplate::CreateNewDocument() {
     std::unique_ptr<CObject> object = row.documentClass->create();
-    auto* document = dynamic_cast<CDocument*>(object.get());
+    std::unique_ptr<CDocument> document(dynamic_cast<CDocument*>(object.get()));
     static_cast<void>(object.release());
-    documents.emplace_back(document);
     document->docTemplate = this;
-    return *document;
+    documents.push_back(std::move(document));
+    return *documents.back();
 }
 
 bool CDocTemplate::FillDocument(CDocument& document, const std::string& path) {

@@ -4,25 +4,38 @@
 #include "framework/core/ProfileStore.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
 constexpr const char* section = "Recent File List";
-constexpr const char* value = "Files";
+
+// "File1" is the newest. Paths may hold bytes that are no text.
+std::string ValueName(std::size_t n) {
+    return "File" + std::to_string(n + 1);
+}
+
+ProfileStore::Bytes ToBytes(const std::string& path) {
+    const auto* first = reinterpret_cast<const std::byte*>(path.data());
+    return {first, first + path.size()};
+}
 
 } // namespace
 
-RecentFileList::RecentFileList(ProfileStore* settings)
-
-    : profile(settings) {
-    if (profile) paths = profile->ReadStrings(section, value);
-    paths.resize(std::min(paths.size(), capacity));
+RecentFileList::RecentFileList(ProfileStore* settings) : profile(settings) {
+    for (std::size_t n = 0; profile && n < capacity; ++n) {
+        const auto bytes = profile->ReadBinary(section, ValueName(n));
+        if (bytes && !bytes->empty())
+            paths.emplace_back(reinterpret_cast<const char*>(bytes->data()), bytes->size());
+    }
 }
 
 void RecentFileList::Add(const std::string& path) {
-    std::erase_if(paths, [&](const std::string& old) { return SamePath(old, path); });
-    paths.insert(paths.begin(), path);
-    paths.resize(std::min(paths.size(), capacity));
+    std::vector<std::string> updated{path}; // apart, so that running out of memory loses no entry
+    std::ranges::copy_if(paths, std::back_inserter(updated),
+                         [&](const std::string& old) { return !SamePath(old, path); });
+    updated.resize(std::min(updated.size(), capacity));
+    paths = std::move(updated);
     Write();
 }
 
@@ -32,5 +45,6 @@ void RecentFileList::Remove(const std::string& path) {
 }
 
 void RecentFileList::Write() {
-    if (profile) profile->WriteStrings(section, value, paths);
+    for (std::size_t n = 0; profile && n < capacity; ++n)
+        profile->WriteBinary(section, ValueName(n), n < paths.size() ? ToBytes(paths[n]) : ProfileStore::Bytes());
 }

@@ -1,0 +1,226 @@
+#include "image/ImageDocuments.h"
+#include "image/picture/ColorList.h"
+#include "support/TestApplication.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <new>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+// Every read, write, flush, rename and allocation of an open and of a save fails once, and from then on.
+
+namespace {
+
+enum class Step { read, write, flush, rename, allocation };
+
+// While it lives, one step fails the `first`-th time, and each later time too when it lasts.
+class Fault {
+public:
+    Fault(Step failingStep, unsigned firstTime, bool lasts)
+        : step(failingStep), first(firstTime), lasting(lasts) {
+        current = this;
+    }
+    ~Fault() { current = nullptr; }
+    Fault(const Fault&) = delete;
+    Fault& operator=(const Fault&) = delete;
+
+    static bool Hits(Step step) noexcept { return current && current->step == step && current->Count(); }
+    bool HasHit() const { return count >= first; }
+
+private:
+    bool Count() noexcept {
+        ++count;
+        return lasting ? count >= first : count == first;
+    }
+
+    static inline Fault* current = nullptr;
+    Step step;
+    unsigned first;
+    bool lasting;
+    unsigned count = 0;
+};
+
+std::ptrdiff_t liveAllocations = 0;
+
+template <class... Arguments>
+long Call(Step step, long number, Arguments... arguments) noexcept {
+    if (!Fault::Hits(step)) return syscall(number, arguments...);
+    errno = EIO;
+    return -1;
+}
+
+} // namespace
+
+// In place of the system's own, for all tests.
+extern "C" {
+ssize_t pread(int file, void* bytes, std::size_t count, off_t offset) {
+    return Call(Step::read, SYS_pread64, file, bytes, count, offset);
+}
+ssize_t write(int file, const void* bytes, std::size_t count) {
+    return Call(Step::write, SYS_write, file, bytes, count);
+}
+int fsync(int) { // the disk itself takes time, and no test pulls its plug
+    return static_cast<int>(Call(Step::flush, SYS_getpid)) < 0 ? -1 : 0;
+}
+int rename(const char* from, const char* to) noexcept {
+    return static_cast<int>(Call(Step::rename, SYS_rename, from, to));
+}
+}
+
+#ifdef __SANITIZE_ADDRESS__ // whose allocations cannot fail
+constexpr Step lastStep = Step::rename;
+#else
+constexpr Step lastStep = Step::allocation;
+
+void* operator new(std::size_t size) {
+    void* memory = Fault::Hits(Step::allocation) ? nullptr : std::malloc(size);
+    if (!memory) throw std::bad_alloc();
+    ++liveAllocations;
+    return memory;
+}
+void operator delete(void* memory) noexcept {
+    if (memory) --liveAllocations;
+    std::free(memory);
+}
+void operator delete(void* memory, std::size_t) noexcept {
+    operator delete(memory);
+}
+#endif
+
+namespace {
+
+struct Attempt {
+    bool succeeded = false;
+    bool ranOutOfMemory = false; // which may leave no memory for a message
+    bool wasTold = false;
+    bool wasHit = false;
+};
+
+class FaultPoints : public WorkshopTest, public testing::WithParamInterface<const char*> {
+protected:
+    static constexpr unsigned never = 1000000;
+
+    // Calls visit(step, first, lasting) for every fault until one comes too late to hit, which it answers by
+    // false, or would be later than `latest`.
+    template <class Visit>
+    static void ForEachFault(Visit visit, unsigned latest = never) {
+        for (int step = 0; step <= static_cast<int>(lastStep); ++step)
+            for (const bool lasting : {false, true})
+                for (unsigned first = 1; first < latest && !HasFailure(); ++first) {
+                    SCOPED_TRACE(testing::Message() << "step " << step << " from " << first << lasting);
+                    if (!visit(static_cast<Step>(step), first, lasting)) break;
+                }
+    }
+    template <class Action>
+    Attempt Try(Step step, unsigned first, bool lasting, Action action) {
+        Attempt attempt;
+        {
+            const Fault fault(step, first, lasting);
+            try {
+                attempt.succeeded = action();
+            } catch (const std::bad_alloc&) {
+                attempt.ranOutOfMemory = true;
+            }
+            attempt.wasHit = fault.HasHit();
+        }
+        attempt.wasTold = !messages.empty();
+        std::vector<std::string>().swap(messages);
+        EXPECT_TRUE(attempt.succeeded || attempt.wasTold || attempt.ranOutOfMemory);
+        return attempt;
+    }
+
+    TavloDocument& MakeDocument(int side) {
+        application.newType = DocTemplateRegistry::Get().FindTemplate(WALDocument::runtimeClass);
+        auto& document = dynamic_cast<TavloDocument&>(*application.OnFileNew());
+        Texture& texture = document.GetTexture();
+        texture.SetSize(side, side);
+        for (Color color = 0xFF000000; Color & pixel : texture.Pixels()) pixel = color += 0x10305;
+        texture.quake2.name = "a name that takes memory of its own";
+        texture.SetPalette(ColorList{0xFF000000, 0xFFFFFFFF});
+        document.SetModifiedFlag();
+        return document;
+    }
+    static bool Same(const Texture& left, const Texture& right) {
+        return left.GetWidth() == right.GetWidth() && std::ranges::equal(left.Pixels(), right.Pixels()) &&
+               left.quake2 == right.quake2 && !left.palette == !right.palette &&
+               (!left.palette || *left.palette == *right.palette);
+    }
+    // Saves a new document over a file of these bytes, or to a name of no file.
+    Attempt Save(int side, const Bytes& old, Step step, unsigned first, bool lasting) {
+        std::filesystem::remove(target);
+        if (!old.empty()) WriteFile(target, old);
+        TavloDocument& document = MakeDocument(side);
+        const Texture before = document.GetTexture();
+        const Attempt attempt = Try(step, first, lasting, [&] { return document.OnSaveDocument(target); });
+        EXPECT_EQ(document.IsModified(), !attempt.succeeded);
+        // A size that was made to fit stays, as a change that can be undone.
+        if (document.GetHistory().CanUndo()) document.GetHistory().Undo();
+        EXPECT_TRUE(Same(document.GetTexture(), before));
+        document.OnCloseDocument();
+        return attempt;
+    }
+    Bytes Written() const { return std::filesystem::exists(target) ? ReadFile(target) : Bytes(); }
+    std::size_t CountFiles() const {
+        return static_cast<std::size_t>(
+            std::distance(std::filesystem::directory_iterator(folder.path().toStdString()), {}));
+    }
+
+    std::string target = PathTo(std::string("target") + GetParam());
+};
+
+} // namespace
+
+TEST_P(FaultPoints, ASaveLeavesTheDocumentAndTheOldFileOrTheNew) {
+    struct {
+        int side;
+        Bytes old;
+    } const cases[] = {{8, ToBytes("old")}, {12, {}}};
+    for (const auto& [side, old] : cases) {
+        ASSERT_TRUE(Save(side, old, Step::read, never, false).succeeded);
+        const Bytes whole = Written();
+        ForEachFault([&](Step step, unsigned first, bool lasting) {
+            const std::ptrdiff_t liveBefore = liveAllocations;
+            const Attempt attempt = Save(side, old, step, first, lasting);
+            EXPECT_EQ(liveAllocations, liveBefore);
+            const Bytes written = Written();
+            EXPECT_TRUE(written == whole || (!attempt.succeeded && written == old));
+            EXPECT_EQ(CountFiles(), written.empty() ? 0U : 1U) << "nothing else lies there";
+            return attempt.wasHit;
+        });
+    }
+}
+
+TEST_P(FaultPoints, AnOpenGivesTheWholeDocumentOrNone) {
+    ASSERT_TRUE(Save(8, {}, Step::read, never, false).succeeded);
+    const auto open = [&] { return dynamic_cast<TavloDocument*>(application.OpenDocumentFile(target)); };
+    const Bytes file = ReadFile(target);
+    TavloDocument* document = open();
+    ASSERT_NE(document, nullptr);
+    const Texture whole = document->GetTexture();
+    document->OnCloseDocument();
+    const std::vector<CDocument*> others = application.GetDocuments();
+    // Files are read by the 321st allocation; then come the references, which are the same for all formats.
+    const unsigned latest = GetParam() == std::string_view(".wal") ? never : 400;
+    ForEachFault(
+        [&](Step step, unsigned first, bool lasting) {
+            const std::ptrdiff_t liveBefore = liveAllocations;
+            const Attempt attempt = Try(step, first, lasting, [&] { return (document = open()) != nullptr; });
+            if (attempt.succeeded) {
+                EXPECT_TRUE(Same(document->GetTexture(), whole));
+                EXPECT_FALSE(std::ranges::count(document->GetReferences(), nullptr));
+                document->OnCloseDocument();
+            }
+            EXPECT_EQ(liveAllocations, liveBefore);
+            EXPECT_EQ(application.GetDocuments(), others);
+            EXPECT_EQ(Written(), file);
+            return attempt.wasHit;
+        },
+        latest);
+}
+
+INSTANTIATE_TEST_SUITE_P(AllFormats, FaultPoints, testing::Values(".bmp", ".mip", ".pcx", ".tga", ".wal"),
+                         [](const auto& extension) { return std::string(extension.param + 1); });
