@@ -24,7 +24,10 @@ struct ScreenRect {
     int height = 0;
 };
 
+// More rectangles than these cost more to paint than a whole view.
+inline constexpr std::size_t mostTexelRects = 64;
+
 // Where the texels show in a view of a picture: a rectangle for each tile that shows them, or the whole view
 // where these would be more than `largestCount`.
 std::vector<ScreenRect> FindTexelRects(const TexelRun& run, PixelSize picture, const TileViewport& viewport,
-                                       PixelSize view, std::size_t largestCount);
+                                       PixelSize view, std::size_t largestCount = mostTexelRects);

@@ -15,9 +15,6 @@
 
 namespace {
 
-// More rectangles to repaint than these cost more than the whole view.
-constexpr int largestRectCount = 64;
-
 // The whole screen pixels that a rectangle of the widget touches.
 QRect ToDevice(const QRect& area, double ratio, const QSize& limit) {
     const QRectF scaled(area.x() * ratio, area.y() * ratio, area.width() * ratio, area.height() * ratio);
@@ -64,7 +61,7 @@ void TavloView::paintEvent(QPaintEvent* event) {
     std::array<std::uint32_t, 256> halved;
     if (halfFilter) halved = HalveBrightness(gamma);
     const QRegion& region = event->region();
-    const QRegion areas = region.rectCount() > largestRectCount ? QRegion(region.boundingRect()) : region;
+    const QRegion areas = region.rectCount() > int{mostTexelRects} ? QRegion(region.boundingRect()) : region;
     for (const QRect& area : areas)
         PaintArea(picture, halfFilter ? halved.data() : gamma,
                   ToDevice(area, devicePixelRatioF(), surface.size()));
@@ -111,9 +108,8 @@ QRegion TavloView::FindTexels(const TexelRun& run) const {
     const QSize size = DeviceSize(*this);
     const double ratio = devicePixelRatioF();
     QRegion region;
-    for (const ScreenRect& rect :
-         FindTexelRects(run, {texture.GetWidth(), texture.GetHeight()}, GetViewport(),
-                        {size.width(), size.height()}, largestRectCount))
+    for (const ScreenRect& rect : FindTexelRects(run, {texture.GetWidth(), texture.GetHeight()},
+                                                 GetViewport(), {size.width(), size.height()}))
         region += QRectF(rect.left / ratio, rect.top / ratio, rect.width / ratio, rect.height / ratio)
                       .toAlignedRect();
     return region;
