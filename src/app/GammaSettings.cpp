@@ -13,6 +13,14 @@ std::uint32_t Channel(std::uint32_t value, double gamma) {
 
 } // namespace
 
+double GammaAtPosition(int position) {
+    return largestGamma * position / gammaPositions;
+}
+
+int PositionOfGamma(double gamma) {
+    return static_cast<int>(gamma * gammaPositions / largestGamma + 0.5);
+}
+
 int GammaChannel(int value, double gamma) {
     constexpr double steps = 256;
     const double shown = std::pow(value / steps, 1 / gamma) * steps + 0.5;

@@ -12,6 +12,13 @@ struct GammaValues {
     bool operator==(const GammaValues&) const = default;
 };
 
+// What a person can choose: 0 to this.
+inline constexpr double largestGamma = 5.0;
+// The positions of a slider, 0 to 100, over that scale.
+inline constexpr int gammaPositions = 100;
+double GammaAtPosition(int position);
+int PositionOfGamma(double gamma); // rounded
+
 // A channel value of 0 to 255 through a gamma of 0 or more.
 int GammaChannel(int value, double gamma);
 // Red, green and blue through their gammas; alpha stays.

@@ -1,5 +1,6 @@
 #include "app/ui/CKelTavloApp.h"
 
+#include "app/Settings.h"
 #include "app/ui/FileFilters.h"
 #include "app/ui/HelpWindow.h"
 #include "app/ui/MainFrame.h"
@@ -13,6 +14,7 @@
 #include "framework/core/StringTable.h"
 #include "framework/core/Text.h"
 #include "framework/ui/ChildFrame.h"
+#include "framework/ui/ColorPrompt.h"
 #include "framework/ui/MessageBoxes.h"
 #include "framework/ui/NormalCursor.h"
 #include "image/TavloDocument.h"
@@ -22,8 +24,17 @@
 #include "res/CommandIds.h"
 #include "res/ShellStrings.h"
 
+namespace {
+
+std::unique_ptr<ProfileStore> OfThisVersion(std::unique_ptr<ProfileStore> settings) {
+    CheckSettingsVersion(*settings);
+    return settings;
+}
+
+} // namespace
+
 CKelTavloApp::CKelTavloApp(std::unique_ptr<ProfileStore> settings)
-    : Dynamic(std::move(settings)), workshop(*this) {
+    : Dynamic(OfThisVersion(std::move(settings))), workshop(*this) {
     AddStrings(ShellStrings());
     RegisterWindowClasses();
 }
@@ -32,6 +43,7 @@ CKelTavloApp::CKelTavloApp(std::unique_ptr<ProfileStore> settings)
 CKelTavloApp::~CKelTavloApp() {
     CloseAllDocuments();
     GetFrameFactory()->SetMainFrame(nullptr);
+    WriteCustomColors(*GetProfile(), applicationSection, GetCustomColors());
 }
 
 // Classes that a document type names and that are not here leave its documents without a window.
@@ -46,6 +58,7 @@ void CKelTavloApp::RegisterWindowClasses() {
 
 bool CKelTavloApp::InitInstance(const std::vector<std::string>& paths) {
     RemoveAbandonedSaves();
+    if (const auto colors = ReadCustomColors(*GetProfile(), applicationSection)) SetCustomColors(*colors);
     mainFrame = std::make_unique<MainFrame>();
     GetFrameFactory()->SetMainFrame(mainFrame.get());
     mainFrame->ShowAsLeft();

@@ -1,6 +1,8 @@
 // What the main window remembers from one run to the next.
+#include "app/Settings.h"
 #include "app/ui/MainFrame.h"
 #include "framework/core/CWinApp.h"
+#include "framework/ui/ColorPrompt.h"
 
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -9,7 +11,6 @@
 
 namespace {
 
-constexpr const char* section = "Main";
 constexpr const char* placementValue = "WindowPlacement";
 constexpr const char* barStateName = "ToolBarState";
 constexpr int paintPatience = 500; // milliseconds
@@ -18,18 +19,24 @@ constexpr int paintPatience = 500; // milliseconds
 
 void MainFrame::LoadSettings() {
     const ProfileStore* profile = CWinApp::Get().GetProfile();
-    const auto bytes = profile ? profile->ReadBinary(section, placementValue) : std::nullopt;
+    const auto bytes = profile ? profile->ReadBinary(mainSection, placementValue) : std::nullopt;
     if (const auto placement = bytes ? WindowPlacement::FromBytes(*bytes) : std::nullopt) {
         showCommand = placement->showCommand;
         SetWindowPlacement(*placement);
     }
+    if (const auto values = profile ? ReadGamma(*profile) : std::nullopt) gamma.SetValues(*values);
+    if (const auto colors = profile ? ReadCustomColors(*profile, mainSection) : std::nullopt)
+        SetCustomColors(*colors);
     LoadBarState(barStateName);
 }
 
 void MainFrame::SaveSettings() const {
     SaveBarState(barStateName);
-    if (ProfileStore* profile = CWinApp::Get().GetProfile())
-        profile->WriteBinary(section, placementValue, GetWindowPlacement().ToBytes());
+    ProfileStore* profile = CWinApp::Get().GetProfile();
+    if (!profile) return;
+    WriteCustomColors(*profile, mainSection, GetCustomColors());
+    WriteGamma(*profile, gamma.GetValues());
+    profile->WriteBinary(mainSection, placementValue, GetWindowPlacement().ToBytes());
 }
 
 // Written before anybody is asked whether documents are to be saved, and kept whatever the answer.

@@ -1,61 +1,129 @@
 #include "framework/core/ProfileStore.h"
 
-#include <QSettings>
-#include <QStringList>
+#include "framework/core/CFile.h"
+#include "framework/core/Path.h"
+
+#include <QByteArray>
+#include <QDir>
+#include <QStandardPaths>
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
 
 namespace {
 
-QString Key(const std::string& section, const std::string& name) {
-    return QString::fromStdString(section + "/" + name);
+using Bytes = ProfileStore::Bytes;
+using Section = std::map<std::string, Bytes, std::less<>>;
+using Sections = std::map<std::string, Section, std::less<>>;
+
+// A larger file is none of ours.
+constexpr std::uint64_t largestFile = 1 << 20;
+
+std::string DefaultPath(const std::string& company, const std::string& application) {
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    return QFile::encodeName(folder).toStdString() + "/" + company + "/" + application + ".ini";
 }
 
-QByteArray ToBytes(const std::string& text) {
-    return {text.data(), static_cast<qsizetype>(text.size())};
+std::string ReadText(const std::string& path) {
+    CFileStatus status;
+    if (!CFile::GetStatus(path, status) || status.size > largestFile) return {};
+    const auto file = OpenDiskFile(path, CFile::modeRead, nullptr);
+    std::string text(file ? status.size : 0, '\0');
+    if (file) text.resize(file->Read(text.data(), text.size()));
+    return text;
+}
+
+// Two hexadecimal digits a byte and nothing else; what is otherwise was not written here.
+std::optional<Bytes> FromHex(std::string_view text) {
+    const QByteArray digits(text.data(), static_cast<qsizetype>(text.size()));
+    const QByteArray bytes = QByteArray::fromHex(digits);
+    if (bytes.toHex() != digits) return std::nullopt;
+    const auto* first = reinterpret_cast<const std::byte*>(bytes.constData());
+    return Bytes(first, first + bytes.size());
+}
+
+std::string ToHex(const Bytes& data) {
+    return QByteArray(reinterpret_cast<const char*>(data.data()), static_cast<qsizetype>(data.size()))
+        .toHex()
+        .toStdString();
+}
+
+// "[section]" lines with "name=value" lines below them. Lines that are neither are left out.
+Sections Parse(std::string_view text) {
+    Sections sections;
+    Section* current = nullptr;
+    while (!text.empty()) {
+        const std::string_view line = text.substr(0, text.find('\n'));
+        text.remove_prefix(std::min(line.size() + 1, text.size()));
+        const std::size_t equals = line.find('=');
+        if (line.starts_with('[') && line.ends_with(']'))
+            current = &sections[std::string(line.substr(1, line.size() - 2))];
+        else if (current && equals != line.npos)
+            if (auto value = FromHex(line.substr(equals + 1)))
+                (*current)[std::string(line.substr(0, equals))] = std::move(*value);
+    }
+    return sections;
+}
+
+bool Store(const std::string& path, const Sections& sections) {
+    std::string text;
+    for (const auto& [sectionName, section] : sections) {
+        text += "[" + sectionName + "]\n";
+        for (const auto& [name, value] : section) text += name + "=" + ToHex(value) + "\n";
+    }
+    try {
+        QDir().mkpath(QFile::decodeName(ParentOf(path).c_str()));
+        const auto file = OpenDiskFile(path, CFile::modeWrite | CFile::modeCreate, nullptr);
+        if (!file) return false;
+        file->Write(text.data(), text.size());
+        file->Close();
+        return true;
+    } catch (const std::exception&) {
+        return false;
+    }
+}
+
+Sections Load(const std::string& path) {
+    try {
+        return Parse(ReadText(path));
+    } catch (const std::exception&) {
+        return {};
+    }
 }
 
 } // namespace
 
 ProfileStore::ProfileStore(const std::string& company, const std::string& application)
-    : settings(std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope,
-                                           QString::fromStdString(company),
-                                           QString::fromStdString(application))) {}
+    : path(DefaultPath(company, application)) {}
 
-ProfileStore::ProfileStore(const std::string& path)
-    : settings(std::make_unique<QSettings>(QString::fromStdString(path), QSettings::IniFormat)) {}
-
-ProfileStore::~ProfileStore() = default;
-
-std::optional<std::vector<std::byte>> ProfileStore::ReadBinary(const std::string& section,
-                                                               const std::string& name) const {
-    const QVariant value = settings->value(Key(section, name));
-    if (!value.isValid()) return std::nullopt;
-    const QByteArray bytes = QByteArray::fromHex(value.toByteArray());
-    const auto* first = reinterpret_cast<const std::byte*>(bytes.constData());
-    return std::vector<std::byte>(first, first + bytes.size());
+std::optional<Bytes> ProfileStore::ReadBinary(const std::string& section, const std::string& name) const {
+    const Sections sections = Load(path);
+    const auto place = sections.find(section);
+    if (place == sections.end()) return std::nullopt;
+    const auto value = place->second.find(name);
+    return value == place->second.end() ? std::nullopt : std::optional(value->second);
 }
 
-void ProfileStore::WriteBinary(const std::string& section, const std::string& name,
-                               const std::vector<std::byte>& data) {
-    const QByteArray bytes(reinterpret_cast<const char*>(data.data()), static_cast<qsizetype>(data.size()));
-    settings->setValue(Key(section, name), QString::fromLatin1(bytes.toHex()));
+std::optional<Bytes> ProfileStore::GetProfileBinary(const std::string& section, const std::string& name,
+                                                    std::size_t size) const {
+    std::optional<Bytes> value = ReadBinary(section, name);
+    return value && value->size() == size ? value : std::nullopt;
 }
 
-std::vector<std::string> ProfileStore::ReadStrings(const std::string& section,
-                                                   const std::string& name) const {
-    std::vector<std::string> values;
-    for (const QString& hex : settings->value(Key(section, name)).toStringList())
-        values.push_back(QByteArray::fromHex(hex.toLatin1()).toStdString());
-    return values;
+bool ProfileStore::WriteBinary(const std::string& section, const std::string& name, const Bytes& data) {
+    Sections sections = Load(path);
+    const auto [place, isNew] = sections[section].try_emplace(name, data);
+    if (!isNew && std::exchange(place->second, data) == data) return true;
+    return Store(path, sections);
 }
 
-// In hexadecimal, for paths may hold bytes that are no text.
-void ProfileStore::WriteStrings(const std::string& section, const std::string& name,
-                                const std::vector<std::string>& values) {
-    QStringList list;
-    for (const std::string& value : values) list.append(QString::fromLatin1(ToBytes(value).toHex()));
-    settings->setValue(Key(section, name), list);
+bool ProfileStore::WriteSection(const std::string& section, const Section& values) {
+    Sections sections = Load(path);
+    sections[section] = values;
+    return Store(path, sections);
 }
 
-void ProfileStore::Clear() {
-    settings->clear();
+bool ProfileStore::DeleteSubKeys() {
+    return Store(path, {});
 }

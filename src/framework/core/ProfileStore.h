@@ -1,32 +1,35 @@
 #pragma once
 
 #include <cstddef>
-#include <memory>
+#include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
 
-class QSettings;
-
-// The user's settings: sections of named values. Nothing here fails loudly: a setting that cannot be read is
-// absent, one that cannot be written is lost.
+// The user's settings: sections of named binary values, in a file. Nothing here fails loudly: a setting that
+// cannot be read is absent, one that cannot be written is lost. The file is asked each time, so that programs
+// that run at once do not undo each other's settings.
 class ProfileStore {
 public:
+    using Bytes = std::vector<std::byte>;
+
     // In the user's configuration folder.
     ProfileStore(const std::string& company, const std::string& application);
-    // In a file of its own.
-    explicit ProfileStore(const std::string& path);
-    ~ProfileStore();
+    explicit ProfileStore(std::string filePath) : path(std::move(filePath)) {}
 
-    std::optional<std::vector<std::byte>> ReadBinary(const std::string& section,
-                                                     const std::string& name) const;
-    void WriteBinary(const std::string& section, const std::string& name, const std::vector<std::byte>& data);
-    std::vector<std::string> ReadStrings(const std::string& section, const std::string& name) const;
-    void WriteStrings(const std::string& section, const std::string& name,
-                      const std::vector<std::string>& values);
+    const std::string& GetPath() const { return path; }
+    std::optional<Bytes> ReadBinary(const std::string& section, const std::string& name) const;
+    // A value of another size, shorter or longer, counts as absent.
+    std::optional<Bytes> GetProfileBinary(const std::string& section, const std::string& name,
+                                          std::size_t size) const;
+    // False when the value is lost.
+    bool WriteBinary(const std::string& section, const std::string& name, const Bytes& data);
+    // Replaces all values of the section.
+    bool WriteSection(const std::string& section, const std::map<std::string, Bytes, std::less<>>& values);
     // Deletes every section with everything in it.
-    void Clear();
+    bool DeleteSubKeys();
 
 private:
-    std::unique_ptr<QSettings> settings;
+    std::string path;
 };

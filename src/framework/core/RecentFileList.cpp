@@ -45,6 +45,8 @@ void RecentFileList::Remove(const std::string& path) {
 }
 
 void RecentFileList::Write() {
-    for (std::size_t n = 0; profile && n < capacity; ++n)
-        profile->WriteBinary(section, ValueName(n), n < paths.size() ? ToBytes(paths[n]) : ProfileStore::Bytes());
+    if (!profile) return;
+    std::map<std::string, ProfileStore::Bytes, std::less<>> values;
+    for (std::size_t n = 0; n < paths.size(); ++n) values[ValueName(n)] = ToBytes(paths[n]);
+    profile->WriteSection(section, values);
 }

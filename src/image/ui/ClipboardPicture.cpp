@@ -86,8 +86,9 @@ std::optional<Image> FromImage(const QImage& stored) {
     return picture;
 }
 
-// The toolkit bounds the memory that it takes for what a file claims.
+// Within the limits of pictures the toolkit takes the memory that a file claims.
 std::optional<Image> FromFile(QByteArray bytes) {
+    QImageReader::setAllocationLimit(static_cast<int>(maximumPictureBytes >> 20)); // mebibytes
     QBuffer buffer(&bytes);
     return FromImage(QImageReader(&buffer).read());
 }

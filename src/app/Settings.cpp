@@ -1,0 +1,69 @@
+#include "app/Settings.h"
+
+#include "framework/core/ProfileStore.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstring>
+
+namespace {
+
+static_assert(std::endian::native == std::endian::little);
+
+constexpr std::uint32_t layoutVersion = 2;
+constexpr const char* versionValue = "RegistryVersion";
+constexpr const char* gammaValue = "Gamma";
+constexpr const char* colorsValue = "CustomColors";
+constexpr double gammaUnits = 10000;
+
+template <std::size_t count>
+std::optional<std::array<std::uint32_t, count>>
+ReadNumbers(const ProfileStore& profile, const std::string& section, const std::string& name) {
+    std::array<std::uint32_t, count> numbers;
+    const auto bytes = profile.GetProfileBinary(section, name, sizeof numbers);
+    if (!bytes) return std::nullopt;
+    std::memcpy(numbers.data(), bytes->data(), sizeof numbers);
+    return numbers;
+}
+
+template <std::size_t count>
+void WriteNumbers(ProfileStore& profile, const std::string& section, const std::string& name,
+                  const std::array<std::uint32_t, count>& numbers) {
+    ProfileStore::Bytes bytes(sizeof numbers);
+    std::memcpy(bytes.data(), numbers.data(), sizeof numbers);
+    profile.WriteBinary(section, name, bytes);
+}
+
+std::uint32_t ToUnits(double gamma) {
+    return static_cast<std::uint32_t>(gamma * gammaUnits + 0.5);
+}
+
+} // namespace
+
+void CheckSettingsVersion(ProfileStore& profile) {
+    const auto version = ReadNumbers<1>(profile, applicationSection, versionValue);
+    if (version && version->front() == layoutVersion) return;
+    profile.DeleteSubKeys();
+    WriteNumbers<1>(profile, applicationSection, versionValue, {layoutVersion});
+}
+
+std::optional<GammaValues> ReadGamma(const ProfileStore& profile) {
+    const auto units = ReadNumbers<3>(profile, mainSection, gammaValue);
+    constexpr auto most = static_cast<std::uint32_t>(largestGamma * gammaUnits);
+    if (!units || std::ranges::max(*units) > most) return std::nullopt;
+    const auto [red, green, blue] = *units;
+    return GammaValues{red / gammaUnits, green / gammaUnits, blue / gammaUnits};
+}
+
+void WriteGamma(ProfileStore& profile, const GammaValues& values) {
+    WriteNumbers<3>(profile, mainSection, gammaValue,
+                    {ToUnits(values.red), ToUnits(values.green), ToUnits(values.blue)});
+}
+
+std::optional<CustomColors> ReadCustomColors(const ProfileStore& profile, const std::string& section) {
+    return ReadNumbers<std::tuple_size_v<CustomColors>>(profile, section, colorsValue);
+}
+
+void WriteCustomColors(ProfileStore& profile, const std::string& section, const CustomColors& colors) {
+    WriteNumbers(profile, section, colorsValue, colors);
+}
