@@ -7,6 +7,8 @@
 #include "image/ui/ClipboardPicture.h"
 #include "res/CommandIds.h"
 
+#include <QMimeData>
+
 void TavloViewFrame::SetZoom(int newZoom) {
     if (newZoom == zoom) return;
     zoom = newZoom;
