@@ -1,85 +1,29 @@
 #include "Readers.h"
 
-#include "app/HeadlessApplication.h"
+#include "ReadingStream.h"
+#include "Scripts.h"
 #include "archives/PAKDocument.h"
 #include "archives/WADDocument.h"
+#include "builders/ModelBuilder.h"
 #include "builders/WadBuilder.h"
-#include "formats/Codec.h"
-#include "framework/core/CMemFile.h"
 #include "image/ImageDocuments.h"
-#include "image/picture/ColorList.h"
 #include "image/picture/DibSection.h"
 #include "image/picture/DibStream.h"
+#include "preview3d/MD2Document.h"
+#include "preview3d/MDLDocument.h"
 #include "resources/BrushDocument.h"
 #include "resources/BuiltInPalettes.h"
 #include "resources/ColorSpaceDocument.h"
 #include "resources/LMPDocument.h"
 #include "resources/streams/ArchiveStream.h"
-#include "resources/streams/FileStream.h"
 
 #include <algorithm>
 #include <stdexcept>
 
 namespace {
 
-using Outcome = std::optional<std::size_t>;
-using ByteSpan = std::span<const std::byte>;
-
-// Built-in palettes come through the application's documents.
-HeadlessApplication& TheApplication() {
-    static HeadlessApplication application([](const std::string&) {});
-    return application;
-}
-
-class Digest {
-public:
-    void Add(std::size_t value) { state = (state ^ value) * 0x100000001B3 + 0x9E3779B9; }
-    void Add(const std::string& text) { Add(std::hash<std::string>()(text)); }
-    void Add(const Image& picture) {
-        Add(static_cast<std::size_t>(picture.GetWidth()));
-        Add(static_cast<std::size_t>(picture.GetHeight()));
-        for (const Color color : picture.Pixels()) Add(color);
-    }
-    std::size_t Get() const { return state; }
-
-private:
-    std::size_t state = 0xCBF29CE484222325;
-};
-
-// Hands the bytes, in a buffer of exactly their size, to the action as a stream.
-template <class Action>
-Outcome WithStream(ByteSpan bytes, Buffering buffering, Action action) {
-    TheApplication();
-    Bytes copy(bytes.begin(), bytes.end());
-    copy.shrink_to_fit();
-    CMemFile file{std::span<std::byte>(copy)};
-    Digest digest;
-    try {
-        if (buffering == Buffering::whole) {
-            CArchive archive(file, CArchive::load);
-            ArchiveStream stream(archive);
-            action(stream, digest);
-        } else {
-            FileStream stream(file);
-            action(stream, digest);
-        }
-    } catch (const CException&) {
-        return std::nullopt;
-    } catch (const PictureSizeError&) {
-        return std::nullopt;
-    } catch (const BitmapError&) {
-        return std::nullopt;
-    }
-    return digest.Get();
-}
-
 void Add(Digest& digest, const TavloDocument& document) {
-    const Texture& texture = document.GetTexture();
-    digest.Add(texture);
-    digest.Add(texture.quakeName);
-    digest.Add(texture.quake2.name + "\n" + texture.quake2.nextFrameName);
-    if (texture.palette)
-        for (const Color color : texture.palette->Colors()) digest.Add(color);
+    digest.Add(document.GetTexture());
 }
 
 void Add(Digest& digest, const PaletteDocument& document) {
@@ -88,6 +32,21 @@ void Add(Digest& digest, const PaletteDocument& document) {
 
 void Add(Digest& digest, const BrushDocument& document) {
     digest.Add(document.GetCursor());
+}
+
+void Add(Digest& digest, const MD2Document& model) {
+    for (const std::string& skin : model.GetSkins()) digest.Add(skin);
+    for (const MD2Document::TexCoord& place : model.GetTexCoords())
+        digest.Add(static_cast<std::size_t>(place.s * 65536 + place.t));
+    for (const MD2Document::Triangle& triangle : model.GetTriangles()) digest.Add(model.IsDrawable(triangle));
+    for (const MD2Document::Frame& frame : model.GetFrames()) {
+        digest.Add(std::string(frame.name, sizeof frame.name));
+        for (const MD2Document::Vertex& vertex : frame.vertices) digest.Add(vertex.x + vertex.lightNormal);
+    }
+}
+
+void Add(Digest& digest, const MDLDocument& model) {
+    for (const Image& texture : model.GetTextures()) digest.Add(texture);
 }
 
 // Opens every entry by its path as well.
@@ -151,17 +110,7 @@ Outcome ResolvePath(ByteSpan bytes, Buffering buffering) {
 
 template <class Document>
 Bytes WritePicture() {
-    TheApplication();
-    Document document;
-    document.GetTexture().SetSize(8, 8);
-    for (std::size_t i = 0; i < 64; ++i)
-        document.GetTexture().Pixels()[i] = 0xFF000000 | static_cast<Color>(i * 0x020301);
-    CMemFile file;
-    CArchive archive(file, CArchive::store);
-    ArchiveStream stream(archive);
-    FindCodec(document.GetRuntimeClass().name)->write(stream, document.GetTexture(), &GetQuakeIIPalette());
-    archive.Flush();
-    return {file.Bytes().begin(), file.Bytes().end()};
+    return EncodePicture(Document::runtimeClass.name, MakePicture());
 }
 
 Bytes MakeTagged(std::string_view type, std::string_view id) {
@@ -197,6 +146,20 @@ Bytes MakeWad() {
     return wad.Build();
 }
 
+Bytes MakeModel() {
+    Md2Builder model;
+    model.skins = {"models/a.pcx"};
+    model.texCoords = 3;
+    model.triangles = {{0, 1, 2, 0, 1, 2}, {2, 1, 0, 2, 1, 0}};
+    model.frames = 2;
+    model.vertices = 3;
+    return model.Build();
+}
+
+Bytes MakeTextures() {
+    return MdlBuilder{{{4, 2}, {1, 1}}}.Build();
+}
+
 std::vector<HeaderField> Fields(std::size_t width, std::initializer_list<std::size_t> offsets) {
     std::vector<HeaderField> fields;
     for (const std::size_t offset : offsets) fields.push_back({offset, width});
@@ -206,6 +169,12 @@ std::vector<HeaderField> Fields(std::size_t width, std::initializer_list<std::si
 const std::vector<HeaderField> taggedFields = Fields(4, {8, 12, 16, 20, 24, 28});
 
 } // namespace
+
+std::vector<Bytes> Reader::MakeSeeds() const {
+    std::vector<Bytes> seeds = makeMoreSeeds ? makeMoreSeeds() : std::vector<Bytes>();
+    seeds.insert(seeds.begin(), makeSeed());
+    return seeds;
+}
 
 std::span<const Reader> Readers() {
     static const std::vector<Reader> readers{
@@ -227,6 +196,10 @@ std::span<const Reader> Readers() {
         {"pak", ReadDocument<PAKDocument>, MakePack, Fields(4, {4, 8, 76, 80, 140, 144})},
         {"wad", ReadDocument<WADDocument>, MakeWad, Fields(4, {4, 8})},
         {"path", ResolvePath, MakePathAndPack, Fields(4, {13, 17, 85, 89})},
+        {"md2", ReadDocument<MD2Document>, MakeModel, Fields(4, {4, 16, 20, 24, 28, 32, 40, 44, 48, 52, 56})},
+        {"mdl", ReadDocument<MDLDocument>, MakeTextures, Fields(4, {180, 184, 312, 316, 320, 392, 396, 400})},
+        {"edits", RunEditScript, MakeEditScript, {}},
+        {"recode", RecodePicture, MakePictureToRecode, {}, MakeMorePicturesToRecode},
     };
     return readers;
 }

@@ -6,6 +6,7 @@
 #include <random>
 #include <span>
 #include <string_view>
+#include <vector>
 
 // A number in a file's header, little-endian.
 struct HeaderField {
@@ -24,6 +25,10 @@ struct Reader {
     std::optional<std::size_t> (*read)(std::span<const std::byte> bytes, Buffering buffering);
     Bytes (*makeSeed)(); // a small file that is read without a failure
     std::vector<HeaderField> fields;
+    std::vector<Bytes> (*makeMoreSeeds)() = nullptr;
+
+    // All of them.
+    std::vector<Bytes> MakeSeeds() const;
 };
 
 // All readers of the program.

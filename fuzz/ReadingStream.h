@@ -1,0 +1,74 @@
+#pragma once
+
+#include "Readers.h"
+#include "framework/core/CMemFile.h"
+#include "image/picture/ColorList.h"
+#include "image/picture/DibSection.h"
+#include "image/picture/Texture.h"
+#include "resources/streams/ArchiveStream.h"
+#include "resources/streams/FileStream.h"
+
+using Outcome = std::optional<std::size_t>;
+using ByteSpan = std::span<const std::byte>;
+
+// What was read, in one number.
+class Digest {
+public:
+    void Add(std::size_t value) { state = (state ^ value) * 0x100000001B3 + 0x9E3779B9; }
+    void Add(const std::string& text) { Add(std::hash<std::string>()(text)); }
+    void Add(const Image& picture) {
+        Add(static_cast<std::size_t>(picture.GetWidth()));
+        Add(static_cast<std::size_t>(picture.GetHeight()));
+        for (const Color color : picture.Pixels()) Add(color);
+    }
+    void Add(const Texture& texture) {
+        Add(static_cast<const Image&>(texture));
+        Add(texture.quakeName);
+        Add(texture.quake2.name + "\n" + texture.quake2.nextFrameName);
+        for (const std::size_t value :
+             {texture.quake2.surfaceFlags, texture.quake2.contents, texture.quake2.value})
+            Add(value);
+        if (texture.palette)
+            for (const Color color : std::as_const(*texture.palette).Colors()) Add(color);
+    }
+    std::size_t Get() const { return state; }
+
+private:
+    std::size_t state = 0xCBF29CE484222325;
+};
+
+// Makes the application through whose documents the built-in palettes come.
+void NeedApplication();
+
+// The bytes of the picture in the format of a document class.
+Bytes EncodePicture(std::string_view documentClass, const Texture& texture);
+
+// A small picture of many colours.
+Texture MakePicture();
+
+// Hands the bytes, in a buffer of exactly their size, to the action as a stream.
+template <class Action>
+Outcome WithStream(ByteSpan bytes, Buffering buffering, Action action) {
+    NeedApplication();
+    Bytes copy(bytes.begin(), bytes.end());
+    copy.shrink_to_fit();
+    CMemFile file{std::span<std::byte>(copy)};
+    Digest digest;
+    try {
+        if (buffering == Buffering::whole) {
+            CArchive archive(file, CArchive::load);
+            ArchiveStream stream(archive);
+            action(stream, digest);
+        } else {
+            FileStream stream(file);
+            action(stream, digest);
+        }
+    } catch (const CException&) {
+        return std::nullopt;
+    } catch (const PictureSizeError&) {
+        return std::nullopt;
+    } catch (const BitmapError&) {
+        return std::nullopt;
+    }
+    return digest.Get();
+}

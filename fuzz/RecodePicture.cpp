@@ -1,0 +1,81 @@
+#include "ReadingStream.h"
+#include "Scripts.h"
+#include "formats/Codec.h"
+#include "resources/BuiltInPalettes.h"
+
+#include <algorithm>
+#include <iterator>
+#include <stdexcept>
+
+namespace {
+
+constexpr std::string_view formats[] = {"MIPDocument", "BMPDocument", "PCXDocument", "TGADocument",
+                                        "WALDocument"};
+constexpr std::size_t largestPicture = 65536; // pixels; larger ones cost more than they can show
+constexpr std::size_t fullPalette = 256;
+
+Texture Decode(const Codec& codec, InputStream& in) {
+    Texture texture;
+    codec.read(in, texture, &GetQuakeIIPalette());
+    return texture;
+}
+
+Texture DecodeOwn(const Codec& codec, Bytes bytes) {
+    CMemFile file{std::span<std::byte>(bytes)};
+    CArchive archive(file, CArchive::load);
+    ArchiveStream stream(archive);
+    try {
+        return Decode(codec, stream);
+    } catch (const CException&) {
+        throw std::logic_error("what was written is not read");
+    }
+}
+
+// Nothing when the format cannot take what it gave.
+Bytes EncodeAgain(const Codec& codec, const Texture& texture) {
+    try {
+        return EncodePicture(codec.documentClass, texture);
+    } catch (const CException&) {
+        return {};
+    }
+}
+
+void CheckOnceMore(const Codec& codec, const Texture& texture) {
+    const Bytes once = EncodeAgain(codec, texture);
+    if (once.empty()) return;
+    const Texture back = DecodeOwn(codec, once);
+    if (back.GetWidth() != texture.GetWidth() || !std::ranges::equal(back.Pixels(), texture.Pixels()))
+        throw std::logic_error("the picture changed");
+    if (EncodeAgain(codec, back) != once) throw std::logic_error("the second file differs");
+}
+
+Bytes PictureOf(std::size_t format) {
+    Bytes bytes{static_cast<std::byte>(format)};
+    const Bytes file = EncodePicture(formats[format], MakePicture());
+    bytes.insert(bytes.end(), file.begin(), file.end());
+    return bytes;
+}
+
+} // namespace
+
+std::optional<std::size_t> RecodePicture(std::span<const std::byte> bytes, Buffering buffering) {
+    if (bytes.empty()) return std::nullopt;
+    const Codec& codec = *FindCodec(formats[std::to_integer<std::size_t>(bytes[0]) % std::size(formats)]);
+    return WithStream(bytes.subspan(1), buffering, [&](InputStream& in, Digest& digest) {
+        const Texture texture = Decode(codec, in);
+        digest.Add(texture);
+        // A shorter palette is written as it is, and files that end in one are not known by it.
+        const bool shortPalette = texture.palette && texture.palette->GetCount() < fullPalette;
+        if (!shortPalette && texture.Pixels().size() <= largestPicture) CheckOnceMore(codec, texture);
+    });
+}
+
+Bytes MakePictureToRecode() {
+    return PictureOf(0);
+}
+
+std::vector<Bytes> MakeMorePicturesToRecode() {
+    std::vector<Bytes> more;
+    for (std::size_t format = 1; format < std::size(formats); ++format) more.push_back(PictureOf(format));
+    return more;
+}
