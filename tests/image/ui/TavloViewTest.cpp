@@ -1,14 +1,9 @@
 #include "image/ui/TavloView.h"
 
-#include "app/ui/CKelTavloApp.h"
-#include "app/ui/MainFrame.h"
 #include "framework/core/Text.h"
-#include "framework/ui/CStatusBar.h"
 #include "framework/ui/Commands.h"
-#include "image/ImageDocuments.h"
-#include "image/ui/TavloViewFrame.h"
+#include "image/ui/TavloViewFixture.h"
 #include "res/CommandIds.h"
-#include "support/TestApplication.h"
 
 #include <QScrollBar>
 #include <QTest>
@@ -16,24 +11,8 @@
 
 namespace {
 
-// The program with a 64 x 32 texture in one window.
-class TavloViewTest : public testing::Test {
+class TavloViewTest : public TavloViewFixture {
 protected:
-    TavloViewTest() {
-        const std::string path = folder.filePath("floor.wal").toStdString();
-        WriteFile(path, MakeWal(64, 32));
-        program.InitInstance({path});
-        document = dynamic_cast<WALDocument*>(program.GetDocuments().back());
-        for (CDocument* open : program.GetDocuments())
-            if (auto* wal = dynamic_cast<WALDocument*>(open)) document = wal;
-        frame = dynamic_cast<TavloViewFrame*>(document->GetFrame());
-        view = dynamic_cast<TavloView*>(frame->GetActiveView());
-        QCoreApplication::processEvents();
-    }
-
-    std::string PaneText(int pane) {
-        return program.GetMainFrame()->GetStatusBar().GetPaneText(static_cast<std::size_t>(pane));
-    }
     void Wheel(int delta, Qt::KeyboardModifiers keys = Qt::NoModifier,
                Qt::MouseButtons buttons = Qt::NoButton) {
         const QPointF place(10, 10);
@@ -42,13 +21,6 @@ protected:
         QCoreApplication::sendEvent(view, &event);
     }
     QScrollBar& Bar(Qt::Orientation orientation) { return view->GetScrollBar(orientation); }
-    Color TexelShownAt(int x, int y) { return view->grab().toImage().pixel(x, y); }
-
-    QTemporaryDir folder;
-    CKelTavloApp program{std::make_unique<ProfileStore>(folder.filePath("settings.ini").toStdString())};
-    WALDocument* document = nullptr;
-    TavloViewFrame* frame = nullptr;
-    TavloView* view = nullptr;
 };
 
 } // namespace
@@ -79,14 +51,14 @@ TEST_F(TavloViewTest, PaintsTheTilingFromTheScrollPosition) {
     SendCommand(*program.GetMainFrame(), ID_ZOOM_400);
     view->SetScrollX(3);
     view->SetScrollY(30);
-    EXPECT_EQ(TexelShownAt(9, 5), texture.GetPixel(5, 31));
-    EXPECT_EQ(TexelShownAt(9, 8), texture.GetPixel(5, 0));
+    EXPECT_EQ(ColorShownAt(9, 5), texture.GetPixel(5, 31));
+    EXPECT_EQ(ColorShownAt(9, 8), texture.GetPixel(5, 0));
     document->GetTexture().SetSize(8, 8);
     document->GetTexture().SetPixel(7, 6, 0x00FF8040); // alpha does not hide colours
     document->UpdateAllViews(nullptr);
     EXPECT_EQ(view->GetScrollY(), 30) << "the position is not wrapped again when the picture shrinks";
     EXPECT_EQ(Bar(Qt::Vertical).maximum(), 7);
-    EXPECT_EQ(TexelShownAt(16, 0), 0xFFFF8040U);
+    EXPECT_EQ(ColorShownAt(16, 0), 0xFFFF8040U);
 }
 
 TEST_F(TavloViewTest, TellsPositionAndColorUnderTheMouse) {

@@ -1,0 +1,192 @@
+#include "framework/ui/Commands.h"
+#include "image/ui/TavloViewFixture.h"
+#include "res/CommandIds.h"
+#include "resources/BrushDocument.h"
+#include "resources/BuiltInPath.h"
+#include "support/ui/PopupAnswer.h"
+
+#include <QContextMenuEvent>
+#include <QPaintEvent>
+#include <QTest>
+#include <QWindow>
+
+namespace {
+
+constexpr Color red = 0xFFFF0000;
+
+// Gathers what a widget repaints.
+class PaintSpy : public QObject {
+public:
+    explicit PaintSpy(QWidget& widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint) region += static_cast<QPaintEvent*>(event)->region();
+        return false;
+    }
+    QRegion region;
+};
+
+class TavloViewBrushTest : public TavloViewFixture {
+protected:
+    TavloViewBrushTest() { program.SetCurrentColor(red); }
+
+    void Choose(BuiltInFile brush) {
+        document->SetCurrentBrush(
+            dynamic_cast<BrushDocument*>(BaseDocument::OpenReference(GetBuiltInPath(brush))));
+    }
+    void Press(const QPoint& place) { QTest::mousePress(view, Qt::LeftButton, {}, place); }
+    void Release(const QPoint& place) { QTest::mouseRelease(view, Qt::LeftButton, {}, place); }
+    // The toolkit's helper remembers buttons from one test to the next.
+    void Drag(const QPoint& place, Qt::MouseButtons buttons = Qt::LeftButton) {
+        QMouseEvent event(QEvent::MouseMove, place, view->mapToGlobal(place), Qt::NoButton, buttons, {});
+        QCoreApplication::sendEvent(view, &event);
+    }
+    Color TexelAt(int x, int y) { return document->GetTexture().GetPixel(x, y); }
+};
+
+} // namespace
+
+TEST_F(TavloViewBrushTest, StrokesGoAcrossTheSeam) {
+    Choose(texelBrushFile);
+    frame->SetZoom(2);
+    view->SetScrollX(62);
+    Press({1, 3});
+    EXPECT_EQ(TexelAt(62, 1), red);
+    EXPECT_FALSE(document->IsModified()) << "not before the button is released";
+    Drag({3, 4});
+    EXPECT_EQ(TexelAt(63, 2), red);
+    Drag({4, 4});
+    EXPECT_EQ(TexelAt(0, 2), red);
+    Release({6, 64});
+    EXPECT_EQ(TexelAt(1, 0), red);
+    EXPECT_TRUE(document->IsModified());
+    EXPECT_FALSE(document->GetHistory().CanUndo());
+    view->SetScrollX(0);
+    Press({0, 10});
+    Drag({-1, 12});
+    EXPECT_EQ(TexelAt(0, 6), red) << "at -0.5";
+    EXPECT_NE(TexelAt(63, 6), red);
+    Release({-1, 12});
+    Drag({40, 40});
+    EXPECT_NE(TexelAt(20, 20), red) << "the stroke is over";
+}
+
+TEST_F(TavloViewBrushTest, StrokesRepaintWhatTheyChangeInAllViews) {
+    Choose(texelBrushFile);
+    SendCommand(*program.GetMainFrame(), ID_WINDOW_NEW);
+    QCoreApplication::processEvents();
+    auto* other = dynamic_cast<TavloView*>(program.GetMainFrame()->MDIGetActive()->GetActiveView());
+    ASSERT_NE(other, view);
+    dynamic_cast<TavloViewFrame*>(other->GetParentFrame())->SetZoom(8);
+    SendCommand(*program.GetMainFrame(), ID_WINDOW_TILE_VERT);
+    frame->SetZoom(4);
+    Press({200, 5});
+    QCoreApplication::processEvents();
+    PaintSpy painted(*view), paintedToo(*other);
+    Drag({9, 5});
+    EXPECT_GT(painted.region.rectCount(), 1);
+    for (const QRect& rect : painted.region) {
+        EXPECT_EQ(rect.left() % 256, 8);
+        EXPECT_EQ(rect.top() % 128, 4);
+        EXPECT_LE(rect.width(), 4);
+        EXPECT_LE(rect.height(), 4);
+    }
+    EXPECT_EQ(ColorShownAt(9, 5), red);
+    QCoreApplication::processEvents();
+    ASSERT_FALSE(paintedToo.region.isEmpty());
+    EXPECT_EQ(*paintedToo.region.begin(), QRect(16, 8, 8, 8));
+    painted.region = {};
+    Drag({10, 6});
+    EXPECT_TRUE(painted.region.isEmpty()) << "the texel has that colour already";
+    Release({10, 6});
+}
+
+TEST_F(TavloViewBrushTest, WithoutABrushNothingIsCapturedOrChanged) {
+    const Texture before = document->GetTexture();
+    Press({1, 1});
+    Choose(texelBrushFile);
+    Drag({5, 5});
+    Release({9, 9});
+    EXPECT_TRUE(std::ranges::equal(document->GetTexture().Pixels(), before.Pixels()));
+    EXPECT_FALSE(document->IsModified());
+    EXPECT_EQ(PaneText(2), "5.00, 5.00");
+}
+
+TEST_F(TavloViewBrushTest, OtherButtonsDoNotPaint) {
+    Choose(texelBrushFile);
+    QTest::mousePress(view, Qt::MiddleButton, {}, {3, 3});
+    Drag({5, 5}, Qt::MiddleButton);
+    QTest::mouseRelease(view, Qt::MiddleButton, {}, {3, 3});
+    EXPECT_NE(TexelAt(3, 3), red);
+    EXPECT_FALSE(document->IsModified());
+    Press({3, 3});
+    Drag({6, 6}, Qt::NoButton); // the button came up where nobody saw it
+    EXPECT_TRUE(document->IsModified());
+    EXPECT_NE(TexelAt(6, 6), red);
+}
+
+TEST_F(TavloViewBrushTest, ThePickerTakesTheColorUnderTheMouse) {
+    Choose(colorPickerFile);
+    const Color first = TexelAt(7, 9), second = TexelAt(20, 9);
+    Press({7, 9});
+    EXPECT_EQ(program.GetCurrentColor(), first);
+    Drag({20, 9});
+    EXPECT_EQ(program.GetCurrentColor(), second);
+    document->GetTexture().SetPixel(30, 9, 0x00123456);
+    Release({30, 9});
+    EXPECT_EQ(program.GetCurrentColor(), 0x00123456U) << "with its alpha";
+    EXPECT_EQ(TexelAt(7, 9), first);
+}
+
+TEST_F(TavloViewBrushTest, ThePointerIsTheBrushs) {
+    Choose(texelBrushFile);
+    QTest::mouseMove(view, {5, 5});
+    const QCursor pencil = view->cursor();
+    Choose(colorPickerFile);
+    QTest::mouseMove(view, {6, 6});
+    const QCursor pipette = view->cursor();
+    EXPECT_NE(pencil.pixmap().toImage(), pipette.pixmap().toImage());
+    for (const QCursor& cursor : {pencil, pipette}) {
+        const QImage image = cursor.pixmap().toImage();
+        const QPoint tip = cursor.hotSpot();
+        EXPECT_EQ(qAlpha(image.pixel(tip)), 255) << "the hot spot is on the tip";
+        EXPECT_LT(qGray(image.pixel(tip)), 128);
+        for (int y = tip.y() + 2; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                EXPECT_EQ(qAlpha(image.pixel(x, y)), 0) << "below the tip";
+    }
+    document->SetCurrentBrush(nullptr);
+    QTest::mouseMove(view, {7, 7});
+    EXPECT_EQ(view->cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST_F(TavloViewBrushTest, TheContextMenuIsMadeAfreshEachTime) {
+    const auto rightClick = [&](const QPoint& place) {
+        const QPoint inWindow = view->mapTo(view->window(), place);
+        QTest::mouseClick(view->window()->windowHandle(), Qt::RightButton, {}, inWindow);
+        QCoreApplication::processEvents();
+    };
+    {
+        const PopupAnswer choose([&](QMenu& menu) {
+            EXPECT_EQ(ItemTexts(menu), QStringList({"Brush", "Color...", "Zoom", "Properties", "Cancel"}));
+            QMenu& brushes = *FindItemText(menu, "Brush")->menu();
+            emit brushes.aboutToShow();
+            EXPECT_EQ(ItemTexts(brushes), QStringList({"Texel Brush", "Color Picker", "", "None"}));
+            EXPECT_TRUE(FindItemText(brushes, "None")->isChecked());
+            FindItemText(brushes, "Color Picker")->trigger();
+        });
+        rightClick({20, 20});
+    }
+    ASSERT_TRUE(document->HasBrush());
+    EXPECT_EQ(document->GetCurrentBrush()->GetTitle(), "Color Picker");
+    WriteFile(folder.filePath("third.kelbrush").toStdString(),
+              ToBytes("KEL\xE5\xD0TAVBrsh" + std::string(4, '\0')));
+    program.OpenDocumentFile(folder.filePath("third.kelbrush").toStdString());
+    const PopupAnswer look([&](QMenu& menu) {
+        const QMenu& brushes = *FindItemText(menu, "Brush")->menu();
+        EXPECT_EQ(ItemTexts(brushes), QStringList({"Texel Brush", "Color Picker", "third", "", "None"}));
+    });
+    // What the windowing system makes of the menu key.
+    const QPoint middle = view->rect().center();
+    QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, middle, view->mapToGlobal(middle));
+    QCoreApplication::sendEvent(view, &menuKey);
+}
