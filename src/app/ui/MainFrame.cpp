@@ -13,6 +13,8 @@
 #include "res/ShellStrings.h"
 #include "res/ToolBars.h"
 
+#include <QScreen>
+
 namespace {
 
 constexpr std::size_t positionPane = 2;
@@ -30,7 +32,7 @@ std::string ColorText(std::uint32_t argb) {
 
 MainFrame::MainFrame() {
     LoadFrame(IDR_MAINFRAME, AcceleratorRows());
-    resize(1000, 720);
+    resize(QSize(1000, 720).boundedTo(screen()->availableSize() * 9 / 10));
     CreateBars();
     LoadSettings();
 }
