@@ -1,6 +1,7 @@
 #include "app/ui/CKelTavloApp.h"
 
 #include "app/Settings.h"
+#include "app/ui/CAboutDialog.h"
 #include "app/ui/FileFilters.h"
 #include "app/ui/HelpWindow.h"
 #include "app/ui/MainFrame.h"
@@ -121,9 +122,9 @@ const CommandMap& CKelTavloApp::GetCommandMap() const {
     static const CommandMap map{
         CWinApp::GetCommandMap(),
         {Command<&Self::OnCommandNew>(ID_FILE_NEW), Command<&Self::OnFileOpen>(ID_FILE_OPEN),
-         Command<&Self::OnAppExit>(ID_APP_EXIT), Command<&Self::OnHelpFinder>(ID_HELP_FINDER),
-         Command<&Self::OnHelpFinder>(ID_DEFAULT_HELP), Command<&Self::OnHelp>(ID_HELP),
-         Command<&Self::OnHelp>(ID_CONTEXT_HELP),
+         Command<&Self::OnAppAbout>(ID_APP_ABOUT), Command<&Self::OnAppExit>(ID_APP_EXIT),
+         Command<&Self::OnHelpFinder>(ID_HELP_FINDER), Command<&Self::OnHelpFinder>(ID_DEFAULT_HELP),
+         Command<&Self::OnHelp>(ID_HELP), Command<&Self::OnHelp>(ID_CONTEXT_HELP),
          CommandRange<&Self::OnRecentFile, &Self::OnUpdateRecentFile>(ID_FILE_MRU_FIRST, ID_FILE_MRU_LAST)}};
     return map;
 }
@@ -140,6 +141,10 @@ void CKelTavloApp::OnRecentFile(CommandId id) {
 
 void CKelTavloApp::OnUpdateRecentFile(CCmdUI& state) {
     state.Enable(state.id - ID_FILE_MRU_FIRST < GetRecentFiles().GetPaths().size());
+}
+
+void CKelTavloApp::OnAppAbout() {
+    CAboutDialog(mainFrame.get(), GetProfile()->GetPath()).DoModal();
 }
 
 void CKelTavloApp::OnAppExit() {

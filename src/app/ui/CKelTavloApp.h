@@ -49,6 +49,7 @@ private:
     void OnFileOpen();
     void OnRecentFile(CommandId id);
     void OnUpdateRecentFile(CCmdUI& state);
+    void OnAppAbout();
     void OnAppExit();
     void OnHelpFinder();
     void OnHelp();

@@ -44,6 +44,7 @@ private:
     void SaveSettings() const;
     void OnViewRefresh();
     void OnFormatColor();
+    void OnToolsOptions();
     void OnCancel() {} // a menu's way out
     void OnBar(CommandId id);
     void OnUpdateBar(CCmdUI& state);

@@ -1,4 +1,5 @@
 // The main window's commands on its bars and on the current colour, and its menus' runs.
+#include "app/ui/COptionsSheet.h"
 #include "app/ui/MainFrame.h"
 #include "framework/ui/CControlBar.h"
 #include "framework/ui/CMenu.h"
@@ -10,11 +11,11 @@
 
 const CommandMap& MainFrame::GetCommandMap() const {
     using Self = MainFrame;
-    static const CommandMap map{CMDIFrameWnd::GetCommandMap(),
-                                {Command<&Self::OnViewRefresh>(ID_VIEW_REFRESH),
-                                 Command<&Self::OnFormatColor>(ID_FORMAT_COLOR),
-                                 Command<&Self::OnCancel>(ID_CANCEL),
-                                 CommandRange<&Self::OnBar, &Self::OnUpdateBar>(ID_BAR_FIRST, ID_BAR_LAST)}};
+    static const CommandMap map{
+        CMDIFrameWnd::GetCommandMap(),
+        {Command<&Self::OnViewRefresh>(ID_VIEW_REFRESH), Command<&Self::OnFormatColor>(ID_FORMAT_COLOR),
+         Command<&Self::OnToolsOptions>(ID_TOOLS_OPTIONS), Command<&Self::OnCancel>(ID_CANCEL),
+         CommandRange<&Self::OnBar, &Self::OnUpdateBar>(ID_BAR_FIRST, ID_BAR_LAST)}};
     return map;
 }
 
@@ -35,6 +36,11 @@ void MainFrame::OnUpdateBar(CCmdUI& state) {
     const CControlBar* bar = menuRuns.toolbarMenu.GetBar(state.id);
     state.Enable(bar != nullptr);
     state.SetCheck(bar && bar->IsVisible());
+}
+
+void MainFrame::OnToolsOptions() {
+    COptionsSheet(this, gamma).DoModal();
+    OnViewRefresh();
 }
 
 // The dialog knows no alpha: the colour keeps its own.

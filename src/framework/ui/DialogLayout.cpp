@@ -5,6 +5,7 @@
 
 #include <QCheckBox>
 #include <QGroupBox>
+#include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -41,6 +42,19 @@ QGridLayout& AddGroupBox(QGridLayout& grid, GridPlace place, const char* title) 
     return *new QGridLayout(box);
 }
 
+QLabel& AddText(QGridLayout& grid, GridPlace place, const char* text) {
+    auto* label = new QLabel(QString::fromUtf8(text), grid.parentWidget());
+    Add(grid, place, *label);
+    return *label;
+}
+
+void AddIcon(QGridLayout& grid, GridPlace place, const QIcon& icon) {
+    constexpr QSize size(32, 32);
+    auto* label = new QLabel(grid.parentWidget());
+    label->setPixmap(icon.pixmap(size, grid.parentWidget()->devicePixelRatioF()));
+    Add(grid, place, *label);
+}
+
 void AddHeading(QGridLayout& grid, GridPlace place, const char* text) {
     auto* row = new QHBoxLayout;
     auto* rule = new QFrame(grid.parentWidget());
@@ -51,9 +65,7 @@ void AddHeading(QGridLayout& grid, GridPlace place, const char* text) {
 }
 
 void AddLabelled(QGridLayout& grid, GridPlace place, const char* label, QWidget& control) {
-    auto* text = new QLabel(QString::fromUtf8(label), grid.parentWidget());
-    text->setBuddy(&control);
-    Add(grid, {place.row, place.column}, *text);
+    AddText(grid, {place.row, place.column}, label).setBuddy(&control);
     Add(grid, {place.row, place.column + 1, place.columns - 1}, control);
 }
 

@@ -5,6 +5,8 @@
 class CSpinEdit;
 class DialogControls;
 class QCheckBox;
+class QIcon;
+class QLabel;
 class QLineEdit;
 class QPushButton;
 
@@ -18,6 +20,9 @@ struct GridPlace {
 QGridLayout& AddPageGrid(QWidget& page);
 // A frame with a title on the page, with a grid inside.
 QGridLayout& AddGroupBox(QGridLayout& grid, GridPlace place, const char* title);
+QLabel& AddText(QGridLayout& grid, GridPlace place, const char* text);
+// As large as icons are in dialogs.
+void AddIcon(QGridLayout& grid, GridPlace place, const QIcon& icon);
 // A text with a rule behind it.
 void AddHeading(QGridLayout& grid, GridPlace place, const char* text);
 

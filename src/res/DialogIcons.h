@@ -1,0 +1,9 @@
+#pragma once
+
+#include "framework/core/ToolBarTable.h"
+
+// Small pictures of the dialogs.
+PixelArt GammaIcon();
+PixelArt RedIcon();
+PixelArt GreenIcon();
+PixelArt BlueIcon();
