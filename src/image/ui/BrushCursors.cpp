@@ -1,5 +1,6 @@
 #include "image/ui/BrushCursors.h"
 
+#include <QGuiApplication>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
@@ -12,7 +13,7 @@ constexpr unsigned pencilId = 146;
 constexpr unsigned pipetteId = 147;
 
 constexpr int side = 24;
-constexpr QPoint tip(2, 21);
+constexpr QPointF tip(2.5, 21.5); // the middle of its pixel
 
 // A tool in the frame of its axis: the tip is the origin, the x axis runs up the handle.
 struct ToolShape {
@@ -45,7 +46,7 @@ QPixmap DrawTool(const ToolShape& shape, double ratio) {
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(tip + QPointF(0.5, 0.5));
+    painter.translate(tip);
     painter.rotate(-45);
     painter.strokePath(shape.body, QPen(Qt::white, 3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.fillPath(shape.body, Qt::white);
@@ -54,10 +55,16 @@ QPixmap DrawTool(const ToolShape& shape, double ratio) {
     return pixmap;
 }
 
+// The X window system takes a hot spot in pixels of the picture, others in units of the window.
+double HotSpotScale(double ratio) {
+    return QGuiApplication::platformName() == QStringLiteral("xcb") ? ratio : 1;
+}
+
 } // namespace
 
 QCursor LoadBrushCursor(unsigned id, double ratio) {
     if (id != pencilId && id != pipetteId) return Qt::ArrowCursor;
     const ToolShape shape = id == pencilId ? PencilShape() : PipetteShape();
-    return QCursor(DrawTool(shape, ratio), tip.x(), tip.y());
+    const QPointF hotSpot = tip * HotSpotScale(ratio);
+    return QCursor(DrawTool(shape, ratio), static_cast<int>(hotSpot.x()), static_cast<int>(hotSpot.y()));
 }
