@@ -5,6 +5,7 @@
 #include <QStyle>
 
 #include <algorithm>
+#include <cmath>
 
 MDIClientArea::MDIClientArea(QWidget* parent) : QMdiArea(parent) {
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -32,28 +33,43 @@ void MDIClientArea::Place(CMDIChildWnd& child, int number) const {
     child.move(number % steps * step, number % steps * step);
 }
 
+// Up to three windows stand in one line; more fill a grid column by column, of which the last columns hold
+// one more where the windows do not come out even.
 void MDIClientArea::Tile(Qt::Orientation orientation) {
     std::vector<CMDIChildWnd*> tiles = GetChildren();
     std::erase_if(tiles, [](const CMDIChildWnd* child) { return child->isMinimized(); });
+    if (tiles.empty()) return;
     const int count = static_cast<int>(tiles.size());
-    const QSize room = viewport()->size();
-    for (int i = 0; i < count; ++i) {
-        CMDIChildWnd& child = *tiles[static_cast<std::size_t>(i)];
-        child.showNormal();
-        if (orientation == Qt::Vertical)
-            child.setGeometry(0, room.height() * i / count, room.width(),
-                              room.height() * (i + 1) / count - room.height() * i / count);
-        else
-            child.setGeometry(room.width() * i / count, 0,
-                              room.width() * (i + 1) / count - room.width() * i / count, room.height());
+    const int root = static_cast<int>(std::sqrt(count));
+    const int columns = orientation == Qt::Vertical ? root : count / root;
+    const int longColumns = count % columns;
+    auto next = tiles.begin();
+    for (int column = 0; column < columns; ++column) {
+        const int rows = count / columns + (column >= columns - longColumns ? 1 : 0);
+        for (int row = 0; row < rows; ++row) PutTile(**next++, {column, columns}, {row, rows});
     }
 }
 
+void MDIClientArea::PutTile(CMDIChildWnd& child, const Share& across, const Share& down) const {
+    const QSize room = viewport()->size();
+    const QPoint from(room.width() * across.index / across.count, room.height() * down.index / down.count);
+    const QPoint to(room.width() * (across.index + 1) / across.count,
+                    room.height() * (down.index + 1) / down.count);
+    child.showNormal();
+    child.setGeometry(QRect(from, to - QPoint(1, 1)));
+}
+
+// In rows from the lower edge upwards.
 void MDIClientArea::ArrangeIcons() {
     int x = 0;
+    int bottom = viewport()->height();
     for (CMDIChildWnd* child : GetChildren()) {
         if (!child->isMinimized()) continue;
-        child->move(x, viewport()->height() - child->height());
+        if (x > 0 && x + child->width() > viewport()->width()) {
+            x = 0;
+            bottom -= child->height();
+        }
+        child->move(x, bottom - child->height());
         x += child->width();
     }
 }

@@ -15,8 +15,16 @@ public:
     CMDIChildWnd* GetCurrentChild() const;
     // Puts a new child below and beside the ones before it, of which there are `number`.
     void Place(CMDIChildWnd& child, int number) const;
-    // Lays the children that are not minimised one above the other (Qt::Vertical) or side by side.
+    // Lays the children that are not minimised one above the other (Qt::Vertical) or side by side; from four
+    // on, in a grid.
     void Tile(Qt::Orientation orientation);
-    // Puts the minimised children in a row at the lower edge.
+    // Puts the minimised children in rows at the lower edge.
     void ArrangeIcons();
+
+private:
+    struct Share {
+        int index, count;
+    };
+    // Gives the child its share of the width and the height.
+    void PutTile(CMDIChildWnd& child, const Share& across, const Share& down) const;
 };

@@ -7,6 +7,7 @@
 #include "support/TestApplication.h"
 #include "support/ui/DialogAnswer.h"
 
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -66,6 +67,18 @@ TEST_F(PaletteBarTest, ClicksPickThePixelUnderThem) {
     EXPECT_EQ(palette->GetPlanes().HitTest(PalettePlanes::strip1, 9, 9), 0x00281E09U);
     Click(PalettePlanes::plane, {30, -3}); // between the controls
     EXPECT_EQ(program.GetCurrentColor(), 0x00281EFFU);
+}
+
+// The scale is fixed for a process.
+TEST_F(PaletteBarTest, ClicksPickTheSamePixelsAtTwiceTheScale) {
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("QT_SCALE_FACTOR", "2");
+    process.setProcessEnvironment(environment);
+    process.start(QCoreApplication::applicationFilePath(),
+                  {"--gtest_filter=PaletteBarTest.ClicksPickThePixelUnderThem"});
+    EXPECT_TRUE(process.waitForFinished());
+    EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardOutput().toStdString();
 }
 
 TEST_F(PaletteBarTest, TheStatusBarNamesTheColorUnderThePointer) {

@@ -7,6 +7,8 @@
 #include "support/ui/DialogAnswer.h"
 
 #include <QApplication>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
@@ -161,6 +163,45 @@ TEST_F(CMDIFrameWndTest, ListsItsWindows) {
     menu.UpdateAll();
     EXPECT_EQ(menu.FindItem(ID_WINDOW_CHILD_FIRST)->text(), "&1 shown2");
     EXPECT_FALSE(menu.FindItem(ID_WINDOW_CHILD_FIRST + 1));
+}
+
+TEST_F(CMDIFrameWndTest, TilesWithoutGapsAndLeavesIconsAlone) {
+    std::vector<QMdiSubWindow*> windows;
+    const auto tile = [&](CommandId id) {
+        EXPECT_TRUE(SendCommand(mainFrame, id));
+        int area = 0;
+        for (const QMdiSubWindow* window : windows)
+            if (!window->isMinimized()) area += window->width() * window->height();
+        return area;
+    };
+    for (int i = 0; i < 3; ++i) windows.push_back(&FrameOf(NewDocument()));
+    const QSize room = windows.front()->mdiArea()->viewport()->size();
+    EXPECT_EQ(tile(ID_WINDOW_TILE_VERT), room.width() * room.height());
+    EXPECT_EQ(windows[2]->height(), room.height());
+    EXPECT_EQ(tile(ID_WINDOW_TILE_HORZ), room.width() * room.height());
+    EXPECT_EQ(windows[2]->width(), room.width());
+    for (int i = 0; i < 3; ++i) windows.push_back(&FrameOf(NewDocument()));
+    windows[5]->showMinimized();
+    EXPECT_EQ(tile(ID_WINDOW_TILE_HORZ), room.width() * room.height());
+    EXPECT_EQ(windows[4]->geometry().bottomRight(), QPoint(room.width() - 1, room.height() - 1));
+    EXPECT_NEAR(windows[4]->height() * 3, windows[0]->height() * 2, 3);
+}
+
+TEST_F(CMDIFrameWndTest, IconsAreArrangedInRowsAtTheLowerEdge) {
+    std::vector<QMdiSubWindow*> windows;
+    for (int i = 0; i < 5; ++i) {
+        windows.push_back(&FrameOf(NewDocument()));
+        windows.back()->showMinimized();
+        windows.back()->move(30 * i, 20);
+    }
+    ASSERT_TRUE(SendCommand(mainFrame, ID_WINDOW_ARRANGE));
+    const QRect room = windows.front()->mdiArea()->viewport()->rect();
+    EXPECT_EQ(windows[0]->geometry().bottomLeft(), room.bottomLeft());
+    for (std::size_t i = 0; i < windows.size(); ++i) {
+        EXPECT_TRUE(room.contains(windows[i]->geometry())) << i;
+        for (std::size_t j = 0; j < i; ++j)
+            EXPECT_FALSE(windows[i]->geometry().intersects(windows[j]->geometry()));
+    }
 }
 
 TEST_F(CMDIFrameWndTest, ListsRecentFilesInThePlaceholdersPlace) {

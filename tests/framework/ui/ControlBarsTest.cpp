@@ -144,6 +144,15 @@ TEST_F(ControlBarsTest, PlacementsEndOnAScreen) {
     placement.normal = {40, 50, 540, 450};
     mainFrame.SetWindowPlacement(placement);
     EXPECT_EQ(mainFrame.geometry(), QRect(40, 50, 500, 400));
+    const std::vector<std::byte> whole = mainFrame.GetWindowPlacement().ToBytes();
+    for (std::size_t bit = 0; bit < whole.size() * 8; ++bit) {
+        std::vector<std::byte> damaged = whole;
+        damaged[bit / 8] ^= std::byte{1} << bit % 8;
+        if (const auto read = WindowPlacement::FromBytes(damaged)) mainFrame.SetWindowPlacement(*read);
+        EXPECT_TRUE(screen.contains(mainFrame.geometry())) << "bit " << bit;
+        EXPECT_GE(mainFrame.width(), mainFrame.minimumSizeHint().width());
+    }
+    mainFrame.SetWindowPlacement(placement);
     mainFrame.showMaximized();
     const WindowPlacement maximized = mainFrame.GetWindowPlacement();
     EXPECT_EQ(maximized.showCommand, WindowPlacement::showMaximized);
