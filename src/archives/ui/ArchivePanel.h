@@ -2,6 +2,10 @@
 
 #include "archives/ui/ArchiveListView.h"
 
+#include <QStyle>
+
+#include <functional>
+
 class QLineEdit;
 class QToolButton;
 
