@@ -57,4 +57,5 @@ void MainFrame::ShowAsLeft() {
         QThread::msleep(1);
         QGuiApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     } while (!isMinimized() && !windowHandle()->isExposed() && !clock.hasExpired(paintPatience));
+    LiftFloatingBars();
 }

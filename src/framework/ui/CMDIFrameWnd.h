@@ -52,6 +52,8 @@ public:
     // status bar included. What cannot be read whole and unharmed changes nothing.
     void SaveBarState(const std::string& profileName) const;
     void LoadBarState(const std::string& profileName);
+    // Once this window is shown: keeps the bars that float, which were shown before it, above it.
+    void LiftFloatingBars();
 
     WindowPlacement GetWindowPlacement() const;
     // Moves the window to where it stands when it is neither minimised nor maximised, on a screen that there

@@ -73,6 +73,16 @@ void CMDIFrameWnd::LoadBarState(const std::string& profileName) {
     if (!state.isEmpty() && restoreState(state.mid(1))) statusBarWindow->setVisible(state.front() != '\0');
 }
 
+// Window managers look for the window that another one belongs to only when they meet that other one.
+void CMDIFrameWnd::LiftFloatingBars() {
+    for (CControlBar* bar : dockedBars) {
+        const auto* window = dynamic_cast<QWidget*>(bar);
+        if (!window || !window->isWindow() || !bar->IsVisible()) continue;
+        bar->Show(false);
+        bar->Show(true);
+    }
+}
+
 WindowPlacement CMDIFrameWnd::GetWindowPlacement() const {
     WindowPlacement placement;
     const QRect normal = isMaximized() || isMinimized() || isFullScreen() ? normalGeometry() : geometry();
