@@ -35,15 +35,6 @@ TEST(ColorListTest, RefusesIndicesOutsideAndSearchesInNothing) {
     EXPECT_THROW(list.CreateCache(0), std::invalid_argument);
 }
 
-TEST(ColorListTest, TheCacheComparesTheKeysOfASharedSlot) {
-    const ColorList list{0xFF000000, 0xFF0000FF};
-    const NearestColorCacheScope cacheScope(list);
-    for (int i = 0; i < 3; ++i) {
-        EXPECT_EQ(list.FindNearestIndex(0xFF000002), 0U);
-        EXPECT_EQ(list.FindNearestIndex(0xFF000002 + 1021), 1U);
-    }
-}
-
 TEST(ColorListTest, TheCacheChangesNoResult) {
     std::mt19937 random(3);
     const ColorList list = RandomList(40, random);
@@ -91,20 +82,4 @@ TEST(ColorConversionTest, DiffusionCarriesTheErrorAlongItsRowOnly) {
     EXPECT_EQ(picture.GetPixel(0, 0), white);
     EXPECT_EQ(picture.GetPixel(1, 0), black);
     EXPECT_EQ(picture.GetPixel(0, 1), white);
-}
-
-TEST(ColorConversionTest, DiffusionCarriesOvershootAndKeepsAlphaOutOfIt) {
-    // Red 150 becomes 100; 250 + 50 = 300 is sought as 255 and becomes 250; the 50 left over lift the last
-    // red of 0.
-    const ColorList list{0xFF640000, 0xFFFA0000, 0xFF320000, 0x00000000};
-    Image picture(4, 1);
-    picture.SetPixel(0, 0, 0xFF960000);
-    picture.SetPixel(1, 0, 0xFFFA0000);
-    picture.SetPixel(2, 0, 0xFF000000);
-    picture.SetPixel(3, 0, 0x00000000);
-    picture.ConvertByErrorDiffusion(list);
-    EXPECT_EQ(picture.GetPixel(0, 0), 0xFF640000U);
-    EXPECT_EQ(picture.GetPixel(1, 0), 0xFFFA0000U);
-    EXPECT_EQ(picture.GetPixel(2, 0), 0xFF320000U);
-    EXPECT_EQ(picture.GetPixel(3, 0), 0U);
 }

@@ -17,25 +17,6 @@ Image RandomPicture(int width, int height) {
 
 } // namespace
 
-TEST(DibSectionTest, RowsAreWholeWordsAndStreamsCountTheirTables) {
-    struct Row {
-        int bitCount;
-        std::size_t strides[5];
-        std::uint64_t tableBytes;
-    };
-    for (const Row& row :
-         {Row{1, {4, 4, 4, 4, 4}, 8}, Row{4, {4, 4, 4, 4, 4}, 64}, Row{8, {4, 4, 4, 4, 8}, 1024},
-          Row{16, {4, 4, 8, 8, 12}, 0}, Row{24, {4, 8, 12, 12, 16}, 0}, Row{32, {4, 8, 12, 16, 20}, 0}}) {
-        for (int width = 1; width <= 5; ++width) {
-            const DibSection bitmap(width, 3, row.bitCount);
-            const std::size_t stride = row.strides[width - 1];
-            EXPECT_EQ(bitmap.GetStride(), stride) << row.bitCount << " bits, " << width;
-            EXPECT_EQ(bitmap.GetStreamSize(false), 40 + row.tableBytes + 3 * stride);
-            EXPECT_EQ(bitmap.GetStreamSize(true), 54 + row.tableBytes + 3 * stride);
-        }
-    }
-}
-
 TEST(DibSectionTest, RefusesWhatItCannotHoldAndStaysAsItWas) {
     DibSection bitmap(2, 2, 32);
     bitmap.SetPixel(1, 1, 0xFF123456);
@@ -69,42 +50,6 @@ TEST(DibSectionTest, EveryDepthKeepsEachPixelApart) {
             EXPECT_TRUE(std::ranges::equal(back.Pixels(), picture.Pixels())) << bitCount << " bits";
         }
     }
-}
-
-TEST(DibSectionTest, StoresIndicesHighBitsFirstAndFiveBitChannels) {
-    DibSection bits(9, 1, 1);
-    bits.SetPixel(0, 0, 0xFFFFFFFF);
-    bits.SetPixel(8, 0, 0xFFFFFFFF);
-    EXPECT_EQ(bits.GetBits()[0], 0x80);
-    EXPECT_EQ(bits.GetBits()[1], 0x80);
-    DibSection nibbles(2, 1, 4);
-    nibbles.SetPixel(1, 0, 0xFF222222);
-    EXPECT_EQ(nibbles.GetBits()[0], 0x02);
-    DibSection words(1, 1, 16);
-    words.SetPixel(0, 0, 0xFFFF8408);
-    EXPECT_EQ(words.GetBits()[1] << 8 | words.GetBits()[0], 31 << 10 | 16 << 5 | 1);
-    EXPECT_EQ(words.GetPixel(0, 0), 0xFFFF8408U);
-}
-
-TEST(DibSectionTest, ColorTablesAreAsLongAsTheHeaderSaysWithinReach) {
-    DibHeader header;
-    header.width = header.height = 2;
-    header.bitCount = 4;
-    header.colorsUsed = 3;
-    DibSection bitmap;
-    bitmap.Create(header, {});
-    const std::vector<Color> colors{0x00112233, 0xFF445566, 0, 1};
-    bitmap.SetColorTable(1, colors);
-    std::vector<Color> table(256);
-    EXPECT_EQ(bitmap.GetColorTable(0, table), 3U);
-    EXPECT_EQ(table[1], 0xFF112233U);
-    EXPECT_EQ(bitmap.GetColorTable(3, table), 0U);
-    bitmap.GetBits()[0] = 0x2F;
-    EXPECT_EQ(bitmap.GetPixel(0, 1), 0xFF445566U);
-    EXPECT_EQ(bitmap.GetPixel(1, 1), 0xFF000000U);
-    header.colorsUsed = 0xFFFFFFFF;
-    bitmap.Create(header, {});
-    EXPECT_EQ(bitmap.GetColorTable(0, table), 16U);
 }
 
 TEST(DibSectionTest, BitFieldsPlaceTheChannels) {

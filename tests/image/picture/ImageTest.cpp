@@ -97,16 +97,6 @@ TEST(ImageTest, HalvesOddSizesAlongTheirEdges) {
     EXPECT_EQ(half.GetHeight(), 4);
 }
 
-TEST(HalfSizeTest, AveragesAreTheFloorOfEveryChannel) {
-    EXPECT_EQ(Average2(0xFF000001, 0xFF000002), 0xFF000001U);
-    std::mt19937 random(1);
-    for (int i = 0; i < 20000; ++i) {
-        const std::vector<Color> four = RandomRow(4, random);
-        ASSERT_EQ(Average2(four[0], four[1]), Mean({four[0], four[1]}));
-        ASSERT_EQ(Average4(four[0], four[1], four[2], four[3]), Mean({four[0], four[1], four[2], four[3]}));
-    }
-}
-
 TEST(HalfSizeTest, VectorsGiveWhatSinglePixelsGive) {
     std::mt19937 random(2);
     for (std::size_t width = 0; width < 100; ++width) {

@@ -67,17 +67,6 @@ TEST(ChannelTableTest, EveryMethodMapsAsSingleLookupsDo) {
     }
 }
 
-TEST(ChannelTableTest, EveryMethodMapsEveryValueOfEveryChannelInPlace) {
-    const Table words = MakeTable(0xFFFFFFFF);
-    for (const ChannelTableMethod method : AvailableChannelTableMethods()) {
-        std::vector<Color> pixels;
-        for (std::uint32_t i = 0; i < 256; ++i) pixels.push_back(Compose(i, 255 - i, i ^ 0x5A, i ^ 0xA5));
-        const std::vector<Color> expected = Expected(ChannelTableTransform{words.data()}, pixels);
-        ChannelTable(words.data(), method).Apply(pixels, pixels);
-        EXPECT_EQ(pixels, expected);
-    }
-}
-
 TEST(ChannelTableTest, OneCallMapsShortAndLongRowsAlike) {
     const Table words = MakeTable(0xFFFFFFFF);
     for (const std::size_t length : {1U, 255U, 256U, 1000U}) {

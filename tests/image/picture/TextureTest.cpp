@@ -17,15 +17,3 @@ TEST(TextureTest, CopiesAreDeep) {
     EXPECT_EQ(copy.quakeName, "wall");
     EXPECT_EQ(copy.quake2, original.quake2);
 }
-
-TEST(TextureTest, AssigningOneWithoutPaletteLeavesNone) {
-    Texture target;
-    target.SetPalette(ColorList{1});
-    target = Texture(3, 1);
-    EXPECT_EQ(target.palette, nullptr);
-    const Texture plain;
-    target.SetPalette(ColorList{1});
-    target = plain;
-    EXPECT_EQ(target.palette, nullptr);
-    EXPECT_EQ(target.GetWidth(), 1);
-}
