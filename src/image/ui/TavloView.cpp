@@ -58,8 +58,7 @@ void TavloView::paintEvent(QPaintEvent* event) {
     if (surface.size() != DeviceSize(*this)) surface = QImage(DeviceSize(*this), QImage::Format_RGB32);
     const Image& picture = converted.Get(shown->GetTexture(), GetConversion(), shown->GetPaletteColors());
     const std::uint32_t* gamma = Shell::Get().GetGammaTable();
-    std::array<std::uint32_t, 256> halved;
-    if (halfFilter) halved = HalveBrightness(gamma);
+    const std::array<std::uint32_t, 256> halved = HalveBrightness(gamma);
     const QRegion& region = event->region();
     const QRegion areas = region.rectCount() > int{mostTexelRects} ? QRegion(region.boundingRect()) : region;
     for (const QRect& area : areas)
