@@ -8,6 +8,7 @@
 #include "image/ui/TavloViewFrame.h"
 #include "support/TestApplication.h"
 
+#include <QCoreApplication>
 #include <QTemporaryDir>
 
 // The program with a 64 x 32 texture in one window.
