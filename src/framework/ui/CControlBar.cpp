@@ -2,6 +2,8 @@
 
 #include "framework/core/Text.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QWidget>
 
 // The toolkit keeps the state of a bar under its object name.
@@ -19,4 +21,10 @@ bool CControlBar::IsVisible() const {
 
 void CControlBar::Show(bool visible) {
     window.setVisible(visible);
+}
+
+// The toolkit ends the way of such an event at the first window of its own.
+bool CControlBar::ForwardPrompt(QEvent& event) {
+    return event.type() == QEvent::StatusTip && window.isWindow() && window.parentWidget() &&
+           QCoreApplication::sendEvent(window.parentWidget(), &event);
 }

@@ -6,6 +6,7 @@
 
 #include <string>
 
+class QEvent;
 class QWidget;
 
 // A bar at the edge of the main window, which people move, hide and find again where they left it.
@@ -23,6 +24,8 @@ public:
 protected:
     // `barWindow` is the bar itself, as the toolkit sees it.
     CControlBar(unsigned barId, QWidget& barWindow);
+    // Hands a prompt on to the main window, also from a bar that floats; false for other events.
+    bool ForwardPrompt(QEvent& event);
 
 private:
     unsigned id;

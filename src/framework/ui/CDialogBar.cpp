@@ -6,3 +6,7 @@ CDialogBar::CDialogBar(unsigned barId, const std::string& title, QWidget* parent
     : QDockWidget(ToQString(title), parent), Dynamic(barId, *this) {
     setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
 }
+
+bool CDialogBar::event(QEvent* event) {
+    return ForwardPrompt(*event) || QDockWidget::event(event);
+}

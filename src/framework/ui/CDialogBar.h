@@ -9,4 +9,7 @@
 class CDialogBar : public QDockWidget, public Dynamic<"CDialogBar", CDialogBar, CControlBar> {
 public:
     CDialogBar(unsigned barId, const std::string& title, QWidget* parent);
+
+protected:
+    bool event(QEvent* event) override;
 };

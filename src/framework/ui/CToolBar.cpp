@@ -59,3 +59,7 @@ void CToolBar::OnUpdateCmdUI() {
         if (!state.checked) button->setCheckable(false);
     }
 }
+
+bool CToolBar::event(QEvent* event) {
+    return ForwardPrompt(*event) || QToolBar::event(event);
+}

@@ -14,6 +14,9 @@ public:
     void LoadToolBar(std::span<const ToolBarRow> rows, CCmdTarget& commandTarget);
     void OnUpdateCmdUI() override;
 
+protected:
+    bool event(QEvent* event) override;
+
 private:
     void AddButton(const ToolBarRow& row);
 

@@ -1,5 +1,6 @@
 #include "framework/core/StandardIds.h"
 #include "framework/ui/CDialogBar.h"
+#include "framework/ui/CStatusBar.h"
 #include "framework/ui/CToolBar.h"
 #include "framework/ui/Commands.h"
 #include "framework/ui/WindowFixture.h"
@@ -8,6 +9,7 @@
 #include <QImage>
 #include <QLabel>
 #include <QStatusBar>
+#include <QStatusTipEvent>
 #include <QTest>
 #include <QToolButton>
 
@@ -62,6 +64,13 @@ TEST_F(ControlBarsTest, ButtonsSendTheirCommandsAndShowHowTheyStand) {
     EXPECT_THAT(Log(), ElementsAre("main", "document"));
     EXPECT_EQ(Button(0).toolTip(), "Main tip");
     EXPECT_EQ(Button(0).statusTip(), "Main prompt");
+}
+
+TEST_F(ControlBarsTest, PromptsReachTheStatusBarFromFloatingBars) {
+    panel.setFloating(true);
+    QStatusTipEvent tip("panel prompt");
+    QCoreApplication::sendEvent(panel.widget(), &tip);
+    EXPECT_EQ(mainFrame.GetStatusBar().GetShownText(0), "panel prompt");
 }
 
 TEST_F(ControlBarsTest, IconsFillTheirSquareAtEveryScaleAndFadeWhenDisabled) {
