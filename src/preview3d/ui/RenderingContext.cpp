@@ -14,12 +14,10 @@ namespace {
 // A display that draws without a screen; where the system knows none, that of the screen. It stays open until
 // the program ends: contexts come and go.
 EGLDisplay OpenDisplay() {
-    const std::array displays{eglGetPlatformDisplay(EGL_PLATFORM_SURFACELESS_MESA, nullptr, nullptr),
-                              eglGetPlatformDisplay(EGL_PLATFORM_DEVICE_EXT, nullptr, nullptr),
-                              eglGetDisplay(EGL_DEFAULT_DISPLAY)};
-    for (const EGLDisplay display : displays)
-        if (display && eglInitialize(display, nullptr, nullptr)) return display;
-    return EGL_NO_DISPLAY;
+    EGLDisplay display = eglGetPlatformDisplay(EGL_PLATFORM_SURFACELESS_MESA, nullptr, nullptr);
+    if (display && eglInitialize(display, nullptr, nullptr)) return display;
+    display = eglGetDisplay(EGL_DEFAULT_DISPLAY);
+    return display && eglInitialize(display, nullptr, nullptr) ? display : EGL_NO_DISPLAY;
 }
 
 EGLDisplay GetDisplay() {

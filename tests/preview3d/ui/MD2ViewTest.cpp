@@ -13,6 +13,7 @@
 
 #include <QKeyEvent>
 
+#include <GL/gl.h>
 #include <cmath>
 #include <gtest/gtest.h>
 
@@ -152,6 +153,10 @@ TEST_F(MD2ViewTest, DrawsTheModelWithThePicture) {
     view.window()->resize(700, 900);
     QCoreApplication::processEvents();
     scene.Project(view.size(), ColorOfSmallTexture).ExpectSeenIn(PictureOf(view));
+    auto& control = dynamic_cast<OpenGLCtrl&>(*view.childAt(view.rect().center()));
+    control.MakeCurrent();
+    EXPECT_EQ(glGetError(), GLenum{GL_NO_ERROR});
+    control.ReleaseCurrent();
 }
 
 // The picture is brought to 256 x 256 without moving a texel; its edge runs on to the right and below.

@@ -25,8 +25,8 @@ public:
     // Four corners, counter-clockwise from outside.
     void AddQuad(const std::array<Corner, 4>& quad);
 
-    // The picture must be the same within `tolerance` of each colour channel. Pixels in which the colour of
-    // the projection changes within a small part of a pixel may be anything, but there must not be many.
+    // The picture must be the same within `tolerance` of each colour channel. Few pixels may differ, where
+    // the colour of the projection changes within a small part of a pixel.
     void ExpectSeenIn(const QImage& picture, int tolerance = 0) const;
 
 private:
@@ -39,6 +39,7 @@ private:
 
     ScreenCorner Project(const Corner& corner) const;
     QRgb ColorAt(double x, double y) const;
+    bool IsPlainAt(double x, double y, int tolerance) const;
 
     Vector eye, right, up, forward;
     QSize size;
