@@ -106,6 +106,7 @@ protected:
     void Type(const QString& name) {
         auto* edit = dialog->findChild<QLineEdit*>("fileNameEdit");
         ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
+        edit->setCompleter(nullptr); // its list takes the focus on the offscreen platform
         edit->setFocus();
         edit->selectAll();
         QTest::keyClicks(edit, name);
