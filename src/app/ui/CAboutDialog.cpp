@@ -14,7 +14,9 @@
 
 namespace {
 
-constexpr int linesOfInformation = 5;
+// Room for long lines, which are broken.
+constexpr int charactersOfInformation = 48;
+constexpr int linesOfInformation = 8;
 
 QString VersionLine() {
     return QStringLiteral("Version ") + QCoreApplication::applicationVersion();
@@ -39,10 +41,10 @@ QLabel* MakePicture() {
 QPlainTextEdit* MakeInformation(const QString& text) {
     auto* area = new QPlainTextEdit(text);
     area->setReadOnly(true);
+    area->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     area->setTabChangesFocus(true);
-    area->setLineWrapMode(QPlainTextEdit::NoWrap);
-    area->setMinimumSize(area->fontMetrics().horizontalAdvance(u'0') * 48,
-                         area->fontMetrics().lineSpacing() * (linesOfInformation + 1));
+    area->setMinimumWidth(area->fontMetrics().horizontalAdvance(u'0') * charactersOfInformation);
+    area->setFixedHeight(area->fontMetrics().lineSpacing() * linesOfInformation);
     return area;
 }
 

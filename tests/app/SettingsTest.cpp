@@ -1,0 +1,83 @@
+#include "app/Settings.h"
+
+#include "framework/core/ProfileStore.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class SettingsTest : public testing::Test {
+protected:
+    static ProfileStore::Bytes Numbers(std::initializer_list<std::uint32_t> numbers) {
+        ProfileStore::Bytes bytes;
+        for (std::uint32_t number : numbers)
+            for (int shift : {0, 8, 16, 24}) bytes.push_back(static_cast<std::byte>(number >> shift));
+        return bytes;
+    }
+
+    QTemporaryDir folder;
+    ProfileStore store{folder.filePath("settings.ini").toStdString()};
+};
+
+TEST_F(SettingsTest, ClearsWhatAnotherVersionLeft) {
+    const ProfileStore::Bytes versions[] = {Numbers({1}), Numbers({2, 0}), {}, Numbers({0x102})};
+    for (const ProfileStore::Bytes& version : versions) {
+        store.WriteBinary("Application", "RegistryVersion", version);
+        store.WriteBinary("Recent File List", "File1", {std::byte{'x'}});
+        CheckSettingsVersion(store);
+        EXPECT_FALSE(store.ReadBinary("Recent File List", "File1"));
+        EXPECT_EQ(store.ReadBinary("Application", "RegistryVersion"), Numbers({2}));
+    }
+    store.WriteBinary("Main", "Gamma", {});
+    CheckSettingsVersion(store);
+    EXPECT_TRUE(store.ReadBinary("Main", "Gamma")) << "settings of this version stay";
+}
+
+TEST_F(SettingsTest, KeepsGammaInTenThousandths) {
+    WriteGamma(store, {1.5, 0.33333, 5.0});
+    EXPECT_EQ(store.ReadBinary("Main", "Gamma"), Numbers({15000, 3333, 50000}));
+    EXPECT_EQ(ReadGamma(store), (GammaValues{1.5, 0.3333, 5.0}));
+    for (const ProfileStore::Bytes& bad :
+         {Numbers({1, 2}), Numbers({1, 2, 3, 4}), Numbers({1, 2, 50001}), Numbers({0xFFFFFFFF, 1, 1})}) {
+        store.WriteBinary("Main", "Gamma", bad);
+        EXPECT_FALSE(ReadGamma(store));
+    }
+}
+
+TEST_F(SettingsTest, EverySliderPositionSurvivesStoring) {
+    for (int position = 0; position <= gammaPositions; ++position) {
+        const double gamma = GammaAtPosition(position);
+        WriteGamma(store, {gamma, gamma, gamma});
+        EXPECT_EQ(PositionOfGamma(ReadGamma(store)->green), position);
+        EXPECT_EQ(GammaAtPosition(PositionOfGamma(ReadGamma(store)->blue)), ReadGamma(store)->blue);
+    }
+    EXPECT_EQ(PositionOfGamma(1.23), 25);
+}
+
+TEST_F(SettingsTest, KeepsCustomColorsTwice) {
+    CustomColors colors{};
+    colors[0] = 0x00030201;
+    WriteCustomColors(store, applicationSection, colors);
+    EXPECT_EQ(store.ReadBinary("Application", "CustomColors")->size(), 64U);
+    EXPECT_EQ(store.ReadBinary("Application", "CustomColors")->at(2), std::byte{3});
+    EXPECT_FALSE(ReadCustomColors(store, mainSection));
+    EXPECT_EQ(ReadCustomColors(store, applicationSection), colors);
+}
+
+TEST(GammaSettingsTest, MapsChannelsThroughGamma) {
+    EXPECT_EQ(GammaChannel(64, 2), 128);
+    EXPECT_EQ(GammaChannel(128, 2), 181);
+    for (int value = 0; value < 256; ++value) {
+        EXPECT_EQ(GammaChannel(value, 1), value);
+        EXPECT_EQ(GammaChannel(value, 0), 0);
+    }
+    GammaSettings settings;
+    settings.SetValues({5, 1, 0});
+    EXPECT_EQ(settings.GetTable()[255], 0xFFFFFF00U);
+    EXPECT_EQ(settings.GetTable()[7] >> 24, 7U);
+    EXPECT_EQ(ApplyGamma({1, 1, 0}, 0x80102030), 0x80102000U);
+}
+
+} // namespace

@@ -1,0 +1,163 @@
+#include "app/Settings.h"
+#include "app/ui/CAboutDialog.h"
+#include "app/ui/CGammaSettingsDialog.h"
+#include "app/ui/CGammaSettingsDialogButton.h"
+#include "app/ui/COptionsSheet.h"
+#include "app/ui/MainFrame.h"
+#include "framework/ui/CStaticLink.h"
+#include "framework/ui/ColorPrompt.h"
+#include "framework/ui/Commands.h"
+#include "image/ui/TavloViewFixture.h"
+#include "res/CommandIds.h"
+#include "res/ControlIds.h"
+#include "support/ui/DialogAnswer.h"
+
+#include <QCheckBox>
+#include <QDesktopServices>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSlider>
+#include <QTabWidget>
+#include <QTest>
+#include <QTextBrowser>
+
+namespace {
+
+class OptionsTest : public TavloViewFixture {
+protected:
+    // Runs the options and presses the button at last.
+    void RunOptions(QDialogButtonBox::StandardButton button, const std::function<void(QDialog&)>& whatToDo) {
+        const DialogAnswer answer([&](QDialog& sheet) {
+            sheet.findChild<QTabWidget*>()->setCurrentIndex(1);
+            whatToDo(sheet);
+            sheet.findChild<QDialogButtonBox*>()->button(button)->click();
+        });
+        EXPECT_TRUE(SendCommand(*program.GetMainFrame(), ID_TOOLS_OPTIONS));
+    }
+    static void RunGamma(QDialog& sheet, const std::function<void(CGammaSettingsDialog&)>& whatToDo) {
+        const DialogAnswer answer(
+            [&](QDialog& dialog) { whatToDo(dynamic_cast<CGammaSettingsDialog&>(dialog)); });
+        for (auto* button : sheet.findChildren<QPushButton*>())
+            if (button->text() == "&Gamma Settings...") QTest::keyClick(button, Qt::Key_Space);
+    }
+    static bool IsApplyEnabled(QDialog& sheet) {
+        return sheet.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Apply)->isEnabled();
+    }
+    GammaSettings& Gamma() { return program.GetMainFrame()->GetGamma(); }
+};
+
+// Stands in for the browser that the system would start.
+class Browser : public QTextBrowser {
+protected:
+    QVariant loadResource(int, const QUrl&) override { return "page"; }
+};
+
+QSlider& Slider(CGammaSettingsDialog& dialog, unsigned id) {
+    return dynamic_cast<QSlider&>(dialog.GetDlgItem(id));
+}
+
+} // namespace
+
+TEST_F(OptionsTest, GammaIsChosenWithLinkedSlidersAndShownAtOnce) {
+    RunOptions(QDialogButtonBox::Ok, [](QDialog& sheet) {
+        EXPECT_FALSE(IsApplyEnabled(sheet));
+        RunGamma(sheet, [](CGammaSettingsDialog& dialog) {
+            EXPECT_EQ(Slider(dialog, IDC_SLIDER_GREEN).value(), 20);
+            for (int i = 0; i < 10; ++i) QTest::keyClick(&Slider(dialog, IDC_SLIDER_RED), Qt::Key_Right);
+            EXPECT_EQ(Slider(dialog, IDC_SLIDER_BLUE).value(), 40);
+            EXPECT_EQ(dynamic_cast<QLabel&>(dialog.GetDlgItem(IDC_GAMMA_VALUE)).text(), "2.00");
+            const QImage sample = dialog.GetDlgItem(IDC_SAMPLE_RGB).grab().toImage();
+            EXPECT_EQ(sample.pixel(40, 5), 0xFFB5B5B5U) << "128 at gamma 2 is 181";
+            EXPECT_EQ(sample.pixel(1, 0), 0xFFFFFFFFU);
+            EXPECT_EQ(sample.pixel(0, 0), 0xFF000000U);
+            EXPECT_EQ(sample.size(), QSize(96, 32));
+            dialog.accept();
+        });
+        EXPECT_TRUE(IsApplyEnabled(sheet));
+    });
+    EXPECT_EQ(Gamma().GetValues(), (GammaValues{2, 2, 2}));
+    EXPECT_EQ(ColorShownAt(5, 5), ApplyGamma({2, 2, 2}, document->GetTexture().GetPixel(5, 5)));
+}
+
+TEST_F(OptionsTest, UnlinkedSlidersDifferAndApplyKeepsTheSheet) {
+    RunOptions(QDialogButtonBox::Cancel, [&](QDialog& sheet) {
+        RunGamma(sheet, [](CGammaSettingsDialog& dialog) {
+            dynamic_cast<QCheckBox&>(dialog.GetDlgItem(IDC_LINK_CONTROLS)).click();
+            QTest::keyClick(&Slider(dialog, IDC_SLIDER_RED), Qt::Key_End);
+            QTest::keyClick(&Slider(dialog, IDC_SLIDER_BLUE), Qt::Key_PageUp);
+            dialog.accept();
+        });
+        sheet.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Apply)->click();
+        EXPECT_TRUE(sheet.isVisible());
+        EXPECT_FALSE(IsApplyEnabled(sheet));
+        EXPECT_EQ(Gamma().GetValues(), (GammaValues{5, 1, 2}));
+    });
+    EXPECT_EQ(Gamma().GetValues(), (GammaValues{5, 1, 2}));
+}
+
+TEST_F(OptionsTest, OnlyADifferenceMarksThePage) {
+    RunOptions(QDialogButtonBox::Ok, [](QDialog& sheet) {
+        RunGamma(sheet, [](CGammaSettingsDialog& dialog) {
+            Slider(dialog, IDC_SLIDER_RED).setValue(77);
+            dialog.reject();
+        });
+        RunGamma(sheet, [](CGammaSettingsDialog& dialog) { dialog.accept(); });
+        EXPECT_FALSE(IsApplyEnabled(sheet));
+    });
+    EXPECT_EQ(Gamma().GetValues(), GammaValues());
+    Gamma().SetValues({1.23, 1, 1});
+    RunOptions(QDialogButtonBox::Ok, [](QDialog& sheet) {
+        RunGamma(sheet, [](CGammaSettingsDialog& dialog) { dialog.accept(); });
+        EXPECT_TRUE(IsApplyEnabled(sheet)) << "values between the positions come back rounded";
+    });
+    EXPECT_EQ(Gamma().GetValues(), (GammaValues{1.25, 1, 1}));
+}
+
+// Those of the main window are read last.
+TEST(CustomColorsTest, OutliveTheProgram) {
+    QTemporaryDir folder;
+    const std::string path = folder.filePath("settings.ini").toStdString();
+    ProfileStore store(path);
+    CheckSettingsVersion(store);
+    CustomColors older{}, newer{};
+    newer[15] = 0x00332211;
+    WriteCustomColors(store, applicationSection, older);
+    WriteCustomColors(store, mainSection, newer);
+    const DialogAnswer cancel([](QDialog& dialog) { dialog.reject(); });
+    CKelTavloApp program(std::make_unique<ProfileStore>(path));
+    program.InitInstance({});
+    EXPECT_EQ(GetCustomColors(), newer);
+}
+
+TEST(AboutTest, SaysWhatRunsAndOpensItsLinks) {
+    CAboutDialog dialog(nullptr, "/home/me/settings.ini");
+    const auto& information = dynamic_cast<QPlainTextEdit&>(dialog.GetDlgItem(IDC_INFORMATION));
+    EXPECT_TRUE(information.toPlainText().contains("settings.ini"));
+    EXPECT_TRUE(information.toPlainText().contains(qVersion()));
+    EXPECT_TRUE(information.textInteractionFlags() & Qt::TextSelectableByKeyboard);
+    EXPECT_EQ(dynamic_cast<CStaticLink&>(dialog.GetDlgItem(IDC_WEBSITE)).GetLink(),
+              "http://www.example.org/keltavlo");
+    EXPECT_EQ(dynamic_cast<CStaticLink&>(dialog.GetDlgItem(IDC_EMAIL)).GetLink(),
+              "mailto:keltavlo@example.org");
+}
+
+TEST(CStaticLinkTest, OpensItsAddressOnClicksAndKeys) {
+    Browser browser;
+    QDesktopServices::setUrlHandler("test", &browser, "setSource");
+    CStaticLink link("text", "test:first");
+    EXPECT_TRUE(link.font().underline());
+    QTest::mouseClick(&link, Qt::RightButton);
+    EXPECT_TRUE(browser.source().isEmpty());
+    QTest::mouseClick(&link, Qt::LeftButton);
+    EXPECT_EQ(browser.source(), QUrl("test:first"));
+    CStaticLink named("second");
+    named.AddPrefix("test:");
+    QTest::keyClick(&named, Qt::Key_Return);
+    EXPECT_EQ(browser.source(), QUrl("test:second"));
+    CStaticLink untitled("");
+    untitled.AddPrefix("http://");
+    EXPECT_EQ(untitled.GetLink(), "http://");
+    QDesktopServices::unsetUrlHandler("test");
+}
