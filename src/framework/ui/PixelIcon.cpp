@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QIconEngine>
+#include <QImage>
 #include <QPainter>
 #include <QPalette>
 
@@ -57,21 +58,25 @@ public:
         return picture;
     }
     void paint(QPainter* painter, const QRect& area, QIcon::Mode mode, QIcon::State) override {
+        const QSize letters(WidestOf(art), static_cast<int>(art.size()));
+        const QSize whole = letters.scaled(area.size(), Qt::KeepAspectRatio);
+        const int scale = (whole.width() + letters.width() - 1) / letters.width();
+        QRect target({}, whole);
+        target.moveCenter(area.center());
         if (mode == QIcon::Disabled) painter->setOpacity(painter->opacity() * disabledOpacity);
-        const int height = static_cast<int>(art.size());
-        const int scale = std::max(1, std::min(area.width() / WidestOf(art), area.height() / height));
-        const QPoint corner(area.x() + (area.width() - WidestOf(art) * scale) / 2,
-                            area.y() + (area.height() - height * scale) / 2);
-        for (int y = 0; y < height; ++y)
-            PaintRow(*painter, art[static_cast<std::size_t>(y)], corner, y, scale);
+        painter->setRenderHint(QPainter::SmoothPixmapTransform, scale * letters.width() != whole.width());
+        painter->drawImage(target, Draw(letters, scale));
     }
 
 private:
-    static void PaintRow(QPainter& painter, std::string_view row, QPoint corner, int y, int scale) {
+    QImage Draw(const QSize& letters, int scale) const {
         const QPalette palette = QGuiApplication::palette();
-        for (int x = 0; x < static_cast<int>(row.size()); ++x)
-            painter.fillRect(QRect(corner + QPoint(x, y) * scale, QSize(scale, scale)),
-                             InkOf(row[static_cast<std::size_t>(x)], palette));
+        QImage picture(letters, QImage::Format_ARGB32_Premultiplied);
+        picture.fill(Qt::transparent);
+        for (std::size_t y = 0; y < art.size(); ++y)
+            for (std::size_t x = 0; x < art[y].size(); ++x)
+                picture.setPixelColor(static_cast<int>(x), static_cast<int>(y), InkOf(art[y][x], palette));
+        return picture.scaled(letters * scale);
     }
 
     PixelArt art;

@@ -106,7 +106,10 @@ void PaletteBar::ChooserSelected() {
     const std::uintptr_t value = chooser->GetSelectedValue();
     if (value < firstAddress) return SetMode(static_cast<PalettePlanes::Mode>(value));
     const ColorList* list = PaletteChooser::FindList(value);
-    if (!list) return FillChooser();
+    if (!list) {
+        FillChooser();
+        return chooser->setCurrentIndex(planes.GetMode());
+    }
     planes.SetColors(*list);
     SetMode(PalettePlanes::colorTable);
 }

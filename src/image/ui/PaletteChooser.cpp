@@ -32,7 +32,8 @@ std::string InParentheses(unsigned stringId) {
     return FormatString(IDS_PARENTHESES, LoadString(stringId).c_str());
 }
 
-constexpr int modeCount = 3; // PalettePlanes::Mode
+constexpr int modeCount = 3; // of PalettePlanes::Mode, each at its own index
+constexpr int colorTableIndex = 1;
 
 } // namespace
 
@@ -45,10 +46,11 @@ PaletteChooser::PaletteChooser(QWidget* parent) : QComboBox(parent) {
     setMinimumContentsLength(10);
 }
 
+// The item that was chosen stays so, wherever it stands now; when it is gone the bar keeps its colours.
 void PaletteChooser::FillChooser() {
+    const QVariant chosen = currentData();
     const std::vector<Entry> entries = CollectLists();
     const int wanted = modeCount + static_cast<int>(entries.size());
-    if (currentIndex() >= wanted) setCurrentIndex(1); // the bar keeps the colours that it shows
     while (count() > wanted) removeItem(count() - 1);
     while (count() < wanted) addItem({});
     for (int i = modeCount; i < wanted; ++i) {
@@ -56,6 +58,8 @@ void PaletteChooser::FillChooser() {
         setItemText(i, ToQString(entry.title));
         setItemData(i, QVariant::fromValue<qulonglong>(reinterpret_cast<std::uintptr_t>(entry.colors)));
     }
+    const int place = findData(chosen);
+    setCurrentIndex(place >= 0 ? place : colorTableIndex);
 }
 
 std::uintptr_t PaletteChooser::GetSelectedValue() const {

@@ -100,10 +100,16 @@ TEST_F(PaletteBarTest, ListsWhatIsOpenWhenItIsShownAndDropsDown) {
     chooser->hidePopup();
     EXPECT_EQ(chooser->count(), 5);
     EXPECT_EQ(chooser->itemText(4).toStdString(), second->GetTitle());
+    Choose(4);
+    program.GetDocuments().at(program.GetDocuments().size() - 2)->OnCloseDocument();
+    chooser->FillChooser();
+    EXPECT_EQ(chooser->currentText().toStdString(), second->GetTitle());
+    OpenTable("c.kelcolors", 7);
     second->OnCloseDocument();
     bar->hide();
     bar->show();
     EXPECT_EQ(chooser->count(), 4);
+    EXPECT_EQ(chooser->currentIndex(), PalettePlanes::colorTable);
 }
 
 TEST_F(PaletteBarTest, KeepsACopyOfTheTableThatItShows) {
@@ -133,6 +139,7 @@ TEST_F(PaletteBarTest, LeavesTheListsOfClosedDocumentsAlone) {
     QTest::keyClick(chooser, Qt::Key_End);
     EXPECT_EQ(palette->GetPlanes().GetMode(), PalettePlanes::none);
     EXPECT_EQ(chooser->count(), 3);
+    EXPECT_EQ(chooser->currentIndex(), PalettePlanes::none);
 }
 
 } // namespace
