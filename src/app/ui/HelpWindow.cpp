@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScreen>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QStyle>
@@ -54,7 +55,9 @@ HelpWindow::HelpWindow() : topics(new QListWidget), browser(new QTextBrowser) {
     connect(topics, &QListWidget::currentRowChanged,
             [this](int row) { browser->setSource(UrlOf(QString::fromLatin1(pages[row]))); });
     const int character = fontMetrics().averageCharWidth();
-    resize(130 * character, 46 * fontMetrics().height());
+    const QSize wanted(130 * character, 46 * fontMetrics().height());
+    constexpr double shareOfScreen = 0.9;
+    resize(wanted.boundedTo(screen()->availableSize() * shareOfScreen));
     panes->setSizes({topics->sizeHintForColumn(0) + 3 * character, width()});
 }
 

@@ -12,6 +12,7 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include <ctime>
@@ -77,7 +78,9 @@ void ArchiveFileDialog::AddPanels() {
     grid.addWidget(preview, 0, beside, below, 1);
     grid.addWidget(MakeHelp(this), below, beside);
     grid.setRowStretch(below, 1);
-    resize(FromDialogUnits(*this, {460, 340}).expandedTo(sizeHint()));
+    constexpr double shareOfScreen = 0.9;
+    const QSize most = screen()->availableSize() * shareOfScreen;
+    resize(FromDialogUnits(*this, {460, 340}).expandedTo(sizeHint()).boundedTo(most));
 }
 
 void ArchiveFileDialog::SetUpPreview() {
