@@ -19,7 +19,9 @@ public:
     void Add(const Image& picture) {
         Add(static_cast<std::size_t>(picture.GetWidth()));
         Add(static_cast<std::size_t>(picture.GetHeight()));
-        for (const Color color : picture.Pixels()) Add(color);
+        const std::span<const Color> pixels = picture.Pixels();
+        Add(std::hash<std::string_view>()({reinterpret_cast<const char*>(pixels.data()),
+                                           pixels.size_bytes()})); // for there may be millions
     }
     void Add(const Texture& texture) {
         Add(static_cast<const Image&>(texture));
