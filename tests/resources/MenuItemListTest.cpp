@@ -9,46 +9,38 @@
 #include <gmock/gmock.h>
 
 using testing::ElementsAre;
+using testing::Pair;
 
 namespace {
 
 constexpr CommandId placeholder = 7, first = 100, limit = 110;
 
-// A menu of one popup.
+// A menu of one popup: ids and texts.
 struct FakeMenu : MenuItems {
-    struct Item {
-        CommandId id;
-        std::string text, prompt;
-    };
+    using Item = std::pair<CommandId, std::string>;
 
+    auto Find(CommandId id) { return std::ranges::find(items, id, &Item::first); }
     bool HasItem(CommandId id) const override {
-        return std::ranges::find(items, id, &Item::id) != items.end();
+        return std::ranges::find(items, id, &Item::first) != items.end();
     }
     void ModifyItem(CommandId id, CommandId newId, const std::string& text) override {
-        if (HasItem(id)) *std::ranges::find(items, id, &Item::id) = {newId, text, {}};
+        if (HasItem(id)) *Find(id) = {newId, text};
     }
     void InsertItem(CommandId before, CommandId id, const std::string& text) override {
-        if (HasItem(before)) items.insert(std::ranges::find(items, before, &Item::id), {id, text, {}});
+        if (HasItem(before)) items.insert(Find(before), {id, text});
     }
     void RemoveItem(CommandId id) override {
-        if (HasItem(id)) items.erase(std::ranges::find(items, id, &Item::id));
+        if (HasItem(id)) items.erase(Find(id));
     }
-    void SetItemPrompt(CommandId id, const std::string& prompt) override {
-        if (HasItem(id)) std::ranges::find(items, id, &Item::id)->prompt = prompt;
-    }
+    void SetItemPrompt(CommandId, const std::string&) override {}
 
     std::vector<CommandId> Ids() const {
         std::vector<CommandId> ids;
-        for (const Item& item : items) ids.push_back(item.id);
+        for (const Item& item : items) ids.push_back(item.first);
         return ids;
     }
-    std::vector<std::string> Texts() const {
-        std::vector<std::string> texts;
-        for (const Item& item : items) texts.push_back(item.text);
-        return texts;
-    }
 
-    std::vector<Item> items{{1, "Above", {}}, {placeholder, "Placeholder", {}}, {2, "Below", {}}};
+    std::vector<Item> items{{1, "Above"}, {placeholder, "Placeholder"}, {2, "Below"}};
 };
 
 struct NumberedList : MenuItemList {
@@ -68,11 +60,9 @@ TEST_F(MenuItemListTest, AnEmptyRunSaysSo) {
     NumberedList list;
     FakeMenu menu;
     list.Show(menu, 0);
-    EXPECT_THAT(menu.Ids(), ElementsAre(1, first, 2));
-    EXPECT_EQ(menu.items[1].text, "(None)");
     list.Show(menu, 3);
     list.Show(menu, 0);
-    EXPECT_THAT(menu.Texts(), ElementsAre("Above", "(None)", "Below"));
+    EXPECT_THAT(menu.items, ElementsAre(Pair(1, "Above"), Pair(first, "(None)"), Pair(2, "Below")));
 }
 
 TEST_F(MenuItemListTest, NewItemsComeDirectlyBehindTheFirst) {
@@ -81,8 +71,9 @@ TEST_F(MenuItemListTest, NewItemsComeDirectlyBehindTheFirst) {
     list.Show(menu, 2);
     EXPECT_THAT(menu.Ids(), ElementsAre(1, first, first + 1, 2));
     list.Show(menu, 4);
-    EXPECT_THAT(menu.Ids(), ElementsAre(1, first, first + 2, first + 3, first + 1, 2));
-    EXPECT_THAT(menu.Texts(), ElementsAre("Above", "item 0", "item 2", "item 3", "item 1", "Below"));
+    EXPECT_THAT(menu.items,
+                ElementsAre(Pair(1, "Above"), Pair(first, "item 0"), Pair(first + 2, "item 2"),
+                            Pair(first + 3, "item 3"), Pair(first + 1, "item 1"), Pair(2, "Below")));
     list.Show(menu, 3);
     EXPECT_THAT(menu.Ids(), ElementsAre(1, first, first + 2, first + 1, 2));
     list.Show(menu, 1);
@@ -127,6 +118,7 @@ TEST_F(MenuItemListTest, DocumentsAreListedWithThoseOfDerivedClasses) {
     Open<BaseDocument>(Put("R&B.kelcolors", Bytes(800)));
     FakeMenu menu;
     MenuItemList::UpdateAll(menu, nullptr);
-    EXPECT_THAT(menu.Texts(), ElementsAre("Above", "R&&B", "Quake", "Below"));
+    EXPECT_THAT(menu.items, ElementsAre(Pair(1, "Above"), Pair(first, "R&&B"), Pair(first + 1, "Quake"),
+                                        Pair(2, "Below")));
     EXPECT_EQ(dynamic_cast<CDocument*>(list.GetItem(first + 1))->GetTitle(), "Quake");
 }

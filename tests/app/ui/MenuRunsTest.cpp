@@ -64,12 +64,11 @@ TEST_F(MenuRunsTest, ListWhatIsOpen) {
 
 TEST_F(MenuRunsTest, ShowAndHideTheBars) {
     EXPECT_EQ(TextsAround(ID_BAR_FIRST), QStringList({"Palette", "Standard", "View Filter"}));
-    EXPECT_TRUE(AskCommand(GetMainFrame(), ID_BAR_FIRST).checked);
-    EXPECT_TRUE(SendCommand(GetMainFrame(), ID_BAR_FIRST));
-    EXPECT_FALSE(AskCommand(GetMainFrame(), ID_BAR_FIRST).checked);
-    EXPECT_TRUE(AskCommand(GetMainFrame(), ID_BAR_FIRST + 1).checked);
-    EXPECT_TRUE(SendCommand(GetMainFrame(), ID_BAR_FIRST));
-    EXPECT_TRUE(AskCommand(GetMainFrame(), ID_BAR_FIRST).checked);
+    for (const bool shown : {false, true}) {
+        EXPECT_TRUE(SendCommand(GetMainFrame(), ID_BAR_FIRST));
+        EXPECT_EQ(AskCommand(GetMainFrame(), ID_BAR_FIRST).checked, shown);
+        EXPECT_TRUE(AskCommand(GetMainFrame(), ID_BAR_FIRST + 1).checked);
+    }
     EXPECT_FALSE(AskCommand(GetMainFrame(), ID_BAR_FIRST + 3).enabled);
 }
 
