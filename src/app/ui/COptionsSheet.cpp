@@ -1,6 +1,7 @@
 #include "app/ui/COptionsSheet.h"
 
 #include "app/ui/CGammaSettingsDialog.h"
+#include "app/ui/MainFrame.h"
 #include "framework/core/StringTable.h"
 #include "framework/core/Text.h"
 #include "framework/ui/DialogLayout.h"
@@ -13,8 +14,8 @@
 
 CGeneralOptionsPage::CGeneralOptionsPage() : CPropertyPage(QStringLiteral("General")) {}
 
-CViewOptionsPage::CViewOptionsPage(GammaSettings& gammaSettings)
-    : CPropertyPage(QStringLiteral("View")), gamma(gammaSettings), gammaValues(gamma.GetValues()) {
+CViewOptionsPage::CViewOptionsPage(MainFrame& mainFrame)
+    : CPropertyPage(QStringLiteral("View")), frame(mainFrame), gammaValues(frame.GetGamma().GetValues()) {
     QGridLayout& grid = AddPageGrid(*this);
     AddHeading(grid, {0, 0, 3}, "Gamma");
     AddIcon(grid, {1, 0}, MakePixelIcon(GammaIcon()));
@@ -32,13 +33,16 @@ void CViewOptionsPage::OnGammaSettings() {
     SetModified(true);
 }
 
+// Seen at once, though the sheet may stay.
 bool CViewOptionsPage::OnApply() {
-    gamma.SetValues(gammaValues);
+    frame.GetGamma().SetValues(gammaValues);
+    frame.UpdateAllDocuments(nullptr, 0, nullptr);
+    frame.UpdatePaletteBar(nullptr, 0, nullptr);
     return CPropertyPage::OnApply();
 }
 
-COptionsSheet::COptionsSheet(QWidget* dialogOwner, GammaSettings& gamma)
-    : CPropertySheet(ToQString(LoadString(IDS_OPTIONS_TITLE)), dialogOwner), viewPage(gamma) {
+COptionsSheet::COptionsSheet(MainFrame& mainFrame)
+    : CPropertySheet(ToQString(LoadString(IDS_OPTIONS_TITLE)), &mainFrame), viewPage(mainFrame) {
     AddPage(generalPage);
     AddPage(viewPage);
 }

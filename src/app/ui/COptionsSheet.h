@@ -4,6 +4,8 @@
 #include "framework/ui/CPropertyPage.h"
 #include "framework/ui/CPropertySheet.h"
 
+class MainFrame;
+
 // There are no general options yet.
 class CGeneralOptionsPage : public CPropertyPage {
 public:
@@ -13,22 +15,22 @@ public:
 // How documents are shown.
 class CViewOptionsPage : public CPropertyPage {
 public:
-    // Applying changes the settings.
-    explicit CViewOptionsPage(GammaSettings& gammaSettings);
+    // Applying changes the frame's gamma.
+    explicit CViewOptionsPage(MainFrame& mainFrame);
 
     bool OnApply() override;
 
 private:
     void OnGammaSettings();
 
-    GammaSettings& gamma;
+    MainFrame& frame;
     GammaValues gammaValues; // a copy until they are applied
 };
 
 // The program's options.
 class COptionsSheet : public CPropertySheet {
 public:
-    COptionsSheet(QWidget* dialogOwner, GammaSettings& gamma);
+    explicit COptionsSheet(MainFrame& mainFrame);
 
 private:
     CGeneralOptionsPage generalPage;

@@ -39,7 +39,7 @@ void MainFrame::OnUpdateBar(CCmdUI& state) {
 }
 
 void MainFrame::OnToolsOptions() {
-    COptionsSheet(this, gamma).DoModal();
+    COptionsSheet(*this).DoModal();
     OnViewRefresh();
 }
 

@@ -99,7 +99,8 @@ std::optional<Image> Decode(const QString& format, const QVariant& data) {
 }
 
 bool IsPictureFormat(const QString& format) {
-    return format == toolkitFormat || QImageReader::supportedMimeTypes().contains(format.toLatin1());
+    static const QList<QByteArray> supported = QImageReader::supportedMimeTypes();
+    return format == toolkitFormat || supported.contains(format.toLatin1());
 }
 
 // Those that keep every colour first; the toolkit's own last, which it makes by asking for one after another.

@@ -93,6 +93,7 @@ TEST_F(OptionsTest, UnlinkedSlidersDifferAndApplyKeepsTheSheet) {
         EXPECT_TRUE(sheet.isVisible());
         EXPECT_FALSE(IsApplyEnabled(sheet));
         EXPECT_EQ(Gamma().GetValues(), (GammaValues{5, 1, 2}));
+        EXPECT_EQ(ColorShownAt(5, 5), ApplyGamma({5, 1, 2}, document->GetTexture().GetPixel(5, 5)));
     });
     EXPECT_EQ(Gamma().GetValues(), (GammaValues{5, 1, 2}));
 }
@@ -113,6 +114,15 @@ TEST_F(OptionsTest, OnlyADifferenceMarksThePage) {
         EXPECT_TRUE(IsApplyEnabled(sheet)) << "values between the positions come back rounded";
     });
     EXPECT_EQ(Gamma().GetValues(), (GammaValues{1.25, 1, 1}));
+}
+
+TEST_F(OptionsTest, GammaOutlivesTheProgram) {
+    Gamma().SetValues({0.33333, 1.5, 0});
+    program.GetMainFrame()->close();
+    const DialogAnswer cancel([](QDialog& dialog) { dialog.reject(); });
+    CKelTavloApp next(std::make_unique<ProfileStore>(program.GetProfile()->GetPath()));
+    next.InitInstance({});
+    EXPECT_EQ(next.GetMainFrame()->GetGamma().GetValues(), (GammaValues{0.3333, 1.5, 0}));
 }
 
 // Those of the main window are read last.
