@@ -104,7 +104,7 @@ TEST(OpenGLCtrlTest, DrawsACube) {
     CubeIn({97, 151}).ExpectSeenIn(control.Picture(), 2);
 }
 
-TEST(OpenGLCtrlTest, IsCurrentOnlyWithinASteps) {
+TEST(OpenGLCtrlTest, IsCurrentOnlyWithinItsSteps) {
     NotingCtrl control;
     EXPECT_EQ(control.log.front(), "init");
     EXPECT_EQ(control.log[1], "resize 120 x 90");
