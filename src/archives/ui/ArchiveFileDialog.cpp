@@ -62,6 +62,7 @@ ArchiveFileDialog::ArchiveFileDialog(QWidget* owner, const FileNameQuestion& que
                                      const std::vector<FileFilter>& filters, Services programServices)
     : CFileDialog(owner, question, filters), services(std::move(programServices)),
       panel(new ArchivePanel(this)), preview(new PreviewPanel(this, services.readPreview)) {
+    setIconProvider(&types);
     AddPanels();
     SetUpPreview();
     FillLowerList({});

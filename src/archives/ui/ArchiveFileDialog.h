@@ -1,6 +1,7 @@
 #pragma once
 
 #include "archives/FolderDocument.h"
+#include "archives/ui/FileTypeProvider.h"
 #include "framework/ui/CFileDialog.h"
 
 #include <functional>
@@ -11,9 +12,14 @@ class PreviewPanel;
 struct ArchiveListItem;
 struct Preview;
 
+// What the dialog's standard part uses for as long as it lives.
+struct ArchiveFileDialogTypes {
+    FileTypeProvider types;
+};
+
 // The file dialog of the program. Its lower part lists the archive that is selected in the standard list, and
 // a file chosen there is what the dialog is about.
-class ArchiveFileDialog final : public CFileDialog {
+class ArchiveFileDialog final : private ArchiveFileDialogTypes, public CFileDialog {
 public:
     // What the dialog asks the program for.
     struct Services {

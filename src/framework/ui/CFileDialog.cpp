@@ -9,6 +9,7 @@
 
 #include <QGridLayout>
 #include <QLineEdit>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -80,6 +81,8 @@ std::string CFileDialog::GetPathName() const {
 }
 
 void CFileDialog::accept() {
+    if (deciding) return; // a second press of the key, while the person is told about the first
+    const QScopedValueRollback<bool> now(deciding, true);
     if (QLineEdit* edit = NameEdit(*this); edit && edit->text().contains('\\'))
         edit->setText(edit->text().replace('\\', '/'));
     const std::string path = GetPathName();

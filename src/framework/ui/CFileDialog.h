@@ -47,4 +47,5 @@ private:
 
     bool open;
     bool mustExist;
+    bool deciding = false; // about a name; the person may have been asked
 };

@@ -3,11 +3,14 @@
 #include "framework/core/StandardIds.h"
 #include "support/ui/DialogAnswer.h"
 
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFile>
 #include <QLineEdit>
+#include <QListView>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -75,6 +78,24 @@ TEST_F(CFileDialogTest, ProposesANameInItsFolderOrTheWayThroughAnArchive) {
     EXPECT_EQ(CFileDialog(nullptr, question, {}).GetPathName(), Path("bitmap1.bmp"));
     question.proposal = Path("pak0.pak") + "\\textures\\a.wal";
     EXPECT_EQ(CFileDialog(nullptr, question, {}).GetPathName(), Path("pak0.pak/textures/a.wal"));
+}
+
+// The patterns are not what the label says; one that ends with a separator has no empty pattern behind it.
+TEST_F(CFileDialogTest, ShowsLabelsAndFiltersByPatterns) {
+    for (const char* name : {"a.wal", "b.tga", "c.x", "noise"})
+        QFile(folder.filePath(name)).open(QIODevice::WriteOnly);
+    CFileDialog dialog(nullptr, {}, {{"Targa (*.x)", "*tga;*.pak;"}, {"All Files (*.*)", "*.*"}});
+    dialog.setDirectory(folder.path());
+    dialog.show();
+    auto* types = dialog.findChild<QComboBox*>("fileTypeCombo");
+    EXPECT_EQ(types->itemText(0), "Targa (*.x)");
+    const auto* list = dialog.findChild<QListView*>("listView");
+    const auto holds = [&](int count) {
+        return QTest::qWaitFor([&] { return list->model()->rowCount(list->rootIndex()) == count; });
+    };
+    EXPECT_TRUE(holds(2)) << "b.tga and pak0.pak";
+    QTest::keyClick(types, Qt::Key_Down);
+    EXPECT_TRUE(holds(6));
 }
 
 } // namespace

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QFileIconProvider>
+#include <QHash>
+
+// Icons and type names of the standard part's lines, by their names alone: the toolkit's own provider looks
+// into every file, which keeps the window waiting for seconds in a large folder. Called from the thread that
+// lists folders.
+class FileTypeProvider final : public QFileIconProvider {
+public:
+    FileTypeProvider();
+
+    using QFileIconProvider::icon;
+    QIcon icon(const QFileInfo& file) const override;
+    QString type(const QFileInfo& file) const override;
+
+private:
+    QIcon fileIcon, folderIcon;
+    QString folderType;
+    QHash<QString, QString> types; // of the program's documents, by the extension in lower case
+};
