@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr std::uint64_t largestFile = 16 << 20; // bytes
+constexpr std::uint64_t largestFile = 64 << 20; // bytes; more takes longer than looking around should
 
 // A name that no picture type knows counts as a bitmap elsewhere; here it must say so.
 const CRuntimeClass* PictureClassOf(const std::string& path) {
@@ -27,7 +27,8 @@ std::unique_ptr<TavloDocument> ReadForPreview(const std::string& path) {
     const CRuntimeClass* type = PictureClassOf(path);
     EntryStatus status;
     if (type) FileSource::Get().GetStatus(path, status);
-    if (!status.exists || status.size > largestFile) return nullptr;
+    if (!status.exists) return nullptr;
+    if (status.size > largestFile) throw PictureSizeError("The picture is too large for a preview.");
     CFileException failure;
     const std::unique_ptr<CFile> file =
         FileSource::Get().OpenFile(path, CFile::modeRead | CFile::shareDenyWrite, &failure);

@@ -62,7 +62,7 @@ constexpr StringRow rows[] = {
     {IDS_KILOBYTES, "%uKB"},
     {IDS_DATE_AND_TIME, "%c"},
     {IDS_PREVIEW_SIZE, "%d x %d"},
-    {IDS_NO_PREVIEW, "This picture cannot be read."},
+    {IDS_NO_PREVIEW, "No preview of this picture."},
     {IDS_NOT_IMPLEMENTED_TITLE, "Not Implemented"},
     {IDS_NOT_IMPLEMENTED, "%s is not implemented.\nKelTavlo is not fully implemented yet. Sorry.\n\n"
                           "keltavlo@example.org\nwww.example.org/keltavlo\n"},
