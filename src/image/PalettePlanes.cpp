@@ -78,8 +78,9 @@ void PalettePlanes::Rebuild(Color current) {
 void PalettePlanes::RebuildCells() {
     for (int y = 0; y < side; ++y)
         for (int x = 0; x < side; ++x) {
-            const auto index = static_cast<std::size_t>(y / cellSide * cellsInRow + x / cellSide);
-            planeImage.SetPixel(x, y, index < colors.GetCount() ? colors[index] : currentColor);
+            const int index = y / cellSide * cellsInRow + x / cellSide;
+            const auto entry = static_cast<std::size_t>(index);
+            planeImage.SetPixel(x, y, entry < colors.GetCount() ? colors[entry] : currentColor);
         }
 }
 

@@ -28,7 +28,7 @@ struct WindowPlacement {
     bool operator==(const WindowPlacement&) const = default;
 
     std::vector<std::byte> ToBytes() const;
-    // Nothing unless the record is whole and its normal rectangle has an area; an unknown show command becomes
-    // `show`.
+    // Nothing unless the record is whole and its normal rectangle has an area; an unknown show command
+    // becomes `show`.
     static std::optional<WindowPlacement> FromBytes(const std::vector<std::byte>& bytes);
 };

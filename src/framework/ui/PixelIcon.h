@@ -4,6 +4,6 @@
 
 #include <QIcon>
 
-// The picture as an icon that takes its colours from the palette in use. Its pixels stay sharp where they come
-// out as whole ones of the screen. The rows must live as long as the program.
+// The picture as an icon that takes its colours from the palette in use. Its pixels stay sharp where they
+// come out as whole ones of the screen. The rows must live as long as the program.
 QIcon MakePixelIcon(PixelArt art);

@@ -2,9 +2,12 @@
 
 #include "app/ui/CKelTavloApp.h"
 #include "framework/ui/CControlBar.h"
-#include "framework/ui/CMDIChildWnd.h"
 #include "framework/ui/CMenu.h"
+#include "framework/ui/CSplitterWnd.h"
+#include "framework/ui/ChildFrame.h"
 #include "framework/ui/Commands.h"
+#include "framework/ui/SplitTracker.h"
+#include "image/ui/InfiniteScrollView.h"
 #include "res/CommandIds.h"
 #include "res/Menus.h"
 #include "res/ToolBars.h"
@@ -16,6 +19,7 @@
 #include <QDockWidget>
 #include <QMenuBar>
 #include <QProcess>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolBar>
@@ -114,6 +118,31 @@ TEST_F(MainFrameTest, AltFOpensTheFileMenuEveryTime) {
         QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
         QTest::keyClick(run.Frame().menuBar(), Qt::Key_Escape);
     }
+}
+
+// A pane beside another one shows the same rows from its first moment.
+TEST_F(MainFrameTest, PanesOfARowScrollTogether) {
+    Session run(Settings());
+    const std::string path = folder.filePath("a.wal").toStdString();
+    WriteFile(path, MakeWal(64, 64));
+    run.program.OpenDocumentFile(path);
+    const CSplitterWnd& splitter = dynamic_cast<ChildFrame&>(*run.Frame().MDIGetActive()).GetSplitter();
+    const auto pane = [&](int row, int column) {
+        return dynamic_cast<InfiniteScrollView*>(splitter.GetPane(row, column));
+    };
+    pane(0, 0)->SetScrollY(20);
+    SendCommand(run.Frame(), ID_WINDOW_SPLIT);
+    QTest::keyClick(&splitter.GetTracker(), Qt::Key_Return);
+    ASSERT_TRUE(pane(1, 1));
+    EXPECT_EQ(pane(0, 1)->GetScrollY(), 20);
+    EXPECT_EQ(pane(1, 1)->GetScrollY(), 0);
+    QScrollBar& shared = pane(0, 1)->GetScrollBar(Qt::Vertical);
+    shared.setSliderPosition(33);
+    EXPECT_EQ(pane(0, 0)->GetScrollY(), 33);
+    EXPECT_EQ(pane(0, 1)->GetScrollY(), 33);
+    QApplication::setActiveWindow(&run.Frame());
+    QTest::keyClick(&run.Frame(), Qt::Key_F6);
+    EXPECT_EQ(run.Frame().MDIGetActive()->GetActiveView(), pane(0, 1));
 }
 
 TEST_F(MainFrameTest, SettingsAreWrittenBeforeTheQuestion) {
