@@ -4,26 +4,32 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 
-// Hands out the rest of a stream byte by byte, of which it reads many at a time. The stream's own position is
-// of no use afterwards.
+// Shows the rest of a stream piece by piece, of which it reads large ones. The stream's own position is of no
+// use afterwards.
 class ByteReader {
 public:
     explicit ByteReader(InputStream& stream) : in(stream), remaining(stream.GetRemaining()) {}
 
-    // endOfFile when there is no more.
-    std::uint8_t Next() {
-        if (used == filled) Fill();
-        return buffer[used++];
+    // The next bytes: at least so many, unless the stream ends before.
+    std::span<const std::uint8_t> Peek(std::size_t count) {
+        if (filled - used < count) Fill();
+        return {buffer.data() + used, filled - used};
     }
+    // Goes on by some of the bytes that Peek showed.
+    void Take(std::size_t count) { used += count; }
 
 private:
     void Fill() {
-        if (remaining == 0) in.Fail(StreamError::endOfFile);
-        filled = static_cast<std::size_t>(std::min<std::uint64_t>(buffer.size(), remaining));
-        in.Read(buffer.data(), filled);
-        remaining -= filled;
+        std::memmove(buffer.data(), buffer.data() + used, filled - used);
+        filled -= used;
         used = 0;
+        const auto more =
+            static_cast<std::size_t>(std::min<std::uint64_t>(buffer.size() - filled, remaining));
+        in.Read(buffer.data() + filled, more);
+        filled += more;
+        remaining -= more;
     }
 
     InputStream& in;

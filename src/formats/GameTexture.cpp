@@ -6,6 +6,7 @@
 #include "resources/streams/OutputStream.h"
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -58,13 +59,15 @@ std::array<std::uint32_t, levelCount> LevelOffsets(std::uint32_t start, int widt
 void ReadIndices(InputStream& in, Image& picture, int width, int height, const ColorList& palette) {
     const std::size_t count = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
     if (count > in.GetRemaining()) in.Fail(StreamError::endOfFile);
-    std::vector<std::uint8_t> indices(count);
-    in.Read(std::span<std::uint8_t>(indices));
+    const auto memory = std::make_unique_for_overwrite<std::uint8_t[]>(count);
+    const std::span<std::uint8_t> indices(memory.get(), count);
+    in.Read(indices);
     const std::span<const Color> colors = palette.Colors();
-    if (*std::max_element(indices.begin(), indices.end()) >= colors.size()) in.Fail(StreamError::badIndex);
-    picture.SetSize(width, height);
-    std::transform(indices.begin(), indices.end(), picture.Pixels().begin(),
-                   [&](std::uint8_t index) { return colors[index]; });
+    if (colors.size() < maximumColors && *std::ranges::max_element(indices) >= colors.size())
+        in.Fail(StreamError::badIndex);
+    picture.SetSizeUncleared(width, height);
+    std::ranges::transform(indices, picture.Pixels().begin(),
+                           [&](std::uint8_t index) { return colors[index]; });
 }
 
 void WriteMipLevels(OutputStream& out, const Image& picture, const ColorList& palette) {

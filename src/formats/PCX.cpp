@@ -86,17 +86,31 @@ ColorList ReadPalette(InputStream& in, const ColorList& fallback) {
     return trailer.mark == paletteMark ? ColorsFromTriples(trailer.colors) : fallback;
 }
 
-void ReadLine(ByteReader& bytes, const InputStream& in, std::span<std::uint8_t> line) {
-    for (auto place = line.begin(); place != line.end();) {
-        const std::uint8_t byte = bytes.Next();
-        if (!IsRun(byte)) {
-            *place++ = byte;
-            continue;
+void ReadLine(ByteReader& reader, const InputStream& in, std::span<std::uint8_t> line) {
+    std::uint8_t* place = line.data();
+    std::uint8_t* const end = place + line.size();
+    while (place != end) {
+        const std::span<const std::uint8_t> bytes = reader.Peek(2);
+        // The stream ends, or does so within a run.
+        if (bytes.empty() || (bytes.size() == 1 && IsRun(bytes[0]))) in.Fail(StreamError::endOfFile);
+        std::size_t used = 0;
+        while (place != end && used < bytes.size()) {
+            const std::uint8_t byte = bytes[used];
+            if (!IsRun(byte)) {
+                *place++ = byte;
+                ++used;
+                continue;
+            }
+            if (used + 1 == bytes.size()) break; // its value comes with the next bytes
+            const std::ptrdiff_t count = byte & maximumRun;
+            if (count > end - place) in.Fail(StreamError::badIndex);
+            if (count == 1) // a single pixel of a high index, the most frequent run
+                *place++ = bytes[used + 1];
+            else
+                place = std::fill_n(place, count, bytes[used + 1]);
+            used += 2;
         }
-        const std::ptrdiff_t count = byte & maximumRun;
-        const std::uint8_t value = bytes.Next();
-        if (count > line.end() - place) in.Fail(StreamError::badIndex);
-        place = std::fill_n(place, count, value);
+        reader.Take(used);
     }
 }
 
@@ -146,7 +160,7 @@ void ReadPCX(InputStream& in, Texture& texture, const ColorList* palette) {
     CheckLength(in, header);
     const ColorList palette256 = ReadPalette(in, *palette);
     const std::span<const Color> colors = palette256.Colors();
-    texture.SetSize(header.Width(), header.Height());
+    texture.SetSizeUncleared(header.Width(), header.Height());
     std::vector<std::uint8_t> line(header.LineSize());
     ByteReader bytes(in);
     for (int y = 0; y < header.Height(); ++y) {

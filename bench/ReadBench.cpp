@@ -1,0 +1,139 @@
+#include "builders/PackBuilder.h"
+#include "formats/Codec.h"
+#include "framework/core/CArchive.h"
+#include "framework/core/CMemFile.h"
+#include "framework/core/DiskFile.h"
+#include "image/picture/ColorList.h"
+#include "image/picture/DibSection.h"
+#include "image/picture/DibStream.h"
+#include "image/picture/Texture.h"
+#include "resources/streams/ArchiveStream.h"
+
+#include <QTemporaryDir>
+
+#include <benchmark/benchmark.h>
+#include <cstdlib>
+#include <random>
+
+// Files become new pictures in memory; the page cache is warm. The files stay in the folder that the variable
+// BENCH_FILES names, for other programs to read.
+
+namespace {
+
+constexpr int largeSide = 4096;
+
+std::string PathTo(const std::string& name) {
+    static const QTemporaryDir temporary;
+    const char* wanted = std::getenv("BENCH_FILES");
+    return (wanted ? std::string(wanted) : temporary.path().toStdString()) + "/" + name;
+}
+
+const ColorList& Palette() {
+    static const ColorList palette = [] {
+        std::mt19937 random(1);
+        std::vector<Color> colors(256);
+        for (Color& color : colors) color = static_cast<Color>(random()) | alphaMask;
+        return ColorList(colors);
+    }();
+    return palette;
+}
+
+// Runs of one to eight equal pixels, as drawn textures have them.
+Texture MakePicture(int side, Color transparency) {
+    Texture picture(side, side);
+    picture.SetPalette(Palette());
+    std::mt19937 random(2);
+    Color color = 0;
+    unsigned left = 0;
+    for (Color& pixel : picture.Pixels()) {
+        if (left-- == 0) {
+            left = random() % 8;
+            color = Palette()[random() % 256] & ~transparency;
+        }
+        pixel = color;
+    }
+    return picture;
+}
+
+template <class Write>
+std::string Put(const std::string& name, Write write) {
+    const std::string path = PathTo(name);
+    CMemFile file;
+    CArchive archive(file, CArchive::store);
+    ArchiveStream out(archive);
+    write(out);
+    archive.Flush();
+    WriteFile(path, {file.Bytes().begin(), file.Bytes().end()});
+    return path;
+}
+
+std::string PutPicture(const std::string& name, std::string_view documentClass, int side,
+                       Color transparency = 0) {
+    return Put(name, [&](OutputStream& out) {
+        FindCodec(documentClass)->write(out, MakePicture(side, transparency), &Palette());
+    });
+}
+
+std::string PutIndexedBitmap(const std::string& name) {
+    return Put(name, [](OutputStream& out) {
+        DibSection bitmap(largeSide, largeSide, 8);
+        bitmap.SetColorTable(0, Palette().Colors());
+        std::mt19937 random(3);
+        for (std::size_t i = 0; i < bitmap.GetImageSize(); ++i)
+            bitmap.GetBits()[i] = static_cast<std::uint8_t>(random());
+        WriteDib(out, DibForm::file, bitmap);
+    });
+}
+
+void Read(benchmark::State& state, const std::string& path, std::string_view documentClass) {
+    const Codec& codec = *FindCodec(documentClass);
+    for (auto _ : state) {
+        DiskFile file(path, CFile::modeRead);
+        CArchive archive(file, CArchive::load);
+        ArchiveStream in(archive);
+        Texture texture;
+        codec.read(in, texture, &Palette());
+        benchmark::DoNotOptimize(texture.Pixels().data());
+    }
+}
+
+// The least that a new picture costs.
+void ReadClear(benchmark::State& state) {
+    for (auto _ : state) {
+        const Image picture(largeSide, largeSide);
+        benchmark::DoNotOptimize(picture.Pixels().data());
+    }
+}
+BENCHMARK(ReadClear)->Unit(benchmark::kMicrosecond);
+
+void ReadTarga24(benchmark::State& state) {
+    static const std::string path = PutPicture("24.tga", "TGADocument", largeSide);
+    Read(state, path, "TGADocument");
+}
+BENCHMARK(ReadTarga24)->Unit(benchmark::kMicrosecond);
+
+void ReadTarga32(benchmark::State& state) {
+    static const std::string path = PutPicture("32.tga", "TGADocument", largeSide, 0x80000000);
+    Read(state, path, "TGADocument");
+}
+BENCHMARK(ReadTarga32)->Unit(benchmark::kMicrosecond);
+
+void ReadBitmap8(benchmark::State& state) {
+    static const std::string path = PutIndexedBitmap("8.bmp");
+    Read(state, path, "BMPDocument");
+}
+BENCHMARK(ReadBitmap8)->Unit(benchmark::kMicrosecond);
+
+void ReadPCX(benchmark::State& state) {
+    static const std::string path = PutPicture("8.pcx", "PCXDocument", largeSide);
+    Read(state, path, "PCXDocument");
+}
+BENCHMARK(ReadPCX)->Unit(benchmark::kMicrosecond);
+
+void ReadWAL(benchmark::State& state) {
+    static const std::string path = PutPicture("256.wal", "WALDocument", 256);
+    Read(state, path, "WALDocument");
+}
+BENCHMARK(ReadWAL)->Unit(benchmark::kMicrosecond);
+
+} // namespace
