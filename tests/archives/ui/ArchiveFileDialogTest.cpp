@@ -283,8 +283,9 @@ TEST_F(ArchiveFileDialogTest, ListsTwentyThousandEntriesWithoutAPause) {
     EXPECT_LT(clock.elapsed(), 2000) << "milliseconds, on a busy machine without optimization";
 }
 
-TEST_F(ArchiveFileDialogTest, AFolderOfTwentyThousandFilesKeepsTheWindowAlive) {
-    for (int i = 0; i < 20000; ++i) Put("f" + std::to_string(i) + ".wal", {});
+TEST_F(ArchiveFileDialogTest, AFolderOfManyFilesKeepsTheWindowAlive) {
+    constexpr int files = 3000; // with the toolkit's own icons they take 600 ms at rest
+    for (int i = 0; i < files; ++i) Put("f" + std::to_string(i) + ".wal", {});
     QElapsedTimer sinceTick;
     qint64 longestPause = 0;
     QTimer tick;
@@ -295,8 +296,8 @@ TEST_F(ArchiveFileDialogTest, AFolderOfTwentyThousandFilesKeepsTheWindowAlive) {
     Show();
     const auto* upper = dialog->findChild<QListView*>("listView");
     EXPECT_TRUE(
-        QTest::qWaitFor([&] { return upper->model()->rowCount(upper->rootIndex()) >= 20000; }, 20000));
-    EXPECT_LT(longestPause, 2500) << "milliseconds, on a busy machine";
+        QTest::qWaitFor([&] { return upper->model()->rowCount(upper->rootIndex()) >= files; }, 20000));
+    EXPECT_LT(longestPause, 500) << "milliseconds, on a busy machine";
     RecordProperty("longestPause", static_cast<int>(longestPause));
 }
 
