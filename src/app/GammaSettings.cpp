@@ -18,7 +18,7 @@ double GammaAtPosition(int position) {
 }
 
 int PositionOfGamma(double gamma) {
-    return static_cast<int>(gamma * gammaPositions / largestGamma + 0.5);
+    return static_cast<int>(std::lround(gamma * gammaPositions / largestGamma));
 }
 
 int GammaChannel(int value, double gamma) {

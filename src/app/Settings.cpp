@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cmath>
 #include <cstring>
 
 namespace {
@@ -35,7 +36,7 @@ void WriteNumbers(ProfileStore& profile, const std::string& section, const std::
 }
 
 std::uint32_t ToUnits(double gamma) {
-    return static_cast<std::uint32_t>(gamma * gammaUnits + 0.5);
+    return static_cast<std::uint32_t>(std::lround(gamma * gammaUnits));
 }
 
 } // namespace

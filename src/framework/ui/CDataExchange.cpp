@@ -20,7 +20,7 @@ void CDataExchange::Fill(unsigned id, const QString& text) {
 }
 
 std::optional<QString> CDataExchange::ReadChanged(unsigned id) const {
-    const QString text = GetEdit(id).text();
+    QString text = GetEdit(id).text();
     if (WasRefused() || text == controls.exchangedTexts[id]) return std::nullopt;
     return text;
 }
