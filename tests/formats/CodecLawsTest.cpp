@@ -47,6 +47,11 @@ TEST_P(CodecLaws, FilesAreWrittenAlike) {
     EXPECT_EQ(codec.Write(codec.Read(bytes, texture)), bytes);
 }
 
+TEST_P(CodecLaws, APictureWithoutPixelsIsNotWritten) {
+    EXPECT_EQ(codec.WriteFailure(Texture(0, 8)), CArchiveException::badIndex);
+    EXPECT_EQ(codec.WriteFailure(Texture(8, 0)), CArchiveException::badIndex);
+}
+
 TEST_P(CodecLaws, AFileThatEndsEarlyIsRefused) {
     const std::size_t needed = small.size() - GetParam().spareTail;
     for (std::size_t length = 0; length < small.size(); ++length) {

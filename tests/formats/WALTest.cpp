@@ -4,7 +4,6 @@
 
 namespace {
 
-constexpr std::size_t widthOffset = 32;
 constexpr std::size_t offsetsOffset = 40;
 constexpr std::size_t nextFrameOffset = 56;
 
@@ -53,19 +52,4 @@ TEST_F(WALTest, IndicesBelongToThePaletteOfTheTexture) {
     EXPECT_EQ(wal.Read(bytes).palette, nullptr);
     other.palette->SetCount(255);
     EXPECT_EQ(wal.ReadFailure(bytes, other), CArchiveException::badIndex);
-}
-
-TEST_F(WALTest, SidesAndOffsetsAreChecked) {
-    Bytes bytes = wal.Write(texture);
-    for (const std::uint32_t side : {0U, 63U, 260U, 264U, 0xFFFFFFF8U}) {
-        Put(bytes, widthOffset, side);
-        EXPECT_EQ(wal.ReadFailure(bytes), CArchiveException::badIndex) << side;
-    }
-    Put(bytes, widthOffset, 256U);
-    Put(bytes, widthOffset + 4, 8U);
-    EXPECT_EQ(wal.Read(bytes).GetWidth(), 256);
-    for (const std::uint32_t offset : {static_cast<std::uint32_t>(bytes.size()) - 2047, 0xFFFFFFFFU}) {
-        Put(bytes, offsetsOffset, offset);
-        EXPECT_EQ(wal.ReadFailure(bytes), CArchiveException::endOfFile) << offset;
-    }
 }
