@@ -24,35 +24,6 @@ TEST_F(PAKDocumentTest, TakesAtMost4096Records) {
     EXPECT_THAT(OpenPack(Pack(4097)), HasSubstr(badIndex));
 }
 
-TEST_F(PAKDocumentTest, RefusesDamagedHeadersAndExtents) {
-    const Bytes good = Pack(2);
-    Bytes pack = good;
-    pack[3] = std::byte{'k'};
-    EXPECT_THAT(OpenPack(pack), HasSubstr(badFormat));
-    struct {
-        std::size_t offset;
-        std::uint32_t value;
-        const char* message;
-    } const cases[] = {
-        {8, 63, badIndex},         {8, 192, tooShort}, {8, 0xFFFFFFC0, badIndex},
-        {4, 0xFFFFFFFF, tooShort}, {4, 78, tooShort},
-    };
-    for (const auto& [offset, value, message] : cases) {
-        pack = good;
-        PutU32(pack, offset, value);
-        EXPECT_THAT(OpenPack(pack), HasSubstr(message)) << offset << " " << value;
-    }
-    const std::size_t record = good.size() - PackBuilder::recordSize;
-    for (const auto& [offset, length] :
-         {std::pair(0xFFFFFFFFU, 1U), std::pair(12U, 0xFFFFFFFFU), std::pair(0U, 143U)}) {
-        pack = good;
-        PutU32(pack, record + 56, offset);
-        PutU32(pack, record + 60, length);
-        EXPECT_THAT(OpenPack(pack), HasSubstr(tooShort)) << offset << " " << length;
-    }
-    ExpectNoCutOpens<PAKDocument>(good, ".pak", tooShort);
-}
-
 TEST_F(PAKDocumentTest, NamesMayFillTheirField) {
     PackBuilder builder;
     builder.Add("f/" + std::string(54, 'n'), ToBytes("x"));
@@ -69,13 +40,4 @@ TEST_F(PAKDocumentTest, OverlappingEntriesCostNothingUntilUsed) {
         PutU32(pack, directory + i * 64 + 60, static_cast<std::uint32_t>(pack.size()));
     }
     EXPECT_EQ(OpenPack(pack), "");
-}
-
-TEST_F(PAKDocumentTest, CannotBeSaved) {
-    auto* pack = Open<PAKDocument>(Put("a.pak", Pack(1)));
-    pack->SetModifiedFlag();
-    EXPECT_FALSE(pack->DoFileSave());
-    EXPECT_THAT(TakeMessage(), HasSubstr("only be read"));
-    EXPECT_TRUE(pack->IsModified());
-    EXPECT_EQ(ReadFile(PathTo("a.pak")), Pack(1));
 }

@@ -49,30 +49,16 @@ TEST_F(MDLDocumentTest, WithoutATableThereAreNoTextures) {
     EXPECT_THAT(OpenModel(bytes), HasSubstr(badIndex));
 }
 
-TEST_F(MDLDocumentTest, RefusesWhatLiesOutsideTheFile) {
-    const Bytes whole = Small();
-    ExpectNoCutOpens<MDLDocument>(whole, ".mdl", badIndex);
-    const auto size = static_cast<std::uint32_t>(whole.size());
-    struct {
-        std::size_t field;
-        std::vector<std::uint32_t> values;
-    } const cases[] = {
-        {MdlBuilder::textureCount, {0x7FFFFFFF, 0x80000000, 0xFFFFFFFF, size / 80 + 1}},
-        {MdlBuilder::tableOffset, {size - 159, size, 0x80000000, 0xFFFFFFFF}},
-        {firstRecord + MdlBuilder::width, {0x7FFFFFFF, 0x80000000, 0xFFFFFFFF, 65536, size}},
-        {firstRecord + MdlBuilder::height, {0x7FFFFFFF, 0x80000000, 0xFFFFFFFF, 65536, size}},
-        {firstRecord + MdlBuilder::dataOffset, {size - 775, 0x80000000, 0xFFFFFFFF}},
-    };
-    for (const auto& [field, values] : cases)
-        for (const std::uint32_t value : values)
-            EXPECT_THAT(OpenWith(field, value), HasSubstr(badIndex)) << field << " " << value;
-    Bytes bytes = whole;
-    PutU32(bytes, firstRecord + MdlBuilder::width, 0xFFFFFFFF); // their product is 1
-    PutU32(bytes, firstRecord + MdlBuilder::height, 0xFFFFFFFF);
-    EXPECT_THAT(OpenModel(bytes), HasSubstr(badIndex));
+TEST_F(MDLDocumentTest, PixelsMayLieAnywhereInTheFile) {
+    const auto size = static_cast<std::uint32_t>(Small().size());
     EXPECT_EQ(OpenWith(firstRecord + MdlBuilder::width, 0), "") << "a picture without pixels";
     EXPECT_EQ(OpenWith(firstRecord + MdlBuilder::dataOffset, 0), "") << "any bytes of the file will do";
     EXPECT_EQ(OpenWith(firstRecord + MdlBuilder::dataOffset, size - 776), "");
+    EXPECT_THAT(OpenWith(firstRecord + MdlBuilder::dataOffset, size - 775), HasSubstr(badIndex));
+    Bytes bytes = Small();
+    PutU32(bytes, firstRecord + MdlBuilder::width, 0xFFFFFFFF); // their product is 1
+    PutU32(bytes, firstRecord + MdlBuilder::height, 0xFFFFFFFF);
+    EXPECT_THAT(OpenModel(bytes), HasSubstr(badIndex));
 }
 
 TEST_F(MDLDocumentTest, TexturesThatShareBytesTakeNoMoreThanTheFile) {
@@ -89,8 +75,4 @@ TEST_F(MDLDocumentTest, TexturesThatShareBytesTakeNoMoreThanTheFile) {
     };
     EXPECT_EQ(shareBytes(8), "");
     EXPECT_THAT(shareBytes(100), HasSubstr(badIndex));
-}
-
-TEST_F(MDLDocumentTest, CannotBeSaved) {
-    ExpectCannotBeSaved(*Open<MDLDocument>(Put("a.mdl", Small())), "Cannot save");
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "archives/ProgressMeter.h"
-#include "resources/Shell.h"
+#include "support/FakeShell.h"
 
 #include <string>
 #include <vector>
@@ -19,15 +19,8 @@ public:
 };
 
 // A main window that notes what progress windows come, show and go.
-class ProgressShell final : public Shell {
+class ProgressShell final : public FakeShell {
 public:
-    void UpdateMenus(BaseDocument*) override {}
-    void UpdatePaletteBar(unsigned) override {}
-    void SetPositionText(double, double) override {}
-    void SetColorText(std::uint32_t) override {}
-    std::uint32_t GetCurrentColor() const override { return 0; }
-    void SetCurrentColor(std::uint32_t) override {}
-    const std::uint32_t* GetGammaTable() const override { return nullptr; }
     std::unique_ptr<ProgressWindow> OpenProgressWindow(const std::string& text,
                                                        const Progress& progress) override {
         log.push_back("open " + text + " " + std::to_string(progress.minimum) + ".." +

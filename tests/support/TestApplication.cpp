@@ -15,14 +15,6 @@ std::string WorkshopTest::TakeMessage() {
     return taken.empty() ? std::string() : taken.front();
 }
 
-void WorkshopTest::ExpectCannotBeSaved(CDocument& document, const char* message) {
-    const std::string path = PathTo("copy");
-    EXPECT_FALSE(document.OnSaveDocument(path));
-    EXPECT_THAT(TakeMessage(), testing::HasSubstr(message));
-    CFileStatus status;
-    EXPECT_FALSE(CFile::GetStatus(path, status));
-}
-
 std::vector<std::string> WorkshopTest::NamesIn(const std::string& path) {
     FolderListing listing;
     application.GetFileSystem().ListFolder(path, listing);

@@ -38,15 +38,6 @@ protected:
         const std::string path = Put("file" + std::to_string(++fileCount) + extension, bytes);
         return Open<Document>(path) ? std::string() : TakeMessage();
     }
-    // No shorter file opens; each fails with the same sentence.
-    template <class Document>
-    void ExpectNoCutOpens(const Bytes& whole, const std::string& extension, const char* message) {
-        for (std::size_t length = 1; length < whole.size(); ++length)
-            EXPECT_THAT(Try<Document>(CutTo(whole, length), extension), testing::HasSubstr(message))
-                << length;
-    }
-    // Saving the document fails with a message that says this, and leaves nothing behind.
-    void ExpectCannotBeSaved(CDocument& document, const char* message);
     // The one message since the last call; none and several are failures of the test.
     std::string TakeMessage();
     // What the file system has in a folder or archive.

@@ -57,21 +57,6 @@ TEST(Stream, EveryCodeHasItsCauseInBothForms) {
     }
 }
 
-TEST(Stream, ShortReadsFailInTheStreamsForm) {
-    Bytes bytes = ToBytes("abc");
-    CMemFile file{std::span<std::byte>(bytes)};
-    CArchive archive(file, CArchive::load);
-    ArchiveStream overArchive(archive);
-    EXPECT_EQ(overArchive.Read<std::uint16_t>(), 0x6261);
-    EXPECT_EQ(overArchive.GetPosition(), 2U);
-    EXPECT_EQ(overArchive.GetRemaining(), 1U);
-    EXPECT_EQ(CauseOf<CArchiveException>([&] { overArchive.Read<std::uint32_t>(); }),
-              CArchiveException::endOfFile);
-    FileStream overFile(file);
-    overFile.Seek(1);
-    EXPECT_EQ(CauseOf<CFileException>([&] { overFile.Read<std::uint32_t>(); }), CFileException::endOfFile);
-}
-
 TEST(TaggedFile, ReadsChunksInAnyOrder) {
     const TaggedContents contents =
         ReadBrush(Tagged("Brsh", 3,
