@@ -14,21 +14,14 @@ TEST(Path, SplitsAtBothSeparatorsAndTheLastColon) {
     EXPECT_EQ(SplitPath("/games/a:b/x").drive, "/games/a:");
 }
 
-TEST(Path, NamesAndParents) {
+TEST(Path, NamesParentsAndJoins) {
     EXPECT_EQ(FileNameOf("a/b\\floor.1.wal"), "floor.1.wal");
     EXPECT_EQ(BaseNameOf("a/b\\floor.1.wal"), "floor.1");
     EXPECT_EQ(ExtensionOf("a.b/floor"), "");
-    EXPECT_EQ(ParentOf("/a//b\\c"), "/a//b");
-    EXPECT_EQ(ParentOf("/a"), "/");
-    EXPECT_EQ(ParentOf("/"), "");
-    EXPECT_EQ(ParentOf("//a"), "/");
-    EXPECT_EQ(ParentOf("x"), "");
-    EXPECT_EQ(ParentOf("pak0.pak/"), "");
-    EXPECT_EQ(ParentOf("/a/b:c"), "/a/b:");
-    EXPECT_EQ(ParentOf("/a/b:"), "");
-}
-
-TEST(Path, JoinsWithOneSeparator) {
+    const std::string parents[][2] = {{"/a//b\\c", "/a//b"}, {"/a", "/"},  {"/", ""},
+                                      {"//a", "/"},          {"x", ""},    {"pak0.pak/", ""},
+                                      {"/a/b:c", "/a/b:"},   {"/a/b:", ""}};
+    for (const auto& [path, parent] : parents) EXPECT_EQ(ParentOf(path), parent) << path;
     EXPECT_EQ(JoinPath("a", "b"), "a\\b");
     EXPECT_EQ(JoinPath("a/", "b"), "a/b");
     EXPECT_EQ(JoinPath("", "b"), "\\b");
@@ -39,9 +32,8 @@ TEST(Path, BelowARootIgnoresCaseButNotTheDrive) {
     EXPECT_TRUE(below.below);
     EXPECT_EQ(below.directories, (std::vector<std::string>{"textures", "e1"}));
     EXPECT_EQ(below.fileName, "x.wal");
-    EXPECT_FALSE(SplitBelow("/q/pak0.pak", "/q/pak0.pak").below);
-    EXPECT_FALSE(SplitBelow("/q/pak0.pak", "/q/pak1.pak/a").below);
-    EXPECT_FALSE(SplitBelow("/q/pak0.pak", "/q/pak0.pak/a:b").below);
+    for (const char* path : {"/q/pak0.pak", "/q/pak1.pak/a", "/q/pak0.pak/a:b"})
+        EXPECT_FALSE(SplitBelow("/q/pak0.pak", path).below) << path;
     EXPECT_FALSE(SplitBelow("c:/a", "C:/a/b").below);
 }
 

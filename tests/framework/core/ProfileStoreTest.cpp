@@ -42,7 +42,6 @@ TEST_F(ProfileStoreTest, DamagedFilesGiveWholeValuesOrNone) {
         EXPECT_TRUE(!gamma || gamma->size() == 12) << text;
         store.ReadBinary("Other", "x");
     };
-    for (std::size_t length = 0; length < whole.size(); ++length) check(whole.substr(0, length));
     for (std::size_t bit = 0; bit < whole.size() * 8; ++bit) {
         std::string flipped = whole;
         flipped[bit / 8] = static_cast<char>(flipped[bit / 8] ^ 1 << bit % 8);
