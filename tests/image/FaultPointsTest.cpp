@@ -1,3 +1,4 @@
+#include "framework/core/ReplacingFile.h"
 #include "image/ImageDocuments.h"
 #include "image/picture/ColorList.h"
 #include "support/TestApplication.h"
@@ -8,14 +9,21 @@
 #include <cstdlib>
 #include <filesystem>
 #include <new>
+#include <random>
+#include <sys/stat.h>
 #include <sys/syscall.h>
+#include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
-// Every read, write, flush, rename and allocation of an open and of a save fails once, and from then on.
+// Every read, write, flush, rename and allocation of an open and of a save fails once, and from then on; and
+// whole processes that are killed and places that cannot be written.
+
+namespace fs = std::filesystem;
 
 namespace {
 
-enum class Step { read, write, flush, rename, allocation };
+enum class Step { read, write, shortWrite, flush, rename, allocation };
 
 // While it lives, one step fails the `first`-th time, and each later time too when it lasts.
 class Fault {
@@ -28,15 +36,14 @@ public:
     Fault(const Fault&) = delete;
     Fault& operator=(const Fault&) = delete;
 
-    static bool Hits(Step step) noexcept { return current && current->step == step && current->Count(); }
+    static bool Hits(Step step) noexcept {
+        if (!current || current->step != step) return false;
+        ++current->count;
+        return current->lasting ? current->HasHit() : current->count == current->first;
+    }
     bool HasHit() const { return count >= first; }
 
 private:
-    bool Count() noexcept {
-        ++count;
-        return lasting ? count >= first : count == first;
-    }
-
     static inline Fault* current = nullptr;
     Step step;
     unsigned first;
@@ -61,6 +68,7 @@ ssize_t pread(int file, void* bytes, std::size_t count, off_t offset) {
     return Call(Step::read, SYS_pread64, file, bytes, count, offset);
 }
 ssize_t write(int file, const void* bytes, std::size_t count) {
+    if (Fault::Hits(Step::shortWrite)) count = (count + 1) / 2;
     return Call(Step::write, SYS_write, file, bytes, count);
 }
 int fsync(int) { // the disk itself takes time, and no test pulls its plug
@@ -93,12 +101,18 @@ void operator delete(void* memory, std::size_t) noexcept {
 
 namespace {
 
+std::size_t CountFiles(const std::string& where) {
+    return static_cast<std::size_t>(std::distance(fs::directory_iterator(where), {}));
+}
+
 struct Attempt {
     bool succeeded = false;
     bool ranOutOfMemory = false; // which may leave no memory for a message
     bool wasTold = false;
     bool wasHit = false;
 };
+
+class SaveFaults : public WorkshopTest {};
 
 class FaultPoints : public WorkshopTest, public testing::WithParamInterface<const char*> {
 protected:
@@ -151,7 +165,7 @@ protected:
     }
     // Saves a new document over a file of these bytes, or to a name of no file.
     Attempt Save(int side, const Bytes& old, Step step, unsigned first, bool lasting) {
-        std::filesystem::remove(target);
+        fs::remove(target);
         if (!old.empty()) WriteFile(target, old);
         TavloDocument& document = MakeDocument(side);
         const Texture before = document.GetTexture();
@@ -163,11 +177,7 @@ protected:
         document.OnCloseDocument();
         return attempt;
     }
-    Bytes Written() const { return std::filesystem::exists(target) ? ReadFile(target) : Bytes(); }
-    std::size_t CountFiles() const {
-        return static_cast<std::size_t>(
-            std::distance(std::filesystem::directory_iterator(folder.path().toStdString()), {}));
-    }
+    Bytes Written() const { return fs::exists(target) ? ReadFile(target) : Bytes(); }
 
     std::string target = PathTo(std::string("target") + GetParam());
 };
@@ -188,7 +198,7 @@ TEST_P(FaultPoints, ASaveLeavesTheDocumentAndTheOldFileOrTheNew) {
             EXPECT_EQ(liveAllocations, liveBefore);
             const Bytes written = Written();
             EXPECT_TRUE(written == whole || (!attempt.succeeded && written == old));
-            EXPECT_EQ(CountFiles(), written.empty() ? 0U : 1U) << "nothing else lies there";
+            EXPECT_EQ(CountFiles(PathTo("")), written.empty() ? 0U : 1U) << "nothing else lies there";
             return attempt.wasHit;
         });
     }
@@ -224,3 +234,56 @@ TEST_P(FaultPoints, AnOpenGivesTheWholeDocumentOrNone) {
 
 INSTANTIATE_TEST_SUITE_P(AllFormats, FaultPoints, testing::Values(".bmp", ".mip", ".pcx", ".tga", ".wal"),
                          [](const auto& extension) { return std::string(extension.param + 1); });
+
+TEST_F(SaveFaults, AKilledSaveLeavesTheOldFileOrTheNew) {
+    const std::string path = Put("killed.wal", MakeWal(64, 64));
+    auto* document = Open<WALDocument>(path);
+    const auto save = [&](unsigned number) {
+        std::ranges::fill(document->GetTexture().Pixels(), 0xFF000000 | number % 16 * 0x0F0F0F);
+        return document->OnSaveDocument(path);
+    };
+    ASSERT_TRUE(save(0));
+    std::mt19937 random(1);
+    for (int round = 0; round < 300; ++round) {
+        const pid_t child = fork();
+        if (child == 0)
+            for (unsigned number = 0;; ++number) save(number);
+        std::this_thread::sleep_for(std::chrono::microseconds(random() % 0x2000));
+        kill(child, SIGKILL);
+        waitpid(child, nullptr, 0);
+        const Bytes wal = ReadFile(path);
+        ASSERT_EQ(wal.size(), 5540U) << round;
+        ASSERT_EQ(std::count(wal.begin() + 100, wal.end(), wal.back()), 5440) << round;
+    }
+    RemoveAbandonedSaves();
+    EXPECT_EQ(CountFiles(PathTo("")), 1U);
+}
+
+TEST_F(SaveFaults, PlacesThatCannotBeWrittenStayAsTheyWere) {
+    auto* document = Open<WALDocument>(Put("floor.wal", MakeWal(64, 64)));
+    const std::string locked = PathTo("locked"), readOnly = locked + "/readonly.wal",
+                      writable = locked + "/writable.wal";
+    fs::create_directory(locked);
+    WriteFile(readOnly, ToBytes("old"));
+    WriteFile(writable, ToBytes("old"));
+    for (const auto& [path, mode] :
+         {std::pair(PathTo(""), 0755), {readOnly, 0444}, {writable, 0666}, {locked, 0555}})
+        chmod(path.c_str(), static_cast<mode_t>(mode));
+    const pid_t child = fork();
+    if (child == 0) { // root is allowed everything, so this acts as somebody else
+        int failures = geteuid() == 0 && setuid(65534) != 0;
+        for (const std::string& path : {readOnly, locked + "/new.wal", PathTo("removed/new.wal"), locked}) {
+            document->SetModifiedFlag();
+            messages.clear();
+            if (document->OnSaveDocument(path) || messages.size() != 1 || !document->IsModified()) ++failures;
+        }
+        _exit(failures + !document->OnSaveDocument(writable));
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(ReadFile(readOnly), ToBytes("old"));
+    EXPECT_EQ(ReadFile(writable).size(), 5540U) << "the file itself could be written";
+    EXPECT_EQ(CountFiles(locked), 2U);
+    chmod(locked.c_str(), 0755);
+}
