@@ -79,7 +79,10 @@ std::optional<std::string> CKelTavloApp::PromptFileName(const FileNameQuestion& 
     ArchiveFileDialog dialog(GetDialogOwner(), question, BuildFileFilters(question),
                              {workshop.GetFileSystem(), ReadPicturePreview,
                               [this](const std::string& what) { NotImplemented(what); }});
-    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    const bool accepted = dialog.exec() == QDialog::Accepted;
+    // Window managers lose track of the focus when a question and the dialog go at once.
+    if (mainFrame) mainFrame->activateWindow();
+    if (!accepted) return std::nullopt;
     const std::string inner = dialog.GetSelectedInnerPath();
     return inner.empty() ? dialog.GetPathName() : inner;
 }
