@@ -37,16 +37,6 @@ TEST_P(CodecLaws, WhatIsWrittenIsReadBack) {
     }
 }
 
-// Once through the format is as good as twice.
-TEST_P(CodecLaws, FilesAreWrittenAlike) {
-    Texture texture = RandomTexture(16, 24, CodecHarness::Palette());
-    texture.quakeName = "a name";
-    texture.quake2 = {"folder/name", "folder/next", 0x80000001, 0xFFFFFFFF, 7};
-    texture.SetPalette(CodecHarness::Palette());
-    const Bytes bytes = codec.Write(texture);
-    EXPECT_EQ(codec.Write(codec.Read(bytes, texture)), bytes);
-}
-
 TEST_P(CodecLaws, APictureWithoutPixelsIsNotWritten) {
     EXPECT_EQ(codec.WriteFailure(Texture(0, 8)), CArchiveException::badIndex);
     EXPECT_EQ(codec.WriteFailure(Texture(8, 0)), CArchiveException::badIndex);

@@ -5,18 +5,8 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <limits>
+#include <numeric>
 #include <random>
-
-namespace {
-
-Image RandomPicture(int width, int height) {
-    std::mt19937 random(6);
-    Image picture(width, height);
-    for (Color& pixel : picture.Pixels()) pixel = static_cast<Color>(random());
-    return picture;
-}
-
-} // namespace
 
 TEST(DibSectionTest, RefusesWhatItCannotHoldAndStaysAsItWas) {
     DibSection bitmap(2, 2, 32);
@@ -52,7 +42,8 @@ TEST(DibSectionTest, EveryDepthKeepsEachPixelApart) {
 }
 
 TEST(DibSectionTest, ColorRowsTakeThePictureUpsideDownWithItsAlpha) {
-    const Image picture = RandomPicture(3, 2);
+    Image picture(3, 2);
+    std::iota(picture.Pixels().begin(), picture.Pixels().end(), 0x12345678U);
     DibSection bitmap(16, 16, 32); // which gets the size of the picture
     picture.RenderTo(bitmap, IdentityTransform{});
     std::vector<std::uint8_t> bytes(24);

@@ -21,15 +21,14 @@ std::vector<Color> PixelsOf(const Image& picture) {
     return {picture.Pixels().begin(), picture.Pixels().end()};
 }
 
-std::uint32_t ChannelMean(std::initializer_list<Color> colors, unsigned shift) {
-    std::uint32_t sum = 0;
-    for (const Color color : colors) sum += color >> shift & 0xFF;
-    return sum / static_cast<std::uint32_t>(colors.size()) << shift;
-}
-
 Color Mean(std::initializer_list<Color> colors) {
-    return ChannelMean(colors, 0) | ChannelMean(colors, 8) | ChannelMean(colors, 16) |
-           ChannelMean(colors, 24);
+    Color mean = 0;
+    for (const unsigned shift : {0U, 8U, 16U, 24U}) {
+        std::uint32_t sum = 0;
+        for (const Color color : colors) sum += color >> shift & 0xFF;
+        mean |= sum / 4 << shift;
+    }
+    return mean;
 }
 
 } // namespace

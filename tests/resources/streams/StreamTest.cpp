@@ -18,14 +18,8 @@ int CauseOf(Action action) {
     return -1;
 }
 
-Bytes Tagged(std::string_view type, std::uint32_t count, std::string_view chunks) {
-    Bytes bytes = ToBytes("KEL\xE5\xD0TAV");
-    const Bytes tag = ToBytes(type);
-    bytes.insert(bytes.end(), tag.begin(), tag.end());
-    PutU32(bytes, bytes.size(), count);
-    const Bytes rest = ToBytes(chunks);
-    bytes.insert(bytes.end(), rest.begin(), rest.end());
-    return bytes;
+Bytes Tagged(std::string_view type, char count, std::string_view chunks) {
+    return ToBytes("KEL\xE5\xD0TAV" + std::string(type) + std::string{count, 0, 0, 0} + std::string(chunks));
 }
 
 TaggedContents ReadBrush(Bytes bytes) {
