@@ -17,13 +17,13 @@ struct Preview {
 // Shows the selected picture, fitted without smoothing, with a text below, once its switch is on.
 class PreviewPanel final : public QWidget {
 public:
-    // Reads the preview of a path; nothing for an empty path.
+    // Reads the preview of a file.
     using Reader = std::function<Preview(const std::string& path)>;
 
     PreviewPanel(QWidget* parent, Reader previewReader);
 
     bool IsPreviewEnabled() const;
-    // What the panel is to show; it is read only while the switch is on, and once.
+    // The file to show, or an empty path; it is read only while the switch is on, and once.
     void SetPath(const std::string& newPath);
     std::function<void(bool enabled)> onSwitch;
     void SetPreviewEnabled(bool enabled);
