@@ -110,6 +110,8 @@ bool ArchiveFileDialog::ShowSelection(const std::string& path) {
 
 void ArchiveFileDialog::FillLowerList(const std::string& path) {
     const CWaitCursor wait;
+    panel->GetList().SetItems(
+        {}, {}); // a message or a progress window may come, and the old lines would be drawn
     archivePath = path;
     std::vector<ArchiveListItem> items;
     if (!path.empty()) {
