@@ -56,20 +56,16 @@ TEST_F(TGATest, TheFirstPixelMayLieInAnyCorner) {
 
 TEST_F(TGATest, SkipsTheIdentifierAndTheColorMap) {
     const Bytes plain = tga.Write(picture);
-    struct Map {
-        std::uint8_t type;
-        std::uint16_t length;
-        std::uint8_t entryBits;
-        std::size_t bytes;
-    };
-    for (const Map& map : {Map{0, 300, 24, 0}, Map{1, 300, 24, 900}, Map{1, 5, 15, 10}, Map{1, 5, 0, 5}}) {
+    using Map = std::tuple<std::uint8_t, std::uint16_t, std::uint8_t, std::size_t>;
+    for (const auto& [type, length, entryBits, size] :
+         {Map{0, 300, 24, 0}, Map{1, 300, 24, 900}, Map{1, 5, 15, 10}, Map{1, 5, 0, 5}}) {
         Bytes bytes = plain;
         Put<std::uint8_t>(bytes, 0, 7);
-        Put(bytes, 1, map.type);
-        Put(bytes, 5, map.length);
-        Put(bytes, 7, map.entryBits);
-        bytes.insert(bytes.begin() + headerSize, 7 + map.bytes, std::byte{0xAA});
-        EXPECT_TRUE(SamePixels(tga.Read(bytes), picture)) << map.bytes;
+        Put(bytes, 1, type);
+        Put(bytes, 5, length);
+        Put(bytes, 7, entryBits);
+        bytes.insert(bytes.begin() + headerSize, 7 + size, std::byte{0xAA});
+        EXPECT_TRUE(SamePixels(tga.Read(bytes), picture)) << size;
     }
 }
 

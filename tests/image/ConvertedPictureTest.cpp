@@ -1,16 +1,10 @@
 #include "image/ConvertedPicture.h"
 
-#include <algorithm>
-#include <gtest/gtest.h>
-#include <random>
+#include "formats/CodecHarness.h"
 
 namespace {
 
 constexpr int width = 7, height = 5;
-
-bool SamePixels(const Image& a, const Image& b) {
-    return std::ranges::equal(a.Pixels(), b.Pixels());
-}
 
 class ConvertedPictureTest : public testing::TestWithParam<PictureConversion> {
 protected:
