@@ -46,13 +46,14 @@ std::vector<std::byte> ToTarga(const Image& picture) {
 void ExtractTextures(Tool& tool, const std::string& path, const std::string& folder, bool force) {
     auto* model = dynamic_cast<MDLDocument*>(tool.GetApplication().OpenDocumentFile(path));
     if (!model) return; // the application has said why
+    const std::string stem = folder + "/" + std::string(BaseNameOf(path)) + "_";
     int number = 0;
     for (const Image& texture : model->GetTextures()) {
-        const std::string name = std::string(BaseNameOf(path)) + "_" + std::to_string(++number) + ".tga";
+        const std::string target = stem + std::to_string(++number) + ".tga";
         if (texture.Pixels().empty())
-            tool.Note("\"" + name + "\" would have no pixels and was left out.");
-        else if (PrepareOutput(tool, folder + "/" + name, force))
-            WriteOutput(tool, folder + "/" + name, ToTarga(texture));
+            tool.Note("\"" + ToDisplayPath(target) + "\" would have no pixels and was left out.");
+        else if (PrepareOutput(tool, target, force))
+            WriteOutput(tool, target, ToTarga(texture));
     }
     if (number == 0) tool.Note("\"" + ToDisplayPath(path) + "\" carries no textures.");
     model->OnCloseDocument();
