@@ -1,5 +1,6 @@
 #include "app/Settings.h"
 
+#include "builders/PackBuilder.h"
 #include "framework/core/ProfileStore.h"
 
 #include <QTemporaryDir>
@@ -10,10 +11,9 @@ namespace {
 
 class SettingsTest : public testing::Test {
 protected:
-    static ProfileStore::Bytes Numbers(std::initializer_list<std::uint32_t> numbers) {
-        ProfileStore::Bytes bytes;
-        for (std::uint32_t number : numbers)
-            for (int shift : {0, 8, 16, 24}) bytes.push_back(static_cast<std::byte>(number >> shift));
+    static Bytes Numbers(std::initializer_list<std::uint32_t> numbers) {
+        Bytes bytes;
+        for (const std::uint32_t number : numbers) PutU32(bytes, bytes.size(), number);
         return bytes;
     }
 
@@ -22,8 +22,8 @@ protected:
 };
 
 TEST_F(SettingsTest, ClearsWhatAnotherVersionLeft) {
-    const ProfileStore::Bytes versions[] = {Numbers({1}), Numbers({2, 0}), {}, Numbers({0x102})};
-    for (const ProfileStore::Bytes& version : versions) {
+    const Bytes versions[] = {Numbers({1}), Numbers({2, 0}), {}, Numbers({0x102})};
+    for (const Bytes& version : versions) {
         store.WriteBinary("Application", "RegistryVersion", version);
         store.WriteBinary("Recent File List", "File1", {std::byte{'x'}});
         CheckSettingsVersion(store);
@@ -39,7 +39,7 @@ TEST_F(SettingsTest, KeepsGammaInTenThousandths) {
     WriteGamma(store, {1.5, 0.33333, 5.0});
     EXPECT_EQ(store.ReadBinary("Main", "Gamma"), Numbers({15000, 3333, 50000}));
     EXPECT_EQ(ReadGamma(store), (GammaValues{1.5, 0.3333, 5.0}));
-    for (const ProfileStore::Bytes& bad :
+    for (const Bytes& bad :
          {Numbers({1, 2}), Numbers({1, 2, 3, 4}), Numbers({1, 2, 50001}), Numbers({0xFFFFFFFF, 1, 1})}) {
         store.WriteBinary("Main", "Gamma", bad);
         EXPECT_FALSE(ReadGamma(store));

@@ -23,17 +23,10 @@ Bytes MakeBmp(std::uint32_t headerSize, int width, int height, std::uint16_t bit
     Bytes bytes = ToBytes("BM");
     bytes.resize(headerField + headerSize);
     Put(bytes, headerField, headerSize);
-    if (headerSize == 12) {
-        Put(bytes, widthField, static_cast<std::uint16_t>(width));
-        Put(bytes, widthField + 2, static_cast<std::uint16_t>(height));
-        Put<std::uint16_t>(bytes, widthField + 4, 1);
-        Put(bytes, widthField + 6, bitCount);
-    } else {
-        Put(bytes, widthField, width);
-        Put(bytes, heightField, height);
-        Put<std::uint16_t>(bytes, planesField, 1);
-        Put(bytes, bitCountField, bitCount);
-    }
+    Put(bytes, widthField, width);
+    Put(bytes, heightField, height);
+    Put<std::uint16_t>(bytes, planesField, 1);
+    Put(bytes, bitCountField, bitCount);
     bytes.insert(bytes.end(), table.begin(), table.end());
     Put(bytes, rowsOffsetField, static_cast<std::uint32_t>(bytes.size()));
     bytes.insert(bytes.end(), rows.begin(), rows.end());
@@ -150,8 +143,8 @@ TEST_F(BMPTest, MasksPlaceTheChannels) {
 
 TEST_F(BMPTest, HeadersOfEverySizeAreRead) {
     // 4 to 12: fields that are missing are 0, 0, 1 and 1.
-    const Bytes oldTable = ToRow({1, 2, 3, 4, 5, 6});
-    Bytes old = MakeBmp(12, 2, 1, 1, oldTable, ToRow({0x40, 0, 0, 0}));
+    const Bytes old = ToRow({'B', 'M', 0, 0, 0, 0, 0, 0, 0, 0, 32, 0, 0, 0, 12,   0, 0, 0,
+                             2,   0,   1, 0, 1, 0, 1, 0, 1, 2, 3,  4, 5, 6, 0x40, 0, 0, 0});
     EXPECT_THAT(Pixels(old), ElementsAre(0xFF030201, 0xFF060504));
     for (const std::uint32_t size : {8U, 9U, 10U, 11U})
         EXPECT_THAT(Pixels(Shortened(old, 12, size)), ElementsAre(0xFF030201, 0xFF060504)) << size;

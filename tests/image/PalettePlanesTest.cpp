@@ -73,10 +73,6 @@ TEST_F(PalettePlanesTest, RampsRunThroughTheChannels) {
     }
     EXPECT_EQ(Seen(plane, 106, 206), look.highlight);
     EXPECT_EQ(Seen(strip1, 56, 14), look.highlight);
-}
-
-TEST_F(PalettePlanesTest, MarkersAtTheCornersAreCut) {
-    planes.SetMode(PalettePlanes::rgba);
     for (const Color corner : {0x00000000U, 0xFFFFFFFFU}) {
         planes.Rebuild(corner);
         planes.Render(nullptr, look);
