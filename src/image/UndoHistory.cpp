@@ -13,10 +13,15 @@ auto Pop(Stack& stack) {
 
 } // namespace
 
+UndoHistory::UndoHistory(TavloDocument& owner, std::size_t limit) : document(owner), capacity(limit) {
+    undoStack.reserve(limit);
+    redoStack.reserve(limit);
+}
+
 void UndoHistory::Add(std::unique_ptr<EditAction> action) {
     redoStack.clear();
+    if (undoStack.size() == capacity) undoStack.erase(undoStack.begin());
     undoStack.push_back(std::move(action));
-    if (undoStack.size() > capacity) undoStack.pop_front();
 }
 
 void UndoHistory::Undo() {

@@ -2,15 +2,16 @@
 
 #include "image/EditAction.h"
 
-#include <deque>
+#include <vector>
 
 // The recorded changes of one document, and those that were undone.
 class UndoHistory {
 public:
     // Keeps at most `limit` changes; the oldest goes first.
-    UndoHistory(TavloDocument& owner, std::size_t limit) : document(owner), capacity(limit) {}
+    UndoHistory(TavloDocument& owner, std::size_t limit);
 
-    // Records a change that was just made. What was undone before can no longer be redone.
+    // Records a change that was just made, which takes no memory: it always succeeds. What was undone before
+    // can no longer be redone.
     void Add(std::unique_ptr<EditAction> action);
     bool CanUndo() const { return !undoStack.empty(); }
     bool CanRedo() const { return !redoStack.empty(); }
@@ -21,7 +22,7 @@ public:
     void Redo();
 
 private:
-    using Stack = std::deque<std::unique_ptr<EditAction>>; // most recent at the back
+    using Stack = std::vector<std::unique_ptr<EditAction>>; // most recent at the back
 
     TavloDocument& document;
     std::size_t capacity;
