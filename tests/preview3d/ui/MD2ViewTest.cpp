@@ -11,6 +11,7 @@
 #include "support/TestApplication.h"
 #include "support/ui/SoftwareProjection.h"
 
+#include <QCoreApplication>
 #include <QKeyEvent>
 
 #include <GL/gl.h>
