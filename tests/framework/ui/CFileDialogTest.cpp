@@ -19,10 +19,8 @@ namespace {
 class CFileDialogTest : public testing::Test {
 protected:
     CFileDialogTest() {
-        QFile file(folder.filePath("pak0.pak"));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        QFile plain(folder.filePath("README"));
-        EXPECT_TRUE(plain.open(QIODevice::WriteOnly));
+        for (const char* name : {"pak0.pak", "README"})
+            EXPECT_TRUE(QFile(folder.filePath(name)).open(QIODevice::WriteOnly));
     }
 
     // Types the name and presses the button; the path that the dialog takes, or nothing when it stays open.
@@ -55,20 +53,15 @@ TEST_F(CFileDialogTest, TakesPathsThatLeadIntoAnArchive) {
     EXPECT_EQ(Type(false, "new.wal"), Path("new.wal"));
 }
 
-TEST_F(CFileDialogTest, RefusesWhatIsNotThere) {
-    for (const bool open : {true, false}) {
-        const DialogAnswer noted(Press(QDialogButtonBox::Ok));
-        EXPECT_EQ(Type(open, "nowhere/a.wal"), std::nullopt);
+TEST_F(CFileDialogTest, RefusesWhatIsNotThereAndAsksBeforeItReplacesAFile) {
+    for (const auto& [open, name, answer, taken] :
+         {std::tuple{true, "nowhere/a.wal", QDialogButtonBox::Ok, false},
+          {false, "nowhere/a.wal", QDialogButtonBox::Ok, false},
+          {false, "README", QDialogButtonBox::No, false},
+          {false, "README", QDialogButtonBox::Yes, true}}) {
+        const DialogAnswer noted(Press(answer));
+        EXPECT_EQ(Type(open, name), taken ? std::optional(Path(name)) : std::nullopt);
     }
-}
-
-TEST_F(CFileDialogTest, AsksBeforeItReplacesAFile) {
-    {
-        const DialogAnswer no(Press(QDialogButtonBox::No));
-        EXPECT_EQ(Type(false, "README"), std::nullopt);
-    }
-    const DialogAnswer yes(Press(QDialogButtonBox::Yes));
-    EXPECT_EQ(Type(false, "README"), Path("README"));
 }
 
 TEST_F(CFileDialogTest, ProposesANameInItsFolderOrTheWayThroughAnArchive) {

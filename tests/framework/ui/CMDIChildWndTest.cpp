@@ -1,13 +1,11 @@
 #include "framework/ui/CMDIChildWnd.h"
 
 #include "framework/core/StandardIds.h"
-#include "framework/ui/CSplitterWnd.h"
 #include "framework/ui/Commands.h"
 #include "framework/ui/WindowFixture.h"
 #include "support/ui/DialogAnswer.h"
 
 #include <QDialogButtonBox>
-#include <QScrollBar>
 
 #include <gmock/gmock.h>
 
@@ -15,7 +13,7 @@ using testing::ElementsAre;
 
 namespace {
 
-class CMDIChildWndTest : public WindowFixture {};
+using CMDIChildWndTest = WindowFixture;
 
 TEST_F(CMDIChildWndTest, NumbersTheWindowsOfADocument) {
     TestDocument& document = NewDocument();
@@ -62,18 +60,6 @@ TEST_F(CMDIChildWndTest, AMaximizedWindowNamesItselfInTheMainTitle) {
     EXPECT_EQ(mainFrame.windowTitle(), "KelTavlo - [shown1]");
     document.OnCloseDocument();
     EXPECT_EQ(mainFrame.windowTitle(), "KelTavlo");
-}
-
-TEST_F(CMDIChildWndTest, TheSplitterOwnsTheBarsBesideThePane) {
-    TestDocument& document = NewDocument();
-    auto& frame = dynamic_cast<ChildFrame&>(FrameOf(document));
-    const CView* view = frame.GetSplitter().GetPane(0, 0);
-    ASSERT_EQ(view, frame.GetActiveView());
-    const QScrollBar& horizontal = view->GetScrollBar(Qt::Horizontal);
-    const QScrollBar& vertical = view->GetScrollBar(Qt::Vertical);
-    EXPECT_EQ(horizontal.geometry().top(), view->geometry().bottom() + 1);
-    EXPECT_EQ(vertical.geometry().left(), view->geometry().right() + 1);
-    EXPECT_EQ(horizontal.geometry().right(), view->geometry().right());
 }
 
 } // namespace
