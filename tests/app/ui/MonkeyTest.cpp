@@ -1,12 +1,11 @@
 // Ten thousand things that a person might do, in an order that no person would choose. The seed can be given
 // in KELTAVLO_MONKEY_SEED, the number of events in KELTAVLO_MONKEY_EVENTS.
-#include "app/ui/CKelTavloApp.h"
-#include "app/ui/MainFrame.h"
 #include "builders/ModelBuilder.h"
 #include "framework/ui/CMDIChildWnd.h"
 #include "framework/ui/CMenu.h"
 #include "res/CommandIds.h"
-#include "support/TestApplication.h"
+#include "support/ui/ProgramFixture.h"
+#include "support/ui/ToolkitComplaints.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -33,65 +32,33 @@ constexpr qint64 longestEvent = 10'000; // milliseconds
 constexpr std::size_t mostDocuments = 12;
 constexpr int patienceWithADialog = 12; // things done to it before it is sent away
 
-std::vector<std::string>& Complaints() {
-    static std::vector<std::string> complaints;
-    return complaints;
-}
-
-void NoteComplaint(QtMsgType type, const QMessageLogContext&, const QString& text) {
-    // The offscreen platform cannot raise windows and says so.
-    if (type != QtDebugMsg && type != QtInfoMsg && !text.contains("plugin does not support"))
-        Complaints().push_back(text.toStdString());
-}
-
 int FromEnvironment(const char* name, int otherwise) {
     bool known = false;
     const int value = qEnvironmentVariableIntValue(name, &known);
     return known ? value : otherwise;
 }
 
-class MonkeyTest : public testing::Test {
+class MonkeyTest : public ProgramFixture {
 protected:
     MonkeyTest() {
-        const std::string path = folder.path().toStdString() + "/";
-        const auto put = [&](const std::string& name, const Bytes& bytes) {
-            WriteFile(path + name, bytes);
-            names.push_back(path + name);
-        };
-        put("floor.wal", MakeWal(64, 32));
-        put("odd.wal", MakeWal(60, 61));
-        put("cut.wal", CutTo(MakeWal(64, 32), 500));
-        put("model.md2", Md2Builder{}.Build());
         PackBuilder pack;
         pack.Add("textures/wall.wal", MakeWal(16, 16));
-        put("pack.pak", pack.Build());
-        names.push_back(path + "pack.pak/textures/wall.wal");
-        names.push_back(path + "missing.tga");
-        for (const char* name :
-             {"saved.wal", "saved.mip", "saved.pcx", "saved.tga", "saved.bmp", "\xE4\xFF.wal"})
-            names.push_back(path + name);
-        before = qInstallMessageHandler(NoteComplaint);
-    }
-    ~MonkeyTest() override {
-        leaving = true;
-        program.reset();
-        qInstallMessageHandler(before);
+        names = {Put("floor.wal", MakeWal(64, 32)), Put("odd.wal", MakeWal(60, 61)),
+                 Put("cut.wal", CutTo(MakeWal(64, 32), 500)), Put("model.md2", Md2Builder{}.Build()),
+                 Put("pack.pak", pack.Build())};
+        for (const char* name : {"pack.pak/textures/wall.wal", "missing.tga", "saved.wal", "saved.mip",
+                                 "saved.pcx", "saved.tga", "saved.bmp", "\xE4\xFF.wal"})
+            names.push_back(PathTo(name));
+        WatchForDialogs();
+        EXPECT_TRUE(program.InitInstance({names[0]}));
     }
 
     int Below(std::size_t count) { return static_cast<int>(random() % count); }
     const std::string& AnyName() { return names[random() % names.size()]; }
 
-    void Start() {
-        program = std::make_unique<CKelTavloApp>(
-            std::make_unique<ProfileStore>(folder.filePath("settings.ini").toStdString()));
-        WatchForDialogs();
-        ASSERT_TRUE(program->InitInstance({names[0]}));
-    }
-
     // Dialogs and menus run loops of their own: whoever watches for them starts the next watch before acting.
     void WatchForDialogs() {
-        QTimer::singleShot(0, [this] {
-            if (leaving) return;
+        QTimer::singleShot(0, &watcher, [this] {
             if (QWidget* popup = QApplication::activePopupWidget()) {
                 popup->close();
             } else if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
@@ -144,7 +111,7 @@ protected:
     }
 
     QWidget* AnyWidget() {
-        QList<QWidget*> widgets = program->GetMainFrame()->findChildren<QWidget*>();
+        QList<QWidget*> widgets = GetMainFrame().findChildren<QWidget*>();
         widgets.removeIf([](QWidget* widget) { return !widget->isVisible() || !widget->isEnabled(); });
         return widgets.isEmpty() ? nullptr : widgets[Below(static_cast<std::size_t>(widgets.size()))];
     }
@@ -185,19 +152,19 @@ protected:
 
     // Any item of the menus but the one that ends the program.
     void ChooseFromMenu() {
-        program->GetMainFrame()->GetCurrentMenu().UpdateAll();
+        GetMainFrame().GetCurrentMenu().UpdateAll();
         QList<QAction*> items;
-        AddItems(program->GetMainFrame()->menuBar()->actions(), items);
+        AddItems(GetMainFrame().menuBar()->actions(), items);
         if (!items.isEmpty()) items[Below(static_cast<std::size_t>(items.size()))]->trigger();
     }
 
     void CloseActive() {
-        if (CMDIChildWnd* active = program->GetMainFrame()->MDIGetActive()) active->close();
+        if (CMDIChildWnd* active = GetMainFrame().MDIGetActive()) active->close();
     }
 
     void DoAnything() {
         const int choice = Below(100);
-        if (program->GetDocuments().size() > mostDocuments)
+        if (program.GetDocuments().size() > mostDocuments)
             CloseActive();
         else if (choice < 40)
             ChooseFromMenu();
@@ -208,34 +175,32 @@ protected:
         else if (choice < 88)
             TurnWheel();
         else if (choice < 95)
-            program->OpenDocumentFile(AnyName());
+            program.OpenDocumentFile(AnyName());
         else if (choice < 98)
             CloseActive();
         else
-            program->GetMainFrame()->resize(400 + Below(800), 300 + Below(600));
+            GetMainFrame().resize(400 + Below(800), 300 + Below(600));
         QCoreApplication::processEvents();
     }
 
-    QTemporaryDir folder;
+    const ToolkitComplaints complaints;
+    QObject watcher; // looks for dialogs as long as it lives
     std::vector<std::string> names;
     std::mt19937 random{static_cast<unsigned>(FromEnvironment("KELTAVLO_MONKEY_SEED", 1))};
-    std::unique_ptr<CKelTavloApp> program;
     const QDialog* lastDialog = nullptr; // only compared
     int patience = 0;
-    bool leaving = false;
-    QtMessageHandler before = nullptr;
     std::map<std::string, int> dialogs; // how often each kind was seen
 };
 
 TEST_F(MonkeyTest, NeitherCrashesNorHangsNorMakesTheToolkitComplain) {
-    Start();
     const int events = FromEnvironment("KELTAVLO_MONKEY_EVENTS", ordinaryEvents);
     for (int i = 0; i < events; ++i) {
         QElapsedTimer clock;
         clock.start();
         DoAnything();
         ASSERT_LT(clock.elapsed(), longestEvent) << "event " << i;
-        ASSERT_TRUE(Complaints().empty()) << "event " << i << ": " << Complaints().front();
+        ASSERT_TRUE(ToolkitComplaints::texts.empty())
+            << "event " << i << ": " << ToolkitComplaints::texts.front();
     }
     for (const char* kind : {"QColorDialog", "QDialog", "QFileDialog", "QMessageBox"})
         EXPECT_GT(dialogs[kind], 0) << "never asked: " << kind;

@@ -1,10 +1,8 @@
 #include "formats/ui/EditPropertySheet.h"
 
-#include "framework/ui/Commands.h"
 #include "image/ui/TavloViewFixture.h"
 #include "res/CommandIds.h"
 #include "res/ControlIds.h"
-#include "support/ui/DialogAnswer.h"
 
 #include <QAbstractSpinBox>
 #include <QCheckBox>
@@ -12,8 +10,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
 
@@ -70,9 +66,6 @@ public:
         action();
         return text;
     }
-    QString RefusalOfOk() {
-        return Refusal([this] { Press(QDialogButtonBox::Ok); });
-    }
     bool IsOpen() { return dialog.isVisible(); }
 
 private:
@@ -90,7 +83,7 @@ protected:
             if (sheet.IsOpen()) sheet.Press(QDialogButtonBox::Ok);
             if (sheet.IsOpen()) dialog.reject();
         });
-        EXPECT_TRUE(SendCommand(*program.GetMainFrame(), ID_EDIT_PROPERTIES));
+        EXPECT_TRUE(Send(ID_EDIT_PROPERTIES));
     }
     // The names of the recorded changes, in the order in which they were made. Takes them back.
     std::vector<std::string> TakeChanges() {
@@ -99,7 +92,6 @@ protected:
             names.insert(names.begin(), document->GetHistory().TopUndoName());
         return names;
     }
-    Texture& GetTexture() { return document->GetTexture(); }
 };
 
 using Names = std::vector<std::string>;
@@ -150,7 +142,7 @@ TEST_F(EditPropertySheetTest, EachChangedGroupIsOneUndoableChange) {
     EXPECT_EQ(GetTexture().quake2.nextFrameName, "");
 }
 
-TEST_F(EditPropertySheetTest, PagesThatWereNotShownAreLeftAlone) {
+TEST_F(EditPropertySheetTest, OnlyValuesThatDifferAtTheEndAreTaken) {
     GetTexture().quakeName = std::string(16, 'x');
     Run([](Sheet& sheet) { sheet.Type(IDC_HEIGHT, "1024"); });
     EXPECT_EQ(GetTexture().GetHeight(), 1024);
@@ -161,6 +153,13 @@ TEST_F(EditPropertySheetTest, PagesThatWereNotShownAreLeftAlone) {
     });
     EXPECT_EQ(GetTexture().GetHeight(), 32);
     EXPECT_TRUE(TakeChanges().empty());
+    Run([](Sheet& sheet) {
+        sheet.Type(IDC_WIDTH, "128");
+        sheet.ShowPage(1);
+        sheet.ShowPage(0);
+        sheet.Type(IDC_WIDTH, "64");
+    });
+    EXPECT_TRUE(TakeChanges().empty()) << "a value that is typed back counts again";
 }
 
 TEST_F(EditPropertySheetTest, RefusesValuesOutsideTheirRangesAndStays) {
@@ -188,7 +187,8 @@ TEST_F(EditPropertySheetTest, RefusesValuesOutsideTheirRangesAndStays) {
             if (row.innerPage >= 0) sheet.ShowInnerPage(row.innerPage);
             const QString old = sheet.Get<QLineEdit>(row.control).text();
             sheet.Type(row.control, row.text);
-            EXPECT_TRUE(sheet.RefusalOfOk().contains(row.message)) << row.text.toStdString();
+            EXPECT_TRUE(sheet.Refusal([&] { sheet.Press(QDialogButtonBox::Ok); }).contains(row.message))
+                << row.text.toStdString();
             ASSERT_TRUE(sheet.IsOpen());
             sheet.Refusal([&] { sheet.ShowPage(row.page == 0 ? 1 : 0); });
             EXPECT_EQ(sheet.GetPage(), row.page) << "the page is not left either";
@@ -202,35 +202,29 @@ TEST_F(EditPropertySheetTest, RefusesValuesOutsideTheirRangesAndStays) {
 
 TEST_F(EditPropertySheetTest, StepsStayWithinTheRanges) {
     GetTexture().SetSize(1023, 2000);
-    Run([](Sheet& sheet) {
-        auto& width = sheet.Get<QAbstractSpinBox>(IDC_WIDTH_SPIN);
-        for (int i = 0; i < 3; ++i) QTest::keyClick(&width, Qt::Key_Up);
-        EXPECT_EQ(width.text(), "1024");
-        sheet.Type(IDC_WIDTH, "2");
-        for (int i = 0; i < 3; ++i) QTest::keyClick(&width, Qt::Key_Down);
-        EXPECT_EQ(width.text(), "1");
-        auto& height = sheet.Get<QAbstractSpinBox>(IDC_HEIGHT_SPIN);
-        QTest::keyClick(&height, Qt::Key_Up);
-        EXPECT_EQ(height.text(), "2000");
-        QTest::keyClick(&height, Qt::Key_Down);
-        EXPECT_EQ(height.text(), "1024");
-        sheet.Type(IDC_HEIGHT, "x");
-        QTest::keyClick(&height, Qt::Key_Up);
-        EXPECT_EQ(height.text(), "1");
+    struct Step {
+        unsigned edit, spin;
+        QString typed; // empty: as it was
+        Qt::Key key;
+        const char* then;
+    };
+    const Step steps[] = {
+        {IDC_WIDTH, IDC_WIDTH_SPIN, "", Qt::Key_Up, "1024"},
+        {IDC_WIDTH, IDC_WIDTH_SPIN, "", Qt::Key_Up, "1024"},
+        {IDC_WIDTH, IDC_WIDTH_SPIN, "1", Qt::Key_Down, "1"},
+        {IDC_HEIGHT, IDC_HEIGHT_SPIN, "", Qt::Key_Up, "2000"},
+        {IDC_HEIGHT, IDC_HEIGHT_SPIN, "", Qt::Key_Down, "1024"},
+        {IDC_HEIGHT, IDC_HEIGHT_SPIN, "x", Qt::Key_Up, "1"},
+    };
+    Run([&](Sheet& sheet) {
+        for (const auto& [edit, spin, typed, key, then] : steps) {
+            if (!typed.isEmpty()) sheet.Type(edit, typed);
+            QTest::keyClick(&sheet.Get<QAbstractSpinBox>(spin), key);
+            EXPECT_EQ(sheet.Get<QLineEdit>(edit).text(), then);
+        }
     });
     EXPECT_EQ(GetTexture().GetWidth(), 1);
     EXPECT_EQ(GetTexture().GetHeight(), 1);
-}
-
-TEST_F(EditPropertySheetTest, AValueThatIsTypedBackCountsAgain) {
-    Run([](Sheet& sheet) {
-        sheet.Type(IDC_WIDTH, "128");
-        sheet.ShowPage(1);
-        sheet.ShowPage(0);
-        sheet.Type(IDC_WIDTH, "64");
-    });
-    EXPECT_EQ(GetTexture().GetWidth(), 64);
-    EXPECT_TRUE(TakeChanges().empty());
 }
 
 // At any size of the font: no label is narrower than its text.

@@ -1,7 +1,6 @@
 #include "image/ui/ClipboardPicture.h"
 
 #include "framework/ui/CClipboard.h"
-#include "framework/ui/Commands.h"
 #include "image/picture/ColorList.h"
 #include "image/ui/TavloViewFixture.h"
 #include "res/CommandIds.h"
@@ -67,10 +66,8 @@ class ClipboardPictureTest : public TavloViewFixture {
 protected:
     ~ClipboardPictureTest() override { QGuiApplication::clipboard()->clear(); }
 
-    bool Send(CommandId id) { return SendCommand(*program.GetMainFrame(), id); }
     void Offer(QMimeData* data) { QGuiApplication::clipboard()->setMimeData(data); }
     void Offer(const QString& format, const QByteArray& bytes) { Offer(new ForeignData({format}, bytes)); }
-    Texture& GetTexture() { return document->GetTexture(); }
     static const QMimeData& Offered() { return *QGuiApplication::clipboard()->mimeData(); }
 };
 
@@ -161,17 +158,14 @@ TEST_F(ClipboardPictureTest, DamagedDataLeavesTheDocumentAsItWas) {
     EXPECT_FALSE(Send(ID_EDIT_PASTE));
 }
 
-TEST_F(ClipboardPictureTest, AsksTheOwnerWhenSomethingChangesAndNotMeanwhile) {
+TEST_F(ClipboardPictureTest, AsksTheOwnerOnlyWhenSomethingChangesAndOnlyOnce) {
     Offer("image/png", "x");
     ForeignData::questions = 0;
     for (int i = 0; i < 100; ++i) {
-        program.GetMainFrame()->OnIdle();
-        EXPECT_TRUE(AskCommand(*program.GetMainFrame(), ID_EDIT_PASTE).enabled);
+        GetMainFrame().OnIdle();
+        EXPECT_TRUE(StateOf(ID_EDIT_PASTE).enabled);
     }
     EXPECT_EQ(ForeignData::questions, 0);
-}
-
-TEST_F(ClipboardPictureTest, AsksASlowOwnerOnlyOnce) {
     Offer(new ForeignData({"image/bmp", "image/png", "image/x-portable-pixmap"}, "x", 1200));
     QElapsedTimer clock;
     clock.start();

@@ -1,9 +1,5 @@
-#include "framework/ui/Commands.h"
 #include "image/ui/TavloViewFixture.h"
 #include "res/CommandIds.h"
-#include "resources/BrushDocument.h"
-#include "resources/BuiltInPath.h"
-#include "support/ui/PopupAnswer.h"
 
 #include <QContextMenuEvent>
 #include <QPaintEvent>
@@ -29,10 +25,6 @@ class TavloViewBrushTest : public TavloViewFixture {
 protected:
     TavloViewBrushTest() { program.SetCurrentColor(red); }
 
-    void Choose(BuiltInFile brush) {
-        document->SetCurrentBrush(
-            dynamic_cast<BrushDocument*>(BaseDocument::OpenReference(GetBuiltInPath(brush))));
-    }
     void Press(const QPoint& place) { QTest::mousePress(view, Qt::LeftButton, {}, place); }
     void Release(const QPoint& place) { QTest::mouseRelease(view, Qt::LeftButton, {}, place); }
     // The toolkit's helper remembers buttons from one test to the next.
@@ -40,7 +32,7 @@ protected:
         QMouseEvent event(QEvent::MouseMove, place, view->mapToGlobal(place), Qt::NoButton, buttons, {});
         QCoreApplication::sendEvent(view, &event);
     }
-    Color TexelAt(int x, int y) { return document->GetTexture().GetPixel(x, y); }
+    Color TexelAt(int x, int y) { return GetTexture().GetPixel(x, y); }
 };
 
 } // namespace
@@ -72,24 +64,21 @@ TEST_F(TavloViewBrushTest, StrokesGoAcrossTheSeam) {
 
 TEST_F(TavloViewBrushTest, StrokesRepaintWhatTheyChangeInAllViews) {
     Choose(texelBrushFile);
-    SendCommand(*program.GetMainFrame(), ID_WINDOW_NEW);
+    Send(ID_WINDOW_NEW);
     QCoreApplication::processEvents();
-    auto* other = dynamic_cast<TavloView*>(program.GetMainFrame()->MDIGetActive()->GetActiveView());
+    auto* other = dynamic_cast<TavloView*>(GetMainFrame().MDIGetActive()->GetActiveView());
     ASSERT_NE(other, view);
     dynamic_cast<TavloViewFrame*>(other->GetParentFrame())->SetZoom(8);
-    SendCommand(*program.GetMainFrame(), ID_WINDOW_TILE_VERT);
+    Send(ID_WINDOW_TILE_VERT);
     frame->SetZoom(4);
     Press({200, 5});
     QCoreApplication::processEvents();
     PaintSpy painted(*view), paintedToo(*other);
     Drag({9, 5});
     EXPECT_GT(painted.region.rectCount(), 1);
-    for (const QRect& rect : painted.region) {
-        EXPECT_EQ(rect.left() % 256, 8);
-        EXPECT_EQ(rect.top() % 128, 4);
-        EXPECT_LE(rect.width(), 4);
-        EXPECT_LE(rect.height(), 4);
-    }
+    for (const QRect& rect : painted.region)
+        EXPECT_TRUE(
+            QRect(8, 4, 4, 4).contains(rect.translated(-rect.left() / 256 * 256, -rect.top() / 128 * 128)));
     EXPECT_EQ(ColorShownAt(9, 5), red);
     QCoreApplication::processEvents();
     ASSERT_FALSE(paintedToo.region.isEmpty());
@@ -100,19 +89,13 @@ TEST_F(TavloViewBrushTest, StrokesRepaintWhatTheyChangeInAllViews) {
     Release({10, 6});
 }
 
-TEST_F(TavloViewBrushTest, WithoutABrushNothingIsCapturedOrChanged) {
-    const Texture before = document->GetTexture();
+TEST_F(TavloViewBrushTest, OnlyTheLeftButtonPaintsAndOnlyWithABrush) {
+    const Texture before = GetTexture();
     Press({1, 1});
     Choose(texelBrushFile);
     Drag({5, 5});
     Release({9, 9});
-    EXPECT_TRUE(std::ranges::equal(document->GetTexture().Pixels(), before.Pixels()));
-    EXPECT_FALSE(document->IsModified());
-    EXPECT_EQ(PaneText(2), "5.00, 5.00");
-}
-
-TEST_F(TavloViewBrushTest, OtherButtonsDoNotPaint) {
-    Choose(texelBrushFile);
+    EXPECT_TRUE(std::ranges::equal(GetTexture().Pixels(), before.Pixels()));
     QTest::mousePress(view, Qt::MiddleButton, {}, {3, 3});
     Drag({5, 5}, Qt::MiddleButton);
     QTest::mouseRelease(view, Qt::MiddleButton, {}, {3, 3});
@@ -131,7 +114,7 @@ TEST_F(TavloViewBrushTest, ThePickerTakesTheColorUnderTheMouse) {
     EXPECT_EQ(program.GetCurrentColor(), first);
     Drag({20, 9});
     EXPECT_EQ(program.GetCurrentColor(), second);
-    document->GetTexture().SetPixel(30, 9, 0x00123456);
+    GetTexture().SetPixel(30, 9, 0x00123456);
     Release({30, 9});
     EXPECT_EQ(program.GetCurrentColor(), 0x00123456U) << "with its alpha";
     EXPECT_EQ(TexelAt(7, 9), first);
@@ -152,29 +135,21 @@ TEST_F(TavloViewBrushTest, ThePointerIsTheBrushsWithItsHotSpotOnTheTip) {
     EXPECT_EQ(view->cursor().shape(), Qt::ArrowCursor);
 }
 
-TEST_F(TavloViewBrushTest, TheContextMenuIsMadeAfreshEachTime) {
-    const auto rightClick = [&](const QPoint& place) {
-        const QPoint inWindow = view->mapTo(view->window(), place);
-        QTest::mouseClick(view->window()->windowHandle(), Qt::RightButton, {}, inWindow);
-        QCoreApplication::processEvents();
+TEST_F(TavloViewBrushTest, TheContextMenuComesByMouseAndKeyboard) {
+    const auto brushesIn = [](QMenu& menu) -> QMenu& {
+        EXPECT_EQ(ItemTexts(menu), QStringList({"Brush", "Color...", "Zoom", "Properties", "Cancel"}));
+        return *menu.actions().front()->menu();
     };
     {
-        const PopupAnswer choose([&](QMenu& menu) {
-            EXPECT_EQ(ItemTexts(menu), QStringList({"Brush", "Color...", "Zoom", "Properties", "Cancel"}));
-            const QMenu& brushes = *FindItemText(menu, "Brush")->menu();
-            EXPECT_EQ(ItemTexts(brushes), QStringList({"Texel Brush", "Color Picker", "", "None"}));
-            FindItemText(brushes, "Color Picker")->trigger();
-        });
-        rightClick({20, 20});
+        const PopupAnswer choose([&](QMenu& menu) { brushesIn(menu).actions().at(1)->trigger(); });
+        const QPoint inWindow = view->mapTo(view->window(), QPoint(20, 20));
+        QTest::mouseClick(view->window()->windowHandle(), Qt::RightButton, {}, inWindow);
+        QCoreApplication::processEvents();
     }
     ASSERT_TRUE(document->HasBrush());
     EXPECT_EQ(document->GetCurrentBrush()->GetTitle(), "Color Picker");
-    const std::string third = folder.filePath("third.kelbrush").toStdString();
-    WriteFile(third, ToBytes("KEL\xE5\xD0TAVBrsh" + std::string(4, '\0')));
-    program.OpenDocumentFile(third);
     const PopupAnswer look([&](QMenu& menu) {
-        const QMenu& brushes = *FindItemText(menu, "Brush")->menu();
-        EXPECT_EQ(ItemTexts(brushes), QStringList({"Texel Brush", "Color Picker", "third", "", "None"}));
+        EXPECT_EQ(ItemTexts(brushesIn(menu)), QStringList({"Texel Brush", "Color Picker", "", "None"}));
     });
     // What the windowing system makes of the menu key.
     const QPoint middle = view->rect().center();

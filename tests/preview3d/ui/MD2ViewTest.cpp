@@ -1,14 +1,11 @@
 #include "preview3d/ui/MD2View.h"
 
-#include "app/ui/CKelTavloApp.h"
-#include "app/ui/MainFrame.h"
 #include "builders/ModelBuilder.h"
 #include "framework/ui/CMDIChildWnd.h"
-#include "framework/ui/Commands.h"
 #include "image/TavloDocument.h"
 #include "preview3d/MD2Document.h"
 #include "res/CommandIds.h"
-#include "support/TestApplication.h"
+#include "support/ui/ProgramFixture.h"
 #include "support/ui/SoftwareProjection.h"
 
 #include <QCoreApplication>
@@ -16,7 +13,6 @@
 
 #include <GL/gl.h>
 #include <cmath>
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -37,8 +33,9 @@ public:
         Md2Builder::Vertex vertex;
         Md2Builder::TexCoord texCoord;
     };
-    // Counter-clockwise as seen from where it is to be seen.
-    void Add(const std::array<Corner, 4>& quad) { quads.push_back(quad); }
+    using Quad = std::array<Corner, 4>; // counter-clockwise as seen from where it is to be seen
+
+    explicit QuadModel(std::vector<Quad> ofQuads) : quads(std::move(ofQuads)) {}
 
     Bytes Build(std::vector<std::vector<std::uint16_t>> otherTriangles = {}) const {
         Md2Builder model;
@@ -79,35 +76,27 @@ private:
         return quads[static_cast<std::size_t>(i) / 4][static_cast<std::size_t>(i) % 4];
     }
 
-    std::vector<std::array<Corner, 4>> quads;
+    std::vector<Quad> quads;
     std::array<float, 3> scale{0.25F, 0.5F, 0.25F};
     std::array<float, 3> translate{-30, 40, -30};
 };
 
 // One before the other, the nearer tilted and with a texture that is laid side by side; a third is turned
 // away before both.
-QuadModel MakeScene() {
-    QuadModel scene;
-    scene.Add({{{{0, 120, 0}, {0, 90}},
-                {{240, 120, 0}, {120, 90}},
-                {{240, 120, 240}, {120, 0}},
-                {{0, 120, 240}, {0, 0}}}});
-    scene.Add({{{{20, 40, 30}, {-40, 150}},
-                {{130, 90, 60}, {100, 150}},
-                {{140, 60, 160}, {100, 10}},
-                {{60, 20, 150}, {-40, 10}}}});
-    scene.Add(
-        {{{{0, 10, 0}, {0, 0}}, {{0, 10, 240}, {0, 9}}, {{240, 10, 240}, {9, 9}}, {{240, 10, 0}, {9, 0}}}});
-    return scene;
-}
+const QuadModel scene({
+    {{{{0, 120, 0}, {0, 90}},
+      {{240, 120, 0}, {120, 90}},
+      {{240, 120, 240}, {120, 0}},
+      {{0, 120, 240}, {0, 0}}}},
+    {{{{20, 40, 30}, {-40, 150}},
+      {{130, 90, 60}, {100, 150}},
+      {{140, 60, 160}, {100, 10}},
+      {{60, 20, 150}, {-40, 10}}}},
+    {{{{0, 10, 0}, {0, 0}}, {{0, 10, 240}, {0, 9}}, {{240, 10, 240}, {9, 9}}, {{240, 10, 0}, {9, 0}}}},
+});
 
-class MD2ViewTest : public testing::Test {
+class MD2ViewTest : public ProgramFixture {
 protected:
-    std::string Put(const std::string& name, const Bytes& bytes) const {
-        const std::string path = folder.filePath(QString::fromStdString(name)).toStdString();
-        WriteFile(path, bytes);
-        return path;
-    }
     // An open texture, every texel in a colour of its own.
     TavloDocument& OpenTexture(const std::string& name, int width, int height) {
         auto* document = dynamic_cast<TavloDocument*>(program.OpenDocumentFile(Put(name, MakeWal(8, 8))));
@@ -132,8 +121,6 @@ protected:
         QCoreApplication::sendEvent(&view, &event);
     }
 
-    QTemporaryDir folder;
-    CKelTavloApp program{std::make_unique<ProfileStore>(folder.filePath("settings.ini").toStdString())};
     bool started = program.InitInstance({Put("model.mdl", MdlBuilder{.textures = {{8, 8}}}.Build())});
 };
 
@@ -147,7 +134,6 @@ QRgb ColorOfSmallTexture(const Vector& place) {
 
 TEST_F(MD2ViewTest, DrawsTheModelWithThePicture) {
     OpenTexture("floor.wal", 64, 64);
-    const QuadModel scene = MakeScene();
     MD2View& view =
         OpenModel(scene.Build({{0, 1, 12, 0, 1, 2}, {0, 1, 2, 0, 1, 12}, {0xFFFF, 1, 2, 0, 1, 2}}));
     scene.Project(view.size(), ColorOfSmallTexture).ExpectSeenIn(PictureOf(view));
@@ -163,15 +149,14 @@ TEST_F(MD2ViewTest, DrawsTheModelWithThePicture) {
 // The picture is brought to 256 x 256 without moving a texel; its edge runs on to the right and below.
 TEST_F(MD2ViewTest, ShowsEachTexelInItsPlace) {
     OpenTexture("skin.wal", 200, 194);
-    QuadModel sheet;
-    sheet.Add({{{{0, 20, 0}, {0, 194}},
-                {{240, 20, 0}, {200, 194}},
-                {{240, 20, 240}, {200, 0}},
-                {{0, 20, 240}, {0, 0}}}});
-    sheet.Add({{{{0, 0, 0}, {180, 256}},
-                {{30, 0, 0}, {256, 256}},
-                {{30, 0, 30}, {256, 180}},
-                {{0, 0, 30}, {180, 180}}}});
+    const QuadModel sheet({{{{{0, 20, 0}, {0, 194}},
+                             {{240, 20, 0}, {200, 194}},
+                             {{240, 20, 240}, {200, 0}},
+                             {{0, 20, 240}, {0, 0}}}},
+                           {{{{0, 0, 0}, {180, 256}},
+                             {{30, 0, 0}, {256, 256}},
+                             {{30, 0, 30}, {256, 180}},
+                             {{0, 0, 30}, {180, 180}}}}});
     MD2View& view = OpenModel(sheet.Build());
     view.setMinimumSize(900, 900);
     const auto texel = [](double at, int count) { return std::min(static_cast<int>(at), count - 1); };
@@ -183,7 +168,6 @@ TEST_F(MD2ViewTest, ShowsEachTexelInItsPlace) {
 
 TEST_F(MD2ViewTest, MovesByTheKeyboard) {
     OpenTexture("floor.wal", 64, 64);
-    const QuadModel scene = MakeScene();
     MD2View& view = OpenModel(scene.Build());
     const auto expectAt = [&](double x, double y) {
         SCOPED_TRACE(testing::Message() << x << ", " << y);
@@ -205,7 +189,6 @@ TEST_F(MD2ViewTest, MovesByTheKeyboard) {
 
 TEST_F(MD2ViewTest, KeepsThePictureOfWhenItWasMade) {
     TavloDocument& floor = OpenTexture("floor.wal", 64, 64);
-    const QuadModel scene = MakeScene();
     MD2View& view = OpenModel(scene.Build());
     floor.GetTexture().SetSize(1, 1);
     floor.GetTexture().SetPixel(0, 0, 0xFF102030);
@@ -221,21 +204,19 @@ TEST_F(MD2ViewTest, KeepsThePictureOfWhenItWasMade) {
 }
 
 TEST_F(MD2ViewTest, IsGreyWithoutAPictureAndRedWithoutTexture) {
-    const QuadModel scene = MakeScene();
     MD2View& view = OpenModel(scene.Build());
     const auto expect = [&](QRgb color) {
         scene.Project(view.size(), [&](const Vector&) { return color; }).ExpectSeenIn(PictureOf(view));
     };
-    MainFrame& frame = *program.GetMainFrame();
     expect(grey);
-    EXPECT_TRUE(AskCommand(frame, ID_3D_TEXTURED).radio);
-    EXPECT_TRUE(SendCommand(frame, ID_3D_SOLID));
+    EXPECT_TRUE(StateOf(ID_3D_TEXTURED).radio);
+    EXPECT_TRUE(Send(ID_3D_SOLID));
     expect(qRgb(255, 0, 0));
-    EXPECT_TRUE(AskCommand(frame, ID_3D_SOLID).radio);
-    EXPECT_FALSE(AskCommand(frame, ID_3D_TEXTURED).radio);
-    EXPECT_TRUE(SendCommand(frame, ID_3D_TEXTURED));
+    EXPECT_TRUE(StateOf(ID_3D_SOLID).radio);
+    EXPECT_FALSE(StateOf(ID_3D_TEXTURED).radio);
+    EXPECT_TRUE(Send(ID_3D_TEXTURED));
     expect(grey);
-    EXPECT_FALSE(AskCommand(frame, ID_3D_WIREFRAME).enabled);
+    EXPECT_FALSE(StateOf(ID_3D_WIREFRAME).enabled);
 }
 
 TEST_F(MD2ViewTest, ShowsNothingWhereNothingIsDrawn) {
@@ -246,7 +227,7 @@ TEST_F(MD2ViewTest, ShowsNothingWhereNothingIsDrawn) {
         EXPECT_EQ(PictureOf(view), black);
     };
     expectBlack(OpenModel(Md2Builder().Build()));
-    CDocument* studioModel = program.OpenDocumentFile(folder.filePath("model.mdl").toStdString());
+    CDocument* studioModel = program.OpenDocumentFile(PathTo("model.mdl"));
     auto& studioView = dynamic_cast<ModelView&>(*studioModel->GetViews().front());
     expectBlack(studioView);
     Type(studioView, "d");

@@ -1,39 +1,21 @@
-#include "app/ui/CKelTavloApp.h"
-#include "app/ui/MainFrame.h"
 #include "builders/ModelBuilder.h"
 #include "framework/ui/CSplitterWnd.h"
 #include "framework/ui/ChildFrame.h"
-#include "framework/ui/Commands.h"
 #include "preview3d/ui/ModelView.h"
 #include "res/CommandIds.h"
+#include "support/ui/ProgramFixture.h"
+#include "support/ui/ToolkitComplaints.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QMdiSubWindow>
-#include <QTemporaryDir>
 
-#include <gtest/gtest.h>
 #include <malloc.h>
 
 namespace {
 
 // A context that stays behind takes some megabytes, more than all else of a hundred windows.
 constexpr long leeway = 8 << 20; // bytes
-
-// What the toolkit complains of while it lives.
-class Complaints {
-public:
-    Complaints() { previous = qInstallMessageHandler(&Note); }
-    ~Complaints() { qInstallMessageHandler(previous); }
-
-    static inline std::vector<std::string> texts;
-
-private:
-    static void Note(QtMsgType, const QMessageLogContext&, const QString& text) {
-        if (!text.contains("propagateSizeHints")) texts.push_back(text.toStdString());
-    }
-    QtMessageHandler previous;
-};
 
 // Bytes of memory that the process uses; 0 where a sanitizer keeps what was freed, and finds leaks itself.
 long MemoryInUse() {
@@ -46,7 +28,7 @@ long MemoryInUse() {
     return file.readAll().split(' ')[1].toLong() * 4096;
 }
 
-class ModelWindowsTest : public testing::Test {
+class ModelWindowsTest : public ProgramFixture {
 protected:
     ModelWindowsTest() {
         Md2Builder model;
@@ -58,11 +40,10 @@ protected:
 
     void OpenTileSplitHideAndClose(std::size_t windowCount) {
         CDocument* document = program.OpenDocumentFile(path);
-        MainFrame& mainFrame = *program.GetMainFrame();
-        while (document->GetViews().size() < windowCount) SendCommand(mainFrame, ID_WINDOW_NEW);
+        while (document->GetViews().size() < windowCount) Send(ID_WINDOW_NEW);
         const std::vector<DocumentView*> views = document->GetViews();
         for (const CommandId arrangement : {ID_WINDOW_TILE_HORZ, ID_WINDOW_TILE_VERT, ID_WINDOW_CASCADE}) {
-            SendCommand(mainFrame, arrangement);
+            Send(arrangement);
             QCoreApplication::processEvents();
         }
         for (std::size_t i = 0; i < views.size(); i += 5) {
@@ -71,33 +52,31 @@ protected:
                 splitter.SetSplit(direction, splitter.GetExtent(direction) / 2);
         }
         EXPECT_GT(document->GetViews().size(), views.size()) << "panes have views of their own";
+        const auto frame = [&](std::size_t i) -> QWidget& {
+            return dynamic_cast<QWidget&>(*views[i]->GetFrame());
+        };
         QCoreApplication::processEvents();
-        for (std::size_t i = 0; i < views.size(); i += 3)
-            dynamic_cast<QWidget&>(*views[i]->GetFrame()).hide();
+        for (std::size_t i = 0; i < views.size(); i += 3) frame(i).hide();
         QCoreApplication::processEvents();
-        for (std::size_t i = 0; i < views.size(); i += 6)
-            dynamic_cast<QWidget&>(*views[i]->GetFrame()).show();
-        for (std::size_t i = 0; i + 1 < views.size(); ++i)
-            dynamic_cast<QWidget&>(*views[i]->GetFrame()).close();
+        for (std::size_t i = 0; i < views.size(); i += 6) frame(i).show();
+        for (std::size_t i = 0; i + 1 < views.size(); ++i) frame(i).close();
         QCoreApplication::processEvents();
         document->OnCloseDocument();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCoreApplication::processEvents();
     }
 
-    QTemporaryDir folder;
-    std::string path = folder.filePath("model.md2").toStdString();
-    CKelTavloApp program{std::make_unique<ProfileStore>(folder.filePath("settings.ini").toStdString())};
+    const std::string path = PathTo("model.md2");
 };
 
 } // namespace
 
 TEST_F(ModelWindowsTest, ManyComeAndGoWithoutATrace) {
-    const Complaints complaints;
+    const ToolkitComplaints complaints;
     program.InitInstance({path});
     OpenTileSplitHideAndClose(20);
     const long before = MemoryInUse();
     OpenTileSplitHideAndClose(100);
     EXPECT_LT(MemoryInUse() - before, leeway);
-    EXPECT_EQ(Complaints::texts, std::vector<std::string>());
+    EXPECT_EQ(ToolkitComplaints::texts, std::vector<std::string>());
 }

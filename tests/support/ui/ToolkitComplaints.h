@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+#include <string>
+#include <vector>
+
+// What the toolkit complains of while it lives.
+class ToolkitComplaints {
+public:
+    ToolkitComplaints() { previous = qInstallMessageHandler(&Note); }
+    ~ToolkitComplaints() { qInstallMessageHandler(previous); }
+
+    static inline std::vector<std::string> texts;
+
+private:
+    static void Note(QtMsgType type, const QMessageLogContext&, const QString& text) {
+        // The offscreen platform cannot raise windows and says so.
+        if (type != QtDebugMsg && type != QtInfoMsg && !text.contains("plugin does not support"))
+            texts.push_back(text.toStdString());
+    }
+    QtMessageHandler previous;
+};
