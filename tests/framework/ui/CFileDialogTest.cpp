@@ -67,10 +67,11 @@ TEST_F(CFileDialogTest, RefusesWhatIsNotThereAndAsksBeforeItReplacesAFile) {
 TEST_F(CFileDialogTest, ProposesANameInItsFolderOrTheWayThroughAnArchive) {
     FileNameQuestion question;
     question.open = false;
-    question.proposal = Path("bitmap1.bmp");
-    EXPECT_EQ(CFileDialog(nullptr, question, {}).GetPathName(), Path("bitmap1.bmp"));
-    question.proposal = Path("pak0.pak") + "\\textures\\a.wal";
-    EXPECT_EQ(CFileDialog(nullptr, question, {}).GetPathName(), Path("pak0.pak/textures/a.wal"));
+    for (const auto& [name, path] : {std::pair{"/bitmap1.bmp", "bitmap1.bmp"},
+                                     {"/pak0.pak\\textures\\a.wal", "pak0.pak/textures/a.wal"}}) {
+        question.proposal = folder.path().toStdString() + name;
+        EXPECT_EQ(CFileDialog(nullptr, question, {}).GetPathName(), Path(path));
+    }
 }
 
 // The patterns are not what the label says; one that ends with a separator has no empty pattern behind it.

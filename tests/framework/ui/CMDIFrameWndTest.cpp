@@ -7,6 +7,7 @@
 #include "support/ui/DialogAnswer.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
@@ -115,28 +116,21 @@ TEST_F(CMDIFrameWndTest, AcceleratorsAskForTheStateWhenTheyFire) {
     EXPECT_THAT(Log(), ElementsAre("document", "document", "main"));
 }
 
-TEST_F(CMDIFrameWndTest, OpenMenusFollowTheCommandsStates) {
+TEST_F(CMDIFrameWndTest, OpenMenusFollowTheCommandsStatesAndPrompt) {
     TestDocument& document = NewDocument();
-    QMenu& popup = *mainFrame.GetCurrentMenu().GetPopups().front();
-    popup.popup({});
-    const QAction* item = mainFrame.GetCurrentMenu().FindItem(documentCommand);
-    EXPECT_TRUE(item->isEnabled());
-    document.blocked = true;
-    mainFrame.OnIdle();
-    EXPECT_FALSE(item->isEnabled());
-    EXPECT_FALSE(mainFrame.GetCurrentMenu().FindItem(ID_FILE_MRU_FIRST)->isEnabled());
-    popup.close();
-}
-
-TEST_F(CMDIFrameWndTest, PromptsCoverOnlyTheMessagePane) {
+    CMenu& menu = mainFrame.GetCurrentMenu();
     CStatusBar& bar = mainFrame.GetStatusBar();
-    QMenu& popup = *mainFrame.GetCurrentMenu().GetPopups().front();
+    QMenu& popup = *menu.GetPopups().front();
     popup.popup({});
-    popup.setActiveAction(mainFrame.GetCurrentMenu().FindItem(mainCommand));
+    popup.setActiveAction(menu.FindItem(documentCommand));
     bar.SetPaneText(0, "idle");
     bar.SetPaneText(2, "1.00, 2.00");
-    EXPECT_EQ(bar.GetShownText(0), "Main prompt");
-    EXPECT_EQ(bar.GetShownText(2), "1.00, 2.00");
+    EXPECT_EQ(bar.GetShownText(0), "Document prompt");
+    EXPECT_EQ(bar.GetShownText(2), "1.00, 2.00") << "only the messages are covered";
+    EXPECT_TRUE(menu.FindItem(documentCommand)->isEnabled());
+    document.blocked = true;
+    mainFrame.OnIdle();
+    EXPECT_FALSE(menu.FindItem(documentCommand)->isEnabled());
     popup.close();
     EXPECT_EQ(bar.GetShownText(0), "idle");
 }
@@ -190,6 +184,48 @@ TEST_F(CMDIFrameWndTest, ListsRecentFilesInThePlaceholdersPlace) {
     UpdateRecentFileMenu(menu, {"/x/c.pcx"});
     EXPECT_EQ(file.actions().size(), 5);
     EXPECT_EQ(file.actions()[2]->text(), "&1 /x/c.pcx");
+}
+
+TEST_F(CMDIFrameWndTest, NumbersTheWindowsOfADocument) {
+    TestDocument& document = NewDocument();
+    document.SetTitle("a&b\tc[*]");
+    CMDIChildWnd& first = FrameOf(document);
+    EXPECT_EQ(first.windowTitle(), "a&b\tc[*][*]"); // the toolkit shows a doubled mark once
+    ASSERT_TRUE(SendCommand(mainFrame, ID_WINDOW_NEW));
+    CMDIChildWnd& second = *mainFrame.MDIGetActive();
+    document.SetTitle("d");
+    EXPECT_EQ(first.windowTitle(), "d:1");
+    EXPECT_EQ(second.windowTitle(), "d:2");
+    EXPECT_FALSE(first.close()); // the window goes by itself, later
+    EXPECT_EQ(second.windowTitle(), "d");
+    EXPECT_THAT(document.GetViews(), ElementsAre(second.GetActiveView()));
+    EXPECT_THAT(mainFrame.GetChildren(), ElementsAre(&second));
+}
+
+TEST_F(CMDIFrameWndTest, TheLastWindowAsksBeforeItTakesTheDocumentAlong) {
+    TestDocument& document = NewDocument();
+    document.SetModifiedFlag();
+    for (const auto& [button, left] : {std::pair{QDialogButtonBox::Cancel, 1U}, {QDialogButtonBox::No, 0U}}) {
+        const DialogAnswer answer(Press(button));
+        FrameOf(document).close();
+        EXPECT_EQ(program.GetDocuments().size(), left);
+    }
+    EXPECT_EQ(mainFrame.MDIGetActive(), nullptr);
+}
+
+TEST_F(CMDIFrameWndTest, AMaximizedWindowNamesItselfInTheMainTitle) {
+    TestDocument& document = NewDocument();
+    EXPECT_EQ(mainFrame.windowTitle(), "KelTavlo");
+    FrameOf(document).showMaximized();
+    EXPECT_EQ(mainFrame.windowTitle(), "KelTavlo - [shown1]");
+    TestDocument& second = NewDocument();
+    EXPECT_EQ(mainFrame.windowTitle(), "KelTavlo - [shown2]");
+    second.SetTitle("b&c");
+    EXPECT_EQ(mainFrame.windowTitle(), "KelTavlo - [b&c]");
+    second.OnCloseDocument();
+    EXPECT_EQ(mainFrame.windowTitle(), "KelTavlo - [shown1]");
+    document.OnCloseDocument();
+    EXPECT_EQ(mainFrame.windowTitle(), "KelTavlo");
 }
 
 } // namespace

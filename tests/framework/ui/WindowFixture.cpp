@@ -8,10 +8,9 @@ namespace {
 constexpr unsigned shownType = 9001, hiddenType = 9002;
 
 constexpr StringRow strings[] = {
-    {shownType, "\nshown\nShown\n\n\n\n"},
-    {hiddenType, "\nhidden\n\n\n\n\n"},
-    {AFX_IDS_APP_TITLE, "KelTavlo"},
-    {mainCommand, "Main prompt\nMain tip"},
+    {shownType, "\nshown\nShown\n\n\n\n"}, {hiddenType, "\nhidden\n\n\n\n\n"},
+    {AFX_IDS_APP_TITLE, "KelTavlo"},       {mainCommand, "Main prompt\nMain tip"},
+    {documentCommand, "Document prompt"},
 };
 constexpr MenuRow ownItems[] = {{"&Main", mainCommand}, {"&Unknown\tCtrl+U", unknownCommand}};
 constexpr MenuRow ownRows[] = {{"&Own", 0, ownItems}};
@@ -57,11 +56,8 @@ const CommandMap& TestFrame::GetCommandMap() const {
     return map;
 }
 
-TestStrings::TestStrings() {
-    AddStrings(strings);
-}
-
 TestMainFrame::TestMainFrame() {
+    AddStrings(strings);
     LoadFrame(ownMenu, accelerators);
     resize(640, 480);
     show();

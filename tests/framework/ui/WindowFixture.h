@@ -87,10 +87,6 @@ private:
     void OnCommand() { Log().push_back("application"); }
 };
 
-struct TestStrings {
-    TestStrings();
-};
-
 class WindowFixture : public testing::Test {
 protected:
     WindowFixture();
@@ -98,7 +94,6 @@ protected:
     TestDocument& NewDocument(std::size_t type = 0);
     static CMDIChildWnd& FrameOf(const CDocument& document);
 
-    TestStrings texts;
     QTemporaryDir folder;
     TestProgram program{folder.filePath("settings.ini").toStdString()};
     TestMainFrame& mainFrame = program.mainFrame;
