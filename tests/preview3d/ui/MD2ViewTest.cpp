@@ -95,6 +95,12 @@ const QuadModel scene({
     {{{{0, 10, 0}, {0, 0}}, {{0, 10, 240}, {0, 9}}, {{240, 10, 240}, {9, 9}}, {{240, 10, 0}, {9, 0}}}},
 });
 
+// The colour of the texel at (s, t) of a 64 x 64 picture that is laid side by side.
+QRgb ColorOfSmallTexture(const Vector& place) {
+    const auto texel = [](double at) { return static_cast<int>(std::floor(at)) & 63; };
+    return TexelColor(texel(place[0]), texel(place[1]));
+}
+
 class MD2ViewTest : public ProgramFixture {
 protected:
     // An open texture, every texel in a colour of its own.
@@ -116,6 +122,10 @@ protected:
     static QImage PictureOf(QWidget& view) {
         return view.grab().toImage().convertToFormat(QImage::Format_RGB32);
     }
+    static void ExpectScene(MD2View& view, const SoftwareProjection::Shade& shade = ColorOfSmallTexture,
+                            const Vector& offset = {}) {
+        scene.Project(view.size(), shade, offset).ExpectSeenIn(PictureOf(view));
+    }
     static void Type(QWidget& view, const QString& text, Qt::KeyboardModifiers keys = Qt::NoModifier) {
         QKeyEvent event(QEvent::KeyPress, 0, keys, text);
         QCoreApplication::sendEvent(&view, &event);
@@ -124,22 +134,16 @@ protected:
     bool started = program.InitInstance({Put("model.mdl", MdlBuilder{.textures = {{8, 8}}}.Build())});
 };
 
-// The colour of the texel at (s, t) of a 64 x 64 picture that is laid side by side.
-QRgb ColorOfSmallTexture(const Vector& place) {
-    const auto texel = [](double at) { return static_cast<int>(std::floor(at)) & 63; };
-    return TexelColor(texel(place[0]), texel(place[1]));
-}
-
 } // namespace
 
 TEST_F(MD2ViewTest, DrawsTheModelWithThePicture) {
     OpenTexture("floor.wal", 64, 64);
     MD2View& view =
         OpenModel(scene.Build({{0, 1, 12, 0, 1, 2}, {0, 1, 2, 0, 1, 12}, {0xFFFF, 1, 2, 0, 1, 2}}));
-    scene.Project(view.size(), ColorOfSmallTexture).ExpectSeenIn(PictureOf(view));
+    ExpectScene(view);
     view.window()->resize(700, 900);
     QCoreApplication::processEvents();
-    scene.Project(view.size(), ColorOfSmallTexture).ExpectSeenIn(PictureOf(view));
+    ExpectScene(view);
     auto& control = dynamic_cast<OpenGLCtrl&>(*view.childAt(view.rect().center()));
     control.MakeCurrent();
     EXPECT_EQ(glGetError(), GLenum{GL_NO_ERROR});
@@ -171,7 +175,7 @@ TEST_F(MD2ViewTest, MovesByTheKeyboard) {
     MD2View& view = OpenModel(scene.Build());
     const auto expectAt = [&](double x, double y) {
         SCOPED_TRACE(testing::Message() << x << ", " << y);
-        scene.Project(view.size(), ColorOfSmallTexture, {x, y, 0}).ExpectSeenIn(PictureOf(view));
+        ExpectScene(view, ColorOfSmallTexture, {x, y, 0});
     };
     Type(view, "e");
     expectAt(0, -16);
@@ -193,21 +197,18 @@ TEST_F(MD2ViewTest, KeepsThePictureOfWhenItWasMade) {
     floor.GetTexture().SetSize(1, 1);
     floor.GetTexture().SetPixel(0, 0, 0xFF102030);
     floor.UpdateAllViews(nullptr);
-    scene.Project(view.size(), ColorOfSmallTexture).ExpectSeenIn(PictureOf(view));
+    ExpectScene(view);
     CDocument& model = *view.GetDocument();
     model.GetDocTemplate()->CreateNewFrame(model)->InitialUpdate(true);
     MD2View& later = ViewOf(model);
     ASSERT_NE(&later, &view);
-    scene.Project(later.size(), [](const Vector&) { return qRgb(0x10, 0x20, 0x30); })
-        .ExpectSeenIn(PictureOf(later));
-    scene.Project(view.size(), ColorOfSmallTexture).ExpectSeenIn(PictureOf(view));
+    ExpectScene(later, [](const Vector&) { return qRgb(0x10, 0x20, 0x30); });
+    ExpectScene(view);
 }
 
 TEST_F(MD2ViewTest, IsGreyWithoutAPictureAndRedWithoutTexture) {
     MD2View& view = OpenModel(scene.Build());
-    const auto expect = [&](QRgb color) {
-        scene.Project(view.size(), [&](const Vector&) { return color; }).ExpectSeenIn(PictureOf(view));
-    };
+    const auto expect = [&](QRgb color) { ExpectScene(view, [&](const Vector&) { return color; }); };
     expect(grey);
     EXPECT_TRUE(StateOf(ID_3D_TEXTURED).radio);
     EXPECT_TRUE(Send(ID_3D_SOLID));
