@@ -11,6 +11,8 @@
 #include <QUrl>
 #include <QWindow>
 
+#include <algorithm>
+
 namespace {
 
 using CKelTavloAppTest = ProgramFixture;

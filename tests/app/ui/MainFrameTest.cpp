@@ -13,21 +13,21 @@
 
 #include <QDockWidget>
 #include <QMenuBar>
-#include <QProcess>
 #include <QScrollBar>
 #include <QTest>
 #include <QToolBar>
 
-#include <set>
-
 namespace {
 
-constexpr const char* settingsVariable = "KELTAVLO_TEST_SETTINGS";
+void ExpectTexts(CommandId id) {
+    EXPECT_TRUE(id == 0 || !CommandPrompt(id).empty()) << id;
+    EXPECT_TRUE(id == 0 || !CommandToolTip(id).empty()) << id;
+}
 
-void Collect(std::span<const MenuRow> rows, std::set<CommandId>& ids) {
+void ExpectTexts(std::span<const MenuRow> rows) {
     for (const MenuRow& row : rows) {
-        if (row.id) ids.insert(row.id);
-        Collect(row.items, ids);
+        ExpectTexts(row.id);
+        ExpectTexts(row.items);
     }
 }
 
@@ -44,46 +44,15 @@ std::string Layout(const MainFrame& frame) {
            std::to_string(normal.right) + " " + std::to_string(normal.bottom);
 }
 
-class MainFrameTest : public ProgramFixture {
-protected:
-    // The layout with which another process starts.
-    QString LayoutOfFreshProcess() const {
-        QProcess process;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(settingsVariable, QString::fromStdString(PathTo("settings.ini")));
-        process.setProcessEnvironment(environment);
-        process.start(
-            QCoreApplication::applicationFilePath(),
-            {"--gtest_filter=MainFrameTest.DISABLED_TellsItsLayout", "--gtest_also_run_disabled_tests"});
-        process.waitForFinished();
-        EXPECT_EQ(process.exitCode(), 0);
-        const QString output = QString::fromUtf8(process.readAllStandardOutput());
-        return output.section("layout: ", 1, 1).section('\n', 0, 0);
-    }
-};
+using MainFrameTest = ProgramFixture;
 
 TEST_F(MainFrameTest, EveryCommandHasAPromptAndAToolTip) {
     Start();
-    std::set<CommandId> ids;
-    Collect(MenuBarRows(IDR_MAINFRAME), ids);
-    Collect(MenuBarRows(IDR_DOCUMENT), ids);
-    for (const AcceleratorRow& row : AcceleratorRows()) ids.insert(row.id);
+    ExpectTexts(MenuBarRows(IDR_MAINFRAME));
+    ExpectTexts(MenuBarRows(IDR_DOCUMENT));
+    for (const AcceleratorRow& row : AcceleratorRows()) ExpectTexts(row.id);
     for (const unsigned bar : {IDR_STANDARD_BAR, IDR_FILTER_BAR})
-        for (const ToolBarRow& row : ToolBarRows(bar))
-            if (row.id) ids.insert(row.id);
-    for (const CommandId id : ids) {
-        EXPECT_FALSE(CommandPrompt(id).empty()) << id;
-        EXPECT_FALSE(CommandToolTip(id).empty()) << id;
-    }
-}
-
-TEST_F(MainFrameTest, BarsAreDockedAsCreatedAtTheFirstStart) {
-    Start();
-    EXPECT_EQ(Layout(GetMainFrame()).substr(0, 5), "4 4 2");
-    for (const ToolBarRow& row : ToolBarRows(IDR_STANDARD_BAR))
-        for (const std::string_view line : row.icon) EXPECT_EQ(line.size(), 16U) << row.id << " " << line;
-    for (const QToolBar* bar : GetMainFrame().findChildren<QToolBar*>()) EXPECT_TRUE(bar->isVisible());
-    EXPECT_TRUE(GetMainFrame().findChild<QDockWidget*>()->isVisible());
+        for (const ToolBarRow& row : ToolBarRows(bar)) ExpectTexts(row.id);
 }
 
 TEST_F(MainFrameTest, AltFOpensTheFileMenuEveryTime) {
@@ -113,54 +82,47 @@ TEST_F(MainFrameTest, PanesOfARowScrollTogether) {
     ASSERT_TRUE(pane(1, 1));
     EXPECT_EQ(pane(0, 1)->GetScrollY(), 20);
     EXPECT_EQ(pane(1, 1)->GetScrollY(), 0);
-    QScrollBar& shared = pane(0, 1)->GetScrollBar(Qt::Vertical);
-    shared.setSliderPosition(33);
-    EXPECT_EQ(pane(0, 0)->GetScrollY(), 33);
-    EXPECT_EQ(pane(0, 1)->GetScrollY(), 33);
+    pane(0, 1)->GetScrollBar(Qt::Vertical).setSliderPosition(33);
+    EXPECT_EQ(pane(0, 0)->GetScrollY() + pane(0, 1)->GetScrollY(), 2 * 33);
 }
 
 TEST_F(MainFrameTest, SettingsAreWrittenBeforeTheQuestion) {
     Start();
-    GetMainFrame().setGeometry(60, 70, 640, 480);
     CDocument* document = program.OpenDocumentFile(Put("a.wal", MakeWal(8, 8)));
     document->SetModifiedFlag();
-    {
-        const DialogAnswer cancel([&](QDialog& dialog) {
-            EXPECT_TRUE(program.GetProfile()->ReadBinary("Main", "WindowPlacement"));
-            EXPECT_TRUE(program.GetProfile()->ReadBinary("ToolBarState", "State"));
-            dialog.reject();
-        });
-        EXPECT_FALSE(GetMainFrame().close());
-    }
+    const DialogAnswer cancel([&](QDialog& dialog) {
+        EXPECT_TRUE(program.GetProfile()->ReadBinary("Main", "WindowPlacement"));
+        EXPECT_TRUE(program.GetProfile()->ReadBinary("ToolBarState", "State"));
+        dialog.reject();
+    });
+    EXPECT_FALSE(GetMainFrame().close());
     EXPECT_TRUE(GetMainFrame().isVisible());
     document->SetModifiedFlag(false);
-    EXPECT_TRUE(GetMainFrame().close());
 }
 
-TEST_F(MainFrameTest, AFreshProcessStartsAsTheLastOneWasLeft) {
+TEST_F(MainFrameTest, StartsAsItWasLeft) {
+    const auto layoutOfNext = [&] {
+        CKelTavloApp next(std::make_unique<ProfileStore>(PathTo("settings.ini")));
+        Start(next);
+        return Layout(*next.GetMainFrame());
+    };
     Start();
     const std::string usual = Layout(GetMainFrame());
+    EXPECT_TRUE(usual.starts_with("4 4 2 ")) << usual;
     GetMainFrame().setGeometry(60, 70, 640, 480);
     GetMainFrame().addToolBar(Qt::BottomToolBarArea, GetMainFrame().findChild<QToolBar*>("bar59398"));
     GetMainFrame().findChild<QDockWidget*>()->hide();
     GetMainFrame().showMaximized();
     const std::string left = Layout(GetMainFrame());
     EXPECT_TRUE(GetMainFrame().close());
-    EXPECT_EQ(LayoutOfFreshProcess().toStdString(), left);
+    EXPECT_EQ(layoutOfNext(), left);
     EXPECT_TRUE(left.starts_with("4 8")) << left;
     EXPECT_TRUE(left.ends_with("no palette maximized 60 70 700 550")) << left;
     // Damaged settings give defaults.
     ProfileStore profile(PathTo("settings.ini"));
     profile.WriteBinary("ToolBarState", "State", std::vector<std::byte>(900, std::byte{0xFF}));
     profile.WriteBinary("Main", "WindowPlacement", std::vector<std::byte>(44, std::byte{0xFF}));
-    EXPECT_EQ(LayoutOfFreshProcess().toStdString(), usual);
-}
-
-// Run by the test before, in a process of its own.
-TEST_F(MainFrameTest, DISABLED_TellsItsLayout) {
-    CKelTavloApp other(std::make_unique<ProfileStore>(qEnvironmentVariable(settingsVariable).toStdString()));
-    Start(other);
-    std::printf("layout: %s\n", Layout(*other.GetMainFrame()).c_str());
+    EXPECT_EQ(layoutOfNext(), usual);
 }
 
 } // namespace

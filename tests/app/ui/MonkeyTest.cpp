@@ -8,20 +8,15 @@
 #include "support/ui/ToolkitComplaints.h"
 
 #include <QAbstractButton>
-#include <QApplication>
-#include <QDialog>
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QPointer>
-#include <QTimer>
 #include <QWheelEvent>
 
-#include <gtest/gtest.h>
 #include <map>
 #include <random>
 
@@ -53,8 +48,11 @@ protected:
         EXPECT_TRUE(program.InitInstance({names[0]}));
     }
 
-    int Below(std::size_t count) { return static_cast<int>(random() % count); }
-    const std::string& AnyName() { return names[random() % names.size()]; }
+    int Below(int count) { return static_cast<int>(random() % static_cast<unsigned>(count)); }
+    template <class Items>
+    auto AnyOf(const Items& items) {
+        return *std::next(std::begin(items), Below(static_cast<int>(std::size(items))));
+    }
 
     // Dialogs and menus run loops of their own: whoever watches for them starts the next watch before acting.
     void WatchForDialogs() {
@@ -72,17 +70,18 @@ protected:
     }
 
     void ActOn(QDialog& dialog) {
-        if (&dialog != lastDialog) patience = patienceWithADialog;
-        if (&dialog != lastDialog) ++dialogs[dialog.metaObject()->className()];
-        lastDialog = &dialog;
+        if (std::exchange(lastDialog, &dialog) != &dialog) {
+            patience = patienceWithADialog;
+            ++dialogs[dialog.metaObject()->className()];
+        }
         if (--patience <= 0) return dialog.reject();
         if (auto* file = qobject_cast<QFileDialog*>(&dialog)) return AnswerFileDialog(*file);
         const QList<QAbstractButton*> buttons = dialog.findChildren<QAbstractButton*>();
         const QList<QLineEdit*> edits = dialog.findChildren<QLineEdit*>();
         if (Below(3) == 0 && !edits.isEmpty())
-            PressKeyIn(*edits[Below(static_cast<std::size_t>(edits.size()))]);
+            PressKeyIn(*AnyOf(edits));
         else if (Below(4) != 0 && !buttons.isEmpty())
-            buttons[Below(static_cast<std::size_t>(buttons.size()))]->click();
+            AnyOf(buttons)->click();
         else
             dialog.reject();
     }
@@ -90,7 +89,7 @@ protected:
     // Only the test's own folder is touched.
     void AnswerFileDialog(QFileDialog& dialog) {
         if (Below(3) == 0) return dialog.reject();
-        dialog.findChild<QLineEdit*>("fileNameEdit")->setText(QString::fromStdString(AnyName()));
+        dialog.findChild<QLineEdit*>("fileNameEdit")->setText(QString::fromStdString(AnyOf(names)));
         QMetaObject::invokeMethod(&dialog, "accept");
     }
 
@@ -101,11 +100,11 @@ protected:
                                        Qt::Key_Home,  Qt::Key_PageDown, Qt::Key_Escape};
         static constexpr Qt::KeyboardModifiers modifiers[] = {Qt::NoModifier, Qt::NoModifier,
                                                               Qt::ShiftModifier, Qt::ControlModifier};
-        const int key = keys[random() % std::size(keys)];
+        const int key = AnyOf(keys);
         const QString text = key >= Qt::Key_Space && key <= Qt::Key_Z ? QString(QChar(key)) : QString();
         const QPointer<QWidget> target(&widget);
         for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-            QKeyEvent event(type, key, modifiers[random() % std::size(modifiers)], text);
+            QKeyEvent event(type, key, AnyOf(modifiers), text);
             if (target) QCoreApplication::sendEvent(target, &event);
         }
     }
@@ -113,7 +112,7 @@ protected:
     QWidget* AnyWidget() {
         QList<QWidget*> widgets = GetMainFrame().findChildren<QWidget*>();
         widgets.removeIf([](QWidget* widget) { return !widget->isVisible() || !widget->isEnabled(); });
-        return widgets.isEmpty() ? nullptr : widgets[Below(static_cast<std::size_t>(widgets.size()))];
+        return widgets.isEmpty() ? nullptr : AnyOf(widgets);
     }
 
     void Click() {
@@ -123,8 +122,7 @@ protected:
         for (const QEvent::Type type :
              {QEvent::MouseButtonPress, QEvent::MouseMove, QEvent::MouseMove, QEvent::MouseButtonRelease}) {
             if (!target) return;
-            const QPointF place(Below(static_cast<std::size_t>(target->width()) + 40) - 20,
-                                Below(static_cast<std::size_t>(target->height()) + 40) - 20);
+            const QPointF place(Below(target->width() + 40) - 20, Below(target->height() + 40) - 20);
             QMouseEvent event(type, place, target->mapToGlobal(place),
                               type == QEvent::MouseMove ? Qt::NoButton : button,
                               type == QEvent::MouseButtonRelease ? Qt::NoButton : button, Qt::NoModifier);
@@ -155,7 +153,7 @@ protected:
         GetMainFrame().GetCurrentMenu().UpdateAll();
         QList<QAction*> items;
         AddItems(GetMainFrame().menuBar()->actions(), items);
-        if (!items.isEmpty()) items[Below(static_cast<std::size_t>(items.size()))]->trigger();
+        if (!items.isEmpty()) AnyOf(items)->trigger();
     }
 
     void CloseActive() {
@@ -175,7 +173,7 @@ protected:
         else if (choice < 88)
             TurnWheel();
         else if (choice < 95)
-            program.OpenDocumentFile(AnyName());
+            program.OpenDocumentFile(AnyOf(names));
         else if (choice < 98)
             CloseActive();
         else

@@ -1,24 +1,19 @@
 #include "app/Settings.h"
-#include "app/ui/CAboutDialog.h"
 #include "app/ui/CGammaSettingsDialog.h"
 #include "app/ui/CGammaSettingsDialogButton.h"
 #include "app/ui/COptionsSheet.h"
-#include "framework/ui/CStaticLink.h"
 #include "framework/ui/ColorPrompt.h"
 #include "image/ui/TavloViewFixture.h"
 #include "res/CommandIds.h"
 #include "res/ControlIds.h"
 
 #include <QCheckBox>
-#include <QDesktopServices>
 #include <QDialogButtonBox>
 #include <QLabel>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSlider>
 #include <QTabWidget>
 #include <QTest>
-#include <QTextBrowser>
 
 namespace {
 
@@ -45,12 +40,6 @@ protected:
     GammaSettings& Gamma() { return GetMainFrame().GetGamma(); }
 };
 
-// Stands in for the browser that the system would start.
-class Browser : public QTextBrowser {
-protected:
-    QVariant loadResource(int, const QUrl&) override { return "page"; }
-};
-
 QSlider& Slider(CGammaSettingsDialog& dialog, unsigned id) {
     return dynamic_cast<QSlider&>(dialog.GetDlgItem(id));
 }
@@ -75,7 +64,7 @@ TEST_F(OptionsTest, GammaIsChosenWithLinkedSlidersAndShownAtOnce) {
         EXPECT_TRUE(IsApplyEnabled(sheet));
     });
     EXPECT_EQ(Gamma().GetValues(), (GammaValues{2, 2, 2}));
-    EXPECT_EQ(ColorShownAt(5, 5), ApplyGamma({2, 2, 2}, document->GetTexture().GetPixel(5, 5)));
+    EXPECT_EQ(ColorShownAt(5, 5), ApplyGamma({2, 2, 2}, GetTexture().GetPixel(5, 5)));
 }
 
 TEST_F(OptionsTest, UnlinkedSlidersDifferAndApplyKeepsTheSheet) {
@@ -90,25 +79,20 @@ TEST_F(OptionsTest, UnlinkedSlidersDifferAndApplyKeepsTheSheet) {
         EXPECT_TRUE(sheet.isVisible());
         EXPECT_FALSE(IsApplyEnabled(sheet));
         EXPECT_EQ(Gamma().GetValues(), (GammaValues{5, 1, 2}));
-        EXPECT_EQ(ColorShownAt(5, 5), ApplyGamma({5, 1, 2}, document->GetTexture().GetPixel(5, 5)));
+        EXPECT_EQ(ColorShownAt(5, 5), ApplyGamma({5, 1, 2}, GetTexture().GetPixel(5, 5)));
     });
     EXPECT_EQ(Gamma().GetValues(), (GammaValues{5, 1, 2}));
 }
 
 TEST_F(OptionsTest, OnlyADifferenceMarksThePage) {
-    const auto confirm = [](CGammaSettingsDialog& dialog) { dialog.accept(); };
-    RunOptions(QDialogButtonBox::Ok, [&](QDialog& sheet) {
+    Gamma().SetValues({1.23, 1, 1});
+    RunOptions(QDialogButtonBox::Ok, [](QDialog& sheet) {
         RunGamma(sheet, [](CGammaSettingsDialog& dialog) {
             Slider(dialog, IDC_SLIDER_RED).setValue(77);
             dialog.reject();
         });
-        RunGamma(sheet, confirm);
         EXPECT_FALSE(IsApplyEnabled(sheet));
-    });
-    EXPECT_EQ(Gamma().GetValues(), GammaValues());
-    Gamma().SetValues({1.23, 1, 1});
-    RunOptions(QDialogButtonBox::Ok, [&](QDialog& sheet) {
-        RunGamma(sheet, confirm);
+        RunGamma(sheet, [](CGammaSettingsDialog& dialog) { dialog.accept(); });
         EXPECT_TRUE(IsApplyEnabled(sheet)) << "values between the positions come back rounded";
     });
     EXPECT_EQ(Gamma().GetValues(), (GammaValues{1.25, 1, 1}));
@@ -125,28 +109,4 @@ TEST_F(OptionsTest, GammaAndColorsOutliveTheProgram) {
     Start(next);
     EXPECT_EQ(next.GetMainFrame()->GetGamma().GetValues(), (GammaValues{0.3333, 1.5, 0}));
     EXPECT_EQ(GetCustomColors(), newer);
-}
-
-TEST(AboutTest, SaysWhatRuns) {
-    CAboutDialog dialog(nullptr, "/home/me/settings.ini");
-    const auto& information = dynamic_cast<QPlainTextEdit&>(dialog.GetDlgItem(IDC_INFORMATION));
-    EXPECT_TRUE(information.toPlainText().contains("settings.ini"));
-    EXPECT_TRUE(information.toPlainText().contains(qVersion()));
-    EXPECT_TRUE(information.textInteractionFlags() & Qt::TextSelectableByKeyboard);
-}
-
-TEST(CStaticLinkTest, OpensItsAddressOnClicksAndKeys) {
-    Browser browser;
-    QDesktopServices::setUrlHandler("test", &browser, "setSource");
-    CStaticLink link("text", "test:first");
-    EXPECT_TRUE(link.font().underline());
-    QTest::mouseClick(&link, Qt::RightButton);
-    EXPECT_TRUE(browser.source().isEmpty());
-    QTest::mouseClick(&link, Qt::LeftButton);
-    EXPECT_EQ(browser.source(), QUrl("test:first"));
-    CStaticLink named("second");
-    named.AddPrefix("test:");
-    QTest::keyClick(&named, Qt::Key_Return);
-    EXPECT_EQ(browser.source(), QUrl("test:second"));
-    QDesktopServices::unsetUrlHandler("test");
 }

@@ -8,7 +8,7 @@
 // What the toolkit complains of while it lives.
 class ToolkitComplaints {
 public:
-    ToolkitComplaints() { previous = qInstallMessageHandler(&Note); }
+    ToolkitComplaints() : previous(qInstallMessageHandler(&Note)) { texts.clear(); }
     ~ToolkitComplaints() { qInstallMessageHandler(previous); }
 
     static inline std::vector<std::string> texts;
