@@ -106,11 +106,11 @@ void TavloDocument::OnFormatDither() {
 void TavloDocument::ConvertPicture(unsigned nameId, void (Image::*convert)(const ColorList&)) {
     const ColorList* colors = GetPaletteColors();
     if (!colors) return;
-    Image converted = texture;
+    Texture converted = texture;
     (converted.*convert)(*colors);
     if (std::ranges::equal(converted.Pixels(), texture.Pixels())) return;
     auto action = std::make_unique<TextureChangeAction>(nameId, *this);
-    static_cast<Image&>(texture) = std::move(converted);
+    texture = std::move(converted);
     SetModifiedAndUpdate(true);
     history.Add(std::move(action));
 }

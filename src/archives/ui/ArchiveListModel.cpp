@@ -34,8 +34,9 @@ void ArchiveListModel::SetItems(std::vector<ArchiveListItem> newItems, Describer
     beginResetModel();
     items = std::move(newItems);
     describe = std::move(newDescriber);
-    std::stable_sort(items.begin(), items.end(), [](const ArchiveListItem& a, const ArchiveListItem& b) {
-        return a.name.compare(b.name, Qt::CaseInsensitive) < 0;
+    std::ranges::sort(items, [](const ArchiveListItem& a, const ArchiveListItem& b) {
+        const int order = a.name.compare(b.name, Qt::CaseInsensitive);
+        return order != 0 ? order < 0 : a.data < b.data;
     });
     endResetModel();
 }
