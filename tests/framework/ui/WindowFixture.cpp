@@ -7,7 +7,7 @@ namespace {
 
 constexpr unsigned shownType = 9001, hiddenType = 9002;
 
-constexpr StringRow strings[] = {
+constexpr StringRow testStrings[] = {
     {shownType, "\nshown\nShown\n\n\n\n"}, {hiddenType, "\nhidden\n\n\n\n\n"},
     {AFX_IDS_APP_TITLE, "KelTavlo"},       {mainCommand, "Main prompt\nMain tip"},
     {documentCommand, "Document prompt"},
@@ -56,8 +56,11 @@ const CommandMap& TestFrame::GetCommandMap() const {
     return map;
 }
 
+TestStrings::TestStrings() {
+    AddStrings(testStrings);
+}
+
 TestMainFrame::TestMainFrame() {
-    AddStrings(strings);
     LoadFrame(ownMenu, accelerators);
     resize(640, 480);
     show();

@@ -71,6 +71,11 @@ private:
     void OnCommand() { Log().push_back("main"); }
 };
 
+// The strings must be there before the main frame, which takes its title from them.
+struct TestStrings {
+    TestStrings();
+};
+
 class TestProgram : public Dynamic<"TestProgram", TestProgram, CWinApp>, public WindowedUserInterface {
 public:
     explicit TestProgram(const std::string& settings);
@@ -78,6 +83,7 @@ public:
 
     std::optional<std::string> PromptFileName(const FileNameQuestion&) override { return std::nullopt; }
 
+    TestStrings strings;
     TestMainFrame mainFrame;
 
 protected:
