@@ -10,6 +10,7 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -38,9 +39,19 @@ std::string WriteRecord(const std::string& name, const std::string& temporary) {
     return failed ? std::string() : record.string();
 }
 
-bool IsBeingWritten(const std::string& path) {
-    const Descriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC));
-    return file.IsOpen() && flock(file.Get(), LOCK_EX | LOCK_NB) != 0;
+bool WasRemoved(const Descriptor& file) {
+    struct stat status {};
+    return fstat(file.Get(), &status) == 0 && status.st_nlink == 0;
+}
+
+// Removes the file unless its save still runs. The lock is held until the file is gone, so that a save that
+// has just made it sees that.
+bool RemoveUnlessBeingWritten(const std::string& temporary) {
+    const Descriptor file(open(temporary.c_str(), O_RDONLY | O_CLOEXEC));
+    if (!file.IsOpen()) return true;
+    if (flock(file.Get(), LOCK_EX | LOCK_NB) != 0) return false;
+    if (temporary.ends_with(temporarySuffix)) unlink(temporary.c_str());
+    return true;
 }
 
 } // namespace
@@ -48,14 +59,17 @@ bool IsBeingWritten(const std::string& path) {
 TemporaryFile::TemporaryFile(const std::string& target) {
     const std::string name = UniqueName();
     path = (fs::path(target).parent_path() / ("." + name + std::string(temporarySuffix))).string();
-    record = WriteRecord(name, path);
-    descriptor = Descriptor(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
-    if (!descriptor.IsOpen()) {
-        const int error = errno;
-        if (!record.empty()) unlink(record.c_str());
-        throw CFileException::FromErrno(error, target);
-    }
-    flock(descriptor.Get(), LOCK_EX | LOCK_NB);
+    // Another program that starts meanwhile may take the file for an abandoned one until it is locked.
+    do {
+        record = WriteRecord(name, path);
+        descriptor = Descriptor(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+        if (!descriptor.IsOpen()) {
+            const int error = errno;
+            if (!record.empty()) unlink(record.c_str());
+            throw CFileException::FromErrno(error, target);
+        }
+        flock(descriptor.Get(), LOCK_EX);
+    } while (WasRemoved(descriptor));
 }
 
 TemporaryFile::~TemporaryFile() {
@@ -72,8 +86,6 @@ void RemoveAbandonedSaves() {
     std::error_code failed;
     for (const fs::directory_entry& entry : fs::directory_iterator(JournalFolder(), failed)) {
         const std::string temporary = fs::read_symlink(entry.path(), failed).string();
-        if (failed || IsBeingWritten(temporary)) continue;
-        if (temporary.ends_with(temporarySuffix)) unlink(temporary.c_str());
-        unlink(entry.path().c_str());
+        if (!failed && RemoveUnlessBeingWritten(temporary)) unlink(entry.path().c_str());
     }
 }
