@@ -4,11 +4,37 @@
 #include <QKeyEvent>
 #include <QListView>
 #include <QStyle>
+#include <QStyledItemDelegate>
 #include <QTreeView>
+
+#include <algorithm>
+
+// Gives every line of the list the width of the longest name: the list, which takes all lines to be alike so
+// that long listings are quick, measures a single one.
+class ArchiveNameDelegate final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void SetNames(const std::vector<ArchiveListItem>& items, const QFontMetrics& metrics) {
+        longest = 0;
+        for (const ArchiveListItem& item : items)
+            longest = std::max(longest, metrics.horizontalAdvance(item.name));
+    }
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        const QSize own = QStyledItemDelegate::sizeHint(option, index);
+        const int ownName = option.fontMetrics.horizontalAdvance(index.data().toString());
+        return {own.width() - ownName + longest, own.height()};
+    }
+
+private:
+    int longest = 0; // pixels
+};
 
 ArchiveListView::ArchiveListView(QWidget* parent)
     : QStackedWidget(parent), model(new ArchiveListModel(this)), list(new QListView(this)),
-      details(new QTreeView(this)) {
+      details(new QTreeView(this)), names(new ArchiveNameDelegate(this)) {
+    list->setItemDelegate(names);
     list->setFlow(QListView::TopToBottom);
     list->setWrapping(true);
     list->setResizeMode(QListView::Adjust);
@@ -43,6 +69,7 @@ void ArchiveListView::SetUp(QAbstractItemView& view) {
 }
 
 void ArchiveListView::SetItems(std::vector<ArchiveListItem> items, ArchiveListModel::Describer describe) {
+    names->SetNames(items, list->fontMetrics());
     model->SetItems(std::move(items), std::move(describe));
 }
 

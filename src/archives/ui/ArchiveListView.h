@@ -6,6 +6,7 @@
 
 #include <functional>
 
+class ArchiveNameDelegate;
 class QAbstractItemView;
 class QListView;
 class QTreeView;
@@ -36,5 +37,6 @@ private:
     ArchiveListModel* model;
     QListView* list;
     QTreeView* details;
+    ArchiveNameDelegate* names;
     bool columnsSized = false;
 };
