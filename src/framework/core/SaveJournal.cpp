@@ -5,7 +5,10 @@
 
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <cerrno>
+#include <chrono>
+#include <climits>
 #include <cstdio>
 #include <fcntl.h>
 #include <filesystem>
@@ -24,19 +27,10 @@ fs::path JournalFolder() {
            "KelTavlo" / "saves";
 }
 
-// Unique among the running processes of the machine and the saves of this one.
+// Unlike that of any other save, even of a process that was killed and had the same number.
 std::string UniqueName() {
-    static unsigned count = 0;
-    return std::to_string(getpid()) + "-" + std::to_string(++count);
-}
-
-std::string WriteRecord(const std::string& name, const std::string& temporary) {
-    std::error_code failed;
-    fs::create_directories(JournalFolder(), failed);
-    const fs::path record = JournalFolder() / name;
-    fs::remove(record, failed);
-    fs::create_symlink(temporary, record, failed);
-    return failed ? std::string() : record.string();
+    const auto now = std::chrono::system_clock::now().time_since_epoch();
+    return std::to_string(getpid()) + "-" + std::to_string(now / std::chrono::nanoseconds(1));
 }
 
 bool WasRemoved(const Descriptor& file) {
@@ -44,14 +38,24 @@ bool WasRemoved(const Descriptor& file) {
     return fstat(file.Get(), &status) == 0 && status.st_nlink == 0;
 }
 
-// Removes the file unless its save still runs. The lock is held until the file is gone, so that a save that
-// has just made it sees that.
-bool RemoveUnlessBeingWritten(const std::string& temporary) {
-    const Descriptor file(open(temporary.c_str(), O_RDONLY | O_CLOEXEC));
-    if (!file.IsOpen()) return true;
-    if (flock(file.Get(), LOCK_EX | LOCK_NB) != 0) return false;
-    if (temporary.ends_with(temporarySuffix)) unlink(temporary.c_str());
-    return true;
+// The record, which names the temporary file and stays locked while it is open.
+Descriptor WriteRecord(const std::string& record, const std::string& temporary) {
+    for (;;) {
+        Descriptor file(open(record.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+        if (!file.IsOpen()) return file;
+        flock(file.Get(), LOCK_EX);
+        // Another program that starts meanwhile takes a record that is not locked yet for an abandoned one.
+        if (WasRemoved(file)) continue;
+        // A record that could not be written whole names nothing, and the save goes on without it.
+        static_cast<void>(write(file.Get(), temporary.data(), temporary.size()) < 0);
+        return file;
+    }
+}
+
+std::string ReadRecord(const Descriptor& record) {
+    char path[PATH_MAX];
+    const ssize_t length = read(record.Get(), path, sizeof path);
+    return {path, static_cast<std::size_t>(std::max<ssize_t>(length, 0))};
 }
 
 } // namespace
@@ -59,22 +63,20 @@ bool RemoveUnlessBeingWritten(const std::string& temporary) {
 TemporaryFile::TemporaryFile(const std::string& target) {
     const std::string name = UniqueName();
     path = (fs::path(target).parent_path() / ("." + name + std::string(temporarySuffix))).string();
-    // Another program that starts meanwhile may take the file for an abandoned one until it is locked.
-    do {
-        record = WriteRecord(name, path);
-        descriptor = Descriptor(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
-        if (!descriptor.IsOpen()) {
-            const int error = errno;
-            if (!record.empty()) unlink(record.c_str());
-            throw CFileException::FromErrno(error, target);
-        }
-        flock(descriptor.Get(), LOCK_EX);
-    } while (WasRemoved(descriptor));
+    std::error_code failed;
+    fs::create_directories(JournalFolder(), failed);
+    recordPath = JournalFolder() / name;
+    record = WriteRecord(recordPath, path);
+    descriptor = Descriptor(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+    if (descriptor.IsOpen()) return;
+    const int error = errno;
+    if (record.IsOpen()) unlink(recordPath.c_str());
+    throw CFileException::FromErrno(error, target);
 }
 
 TemporaryFile::~TemporaryFile() {
     if (!path.empty()) unlink(path.c_str());
-    if (!record.empty()) unlink(record.c_str());
+    if (record.IsOpen()) unlink(recordPath.c_str());
 }
 
 void TemporaryFile::RenameTo(const std::string& target) {
@@ -85,7 +87,11 @@ void TemporaryFile::RenameTo(const std::string& target) {
 void RemoveAbandonedSaves() {
     std::error_code failed;
     for (const fs::directory_entry& entry : fs::directory_iterator(JournalFolder(), failed)) {
-        const std::string temporary = fs::read_symlink(entry.path(), failed).string();
-        if (!failed && RemoveUnlessBeingWritten(temporary)) unlink(entry.path().c_str());
+        const Descriptor record(open(entry.path().c_str(), O_RDONLY | O_CLOEXEC));
+        if (!record.IsOpen() || flock(record.Get(), LOCK_EX | LOCK_NB) != 0) continue;
+        const std::string temporary = ReadRecord(record);
+        if (temporary.ends_with(temporarySuffix)) unlink(temporary.c_str());
+        // While the lock is held, so that a save that has just made the record sees that it is gone.
+        unlink(entry.path().c_str());
     }
 }

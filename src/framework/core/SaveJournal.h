@@ -3,8 +3,8 @@
 #include "framework/core/DiskFile.h"
 
 // A temporary file beside a file that is being saved. While it exists a record in the user's state folder
-// names it, so that the next start can remove it if this process is killed; a lock on the file tells that its
-// save still runs.
+// names it, so that the next start can remove it if this process is killed; a lock on the record tells that
+// the save still runs.
 class TemporaryFile {
 public:
     explicit TemporaryFile(const std::string& target);
@@ -18,6 +18,7 @@ public:
 
 private:
     std::string path;
-    std::string record; // a symbolic link to the file; empty when the state folder cannot be written
     Descriptor descriptor;
+    std::string recordPath;
+    Descriptor record; // not open when the state folder cannot be written
 };

@@ -2,14 +2,11 @@
 
 #include "builders/PackBuilder.h"
 #include "framework/core/RecentFileList.h"
-#include "framework/core/ReplacingFile.h"
 
 #include <QTemporaryDir>
 
-#include <csignal>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
@@ -70,22 +67,6 @@ TEST_F(ProfileStoreTest, WhatIsNoSettingsFileIsLeftAlone) {
     }
     WriteFile(folder.path().toStdString() + "/large", Bytes((1 << 20) + 1));
     EXPECT_FALSE(ProfileStore(folder.path().toStdString() + "/large").ReadBinary("Main", "Value"));
-}
-
-// Another program that starts looks for files that a killed one left.
-TEST_F(ProfileStoreTest, IsWrittenWhileAnotherProgramStarts) {
-    const pid_t starting = fork();
-    if (starting == 0)
-        for (;;) RemoveAbandonedSaves();
-    int lost = 0;
-    for (std::uint32_t i = 1; i <= 1000; ++i) {
-        Bytes number;
-        PutU32(number, 0, i);
-        if (!store.WriteBinary("Main", "Number", number)) ++lost;
-    }
-    kill(starting, SIGKILL);
-    waitpid(starting, nullptr, 0);
-    EXPECT_EQ(lost, 0);
 }
 
 TEST_F(ProfileStoreTest, RecentFilesHaveAValueEach) {
