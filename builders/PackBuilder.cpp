@@ -17,6 +17,16 @@ Bytes ToBytes(std::string_view text) {
     return {first, first + text.size()};
 }
 
+Bytes Words(std::initializer_list<std::uint32_t> numbers) {
+    Bytes bytes;
+    for (const std::uint32_t number : numbers) PutU32(bytes, bytes.size(), number);
+    return bytes;
+}
+
+Bytes CutTo(const Bytes& bytes, std::size_t length) {
+    return {bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(length)};
+}
+
 void PutU32(Bytes& bytes, std::size_t offset, std::uint32_t value) {
     bytes.resize(std::max(bytes.size(), offset + sizeof value));
     std::memcpy(bytes.data() + offset, &value, sizeof value);

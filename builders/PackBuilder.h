@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -9,6 +10,10 @@
 using Bytes = std::vector<std::byte>;
 
 Bytes ToBytes(std::string_view text);
+// Little-endian u32s, one after another.
+Bytes Words(std::initializer_list<std::uint32_t> numbers);
+// The first bytes.
+Bytes CutTo(const Bytes& bytes, std::size_t length);
 // Overwrites or appends a little-endian u32.
 void PutU32(Bytes& bytes, std::size_t offset, std::uint32_t value);
 void WriteFile(const std::string& path, const Bytes& bytes);

@@ -6,6 +6,7 @@
 #include "image/picture/ColorList.h"
 #include "image/picture/Texture.h"
 #include "resources/streams/ArchiveStream.h"
+#include "support/CauseOf.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -46,26 +47,15 @@ public:
         return {file.Bytes().begin(), file.Bytes().end()};
     }
 
-    // Why the bytes are refused; none when they are not.
-    CArchiveException::Cause ReadFailure(const Bytes& bytes, const Texture& texture = Texture()) const {
-        return FailureOf([&] { Read(bytes, texture); });
+    // The CArchiveException::Cause, -1 for none.
+    int ReadFailure(const Bytes& bytes, const Texture& texture = Texture()) const {
+        return CauseOf<CArchiveException>([&] { Read(bytes, texture); });
     }
-    CArchiveException::Cause WriteFailure(const Texture& texture) const {
-        return FailureOf([&] { Write(texture); });
+    int WriteFailure(const Texture& texture) const {
+        return CauseOf<CArchiveException>([&] { Write(texture); });
     }
 
     const Codec& codec;
-
-private:
-    template <class Action>
-    static CArchiveException::Cause FailureOf(Action&& action) {
-        try {
-            action();
-        } catch (const CArchiveException& failure) {
-            return failure.cause;
-        }
-        return CArchiveException::none;
-    }
 };
 
 // Overwrites the number at the offset, little-endian.
@@ -74,10 +64,17 @@ void Put(Bytes& bytes, std::size_t offset, T value) {
     std::memcpy(bytes.data() + offset, &value, sizeof value);
 }
 
-inline std::vector<unsigned> Tail(const Bytes& bytes, std::size_t first) {
-    std::vector<unsigned> tail;
-    for (std::size_t i = first; i < bytes.size(); ++i) tail.push_back(std::to_integer<unsigned>(bytes[i]));
-    return tail;
+// So many of the bytes, as numbers.
+inline std::vector<int> Numbers(const Bytes& bytes, std::size_t first, std::size_t count) {
+    std::vector<int> numbers;
+    for (std::size_t i = first; i < first + count; ++i) numbers.push_back(std::to_integer<int>(bytes.at(i)));
+    return numbers;
+}
+
+inline Bytes FromNumbers(std::initializer_list<int> numbers) {
+    Bytes bytes;
+    for (const int number : numbers) bytes.push_back(static_cast<std::byte>(number));
+    return bytes;
 }
 
 inline bool SamePixels(const Image& left, const Image& right) {
@@ -86,7 +83,7 @@ inline bool SamePixels(const Image& left, const Image& right) {
 }
 
 // Colours of the list in no order.
-inline Texture RandomTexture(int width, int height, const ColorList& colors) {
+inline Texture RandomTexture(int width, int height, const ColorList& colors = CodecHarness::Palette()) {
     std::mt19937 random(17);
     Texture texture(width, height);
     for (Color& pixel : texture.Pixels()) pixel = colors[random() % colors.GetCount()];

@@ -19,7 +19,7 @@ const Format formats[] = {
 class CodecLaws : public testing::TestWithParam<Format> {
 protected:
     CodecHarness codec{GetParam().documentClass};
-    Bytes small = codec.Write(RandomTexture(8, 8, CodecHarness::Palette()));
+    Bytes small = codec.Write(RandomTexture(8, 8));
 };
 
 } // namespace
@@ -28,7 +28,7 @@ TEST_P(CodecLaws, WhatIsWrittenIsReadBack) {
     for (const auto& [width, height] :
          {std::pair(8, 8), {256, 8}, {8, 256}, {24, 40}, {1, 1}, {5, 3}, {301, 2}}) {
         if (codec.codec.hasGameSizes && (width % 8 != 0 || height % 8 != 0)) continue;
-        Texture texture = RandomTexture(width, height, CodecHarness::Palette());
+        Texture texture = RandomTexture(width, height);
         EXPECT_TRUE(SamePixels(codec.Read(codec.Write(texture)), texture)) << width << " x " << height;
         texture.Pixels()[0] = 0x00123456;
         const Texture back = codec.Read(codec.Write(texture));
@@ -45,9 +45,8 @@ TEST_P(CodecLaws, APictureWithoutPixelsIsNotWritten) {
 TEST_P(CodecLaws, AFileThatEndsEarlyIsRefused) {
     const std::size_t needed = small.size() - GetParam().spareTail;
     for (std::size_t length = 0; length < small.size(); ++length) {
-        const Bytes bytes(small.begin(), small.begin() + static_cast<std::ptrdiff_t>(length));
         try {
-            codec.Read(bytes);
+            codec.Read(CutTo(small, length));
             EXPECT_GE(length, needed);
         } catch (const CArchiveException& failure) {
             EXPECT_EQ(failure.cause, CArchiveException::endOfFile) << length;

@@ -12,10 +12,7 @@ struct Refusal {
     CArchiveException::Cause cause;
 };
 
-constexpr auto badClass = CArchiveException::badClass;
-constexpr auto badSchema = CArchiveException::badSchema;
-constexpr auto badIndex = CArchiveException::badIndex;
-constexpr auto endOfFile = CArchiveException::endOfFile;
+using enum CArchiveException::Cause;
 constexpr std::uint32_t least = 0x80000000, most = 0x7FFFFFFF;
 
 // The files are of 8 x 8 pixels.
@@ -46,6 +43,8 @@ const Refusal refusals[] = {
     {"TGADocument", 14, 2, {0}, badIndex},
     {"TGADocument", 14, 2, {0xFFFF}, endOfFile},
     {"TGADocument", 16, 1, {0, 1, 8, 15, 16, 23, 33, 255}, badIndex}, // bits
+    {"TGADocument", 234, 1, {','}, badIndex},                         // the footer's dot and NUL
+    {"TGADocument", 235, 1, {1}, badIndex},
     {"WALDocument", 32, 4, {0, 63, 260, 264, 0xFFFFFFF8}, badIndex},
     {"WALDocument", 36, 4, {0, 63, 260, 264, 0xFFFFFFF8}, badIndex},
     {"WALDocument", 40, 4, {185 - 63, 0xFFFFFFFF}, endOfFile}, // where the first level lies
@@ -57,7 +56,7 @@ TEST(RefusedHeaders, HaveTheirCauses) {
     for (const auto& [documentClass, offset, width, values, cause] : refusals)
         for (const std::uint32_t value : values) {
             const CodecHarness codec(documentClass);
-            Bytes bytes = codec.Write(RandomTexture(8, 8, CodecHarness::Palette()));
+            Bytes bytes = codec.Write(RandomTexture(8, 8));
             std::memcpy(bytes.data() + offset, &value, width);
             EXPECT_EQ(codec.ReadFailure(bytes), cause) << documentClass << " " << offset << ": " << value;
         }

@@ -4,8 +4,7 @@
 
 namespace {
 
-constexpr std::size_t headerSize = 18;
-constexpr std::size_t footerSize = 26;
+constexpr std::size_t headerSize = 18, footerSize = 26;
 
 class TGATest : public testing::Test {
 protected:
@@ -31,16 +30,14 @@ protected:
 TEST_F(TGATest, WritesAlphaOnlyWhereThereIsSome) {
     Bytes bytes = tga.Write(picture);
     ASSERT_EQ(bytes.size(), headerSize + 3 * 6 + footerSize);
-    EXPECT_THAT(Tail({bytes.begin(), bytes.begin() + headerSize + 6}, 0),
+    EXPECT_THAT(Numbers(bytes, 0, headerSize + 6),
                 testing::ElementsAre(0, 0, 2, 0, 0, 0, 0, 0, 0, 0, 0, 0, 3, 0, 2, 0, 24, 0, //
                                      0x33, 0x22, 0x11, 0x66, 0x55, 0x44));
-    EXPECT_THAT(Tail(bytes, headerSize + 18 + 22), testing::ElementsAre('L', 'E', '.', 0));
+    EXPECT_THAT(Numbers(bytes, bytes.size() - 4, 4), testing::ElementsAre('L', 'E', '.', 0));
     picture.SetPixel(2, 1, 0xFE778899);
     bytes = tga.Write(picture);
     ASSERT_EQ(bytes.size(), headerSize + 4 * 6 + footerSize);
-    EXPECT_EQ(bytes[16], std::byte{32});
-    EXPECT_EQ(bytes[17], std::byte{8});
-    EXPECT_EQ(bytes[headerSize + 11], std::byte{0xFE});
+    EXPECT_THAT(Numbers(bytes, 16, 2), testing::ElementsAre(32, 8));
     bytes[17] = {}; // the descriptor knows of no alpha
     EXPECT_TRUE(SamePixels(tga.Read(bytes), picture));
 }
@@ -55,12 +52,10 @@ TEST_F(TGATest, TheFirstPixelMayLieInAnyCorner) {
 }
 
 TEST_F(TGATest, SkipsTheIdentifierAndTheColorMap) {
-    const Bytes plain = tga.Write(picture);
     using Map = std::tuple<std::uint8_t, std::uint16_t, std::uint8_t, std::size_t>;
     for (const auto& [type, length, entryBits, size] :
          {Map{0, 300, 24, 0}, Map{1, 300, 24, 900}, Map{1, 5, 15, 10}, Map{1, 5, 0, 5}}) {
-        Bytes bytes = plain;
-        Put<std::uint8_t>(bytes, 0, 7);
+        Bytes bytes = FileWith(0, 7);
         Put(bytes, 1, type);
         Put(bytes, 5, length);
         Put(bytes, 7, entryBits);
@@ -71,21 +66,13 @@ TEST_F(TGATest, SkipsTheIdentifierAndTheColorMap) {
 
 TEST_F(TGATest, BytesMayFollowThePixels) {
     const Bytes bytes = tga.Write(picture);
-    const auto pixelsEnd = bytes.begin() + headerSize + 18;
     for (const std::size_t extra : {0U, 8U, 3000U}) {
-        Bytes second(bytes.begin(), pixelsEnd);
+        Bytes second = CutTo(bytes, bytes.size() - footerSize);
         second.resize(second.size() + extra, std::byte{'.'});
         EXPECT_TRUE(SamePixels(tga.Read(second), picture)) << extra;
-        second.insert(second.end(), pixelsEnd, bytes.end());
+        second.insert(second.end(), bytes.end() - footerSize, bytes.end());
         EXPECT_TRUE(SamePixels(tga.Read(second), picture)) << extra;
     }
-}
-
-TEST_F(TGATest, ASignedFooterMustBeWhole) {
-    const std::size_t size = tga.Write(picture).size();
-    EXPECT_EQ(tga.ReadFailure(FileWith(size - 1, 1)), CArchiveException::badIndex);
-    EXPECT_EQ(tga.ReadFailure(FileWith(size - 2, ',')), CArchiveException::badIndex);
-    EXPECT_TRUE(SamePixels(tga.Read(FileWith(size - 3, 'F')), picture)) << "no signature any more";
 }
 
 TEST_F(TGATest, APictureWithoutPixelsIsTransparent) {

@@ -15,11 +15,6 @@ inline constexpr const char* badVersion = "version";
 inline constexpr const char* badIndex = "does not allow";
 inline constexpr const char* tooShort = "too early";
 
-// The first bytes of a file.
-inline Bytes CutTo(const Bytes& bytes, std::size_t length) {
-    return {bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(length)};
-}
-
 // The program without windows and a folder for files, made afresh for each test.
 class WorkshopTest : public testing::Test {
 protected:
