@@ -6,9 +6,8 @@
 #include "preview3d/MD2Document.h"
 #include "res/CommandIds.h"
 #include "support/ui/ProgramFixture.h"
-#include "support/ui/SoftwareProjection.h"
+#include "support/ui/RayCaster.h"
 
-#include <QCoreApplication>
 #include <QKeyEvent>
 
 #include <GL/gl.h>
@@ -16,89 +15,66 @@
 
 namespace {
 
-using Vector = SoftwareProjection::Vector;
+using Shade = std::function<QRgb(const QVector3D&)>;
 
 constexpr QRgb grey = qRgb(0x80, 0x80, 0x80);
-constexpr Vector cameraPlace{0, -4, 0};
+const QVector3D scale{0.25F, 0.5F, 0.25F}, translate{-30, 40, -30};
+
+// In vertices before they are scaled, with places in the texture: one before the other, the nearer tilted and
+// with a texture that is laid side by side; a third is turned away before both.
+const std::vector<RayCaster::Quad> scene = {
+    {{{{0, 120, 0}, {0, 200, 0}},
+      {{240, 120, 0}, {240, 200, 0}},
+      {{240, 120, 240}, {240, 0, 0}},
+      {{0, 120, 240}, {0, 0, 0}}}},
+    {{{{20, 40, 30}, {-40, 150, 0}},
+      {{130, 90, 60}, {100, 150, 0}},
+      {{140, 60, 160}, {100, 10, 0}},
+      {{60, 20, 150}, {-40, 10, 0}}}},
+    {{{{0, 10, 0}, {}}, {{0, 10, 240}, {}}, {{240, 10, 240}, {}}, {{240, 10, 0}, {}}}},
+};
+
+// The file of the scene behind triangles that cannot be drawn.
+Bytes BuildScene() {
+    const auto at = [](int i) -> const RayCaster::Corner& {
+        return scene[static_cast<std::size_t>(i) / 4][static_cast<std::size_t>(i) % 4];
+    };
+    Md2Builder model;
+    model.scale = {scale.x(), scale.y(), scale.z()};
+    model.translate = {translate.x(), translate.y(), translate.z()};
+    model.vertexAt = [=](int, int i) {
+        const QVector3D place = at(i).place;
+        return Md2Builder::Vertex{qRound(place.x()), qRound(place.y()), qRound(place.z())};
+    };
+    model.texCoordAt = [=](int i) {
+        return Md2Builder::TexCoord{qRound(at(i).values.x()), qRound(at(i).values.y())};
+    };
+    model.triangles = {{0, 1, 12, 0, 1, 2}, {0, 1, 2, 0, 1, 12}, {0xFFFF, 1, 2, 0, 1, 2}};
+    const std::uint16_t corners[][3] = {{0, 1, 2}, {0, 2, 3}, {4, 5, 6}, {4, 6, 7}, {8, 9, 10}, {8, 10, 11}};
+    for (const auto& [a, b, c] : corners) model.triangles.push_back({a, b, c, a, b, c});
+    model.texCoords = model.vertices = 12;
+    model.frames = 2;
+    return model.Build();
+}
 
 // A colour that no other texel has.
 Color TexelColor(int x, int y) {
     return 0xFF000000 | static_cast<Color>(x) << 16 | static_cast<Color>(y) << 8 | 0x40;
 }
 
-// A model of quads, for the program and for the projection.
-class QuadModel {
-public:
-    struct Corner {
-        Md2Builder::Vertex vertex;
-        Md2Builder::TexCoord texCoord;
+// A picture whose edge runs on until it has that side, and that is laid side by side.
+auto TextureShade(int width, int height, int side) {
+    return [=](const QVector3D& place) {
+        const auto texel = [=](float at, int count) {
+            return std::min(static_cast<int>(std::floor(at)) & (side - 1), count - 1);
+        };
+        return TexelColor(texel(place.x(), width), texel(place.y(), height));
     };
-    using Quad = std::array<Corner, 4>; // counter-clockwise as seen from where it is to be seen
+}
 
-    explicit QuadModel(std::vector<Quad> ofQuads) : quads(std::move(ofQuads)) {}
-
-    Bytes Build(std::vector<std::vector<std::uint16_t>> otherTriangles = {}) const {
-        Md2Builder model;
-        model.texCoords = model.vertices = static_cast<std::uint32_t>(4 * quads.size());
-        model.vertexAt = [&](int, int i) { return At(i).vertex; };
-        model.texCoordAt = [&](int i) { return At(i).texCoord; };
-        model.triangles = std::move(otherTriangles);
-        for (std::uint16_t i = 0; i < model.vertices; i = static_cast<std::uint16_t>(i + 4))
-            for (const int k : {1, 2}) {
-                const auto second = static_cast<std::uint16_t>(i + k);
-                const auto third = static_cast<std::uint16_t>(i + k + 1);
-                model.triangles.push_back({i, second, third, i, second, third});
-            }
-        model.frames = 2;
-        model.scale = scale;
-        model.translate = translate;
-        return model.Build();
-    }
-
-    SoftwareProjection Project(QSize size, SoftwareProjection::Shade shade, const Vector& offset = {}) const {
-        SoftwareProjection projection(cameraPlace, {0, 0, 0}, size, std::move(shade));
-        for (const auto& quad : quads) {
-            std::array<SoftwareProjection::Corner, 4> corners;
-            for (std::size_t i = 0; i < quad.size(); ++i) {
-                for (std::size_t axis = 0; axis < 3; ++axis)
-                    corners[i].place[axis] = static_cast<double>(scale[axis]) * quad[i].vertex[axis] +
-                                             static_cast<double>(translate[axis]) + offset[axis];
-                corners[i].values = {static_cast<double>(quad[i].texCoord[0]),
-                                     static_cast<double>(quad[i].texCoord[1])};
-            }
-            projection.AddQuad(corners);
-        }
-        return projection;
-    }
-
-private:
-    const Corner& At(int i) const {
-        return quads[static_cast<std::size_t>(i) / 4][static_cast<std::size_t>(i) % 4];
-    }
-
-    std::vector<Quad> quads;
-    std::array<float, 3> scale{0.25F, 0.5F, 0.25F};
-    std::array<float, 3> translate{-30, 40, -30};
-};
-
-// One before the other, the nearer tilted and with a texture that is laid side by side; a third is turned
-// away before both.
-const QuadModel scene({
-    {{{{0, 120, 0}, {0, 90}},
-      {{240, 120, 0}, {120, 90}},
-      {{240, 120, 240}, {120, 0}},
-      {{0, 120, 240}, {0, 0}}}},
-    {{{{20, 40, 30}, {-40, 150}},
-      {{130, 90, 60}, {100, 150}},
-      {{140, 60, 160}, {100, 10}},
-      {{60, 20, 150}, {-40, 10}}}},
-    {{{{0, 10, 0}, {0, 0}}, {{0, 10, 240}, {0, 9}}, {{240, 10, 240}, {9, 9}}, {{240, 10, 0}, {9, 0}}}},
-});
-
-// The colour of the texel at (s, t) of a 64 x 64 picture that is laid side by side.
-QRgb ColorOfSmallTexture(const Vector& place) {
-    const auto texel = [](double at) { return static_cast<int>(std::floor(at)) & 63; };
-    return TexelColor(texel(place[0]), texel(place[1]));
+// Draws all in one colour.
+auto PlainShade(QRgb color) {
+    return [color](const QVector3D&) { return color; };
 }
 
 class MD2ViewTest : public ProgramFixture {
@@ -111,20 +87,17 @@ protected:
             for (int x = 0; x < width; ++x) document->GetTexture().SetPixel(x, y, TexelColor(x, y));
         return *document;
     }
-    MD2View& OpenModel(const Bytes& bytes) {
+    MD2View& OpenModel(const Bytes& bytes = BuildScene()) {
         CDocument* document = program.OpenDocumentFile(Put("model.md2", bytes));
         QCoreApplication::processEvents();
-        return ViewOf(*document);
+        return dynamic_cast<MD2View&>(*document->GetViews().back());
     }
-    static MD2View& ViewOf(CDocument& document) {
-        return dynamic_cast<MD2View&>(*document.GetViews().back());
-    }
-    static QImage PictureOf(QWidget& view) {
-        return view.grab().toImage().convertToFormat(QImage::Format_RGB32);
-    }
-    static void ExpectScene(MD2View& view, const SoftwareProjection::Shade& shade = ColorOfSmallTexture,
-                            const Vector& offset = {}) {
-        scene.Project(view.size(), shade, offset).ExpectSeenIn(PictureOf(view));
+    static void ExpectScene(MD2View& view, const Shade& shade = TextureShade(64, 64, 64),
+                            const QVector3D& offset = {}) {
+        RayCaster expected{{0, -4, 0}, scene, shade};
+        for (RayCaster::Quad& quad : expected.quads)
+            for (auto& corner : quad) corner.place = scale * corner.place + translate + offset;
+        expected.ExpectSeenIn(view);
     }
     static void Type(QWidget& view, const QString& text, Qt::KeyboardModifiers keys = Qt::NoModifier) {
         QKeyEvent event(QEvent::KeyPress, 0, keys, text);
@@ -138,8 +111,7 @@ protected:
 
 TEST_F(MD2ViewTest, DrawsTheModelWithThePicture) {
     OpenTexture("floor.wal", 64, 64);
-    MD2View& view =
-        OpenModel(scene.Build({{0, 1, 12, 0, 1, 2}, {0, 1, 2, 0, 1, 12}, {0xFFFF, 1, 2, 0, 1, 2}}));
+    MD2View& view = OpenModel();
     ExpectScene(view);
     view.window()->resize(700, 900);
     QCoreApplication::processEvents();
@@ -150,32 +122,19 @@ TEST_F(MD2ViewTest, DrawsTheModelWithThePicture) {
     control.ReleaseCurrent();
 }
 
-// The picture is brought to 256 x 256 without moving a texel; its edge runs on to the right and below.
-TEST_F(MD2ViewTest, ShowsEachTexelInItsPlace) {
+TEST_F(MD2ViewTest, ShowsEachTexelOfAnOddPictureInItsPlace) {
     OpenTexture("skin.wal", 200, 194);
-    const QuadModel sheet({{{{{0, 20, 0}, {0, 194}},
-                             {{240, 20, 0}, {200, 194}},
-                             {{240, 20, 240}, {200, 0}},
-                             {{0, 20, 240}, {0, 0}}}},
-                           {{{{0, 0, 0}, {180, 256}},
-                             {{30, 0, 0}, {256, 256}},
-                             {{30, 0, 30}, {256, 180}},
-                             {{0, 0, 30}, {180, 180}}}}});
-    MD2View& view = OpenModel(sheet.Build());
+    MD2View& view = OpenModel();
     view.setMinimumSize(900, 900);
-    const auto texel = [](double at, int count) { return std::min(static_cast<int>(at), count - 1); };
-    sheet
-        .Project(view.size(),
-                 [&](const Vector& place) { return TexelColor(texel(place[0], 200), texel(place[1], 194)); })
-        .ExpectSeenIn(PictureOf(view));
+    ExpectScene(view, TextureShade(200, 194, 256));
 }
 
 TEST_F(MD2ViewTest, MovesByTheKeyboard) {
     OpenTexture("floor.wal", 64, 64);
-    MD2View& view = OpenModel(scene.Build());
-    const auto expectAt = [&](double x, double y) {
+    MD2View& view = OpenModel();
+    const auto expectAt = [&](float x, float y) {
         SCOPED_TRACE(testing::Message() << x << ", " << y);
-        ExpectScene(view, ColorOfSmallTexture, {x, y, 0});
+        ExpectScene(view, TextureShade(64, 64, 64), QVector3D(x, y, 0));
     };
     Type(view, "e");
     expectAt(0, -16);
@@ -193,44 +152,38 @@ TEST_F(MD2ViewTest, MovesByTheKeyboard) {
 
 TEST_F(MD2ViewTest, KeepsThePictureOfWhenItWasMade) {
     TavloDocument& floor = OpenTexture("floor.wal", 64, 64);
-    MD2View& view = OpenModel(scene.Build());
+    MD2View& view = OpenModel();
     floor.GetTexture().SetSize(1, 1);
     floor.GetTexture().SetPixel(0, 0, 0xFF102030);
     floor.UpdateAllViews(nullptr);
     ExpectScene(view);
-    CDocument& model = *view.GetDocument();
-    model.GetDocTemplate()->CreateNewFrame(model)->InitialUpdate(true);
-    MD2View& later = ViewOf(model);
+    Send(ID_WINDOW_NEW);
+    auto& later = dynamic_cast<MD2View&>(*view.GetDocument()->GetViews().back());
     ASSERT_NE(&later, &view);
-    ExpectScene(later, [](const Vector&) { return qRgb(0x10, 0x20, 0x30); });
+    ExpectScene(later, PlainShade(qRgb(0x10, 0x20, 0x30)));
     ExpectScene(view);
 }
 
 TEST_F(MD2ViewTest, IsGreyWithoutAPictureAndRedWithoutTexture) {
-    MD2View& view = OpenModel(scene.Build());
-    const auto expect = [&](QRgb color) { ExpectScene(view, [&](const Vector&) { return color; }); };
-    expect(grey);
+    MD2View& view = OpenModel();
+    ExpectScene(view, PlainShade(grey));
     EXPECT_TRUE(StateOf(ID_3D_TEXTURED).radio);
     EXPECT_TRUE(Send(ID_3D_SOLID));
-    expect(qRgb(255, 0, 0));
+    ExpectScene(view, PlainShade(qRgb(255, 0, 0)));
     EXPECT_TRUE(StateOf(ID_3D_SOLID).radio);
     EXPECT_FALSE(StateOf(ID_3D_TEXTURED).radio);
     EXPECT_TRUE(Send(ID_3D_TEXTURED));
-    expect(grey);
+    ExpectScene(view, PlainShade(grey));
     EXPECT_FALSE(StateOf(ID_3D_WIREFRAME).enabled);
 }
 
 TEST_F(MD2ViewTest, ShowsNothingWhereNothingIsDrawn) {
     OpenTexture("floor.wal", 64, 64);
-    const auto expectBlack = [](QWidget& view) {
-        QImage black(view.size(), QImage::Format_RGB32);
-        black.fill(Qt::black);
-        EXPECT_EQ(PictureOf(view), black);
-    };
-    expectBlack(OpenModel(Md2Builder().Build()));
+    const RayCaster nothing;
+    nothing.ExpectSeenIn(OpenModel(Md2Builder().Build()));
     CDocument* studioModel = program.OpenDocumentFile(PathTo("model.mdl"));
     auto& studioView = dynamic_cast<ModelView&>(*studioModel->GetViews().front());
-    expectBlack(studioView);
+    nothing.ExpectSeenIn(studioView);
     Type(studioView, "d");
-    expectBlack(studioView);
+    nothing.ExpectSeenIn(studioView);
 }

@@ -4,7 +4,7 @@
 #include "preview3d/ui/PixelFormat.h"
 #include "preview3d/ui/RenderingContext.h"
 #include "res/ShellStrings.h"
-#include "support/ui/SoftwareProjection.h"
+#include "support/ui/RayCaster.h"
 
 #include <QCoreApplication>
 #include <QPaintEvent>
@@ -40,7 +40,6 @@ public:
 
     using OpenGLCtrl::DestroyContext;
     std::vector<std::string> Take() { return std::exchange(log, {}); }
-    QImage Picture() { return grab().toImage().convertToFormat(QImage::Format_RGB32); }
 
     QWidget host;
     std::vector<std::string> log;
@@ -77,35 +76,31 @@ protected:
     void DrawScene() override { drew = true; }
 };
 
-SoftwareProjection CubeIn(QSize size) {
-    SoftwareProjection cube({4, 4, 4}, {0, 0, 0}, size, [](const SoftwareProjection::Vector& color) {
-        return qRgb(static_cast<int>(std::lround(255 * color[0])),
-                    static_cast<int>(std::lround(255 * color[1])),
-                    static_cast<int>(std::lround(255 * color[2])));
-    });
-    const auto corner = [](double x, double y, double z) {
-        return SoftwareProjection::Corner{{x, y, z}, {(x + 1) / 2, (y + 1) / 2, (z + 1) / 2}};
-    };
-    for (const double sign : {-1.0, 1.0}) { // opposite faces turn the other way
-        cube.AddQuad(
-            {corner(sign, sign, 1), corner(-sign, sign, 1), corner(-sign, -sign, 1), corner(sign, -sign, 1)});
-        cube.AddQuad({corner(1, -1, -sign), corner(1, 1, -sign), corner(1, 1, sign), corner(1, -1, sign)});
-        cube.AddQuad({corner(1, 1, -sign), corner(-1, 1, -sign), corner(-1, 1, sign), corner(1, 1, sign)});
-    }
-    return cube;
+// The cube that the control draws, its corners in the colours that are their places; three sides are seen.
+void ExpectCube(OpenGLCtrl& control) {
+    const auto corner = [](float x, float y, float z) { return RayCaster::Corner{{x, y, z}, {x, y, z}}; };
+    const RayCaster cube{{4, 4, 4},
+                         {{corner(1, 1, 1), corner(-1, 1, 1), corner(-1, -1, 1), corner(1, -1, 1)},
+                          {corner(1, -1, -1), corner(1, 1, -1), corner(1, 1, 1), corner(1, -1, 1)},
+                          {corner(1, 1, -1), corner(-1, 1, -1), corner(-1, 1, 1), corner(1, 1, 1)}},
+                         [](const QVector3D& place) {
+                             const QVector3D color = (place + QVector3D(1, 1, 1)) / 2;
+                             return QColor::fromRgbF(color.x(), color.y(), color.z()).rgb();
+                         }};
+    cube.ExpectSeenIn(control, 2);
 }
 
 } // namespace
 
 TEST(OpenGLCtrlTest, DrawsACube) {
     NotingCtrl control;
-    CubeIn({120, 90}).ExpectSeenIn(control.Picture(), 2);
+    ExpectCube(control);
     control.resize(97, 151);
-    CubeIn({97, 151}).ExpectSeenIn(control.Picture(), 2);
+    ExpectCube(control);
     NotingCtrl withoutArea(QRect(5, 5, 0, 0));
     EXPECT_THAT(withoutArea.Take(), ElementsAre("init"));
     withoutArea.resize(30, 20);
-    CubeIn({30, 20}).ExpectSeenIn(withoutArea.Picture(), 2);
+    ExpectCube(withoutArea);
 }
 
 TEST(OpenGLCtrlTest, IsCurrentOnlyWithinItsSteps) {
@@ -137,7 +132,7 @@ TEST(OpenGLCtrlTest, ASurfaceThatIsReplacedWhileItIsDrawnOnIsCurrentAtOnce) {
     control.repaint();
     EXPECT_EQ(control.Take()[1], "draw");
     EXPECT_FALSE(IsAnyCurrent());
-    CubeIn({60, 40}).ExpectSeenIn(control.Picture(), 2);
+    ExpectCube(control);
 }
 
 TEST(OpenGLCtrlTest, KeepsItsContextWhenItMoves) {
@@ -147,11 +142,11 @@ TEST(OpenGLCtrlTest, KeepsItsContextWhenItMoves) {
     first.setParent(&other);
     first.show();
     other.show();
-    CubeIn({120, 90}).ExpectSeenIn(first.Picture(), 2);
+    ExpectCube(first);
     first.hide();
-    CubeIn({50, 50}).ExpectSeenIn(second.Picture(), 2);
+    ExpectCube(second);
     first.show();
-    CubeIn({120, 90}).ExpectSeenIn(first.Picture(), 2);
+    ExpectCube(first);
     EXPECT_EQ(std::ranges::count(first.log, "init"), 0);
     first.setParent(nullptr);
 }
