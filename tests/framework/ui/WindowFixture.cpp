@@ -27,33 +27,8 @@ std::vector<std::string>& Log() {
     return log;
 }
 
-const CommandMap& TestDocument::GetCommandMap() const {
-    static const CommandMap map{
-        CDocument::GetCommandMap(),
-        {Command<&TestDocument::OnCommand, &TestDocument::OnUpdateCommand>(documentCommand),
-         Command<&TestDocument::OnCommand>(everywhereCommand)}};
-    return map;
-}
-
-void TestDocument::OnUpdateCommand(CCmdUI& state) {
-    state.Enable(!blocked);
-    state.SetText("&Renamed\tCtrl+D");
-}
-
 void TestView::OnActivateView(bool activate, CView*, CView*) {
     Log().push_back((activate ? "activate " : "deactivate ") + GetDocument()->GetTitle());
-}
-
-const CommandMap& TestView::GetCommandMap() const {
-    static const CommandMap map{CView::GetCommandMap(), {Command<&TestView::OnCommand>(viewCommand)}};
-    return map;
-}
-
-const CommandMap& TestFrame::GetCommandMap() const {
-    static const CommandMap map{
-        ChildFrame::GetCommandMap(),
-        {Command<&TestFrame::OnCommand>(frameCommand), Command<&TestFrame::OnCommand>(everywhereCommand)}};
-    return map;
 }
 
 TestStrings::TestStrings() {
@@ -70,30 +45,15 @@ std::span<const MenuRow> TestMainFrame::GetMenuRows(unsigned menuId) const {
     return menuId == ownMenu ? std::span<const MenuRow>(ownRows) : std::span<const MenuRow>(documentRows);
 }
 
-const CommandMap& TestMainFrame::GetCommandMap() const {
-    static const CommandMap map{CMDIFrameWnd::GetCommandMap(),
-                                {Command<&TestMainFrame::OnCommand>(mainCommand),
-                                 Command<&TestMainFrame::OnCommand>(everywhereCommand)}};
-    return map;
-}
-
-TestProgram::TestProgram(const std::string& settings) : Dynamic(std::make_unique<ProfileStore>(settings)) {
-    using Template = CDocTemplate;
+TestProgram::TestProgram(const std::string& settings) : Noting(std::make_unique<ProfileStore>(settings)) {
     GetFrameFactory()->SetMainFrame(&mainFrame);
     for (const CRuntimeClass* type :
          {&TestFrame::runtimeClass, &TestHiddenFrame::runtimeClass, &TestView::runtimeClass})
         GetFrameFactory()->GetClasses().Register(*type);
-    AddDocTemplate(std::make_unique<Template>(
-        Template::Row{shownType, documentMenu, &TestDocument::runtimeClass, "TestFrame", "TestView"}));
-    AddDocTemplate(std::make_unique<Template>(
-        Template::Row{hiddenType, ownMenu, &TestDocument::runtimeClass, "TestHiddenFrame", "TestView"}));
-}
-
-const CommandMap& TestProgram::GetCommandMap() const {
-    static const CommandMap map{
-        CWinApp::GetCommandMap(),
-        {Command<&TestProgram::OnCommand>(appCommand), Command<&TestProgram::OnCommand>(everywhereCommand)}};
-    return map;
+    for (const CDocTemplate::Row& row :
+         {CDocTemplate::Row{shownType, documentMenu, &TestDocument::runtimeClass, "TestFrame", "TestView"},
+          {hiddenType, ownMenu, &TestDocument::runtimeClass, "TestHiddenFrame", "TestView"}})
+        AddDocTemplate(std::make_unique<CDocTemplate>(row));
 }
 
 WindowFixture::WindowFixture() {

@@ -20,55 +20,58 @@ constexpr unsigned ownMenu = 1, documentMenu = 2;
 // What happened, in order.
 std::vector<std::string>& Log();
 
-class TestDocument : public Dynamic<"TestDocument", TestDocument, CDocument> {
+// Notes its name when one of its commands comes.
+template <ClassName name, class Base, CommandId... commands>
+class Noting : public Base {
+public:
+    using Base::Base;
+
+    bool blocked = false; // its commands are disabled
+
+protected:
+    const CommandMap& GetCommandMap() const override {
+        static const CommandMap map{Base::GetCommandMap(),
+                                    {Command<&Noting::OnCommand, &Noting::OnUpdateCommand>(commands)...}};
+        return map;
+    }
+
+private:
+    void OnCommand() { Log().emplace_back(name.View()); }
+    void OnUpdateCommand(CCmdUI& state) {
+        state.Enable(!blocked);
+        state.SetText("&Renamed\tCtrl+D");
+    }
+};
+
+class TestDocument : public Dynamic<"TestDocument", TestDocument,
+                                    Noting<"document", CDocument, documentCommand, everywhereCommand>> {
 public:
     ~TestDocument() override { Log().push_back("end " + GetTitle()); }
     bool DoFileSave() override { return true; }
-    bool blocked = false; // its command is disabled
 
 protected:
     void Serialize(CArchive&) override {}
-    const CommandMap& GetCommandMap() const override;
-
-private:
-    void OnCommand() { Log().push_back("document"); }
-    void OnUpdateCommand(CCmdUI& state);
 };
 
-class TestView : public Dynamic<"TestView", TestView, CView> {
+class TestView : public Dynamic<"TestView", TestView, Noting<"view", CView, viewCommand>> {
 public:
     void OnActivateView(bool activate, CView*, CView*) override;
-
-protected:
-    const CommandMap& GetCommandMap() const override;
-
-private:
-    void OnCommand() { Log().push_back("view"); }
 };
 
-class TestFrame : public Dynamic<"TestFrame", TestFrame, ChildFrame> {
-protected:
-    const CommandMap& GetCommandMap() const override;
-
-private:
-    void OnCommand() { Log().push_back("frame"); }
-};
+class TestFrame
+    : public Dynamic<"TestFrame", TestFrame, Noting<"frame", ChildFrame, frameCommand, everywhereCommand>> {};
 
 class TestHiddenFrame : public Dynamic<"TestHiddenFrame", TestHiddenFrame, CMDIChildWnd> {
 public:
     void ActivateFrame() override {}
 };
 
-class TestMainFrame : public Dynamic<"TestMainFrame", TestMainFrame, CMDIFrameWnd> {
+class TestMainFrame : public Noting<"main", CMDIFrameWnd, mainCommand, everywhereCommand> {
 public:
     TestMainFrame();
 
 protected:
     std::span<const MenuRow> GetMenuRows(unsigned menuId) const override;
-    const CommandMap& GetCommandMap() const override;
-
-private:
-    void OnCommand() { Log().push_back("main"); }
 };
 
 // The strings must be there before the main frame, which takes its title from them.
@@ -76,7 +79,8 @@ struct TestStrings {
     TestStrings();
 };
 
-class TestProgram : public Dynamic<"TestProgram", TestProgram, CWinApp>, public WindowedUserInterface {
+class TestProgram : public Noting<"application", CWinApp, appCommand, everywhereCommand>,
+                    public WindowedUserInterface {
 public:
     explicit TestProgram(const std::string& settings);
     ~TestProgram() override { CloseAllDocuments(); }
@@ -85,12 +89,6 @@ public:
 
     TestStrings strings;
     TestMainFrame mainFrame;
-
-protected:
-    const CommandMap& GetCommandMap() const override;
-
-private:
-    void OnCommand() { Log().push_back("application"); }
 };
 
 class WindowFixture : public testing::Test {
