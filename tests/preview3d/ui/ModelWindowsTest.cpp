@@ -1,10 +1,10 @@
 #include "builders/ModelBuilder.h"
 #include "framework/ui/CSplitterWnd.h"
 #include "framework/ui/ChildFrame.h"
+#include "monkey/ToolkitComplaints.h"
 #include "preview3d/ui/ModelView.h"
 #include "res/CommandIds.h"
 #include "support/ui/ProgramFixture.h"
-#include "support/ui/ToolkitComplaints.h"
 
 #include <QCoreApplication>
 #include <QFile>

@@ -1,0 +1,17 @@
+#include "monkey/Monkey.h"
+
+#include <QGenericPlugin>
+
+// The toolkit loads this into the program as it is when QT_QPA_GENERIC_PLUGINS names it: monkey:EVENTS:SEED.
+class MonkeyPlugin : public QGenericPlugin {
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "monkey.json")
+
+public:
+    QObject* create(const QString&, const QString& specification) override {
+        const QStringList numbers = specification.split(':');
+        return new Monkey(numbers.value(0).toInt(), numbers.value(1).toUInt());
+    }
+};
+
+#include "MonkeyPlugin.moc"
