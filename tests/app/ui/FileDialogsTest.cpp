@@ -63,16 +63,16 @@ TEST_F(FileDialogsTest, SavesOverAnEntryAndTellsAtTheEndThatArchivesAreReadOnly)
         EXPECT_TRUE(Send(ID_FILE_SAVE));
     }
     std::vector<std::string> told;
-    const auto answer = [&told](QMessageBox::StandardButton button) {
+    const auto answer = [&told](QDialogButtonBox::StandardButton button) {
         return [&told, button](QDialog& dialog) {
             told.push_back(dynamic_cast<QMessageBox&>(dialog).text().toStdString());
             Press(button)(dialog);
         };
     };
     {
-        const DialogAnswer yes(answer(QMessageBox::Yes));
+        const DialogAnswer yes(answer(QDialogButtonBox::Yes));
         QTimer::singleShot(300, [&] {
-            const DialogAnswer ok(answer(QMessageBox::Ok));
+            const DialogAnswer ok(answer(QDialogButtonBox::Ok));
             QTest::qWait(300);
         });
         EXPECT_FALSE(program.SaveAllModified());

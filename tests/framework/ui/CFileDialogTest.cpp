@@ -1,14 +1,10 @@
 #include "framework/ui/CFileDialog.h"
 
-#include "framework/core/StandardIds.h"
 #include "support/ui/DialogAnswer.h"
 
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QFile>
-#include <QLineEdit>
 #include <QListView>
-#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -26,15 +22,11 @@ protected:
     // Types the name and presses the button; the path that the dialog takes, or nothing when it stays open.
     std::optional<std::string> Type(bool open, const QString& name) {
         FileNameQuestion question;
-        question.open = open;
-        question.mustExist = open;
+        question.open = question.mustExist = open;
         CFileDialog dialog(nullptr, question, {{"All Files (*.*)", "*.*"}});
         dialog.setDirectory(folder.path());
         dialog.show();
-        dialog.findChild<QLineEdit*>("fileNameEdit")->setText(name);
-        dialog.findChild<QDialogButtonBox*>()
-            ->button(open ? QDialogButtonBox::Open : QDialogButtonBox::Save)
-            ->click();
+        EnterName(dialog, name, open ? QDialogButtonBox::Open : QDialogButtonBox::Save);
         if (dialog.isVisible()) return std::nullopt;
         return dialog.GetPathName();
     }

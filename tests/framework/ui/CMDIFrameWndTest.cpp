@@ -1,23 +1,12 @@
-#include "framework/core/StandardIds.h"
 #include "framework/ui/CMenu.h"
 #include "framework/ui/CStatusBar.h"
-#include "framework/ui/Commands.h"
 #include "framework/ui/RecentFileMenu.h"
 #include "framework/ui/WindowFixture.h"
 #include "support/ui/DialogAnswer.h"
 
-#include <QApplication>
-#include <QDialogButtonBox>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QTest>
-
-#include <gmock/gmock.h>
-
-using testing::ElementsAre;
 
 namespace {
 
@@ -29,15 +18,15 @@ using CMDIFrameWndTest = WindowFixture;
 
 TEST_F(CMDIFrameWndTest, RoutesCommandsFromTheViewOutwards) {
     for (const CommandId id : {viewCommand, documentCommand, frameCommand})
-        EXPECT_FALSE(SendCommand(mainFrame, id)) << "without a document: " << id;
+        EXPECT_FALSE(Send(id)) << "without a document: " << id;
     NewDocument();
     Log().clear();
     for (const CommandId id :
          {viewCommand, documentCommand, frameCommand, mainCommand, appCommand, everywhereCommand})
-        EXPECT_TRUE(SendCommand(mainFrame, id)) << id;
+        EXPECT_TRUE(Send(id)) << id;
     EXPECT_THAT(Log(), ElementsAre("view", "document", "frame", "main", "application", "document"));
     EXPECT_FALSE(AskCommand(mainFrame, unknownCommand).enabled);
-    EXPECT_FALSE(SendCommand(mainFrame, unknownCommand));
+    EXPECT_FALSE(Send(unknownCommand));
     QWidget other; // leaves the commands with the document
     other.show();
     QApplication::setActiveWindow(&other);
@@ -78,19 +67,10 @@ TEST_F(CMDIFrameWndTest, TellsViewsWhichOneIsActive) {
 }
 
 TEST_F(CMDIFrameWndTest, AsksEveryDocumentBeforeItClosesOne) {
-    NewDocument().SetModifiedFlag();
-    NewDocument().SetModifiedFlag();
-    Log().clear();
+    for (TestDocument* document : {&NewDocument(), &NewDocument()}) document->SetModifiedFlag();
     {
-        int questions = 0;
-        QTimer answers;
-        QObject::connect(&answers, &QTimer::timeout, &answers, [&] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (box) box->button(++questions == 1 ? QMessageBox::No : QMessageBox::Cancel)->click();
-        });
-        answers.start(10);
+        const DialogAnswer answers(Press(QDialogButtonBox::No), Press(QDialogButtonBox::Cancel));
         EXPECT_FALSE(mainFrame.close());
-        EXPECT_EQ(questions, 2);
     }
     EXPECT_EQ(program.GetDocuments().size(), 2U);
     for (CDocument* document : program.GetDocuments()) document->SetModifiedFlag(false);
@@ -100,19 +80,19 @@ TEST_F(CMDIFrameWndTest, AsksEveryDocumentBeforeItClosesOne) {
 
 TEST_F(CMDIFrameWndTest, AcceleratorsAskForTheStateWhenTheyFire) {
     TestDocument& document = NewDocument();
-    QApplication::setActiveWindow(&mainFrame);
     Log().clear();
-    QTest::keyClick(&mainFrame, Qt::Key_D, Qt::ControlModifier);
+    const auto pressCtrl = [&](Qt::Key key) { QTest::keyClick(&mainFrame, key, Qt::ControlModifier); };
+    pressCtrl(Qt::Key_D);
     document.blocked = true;
-    QTest::keyClick(&mainFrame, Qt::Key_D, Qt::ControlModifier);
+    pressCtrl(Qt::Key_D);
     EXPECT_THAT(Log(), ElementsAre("document"));
     document.blocked = false;
     // The item's text names the same keys; they must not become ambiguous by it. Ctrl+W is the toolkit's key
     // for closing a child.
     mainFrame.GetCurrentMenu().UpdateAll();
     EXPECT_EQ(mainFrame.GetCurrentMenu().FindItem(documentCommand)->text(), "&Renamed\tCtrl+D");
-    QTest::keyClick(&mainFrame, Qt::Key_D, Qt::ControlModifier);
-    QTest::keyClick(&mainFrame, Qt::Key_W, Qt::ControlModifier);
+    pressCtrl(Qt::Key_D);
+    pressCtrl(Qt::Key_W);
     EXPECT_THAT(Log(), ElementsAre("document", "document", "main"));
 }
 
@@ -159,12 +139,12 @@ TEST_F(CMDIFrameWndTest, TilesWithoutGapsAndLeavesIconsAtTheLowerEdge) {
         windows[i]->showMinimized();
         windows[i]->move(30, 20);
     }
-    ASSERT_TRUE(SendCommand(mainFrame, ID_WINDOW_ARRANGE));
+    ASSERT_TRUE(Send(ID_WINDOW_ARRANGE));
     EXPECT_EQ(windows[5]->geometry().bottomLeft(), room.bottomLeft());
     EXPECT_TRUE(room.contains(windows[6]->geometry()));
     EXPECT_FALSE(windows[6]->geometry().intersects(windows[5]->geometry()));
     for (const CommandId id : {ID_WINDOW_TILE_VERT, ID_WINDOW_TILE_HORZ}) {
-        ASSERT_TRUE(SendCommand(mainFrame, id));
+        ASSERT_TRUE(Send(id));
         int area = 0;
         for (const QMdiSubWindow* window : windows)
             if (!window->isMinimized()) area += window->width() * window->height();
@@ -191,7 +171,7 @@ TEST_F(CMDIFrameWndTest, NumbersTheWindowsOfADocument) {
     document.SetTitle("a&b\tc[*]");
     CMDIChildWnd& first = FrameOf(document);
     EXPECT_EQ(first.windowTitle(), "a&b\tc[*][*]"); // the toolkit shows a doubled mark once
-    ASSERT_TRUE(SendCommand(mainFrame, ID_WINDOW_NEW));
+    ASSERT_TRUE(Send(ID_WINDOW_NEW));
     CMDIChildWnd& second = *mainFrame.MDIGetActive();
     document.SetTitle("d");
     EXPECT_EQ(first.windowTitle(), "d:1");
@@ -205,8 +185,8 @@ TEST_F(CMDIFrameWndTest, NumbersTheWindowsOfADocument) {
 TEST_F(CMDIFrameWndTest, TheLastWindowAsksBeforeItTakesTheDocumentAlong) {
     TestDocument& document = NewDocument();
     document.SetModifiedFlag();
-    for (const auto& [button, left] : {std::pair{QDialogButtonBox::Cancel, 1U}, {QDialogButtonBox::No, 0U}}) {
-        const DialogAnswer answer(Press(button));
+    const DialogAnswer answers(Press(QDialogButtonBox::Cancel), Press(QDialogButtonBox::No));
+    for (const std::size_t left : {1U, 0U}) {
         FrameOf(document).close();
         EXPECT_EQ(program.GetDocuments().size(), left);
     }
@@ -215,17 +195,18 @@ TEST_F(CMDIFrameWndTest, TheLastWindowAsksBeforeItTakesTheDocumentAlong) {
 
 TEST_F(CMDIFrameWndTest, AMaximizedWindowNamesItselfInTheMainTitle) {
     TestDocument& document = NewDocument();
-    EXPECT_EQ(mainFrame.windowTitle(), "KelTavlo");
+    const auto title = [&] { return mainFrame.windowTitle().toStdString(); };
+    EXPECT_EQ(title(), "KelTavlo");
     FrameOf(document).showMaximized();
-    EXPECT_EQ(mainFrame.windowTitle(), "KelTavlo - [shown1]");
+    EXPECT_EQ(title(), "KelTavlo - [shown1]");
     TestDocument& second = NewDocument();
-    EXPECT_EQ(mainFrame.windowTitle(), "KelTavlo - [shown2]");
+    EXPECT_EQ(title(), "KelTavlo - [shown2]");
     second.SetTitle("b&c");
-    EXPECT_EQ(mainFrame.windowTitle(), "KelTavlo - [b&c]");
+    EXPECT_EQ(title(), "KelTavlo - [b&c]");
     second.OnCloseDocument();
-    EXPECT_EQ(mainFrame.windowTitle(), "KelTavlo - [shown1]");
+    EXPECT_EQ(title(), "KelTavlo - [shown1]");
     document.OnCloseDocument();
-    EXPECT_EQ(mainFrame.windowTitle(), "KelTavlo");
+    EXPECT_EQ(title(), "KelTavlo");
 }
 
 } // namespace

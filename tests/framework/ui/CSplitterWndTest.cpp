@@ -1,16 +1,10 @@
 #include "framework/ui/CSplitterWnd.h"
 
-#include "framework/core/StandardIds.h"
-#include "framework/ui/Commands.h"
 #include "framework/ui/SplitHandle.h"
 #include "framework/ui/SplitTracker.h"
 #include "framework/ui/WindowFixture.h"
 
-#include <QApplication>
 #include <QScrollBar>
-#include <QTest>
-
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -19,10 +13,7 @@ constexpr auto columns = CSplitterWnd::columns;
 
 class CSplitterWndTest : public WindowFixture {
 protected:
-    CSplitterWndTest() {
-        frame.resize(400, 300);
-        QApplication::setActiveWindow(&mainFrame);
-    }
+    CSplitterWndTest() { frame.resize(400, 300); }
 
     // Presses a handle, moves the mouse and lets go.
     static void Drag(QWidget& handle, const QPoint& way) {
@@ -94,13 +85,13 @@ TEST_F(CSplitterWndTest, PanesShareTheBarsOfTheirRowsAndColumns) {
 }
 
 TEST_F(CSplitterWndTest, TheSplitCommandWorksWithKeysAlone) {
-    EXPECT_TRUE(SendCommand(mainFrame, ID_WINDOW_SPLIT));
+    EXPECT_TRUE(Send(ID_WINDOW_SPLIT));
     SplitTracker& tracker = splitter.GetTracker();
     ASSERT_TRUE(tracker.isVisible());
     QTest::keyClick(&tracker, Qt::Key_Escape);
     EXPECT_FALSE(tracker.isVisible());
     EXPECT_EQ(document.GetViews().size(), 1U);
-    ASSERT_TRUE(SendCommand(mainFrame, ID_WINDOW_SPLIT));
+    ASSERT_TRUE(Send(ID_WINDOW_SPLIT));
     QTest::keyClick(&tracker, Qt::Key_Down);
     QTest::keyClick(&tracker, Qt::Key_Right, Qt::ControlModifier);
     QTest::keyClick(&tracker, Qt::Key_Return);
@@ -114,10 +105,10 @@ TEST_F(CSplitterWndTest, NextPaneGoesRoundRowByRow) {
     splitter.SetSplit(rows, 100);
     splitter.SetSplit(columns, 150);
     for (const auto& [row, column] : {std::pair{0, 1}, {1, 0}, {1, 1}, {0, 0}}) {
-        EXPECT_TRUE(SendCommand(mainFrame, ID_NEXT_PANE));
+        EXPECT_TRUE(Send(ID_NEXT_PANE));
         EXPECT_EQ(frame.GetActiveView(), splitter.GetPane(row, column));
     }
-    EXPECT_TRUE(SendCommand(mainFrame, ID_PREV_PANE));
+    EXPECT_TRUE(Send(ID_PREV_PANE));
     EXPECT_EQ(frame.GetActiveView(), splitter.GetPane(1, 1));
     EXPECT_TRUE(frame.GetActiveView()->hasFocus());
     splitter.SetSplit(rows, 0);

@@ -1,20 +1,13 @@
-#include "framework/core/StandardIds.h"
 #include "framework/ui/CDialogBar.h"
 #include "framework/ui/CStatusBar.h"
 #include "framework/ui/CToolBar.h"
-#include "framework/ui/Commands.h"
 #include "framework/ui/WindowFixture.h"
 
 #include <QAction>
 #include <QLabel>
 #include <QStatusBar>
 #include <QStatusTipEvent>
-#include <QTest>
 #include <QToolButton>
-
-#include <gmock/gmock.h>
-
-using testing::ElementsAre;
 
 namespace {
 
@@ -100,9 +93,9 @@ TEST_F(ControlBarsTest, TheStateComesBackWholeOrNotAtAll) {
 TEST_F(ControlBarsTest, PlacementsEndOnAScreen) {
     const QRect screen = mainFrame.screen()->availableGeometry();
     WindowPlacement placement;
-    for (const WindowPlacement::Rectangle& far : {WindowPlacement::Rectangle{50000, 50000, 50300, 50200},
-                                                  WindowPlacement::Rectangle{-2147483647, 0, 2147483647, 5},
-                                                  WindowPlacement::Rectangle{-900, -900, -400, -500}}) {
+    for (const WindowPlacement::Rectangle far : {WindowPlacement::Rectangle{50000, 50000, 50300, 50200},
+                                                 {-2147483647, 0, 2147483647, 5},
+                                                 {-900, -900, -400, -500}}) {
         placement.normal = far;
         mainFrame.SetWindowPlacement(placement);
         EXPECT_TRUE(screen.contains(mainFrame.geometry().center())) << far.left;

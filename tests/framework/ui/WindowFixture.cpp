@@ -1,6 +1,5 @@
 #include "framework/ui/WindowFixture.h"
 
-#include "framework/core/StandardIds.h"
 #include "framework/core/StringTable.h"
 
 namespace {
@@ -58,6 +57,7 @@ TestProgram::TestProgram(const std::string& settings) : Noting(std::make_unique<
 
 WindowFixture::WindowFixture() {
     Log().clear();
+    QApplication::setActiveWindow(&mainFrame);
 }
 
 TestDocument& WindowFixture::NewDocument(std::size_t type) {

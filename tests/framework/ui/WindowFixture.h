@@ -2,14 +2,20 @@
 
 #include "framework/core/CDocument.h"
 #include "framework/core/CWinApp.h"
+#include "framework/core/StandardIds.h"
 #include "framework/ui/CMDIFrameWnd.h"
 #include "framework/ui/CView.h"
 #include "framework/ui/ChildFrame.h"
+#include "framework/ui/Commands.h"
 #include "framework/ui/WindowedUserInterface.h"
 
+#include <QApplication>
 #include <QTemporaryDir>
+#include <QTest>
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
 
 // A program of the framework's classes alone, with one type that people see and one that stays hidden.
 
@@ -96,6 +102,7 @@ protected:
     WindowFixture();
 
     TestDocument& NewDocument(std::size_t type = 0);
+    bool Send(CommandId id) { return SendCommand(mainFrame, id); }
     static CMDIChildWnd& FrameOf(const CDocument& document);
 
     QTemporaryDir folder;

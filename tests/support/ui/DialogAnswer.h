@@ -1,9 +1,11 @@
 #pragma once
 
 #include <QApplication>
-#include <QDialog>
+#include <QDialogButtonBox>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QTimer>
 
@@ -12,23 +14,24 @@
 #include <gtest/gtest.h>
 #include <type_traits>
 
-// Answers the next window of a kind by what the test does to it. A window that never comes is a failure of
-// the test, and so is one that is left open for five seconds.
+// Answers the next windows of a kind by what the test does to each in turn. A window that never comes is a
+// failure of the test, and so is one that is left open for five seconds.
 template <class Window, QWidget* (*activeWindow)()>
 class WindowAnswer {
 public:
-    explicit WindowAnswer(std::function<void(Window&)> whatToDo) : answer(std::move(whatToDo)) {
+    template <class... Answers>
+    explicit WindowAnswer(Answers... inTurn) : answers{std::move(inTurn)...} {
         QObject::connect(&timer, &QTimer::timeout, &timer, [this] { Look(); });
         timer.start(std::chrono::milliseconds(10));
     }
-    ~WindowAnswer() { EXPECT_TRUE(asked) << "no dialog or menu came"; }
+    ~WindowAnswer() { EXPECT_EQ(asked, answers.size()) << "dialogs or menus"; }
 
 private:
     void Look() {
         auto* window = qobject_cast<Window*>(activeWindow());
-        if (window && !asked) {
-            asked = true;
-            answer(*window);
+        if (window && window != last && asked < answers.size()) {
+            last = window;
+            answers[asked++](*window);
             if constexpr (std::is_same_v<Window, QMenu>) window->close();
         } else if (++ticks > 500 && window) {
             ADD_FAILURE() << "left open: " << window->windowTitle().toStdString();
@@ -36,8 +39,9 @@ private:
         }
     }
 
-    std::function<void(Window&)> answer;
-    bool asked = false;
+    std::vector<std::function<void(Window&)>> answers;
+    std::size_t asked = 0;
+    QPointer<Window> last;
     int ticks = 0;
     QTimer timer;
 };
@@ -46,13 +50,20 @@ using DialogAnswer = WindowAnswer<QDialog, &QApplication::activeModalWidget>;
 // Closes the menu after the answer.
 using PopupAnswer = WindowAnswer<QMenu, &QApplication::activePopupWidget>;
 
-// Presses the message box's button of that QDialogButtonBox::StandardButton.
-inline std::function<void(QDialog&)> Press(int button) {
-    return [button](QDialog& dialog) {
-        auto* box = qobject_cast<QMessageBox*>(&dialog);
-        ASSERT_TRUE(box) << "no message box";
-        box->button(static_cast<QMessageBox::StandardButton>(button))->click();
-    };
+// Presses the button of a message box or another dialog.
+inline void Press(const QDialog& dialog, QDialogButtonBox::StandardButton button) {
+    const auto* box = dialog.findChild<QDialogButtonBox*>();
+    ASSERT_TRUE(box && box->button(button)) << dialog.windowTitle().toStdString();
+    box->button(button)->click();
+}
+// As an answer.
+inline auto Press(QDialogButtonBox::StandardButton button) {
+    return [button](const QDialog& dialog) { Press(dialog, button); };
+}
+// Enters a file's name and presses the button.
+inline void EnterName(const QDialog& dialog, const QString& name, QDialogButtonBox::StandardButton button) {
+    dialog.findChild<QLineEdit*>("fileNameEdit")->setText(name);
+    Press(dialog, button);
 }
 
 // The texts of the menu's items, without the marks of their mnemonics; a separator is empty.
