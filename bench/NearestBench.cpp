@@ -1,3 +1,4 @@
+#include "bench/PlainDiffusion.h"
 #include "formats/Codec.h"
 #include "framework/core/CMemFile.h"
 #include "image/picture/ColorList.h"
@@ -86,23 +87,9 @@ void NearestAlphas(benchmark::State& state) {
     }
 }
 
-void DiffusePlainly(Image& picture, const ColorList& list) {
+void DiffuseRowsPlainly(Image& picture, const ColorList& list) {
     const NearestColorCacheScope cacheScope(list);
-    const auto clamped = [](int channel) { return static_cast<std::uint32_t>(std::clamp(channel, 0, 255)); };
-    for (int y = 0; y < picture.GetHeight(); ++y) {
-        int red = 0;
-        int green = 0;
-        int blue = 0;
-        for (Color& pixel : picture.Row(y)) {
-            red += static_cast<int>(Red(pixel));
-            green += static_cast<int>(Green(pixel));
-            blue += static_cast<int>(Blue(pixel));
-            pixel = *list.FindNearest(Compose(clamped(red), clamped(green), clamped(blue), Alpha(pixel)));
-            red -= static_cast<int>(Red(pixel));
-            green -= static_cast<int>(Green(pixel));
-            blue -= static_cast<int>(Blue(pixel));
-        }
-    }
+    for (int y = 0; y < picture.GetHeight(); ++y) DiffusePlainly(picture.Row(y), list);
 }
 
 void DiffuseFast(Image& picture, const ColorList& list) {
@@ -155,7 +142,7 @@ BENCHMARK(NearestIndices<FindPlainly>)->Name("NearestIndicesPlain")->Apply(AllPi
 BENCHMARK(NearestIndices<FindFast>)->Name("NearestIndices")->Apply(AllPictures);
 BENCHMARK(NearestAlphas<FindPlainly>)->Name("NearestAlphasPlain")->Apply(SmallPicture);
 BENCHMARK(NearestAlphas<FindFast>)->Name("NearestAlphas")->Apply(SmallPicture);
-BENCHMARK(NearestDiffusion<DiffusePlainly>)->Name("NearestDiffusionPlain")->Apply(DistinctColors);
+BENCHMARK(NearestDiffusion<DiffuseRowsPlainly>)->Name("NearestDiffusionPlain")->Apply(DistinctColors);
 BENCHMARK(NearestDiffusion<DiffuseFast>)->Name("NearestDiffusion")->Apply(DistinctColors);
 BENCHMARK_CAPTURE(NearestWrite, WAL, "WALDocument")->Apply(SmallPicture);
 BENCHMARK_CAPTURE(NearestWrite, MIP, "MIPDocument")->Apply(SmallPicture);

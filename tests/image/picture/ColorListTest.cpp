@@ -1,17 +1,7 @@
 #include "image/picture/ColorList.h"
 
-#include "image/picture/Image.h"
-
-#include <algorithm>
 #include <gtest/gtest.h>
 #include <random>
-
-namespace {
-
-constexpr Color black = 0xFF000000;
-constexpr Color white = 0xFFFFFFFF;
-
-} // namespace
 
 TEST(ColorListTest, FindsTheFirstOfTheNearest) {
     const ColorList list{0xFF000010, 0xFF000020, 0xFF000010, 0xFE123456, 0xFF123456};
@@ -24,8 +14,8 @@ TEST(ColorListTest, FindsTheFirstOfTheNearest) {
 
 TEST(ColorListTest, TheCacheChangesNoResultAndEndsWithTheList) {
     std::mt19937 random(3);
-    ColorList list(40);
-    for (std::size_t i = 0; i < 40; ++i) list.SetColor(i, static_cast<Color>(random()));
+    ColorList list;
+    for (int i = 0; i < 40; ++i) list.Append(static_cast<Color>(random()));
     list.CreateCache();
     ColorList other(list);
     EXPECT_FALSE(other.HasCache());
@@ -38,20 +28,4 @@ TEST(ColorListTest, TheCacheChangesNoResultAndEndsWithTheList) {
     EXPECT_FALSE(other.HasCache());
     list.Append(0xFF800000);
     EXPECT_FALSE(list.HasCache());
-}
-
-TEST(ColorConversionTest, BothWaysReplaceEveryPixelAndGiveTheCacheBack) {
-    const ColorList list{black, white};
-    Image picture(2, 2);
-    std::ranges::copy(std::initializer_list<Color>{0xFF7F7F7F, 0xFF808080, 0xFF808080, 0xFF808080},
-                      picture.Pixels().begin());
-    Image diffused = picture;
-    picture.ConvertToNearest(list);
-    EXPECT_TRUE(
-        std::ranges::equal(picture.Pixels(), std::initializer_list<Color>{black, white, white, white}));
-    diffused.ConvertByErrorDiffusion(list); // along each row
-    EXPECT_TRUE(
-        std::ranges::equal(diffused.Pixels(), std::initializer_list<Color>{black, white, white, black}));
-    EXPECT_FALSE(list.HasCache());
-    EXPECT_THROW(picture.ConvertByErrorDiffusion(ColorList()), std::out_of_range);
 }

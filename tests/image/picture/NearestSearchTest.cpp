@@ -1,5 +1,6 @@
 #include "image/picture/NearestSearch.h"
 
+#include "bench/PlainDiffusion.h"
 #include "image/picture/ColorList.h"
 #include "image/picture/NearestKernels.h"
 
@@ -35,21 +36,6 @@ std::vector<Color> MakePixels(const ColorList& list, Alphas alphas, std::mt19937
             pixels.push_back(each);
     }
     return pixels;
-}
-
-// Error diffusion as it is defined.
-void DiffusePlainly(std::span<Color> row, const ColorList& list) {
-    int red = 0, green = 0, blue = 0;
-    const auto clamped = [](int channel) { return static_cast<std::uint32_t>(std::clamp(channel, 0, 255)); };
-    for (Color& pixel : row) {
-        red += static_cast<int>(Red(pixel));
-        green += static_cast<int>(Green(pixel));
-        blue += static_cast<int>(Blue(pixel));
-        pixel = *list.FindNearest(Compose(clamped(red), clamped(green), clamped(blue), Alpha(pixel)));
-        red -= static_cast<int>(Red(pixel));
-        green -= static_cast<int>(Green(pixel));
-        blue -= static_cast<int>(Blue(pixel));
-    }
 }
 
 // Each way of searching, on lists of every kind.
@@ -116,8 +102,7 @@ TEST_P(NearestSearchTest, DiffusesAsDefined) {
 
 TEST_P(NearestSearchTest, SearchesListsTooLongForItsGrid) {
     std::vector<Color> colors(70000, 0xFFFFFFFF);
-    colors[69000] = 0xFF000000;
-    colors[69999] = 0xFF000000;
+    colors[69000] = colors[69999] = 0xFF000000;
     const ColorList list(colors);
     NearestSearch search(list, *GetParam());
     EXPECT_EQ(search.FindIndex(0xFF000001), 69000U);
@@ -131,6 +116,7 @@ TEST_P(NearestSearchTest, RefusesWhatItCannotFind) {
     std::vector<std::uint8_t> indices(1);
     EXPECT_THROW(search.FindIndex(0), std::out_of_range);
     EXPECT_THROW(search.Replace(pixels), std::out_of_range);
+    EXPECT_THROW(search.Diffuse(pixels, 1), std::out_of_range);
     EXPECT_NO_THROW(search.Diffuse({}, 0));
     const ColorList tooLong(257);
     EXPECT_THROW(NearestSearch(tooLong, *GetParam()).FindIndices(pixels, indices), std::length_error);

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "image/picture/Color.h"
+
+#include <span>
+
+class ColorList;
+
+// Error diffusion along one row as it is defined, by a search of the whole list for each pixel.
+void DiffusePlainly(std::span<Color> row, const ColorList& list);
