@@ -45,23 +45,3 @@ Bytes WadBuilder::Build(Directory place) const {
     Append(wad, place == Directory::first ? data : directory);
     return wad;
 }
-
-Bytes MakeMip(std::string_view name, std::uint32_t width, std::uint32_t height, bool withPalette) {
-    constexpr unsigned colors = 256;
-    Bytes mip = FixedName(name);
-    PutU32(mip, 16, width);
-    PutU32(mip, 20, height);
-    std::uint32_t offset = 40;
-    for (std::uint32_t level = 0; level < 4; ++level) {
-        PutU32(mip, 24 + 4 * level, offset);
-        offset += (width >> level) * (height >> level);
-    }
-    for (std::uint32_t y = 0; y < height; ++y)
-        for (std::uint32_t x = 0; x < width; ++x) mip.push_back(static_cast<std::byte>(x + y));
-    mip.resize(offset);
-    if (!withPalette) return mip;
-    Append(mip, {std::byte{0}, std::byte{1}}); // the count, 256
-    for (unsigned i = 0; i < colors; ++i) mip.insert(mip.end(), 3, static_cast<std::byte>(i));
-    mip.resize(mip.size() + 2);
-    return mip;
-}

@@ -25,7 +25,3 @@ private:
     std::string identification;
     std::vector<Lump> lumps;
 };
-
-// A texture lump as WAD3 files hold it, all indices (x + y) % 256: its palette, whose colour i is (i, i, i),
-// follows the levels, and two bytes follow that. WAD2 files hold the same without all that.
-Bytes MakeMip(std::string_view name, std::uint32_t width, std::uint32_t height, bool withPalette);

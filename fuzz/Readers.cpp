@@ -5,6 +5,7 @@
 #include "archives/PAKDocument.h"
 #include "archives/WADDocument.h"
 #include "builders/ModelBuilder.h"
+#include "builders/TextureBuilder.h"
 #include "builders/WadBuilder.h"
 #include "image/ImageDocuments.h"
 #include "image/picture/DibSection.h"

@@ -2,10 +2,10 @@
 
 #include "resources/Shell.h"
 
-// A main window that only keeps the current colour and what it was told of it.
+// A main window that only keeps the current colour.
 struct FakeShell : Shell {
     void UpdateMenus(BaseDocument*) override {}
-    void UpdatePaletteBar(unsigned hint) override { lastHint = hint; }
+    void UpdatePaletteBar(unsigned) override {}
     void SetPositionText(double, double) override {}
     void SetColorText(std::uint32_t) override {}
     std::uint32_t GetCurrentColor() const override { return color; }
@@ -13,5 +13,4 @@ struct FakeShell : Shell {
     const std::uint32_t* GetGammaTable() const override { return nullptr; }
 
     std::uint32_t color = 0;
-    unsigned lastHint = 0;
 };

@@ -1,13 +1,8 @@
 #pragma once
 
 #include "app/HeadlessApplication.h"
-#include "builders/PackBuilder.h"
-
-#include <QTemporaryDir>
-
-#include <gmock/gmock.h>
-#include <string>
-#include <vector>
+#include "builders/TextureBuilder.h"
+#include "support/FolderTest.h"
 
 // What the sentences for files that cannot be opened say.
 inline constexpr const char* badFormat = "expected format";
@@ -16,12 +11,8 @@ inline constexpr const char* badIndex = "does not allow";
 inline constexpr const char* tooShort = "too early";
 
 // The program without windows and a folder for files, made afresh for each test.
-class WorkshopTest : public testing::Test {
+class WorkshopTest : public FolderTest {
 protected:
-    // A path in the test's folder.
-    std::string PathTo(const std::string& name) const { return folder.path().toStdString() + "/" + name; }
-    std::string Put(const std::string& name, const Bytes& bytes) const;
-
     // The document that opens under the path; null, with a message, when it does not.
     template <class Document>
     Document* Open(const std::string& path) {
@@ -40,11 +31,7 @@ protected:
     // The bytes that lie under a path of the file system; "(fails)" when it does not open.
     std::string TextOf(const std::string& path);
 
-    QTemporaryDir folder;
     std::vector<std::string> messages;
     int fileCount = 0;
     HeadlessApplication application{[this](const std::string& text) { messages.push_back(text); }};
 };
-
-// The file of a WAL texture: every index is (x + y) % 256, the levels below 0 are left 0.
-Bytes MakeWal(std::uint32_t width, std::uint32_t height, const std::string& name = "test");

@@ -1,87 +1,74 @@
-#include "builders/PackBuilder.h"
 #include "framework/core/CMemFile.h"
 #include "framework/core/ReplacingFile.h"
+#include "support/FolderTest.h"
 
-#include <QTemporaryDir>
-
-#include <array>
 #include <filesystem>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace fs = std::filesystem;
 
 namespace {
 
-class FileTest : public testing::Test {
+class FileTest : public FolderTest {
 protected:
-    std::string PathTo(const std::string& name) const { return folder.path().toStdString() + "/" + name; }
     static void Replace(const std::string& path, std::string_view text) {
         ReplacingFile file(path);
         file.Write(text.data(), text.size());
         file.Close();
     }
-
-    QTemporaryDir folder;
+    CFileException::Cause OpenFailure(const std::string& name, unsigned flags = CFile::modeRead) const {
+        CFileException failure;
+        EXPECT_EQ(OpenDiskFile(PathTo(name), flags, &failure), nullptr);
+        return failure.cause;
+    }
 };
-
-CFileException::Cause OpenFailure(const std::string& path, unsigned flags) {
-    CFileException failure;
-    EXPECT_EQ(OpenDiskFile(path, flags, &failure), nullptr);
-    return failure.cause;
-}
 
 } // namespace
 
 TEST_F(FileTest, OpensOrdinaryFilesOnly) {
+    constexpr unsigned create = CFile::modeCreate | CFile::modeWrite;
     mkfifo(PathTo("pipe").c_str(), 0600);
-    EXPECT_EQ(OpenFailure(PathTo("pipe"), CFile::modeRead), CFileException::invalidFile);
-    EXPECT_EQ(OpenFailure(PathTo("pipe"), CFile::modeCreate | CFile::modeWrite), CFileException::invalidFile);
-    EXPECT_EQ(OpenFailure(PathTo(""), CFile::modeRead), CFileException::invalidFile);
-    EXPECT_EQ(OpenFailure(PathTo("missing"), CFile::modeRead), CFileException::fileNotFound);
-    EXPECT_EQ(OpenFailure(PathTo("missing/file"), CFile::modeCreate | CFile::modeWrite),
-              CFileException::badPath);
+    EXPECT_EQ(OpenFailure("pipe"), CFileException::invalidFile);
+    EXPECT_EQ(OpenFailure("pipe", create), CFileException::invalidFile);
+    EXPECT_EQ(OpenFailure(""), CFileException::invalidFile);
+    EXPECT_EQ(OpenFailure("missing"), CFileException::fileNotFound);
+    EXPECT_EQ(OpenFailure("missing/file", create), CFileException::badPath);
 }
 
 TEST_F(FileTest, DuplicatesKeepTheirOwnPosition) {
-    WriteFile(PathTo("a"), ToBytes("0123456789"));
-    const auto file = OpenDiskFile(PathTo("a"), CFile::modeRead, nullptr);
+    const auto file = OpenDiskFile(Put("a", ToBytes("0123456789")), CFile::modeRead, nullptr);
     const auto second = file->Duplicate();
     file->Seek(4, CFile::From::begin);
-    std::array<char, 2> got{};
-    EXPECT_EQ(second->Read(got.data(), got.size()), 2U);
-    EXPECT_EQ(got[0], '0');
+    char got = 0;
+    EXPECT_EQ(second->Read(&got, 1), 1U);
+    EXPECT_EQ(got, '0');
     EXPECT_EQ(file->GetPosition(), 4U);
     EXPECT_THROW(file->Seek(-11, CFile::From::end), CFileException);
     EXPECT_TRUE(second->IsUnchanged());
-    WriteFile(PathTo("b"), ToBytes("0123456789"));
-    fs::rename(PathTo("b"), PathTo("a"));
+    fs::rename(Put("b", ToBytes("0123456789")), PathTo("a"));
     EXPECT_FALSE(second->IsUnchanged());
 }
 
 TEST_F(FileTest, ReplacesInOneStepAndLeavesNothingElse) {
-    WriteFile(PathTo("a"), ToBytes("old"));
-    chmod(PathTo("a").c_str(), 0640);
-    ReplacingFile(PathTo("a")).Write("new", 3);
-    EXPECT_EQ(ReadFile(PathTo("a")), ToBytes("old")) << "a file that is not closed changes nothing";
-    Replace(PathTo("a"), "new");
-    EXPECT_EQ(ReadFile(PathTo("a")), ToBytes("new"));
-    EXPECT_EQ(fs::status(PathTo("a")).permissions(), fs::perms(0640));
+    const std::string path = Put("a", ToBytes("old"));
+    fs::permissions(path, fs::perms(0640));
+    ReplacingFile(path).Write("new", 3);
+    EXPECT_EQ(ReadFile(path), ToBytes("old")) << "a file that is not closed changes nothing";
+    Replace(path, "new");
+    EXPECT_EQ(ReadFile(path), ToBytes("new"));
+    EXPECT_EQ(fs::status(path).permissions(), fs::perms(0640));
     EXPECT_EQ(std::distance(fs::directory_iterator(PathTo("")), {}), 1);
 }
 
 TEST_F(FileTest, KeepsLinks) {
-    WriteFile(PathTo("target"), ToBytes("old"));
+    Put("target", ToBytes("old"));
     fs::create_symlink("target", PathTo("link"));
     fs::create_hard_link(PathTo("target"), PathTo("twin"));
-    Replace(PathTo("link"), "longer than before");
-    EXPECT_TRUE(fs::is_symlink(PathTo("link")));
-    EXPECT_EQ(ReadFile(PathTo("target")), ToBytes("longer than before"));
-    EXPECT_EQ(ReadFile(PathTo("twin")), ToBytes("longer than before"));
-    Replace(PathTo("twin"), "x");
-    EXPECT_EQ(ReadFile(PathTo("target")), ToBytes("x"));
+    for (const char* text : {"longer than before", "x"}) {
+        Replace(PathTo("link"), text);
+        EXPECT_TRUE(fs::is_symlink(PathTo("link")));
+        EXPECT_EQ(ReadFile(PathTo("twin")), ToBytes(text));
+    }
 }
 
 TEST_F(FileTest, AFixedMemoryFileDoesNotGrow) {
@@ -91,7 +78,6 @@ TEST_F(FileTest, AFixedMemoryFileDoesNotGrow) {
     EXPECT_EQ(bytes, ToBytes("abcd")) << "the bytes that fit are written";
     EXPECT_THROW(file.SetLength(5), CMemoryException);
     file.Seek(10, CFile::From::begin);
-    char got = 0;
-    EXPECT_EQ(file.Read(&got, 1), 0U);
+    EXPECT_EQ(file.Read(bytes.data(), 1), 0U);
     EXPECT_THROW(file.Write("a", 1), CMemoryException);
 }

@@ -1,22 +1,16 @@
 #include "framework/core/ProfileStore.h"
 
-#include "builders/PackBuilder.h"
 #include "framework/core/RecentFileList.h"
+#include "support/FolderTest.h"
 
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace {
 
-class ProfileStoreTest : public testing::Test {
+class ProfileStoreTest : public FolderTest {
 protected:
-    std::string Path() const { return folder.path().toStdString() + "/made/settings.ini"; }
-
-    QTemporaryDir folder;
-    ProfileStore store{Path()};
+    const std::string path = PathTo("made/settings.ini");
+    ProfileStore store{path};
 };
 
 const ProfileStore::Bytes three{std::byte{0}, std::byte{0x5D}, std::byte{0xFF}};
@@ -24,8 +18,8 @@ const ProfileStore::Bytes three{std::byte{0}, std::byte{0x5D}, std::byte{0xFF}};
 TEST_F(ProfileStoreTest, KeepsValuesForTheNextRun) {
     EXPECT_FALSE(store.ReadBinary("Main", "Value"));
     EXPECT_TRUE(store.WriteBinary("Main", "Value", three));
-    EXPECT_TRUE(ProfileStore(Path()).WriteBinary("Other", "Value", {}));
-    EXPECT_EQ(ProfileStore(Path()).ReadBinary("Main", "Value"), three);
+    EXPECT_TRUE(ProfileStore(path).WriteBinary("Other", "Value", {}));
+    EXPECT_EQ(ProfileStore(path).ReadBinary("Main", "Value"), three);
     EXPECT_EQ(store.ReadBinary("Other", "Value"), ProfileStore::Bytes());
     EXPECT_EQ(store.GetProfileBinary("Main", "Value", 3), three);
     EXPECT_FALSE(store.GetProfileBinary("Main", "Value", 2)) << "longer";
@@ -37,20 +31,16 @@ TEST_F(ProfileStoreTest, KeepsValuesForTheNextRun) {
 TEST_F(ProfileStoreTest, DamagedFilesGiveWholeValuesOrNone) {
     const std::string whole = "[Main]\nGamma=0102030405060708090a0b0c\n[Other]\nx=00\n";
     store.WriteBinary("Main", "x", {});
-    const auto check = [&](const std::string& text) {
-        WriteFile(Path(), ToBytes(text));
-        const auto gamma = store.GetProfileBinary("Main", "Gamma", 12);
-        EXPECT_TRUE(!gamma || gamma->size() == 12) << text;
-        store.ReadBinary("Other", "x");
-    };
     for (std::size_t bit = 0; bit < whole.size() * 8; ++bit) {
         std::string flipped = whole;
         flipped[bit / 8] = static_cast<char>(flipped[bit / 8] ^ 1 << bit % 8);
-        check(flipped);
+        WriteFile(path, ToBytes(flipped));
+        const auto gamma = store.ReadBinary("Main", "Gamma");
+        EXPECT_TRUE(!gamma || gamma->size() == 12) << flipped;
     }
     for (const char* foreign : {"Gamma=00", "[Main]\nGamma=0g", "[Main]\nGamma=@Variant(\\0\\0\\0\\t\\xff)",
                                 "[Main]\n=\n[]\n==\n[", "\n\n[Main]\nGamma=0"}) {
-        check(foreign);
+        WriteFile(path, ToBytes(foreign));
         EXPECT_FALSE(store.ReadBinary("Main", "Gamma")) << foreign;
     }
     EXPECT_TRUE(store.WriteBinary("Main", "Gamma", three)) << "a damaged file is written anew";
@@ -58,20 +48,18 @@ TEST_F(ProfileStoreTest, DamagedFilesGiveWholeValuesOrNone) {
 }
 
 TEST_F(ProfileStoreTest, WhatIsNoSettingsFileIsLeftAlone) {
-    const std::string pipe = folder.path().toStdString() + "/pipe";
-    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
-    for (const std::string& path : {pipe, folder.path().toStdString(), std::string("/dev/full")}) {
-        ProfileStore other(path);
-        EXPECT_FALSE(other.ReadBinary("Main", "Value")) << path;
-        EXPECT_FALSE(other.WriteBinary("Main", "Value", three)) << path;
+    ASSERT_EQ(mkfifo(PathTo("pipe").c_str(), 0600), 0);
+    for (const std::string& none : {PathTo("pipe"), PathTo(""), std::string("/dev/full")}) {
+        ProfileStore other(none);
+        EXPECT_FALSE(other.ReadBinary("Main", "Value")) << none;
+        EXPECT_FALSE(other.WriteBinary("Main", "Value", three)) << none;
     }
-    WriteFile(folder.path().toStdString() + "/large", Bytes((1 << 20) + 1));
-    EXPECT_FALSE(ProfileStore(folder.path().toStdString() + "/large").ReadBinary("Main", "Value"));
+    EXPECT_FALSE(ProfileStore(Put("large", Bytes((1 << 20) + 1))).ReadBinary("Main", "Value"));
 }
 
 TEST_F(ProfileStoreTest, RecentFilesHaveAValueEach) {
     RecentFileList list(&store);
-    for (const char* path : {"/a", "/b", "/c", "/d\xFF\n", "/e"}) list.Add(path);
+    for (const char* recent : {"/a", "/b", "/c", "/d\xFF\n", "/e"}) list.Add(recent);
     list.Remove("/c");
     EXPECT_EQ(RecentFileList(&store).GetPaths(), (std::vector<std::string>{"/e", "/d\xFF\n", "/b"}));
     EXPECT_EQ(store.ReadBinary("Recent File List", "File1")->size(), 2U);

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "builders/PackBuilder.h"
+
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+
+// A folder for files, made afresh for each test.
+class FolderTest : public testing::Test {
+protected:
+    // A path in the folder.
+    std::string PathTo(const std::string& name) const { return folder.path().toStdString() + "/" + name; }
+    // Writes the file and tells its path.
+    std::string Put(const std::string& name, const Bytes& bytes) const {
+        WriteFile(PathTo(name), bytes);
+        return PathTo(name);
+    }
+
+    QTemporaryDir folder;
+};
