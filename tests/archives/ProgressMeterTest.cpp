@@ -1,19 +1,33 @@
 #include "archives/ProgressMeter.h"
 
 #include "res/DocumentStrings.h"
-#include "res/StringIds.h"
 #include "support/FakeProgress.h"
 
 #include <gmock/gmock.h>
 #include <limits>
 
-using testing::ElementsAre;
-
 namespace {
+
+struct Look {
+    std::int64_t second;
+    std::int32_t position;
+    std::vector<std::string> shown;
+};
 
 class ProgressMeterTest : public testing::Test {
 protected:
     ProgressMeterTest() { AddStrings(DocumentStrings()); }
+
+    void Expect(std::int32_t minimum, std::int32_t maximum, std::initializer_list<Look> looks) {
+        clock.seconds = 0;
+        ProgressMeter meter(minimum, maximum);
+        for (const auto& [second, position, shown] : looks) {
+            shell.log.clear();
+            clock.seconds = second;
+            meter.SetPosition(position);
+            EXPECT_EQ(shell.log, shown) << position << " in second " << second;
+        }
+    }
 
     FakeClock clock;
     ProgressShell shell;
@@ -22,41 +36,15 @@ protected:
 } // namespace
 
 TEST_F(ProgressMeterTest, ShowsWorkThatWillTakeTwoSeconds) {
-    {
-        ProgressMeter half(0, 100);
-        for (int i = 0; i < 49; ++i) half.Step();
-        clock.seconds = -10; // set back by somebody
-        half.Step();
-        EXPECT_THAT(shell.log, ElementsAre()) << "not a second has passed";
-        clock.seconds = 1;
-        half.SetPosition(50);
-        half.Step();
-        clock.seconds = 2;
-        half.Step();
-    }
-    EXPECT_THAT(shell.log, ElementsAre("open Working... 0..100 at 50", "52", "close"));
-    shell.log.clear();
-    clock.seconds = 0;
-    ProgressMeter more(0, 100);
-    clock.seconds = 1;
-    more.SetPosition(51);
-    EXPECT_THAT(shell.log, ElementsAre()) << "less than two seconds";
-    more.SetPosition(1);
-    EXPECT_THAT(shell.log, ElementsAre()) << "looked at once a second, whatever came of it";
-    clock.seconds = 2;
-    more.SetPosition(52);
-    EXPECT_THAT(shell.log, ElementsAre("open Working... 0..100 at 52")) << "slower than it seemed";
+    const std::string open = "open Working... 0..100 at ";
+    Expect(0, 100, {{0, 49, {}}, {-10, 49, {}}, {1, 50, {open + "50"}}, {1, 51, {}}, {2, 52, {"52"}}});
+    // It is looked at once a second, whatever came of it.
+    Expect(0, 100, {{1, 51, {}}, {1, 1, {}}, {2, 52, {open + "52"}}});
 }
 
 TEST_F(ProgressMeterTest, CountsFromItsMinimumWithoutOverflow) {
-    constexpr std::int32_t least = std::numeric_limits<std::int32_t>::min();
-    constexpr std::int32_t most = std::numeric_limits<std::int32_t>::max();
-    ProgressMeter meter(least, most);
-    meter.SetText(IDS_READING_FILES);
-    clock.seconds = 1;
-    meter.SetPosition(least);
-    EXPECT_THAT(shell.log, ElementsAre()) << "nothing done yet: no estimate";
-    clock.seconds = 3;
-    meter.SetPosition(most);
-    EXPECT_THAT(shell.log, ElementsAre("open Reading Files... -2147483648..2147483647 at 2147483647"));
+    constexpr std::int32_t least = std::numeric_limits<std::int32_t>::min(),
+                           most = std::numeric_limits<std::int32_t>::max();
+    Expect(least, most,
+           {{1, least, {}}, {3, most, {"open Working... -2147483648..2147483647 at 2147483647"}}});
 }

@@ -3,20 +3,13 @@
 #include "resources/streams/ArchiveStream.h"
 #include "resources/streams/FileStream.h"
 #include "resources/streams/TaggedFile.h"
+#include "support/CauseOf.h"
 
 #include <gtest/gtest.h>
 
-namespace {
+using namespace std::literals;
 
-template <class Exception, class Action>
-int CauseOf(Action action) {
-    try {
-        action();
-    } catch (const Exception& exception) {
-        return exception.cause;
-    }
-    return -1;
-}
+namespace {
 
 Bytes Tagged(std::string_view type, char count, std::string_view chunks) {
     return ToBytes("KEL\xE5\xD0TAV" + std::string(type) + std::string{count, 0, 0, 0} + std::string(chunks));
@@ -32,8 +25,6 @@ TaggedContents ReadBrush(Bytes bytes) {
 int BrushFailure(const Bytes& bytes) {
     return CauseOf<CArchiveException>([&] { ReadBrush(bytes); });
 }
-
-constexpr std::string_view idChunk("id\0\0\1\0\0\0", 8);
 
 } // namespace
 
@@ -53,13 +44,11 @@ TEST(Stream, EveryCodeHasItsCauseInBothForms) {
 
 TEST(TaggedFile, ReadsChunksInAnyOrder) {
     const TaggedContents contents =
-        ReadBrush(Tagged("Brsh", 3,
-                         std::string("UITA\4\0\0\0ab\0x", 12) + std::string(idChunk) +
-                             std::string("UITU\2\0\0\0\xFC\0z\0tail", 16)));
+        ReadBrush(Tagged("Brsh", 3, "UITA\4\0\0\0ab\0xid\0\0\1\0\0\0UITU\2\0\0\0\xFC\0z\0tail"sv));
     EXPECT_EQ(contents.id, 1U);
     EXPECT_EQ(contents.title, "\xC3\xBCz") << "a later title replaces an earlier one";
     EXPECT_EQ(ReadBrush(Tagged("Brsh", 0, "")).title, "");
-    EXPECT_EQ(ReadBrush(Tagged("Brsh", 1, std::string("UITA\2\0\0\0ab", 10))).title, "ab");
+    EXPECT_EQ(ReadBrush(Tagged("Brsh", 1, "UITA\2\0\0\0ab"sv)).title, "ab");
 }
 
 TEST(TaggedFile, RefusesWhatItIsNot) {
@@ -71,8 +60,7 @@ TEST(TaggedFile, RefusesWhatItIsNot) {
     }
     EXPECT_EQ(BrushFailure(Tagged("Brsh", 1, "Nope")), CArchiveException::badIndex);
     EXPECT_EQ(BrushFailure(Tagged("Brsh", 1, "UITA\xFF\xFF\xFF\xFF")), CArchiveException::endOfFile);
-    const Bytes whole = Tagged("Brsh", 1, idChunk);
+    const Bytes whole = Tagged("Brsh", 1, "id\0\0\1\0\0\0"sv);
     for (std::size_t length = 1; length < whole.size(); ++length)
-        EXPECT_EQ(BrushFailure(Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length))),
-                  CArchiveException::endOfFile);
+        EXPECT_EQ(BrushFailure(CutTo(whole, length)), CArchiveException::endOfFile);
 }
