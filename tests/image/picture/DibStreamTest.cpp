@@ -4,6 +4,16 @@
 #include "image/picture/DibSection.h"
 #include "resources/streams/FileStream.h"
 
+namespace {
+
+Image PictureOf(const DibSection& bitmap) {
+    Image picture;
+    picture.FromBitmap(bitmap);
+    return picture;
+}
+
+} // namespace
+
 // Without a file header the rows follow the whole table, also the entries that no index can reach.
 TEST(DibStreamTest, SkipsTheRestOfTheTable) {
     for (const std::uint16_t bitCount : {std::uint16_t{1}, std::uint16_t{32}}) {
@@ -11,11 +21,10 @@ TEST(DibStreamTest, SkipsTheRestOfTheTable) {
         header.width = header.height = 1;
         header.bitCount = bitCount;
         header.colorsUsed = 3;
-        const Color words[] = {1, 2, 3, 0x00ABCD80};
         CMemFile file;
         FileStream stream(file);
         stream.Write(&header, sizeof header);
-        stream.Write(std::span<const Color>(words));
+        stream.Write(std::span<const Color>(std::vector<Color>{1, 2, 3, 0x00ABCD80}));
         stream.Seek(0);
         Image picture;
         ReadDib(stream, DibForm::clipboard, picture);
@@ -26,10 +35,10 @@ TEST(DibStreamTest, SkipsTheRestOfTheTable) {
 // Bitmaps of every depth go through both forms of stream and come out as they were, and as the picture that
 // is read without a bitmap.
 TEST(DibStreamTest, BitmapsOfEveryDepthSurvive) {
-    DibHeader header;
-    header.width = 5;
     for (const int bitCount : {1, 4, 8, 16, 24, 32, 16 + 100, 32 + 100}) {
         for (const int height : {3, -3}) {
+            DibHeader header;
+            header.width = 5;
             header.height = height;
             header.bitCount = static_cast<std::uint16_t>(bitCount % 100);
             header.compression = bitCount > 100 ? DibHeader::bitFields : DibHeader::uncompressed;
@@ -48,16 +57,12 @@ TEST(DibStreamTest, BitmapsOfEveryDepthSurvive) {
                 DibSection back;
                 ReadDib(stream, form, back);
                 EXPECT_EQ(stream.GetRemaining(), 0U) << bitCount;
+                EXPECT_EQ(back.IsTopDown(), height < 0);
+                EXPECT_TRUE(SamePixels(PictureOf(back), PictureOf(bitmap))) << bitCount;
                 stream.Seek(0);
                 Image picture;
                 ReadDib(stream, form, picture);
-                Image expected;
-                expected.FromBitmap(bitmap);
-                Image fromBack;
-                fromBack.FromBitmap(back);
-                EXPECT_TRUE(SamePixels(fromBack, expected)) << bitCount;
-                EXPECT_TRUE(SamePixels(picture, expected)) << bitCount;
-                EXPECT_EQ(back.IsTopDown(), height < 0);
+                EXPECT_TRUE(SamePixels(picture, PictureOf(bitmap))) << bitCount;
             }
         }
     }
