@@ -5,17 +5,14 @@
 #include "framework/core/Path.h"
 #include "res/ShellStrings.h"
 #include "support/TestApplication.h"
+#include "support/ui/DialogAnswer.h"
 
-#include <QApplication>
 #include <QCheckBox>
-#include <QDialogButtonBox>
 #include <QElapsedTimer>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
 #include <QToolButton>
 #include <QTreeView>
 
@@ -26,80 +23,67 @@ class ArchiveFileDialogTest : public WorkshopTest {
 protected:
     ArchiveFileDialogTest() {
         AddStrings(ShellStrings());
-        PackBuilder first, second, nested;
-        nested.Add("c.wal", MakeWal(8, 8));
-        first.Add("textures/Wall.wal", MakeWal(16, 8));
-        first.Add("textures/e1/b.wal", MakeWal(8, 8));
-        first.Add("zebra.txt", Bytes(500));
-        first.Add("apple.wal", Bytes(3 * 1024 - 1));
-        first.Add("inner.pak", nested.Build());
-        second.Add("x.wal", MakeWal(8, 8));
-        Put("pak0.pak", first.Build());
-        Put("pak1.pak", second.Build());
+        PackBuilder small, large;
+        small.Add("c.wal", MakeWal(8, 8));
+        large.Add("textures/Wall.wal", MakeWal(16, 8));
+        large.Add("textures/e1/b.wal", MakeWal(8, 8));
+        large.Add("zebra.txt", Bytes(500));
+        large.Add("apple.wal", Bytes(3 * 1024 - 1));
+        large.Add("inner.pak", small.Build());
+        Put("pak0.pak", large.Build());
+        Put("pak1.pak", small.Build());
         Put("bad.pak", ToBytes("this is no pack at all"));
         Put("plain.wal", MakeWal(32, 16));
     }
 
-    void Show() {
-        FileNameQuestion question;
-        question.open = question.mustExist = true;
-        dialog = std::make_unique<ArchiveFileDialog>(
-            nullptr, question, std::vector<FileFilter>{{"Packs (*.x)", "*.pak;*.wal;*.wad;"}},
-            ArchiveFileDialog::Services{application.GetFileSystem(),
-                                        [this](const std::string& path) {
-                                            previewed.push_back(path);
-                                            return Preview{QImage(4, 2, QImage::Format_RGB32), "4 x 2"};
-                                        },
-                                        [this](const std::string& what) { missing.push_back(what); }});
-        dialog->setDirectory(folder.path());
-        dialog->resize(900, 700);
-        dialog->show();
-        lower = dialog->findChild<ArchiveListView*>("lowerList");
+    void Show(const QString& selected = {}) {
+        dialog.setDirectory(folder.path());
+        dialog.resize(900, 700);
+        dialog.show();
+        if (!selected.isEmpty()) Select(selected);
     }
 
-    // Clicks the file in the standard list, once it is there.
-    void Select(const QString& name) {
-        auto* upper = dialog->findChild<QListView*>("listView");
-        QModelIndexList found;
-        ASSERT_TRUE(QTest::qWaitFor([&] {
-            const QModelIndex first = upper->model()->index(0, 0, upper->rootIndex());
-            found = upper->model()->match(first, Qt::DisplayRole, name, 1, Qt::MatchExactly);
-            return !found.isEmpty() && upper->visualRect(found.front()).isValid();
+    // The middle of that line, once it is there.
+    static QPoint PlaceOf(const QAbstractItemView& view, const QString& name) {
+        QRect area;
+        EXPECT_TRUE(QTest::qWaitFor([&] {
+            const QModelIndex first = view.model()->index(0, 0, view.rootIndex());
+            const auto found = view.model()->match(first, Qt::DisplayRole, name, 1, Qt::MatchExactly);
+            area = found.isEmpty() ? QRect() : view.visualRect(found.front());
+            return area.isValid();
         })) << name.toStdString();
-        ClickAt(*upper, found.front());
+        return area.center();
     }
-    static void ClickAt(QAbstractItemView& view, const QModelIndex& index) {
-        QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(index).center());
+    // In the standard list.
+    void Select(const QString& name) {
+        QTest::mouseClick(upper.viewport(), Qt::LeftButton, {}, PlaceOf(upper, name));
+    }
+    // In the list of the archive.
+    void Click(const QString& name) {
+        QTest::mouseClick(View().viewport(), Qt::LeftButton, {}, PlaceOf(View(), name));
+    }
+    void DoubleClick(const QString& name) {
+        Click(name);
+        QTest::mouseDClick(View().viewport(), Qt::LeftButton, {}, PlaceOf(View(), name));
     }
 
-    QAbstractItemView& View() const { return dynamic_cast<QAbstractItemView&>(*lower->currentWidget()); }
-    std::string Cell(int row, int column) const {
-        return View().model()->index(row, column).data().toString().toStdString();
-    }
-    std::vector<std::string> Names() const {
-        std::vector<std::string> names;
-        for (int row = 0; row < View().model()->rowCount(); ++row) names.push_back(Cell(row, 0));
-        return names;
-    }
-    QModelIndex Line(const std::string& name) const {
+    QAbstractItemView& View() const { return dynamic_cast<QAbstractItemView&>(*lower.currentWidget()); }
+    QStringList Column(int column) const {
+        QStringList texts;
         for (int row = 0; row < View().model()->rowCount(); ++row)
-            if (Cell(row, 0) == name) return View().model()->index(row, 0);
-        return {};
+            texts += View().model()->index(row, column).data().toString();
+        return texts;
     }
-    void Click(const std::string& name) { ClickAt(View(), Line(name)); }
-    void DoubleClick(const std::string& name) {
-        Click(name);
-        QTest::mouseDClick(View().viewport(), Qt::LeftButton, {}, View().visualRect(Line(name)).center());
-    }
+    QStringList Names() const { return Column(0); }
     QToolButton& Tool(const QString& tip) const {
-        for (QToolButton* button : dialog->findChildren<QToolButton*>())
+        for (QToolButton* button : dialog.findChildren<QToolButton*>())
             if (button->accessibleName() == tip) return *button;
         throw std::runtime_error("no such button");
     }
-    std::string NameBox() const { return dialog->findChild<QLineEdit*>("nameBox")->text().toStdString(); }
+    QString NameBox() const { return dialog.findChild<QLineEdit*>("nameBox")->text(); }
     void Type(const QString& name) {
-        auto* edit = dialog->findChild<QLineEdit*>("fileNameEdit");
-        ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
+        auto* edit = dialog.findChild<QLineEdit*>("fileNameEdit");
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
         edit->setCompleter(nullptr); // its list takes the focus on the offscreen platform
         edit->setFocus();
         edit->selectAll();
@@ -107,87 +91,92 @@ protected:
     }
     // Whether the dialog took what is chosen.
     bool PressOK() {
-        auto* box = dialog->findChild<QDialogButtonBox*>();
-        box->button(QDialogButtonBox::Open)->click();
-        return !dialog->isVisible();
+        Press(dialog, QDialogButtonBox::Open);
+        return !dialog.isVisible();
     }
+    std::string InnerPath() const { return ToNativePath(dialog.GetSelectedInnerPath()); }
 
-    std::unique_ptr<ArchiveFileDialog> dialog;
-    ArchiveListView* lower = nullptr;
     std::vector<std::string> previewed, missing;
+    ArchiveFileDialog dialog{nullptr,
+                             {.proposal = {}, .mustExist = true},
+                             {{"Packs (*.x)", "*.pak;*.wal;*.wad;"}},
+                             {application.GetFileSystem(),
+                              [this](const std::string& path) {
+                                  previewed.push_back(path);
+                                  return Preview{QImage(4, 2, QImage::Format_RGB32), "4 x 2"};
+                              },
+                              [this](const std::string& what) { missing.push_back(what); }}};
+    QListView& upper = *dialog.findChild<QListView*>("listView");
+    ArchiveListView& lower = *dialog.findChild<ArchiveListView*>("lowerList");
 };
 
 TEST_F(ArchiveFileDialogTest, ListsTheSelectedArchive) {
     Show();
-    EXPECT_FALSE(lower->isEnabled());
+    EXPECT_FALSE(lower.isEnabled());
     EXPECT_FALSE(Tool("Up One Level").isEnabled());
     Select("pak0.pak");
-    EXPECT_EQ(Names(), (std::vector<std::string>{"apple.wal", "inner.pak", "textures", "zebra.txt"}));
-    EXPECT_TRUE(lower->isEnabled());
-    EXPECT_EQ(Cell(0, 1) + Cell(2, 1) + Cell(3, 1), "2KB0KB") << "folders have no size";
-    EXPECT_FALSE(Cell(0, 2).empty());
+    EXPECT_EQ(Names(), QStringList({"apple.wal", "inner.pak", "textures", "zebra.txt"}));
+    EXPECT_TRUE(lower.isEnabled());
+    EXPECT_EQ(Column(1), QStringList({"2KB", "0KB", "", "0KB"})) << "folders have no size";
+    EXPECT_FALSE(Column(2).contains(""));
     Select("plain.wal");
-    EXPECT_TRUE(Names().empty());
-    EXPECT_FALSE(lower->isEnabled());
+    EXPECT_TRUE(Names().isEmpty());
+    EXPECT_FALSE(lower.isEnabled());
 }
 
 TEST_F(ArchiveFileDialogTest, WalksIntoFoldersAndArchivesAndTakesTheFileChosenThere) {
-    Show();
-    Select("pak0.pak");
+    Show("pak0.pak");
     EXPECT_FALSE(PressOK()) << "an archive alone is no answer";
     DoubleClick("textures");
-    EXPECT_EQ(Names(), (std::vector<std::string>{"e1", "Wall.wal"}));
+    EXPECT_EQ(Names(), QStringList({"e1", "Wall.wal"}));
     Click("e1");
     EXPECT_FALSE(PressOK());
     Click("Wall.wal");
     EXPECT_EQ(NameBox(), "Wall.wal");
     DoubleClick("Wall.wal");
-    EXPECT_TRUE(dialog->isVisible());
-    EXPECT_TRUE(PressOK());
-    EXPECT_EQ(ToNativePath(dialog->GetSelectedInnerPath()), PathTo("pak0.pak/textures/Wall.wal"));
-    Show();
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(InnerPath(), PathTo("pak0.pak/textures/Wall.wal"));
+    Select("pak1.pak");
     Select("pak0.pak");
     DoubleClick("inner.pak");
     Click("c.wal");
     EXPECT_TRUE(PressOK());
-    EXPECT_TRUE(Open<CDocument>(dialog->GetSelectedInnerPath()));
+    EXPECT_TRUE(Open<CDocument>(dialog.GetSelectedInnerPath()));
 }
 
 TEST_F(ArchiveFileDialogTest, KeepsTheChosenNameWhenTheArchiveChanges) {
-    Show();
-    Select("pak0.pak");
+    Show("pak0.pak");
     Click("apple.wal");
     Select("plain.wal");
     EXPECT_EQ(NameBox(), "apple.wal");
-    EXPECT_EQ(dialog->GetSelectedInnerPath(), "");
+    EXPECT_EQ(InnerPath(), "");
     Select("pak1.pak");
-    EXPECT_EQ(ToNativePath(dialog->GetSelectedInnerPath()), PathTo("pak1.pak/apple.wal"));
+    EXPECT_EQ(InnerPath(), PathTo("pak1.pak/apple.wal"));
     Type("plain.wal");
     EXPECT_TRUE(PressOK());
-    EXPECT_EQ(dialog->GetSelectedInnerPath(), "") << "a typed name wins";
-    EXPECT_EQ(dialog->GetPathName(), PathTo("plain.wal"));
+    EXPECT_EQ(InnerPath(), "") << "a typed name wins";
+    EXPECT_EQ(dialog.GetPathName(), PathTo("plain.wal"));
 }
 
 TEST_F(ArchiveFileDialogTest, IsUsedWithTheKeyboardAlone) {
     Show();
     Type("pak0.pak");
     EXPECT_FALSE(PressOK()) << "shows the archive first";
-    lower->setFocus();
+    lower.setFocus();
     QWidget& view = View();
     QTest::keyClicks(&view, "tex");
     QTest::keyClick(&view, Qt::Key_Return);
-    EXPECT_EQ(Names(), (std::vector<std::string>{"e1", "Wall.wal"}));
+    EXPECT_EQ(Names(), QStringList({"e1", "Wall.wal"}));
     QTest::qWait(QApplication::keyboardInputInterval() + 1); // else it goes on with the word
     QTest::keyClicks(&view, "w");
     EXPECT_EQ(NameBox(), "Wall.wal");
     QTest::keyClick(&view, Qt::Key_Return);
-    EXPECT_FALSE(dialog->isVisible());
-    EXPECT_EQ(ToNativePath(dialog->GetSelectedInnerPath()), PathTo("pak0.pak/textures/Wall.wal"));
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(InnerPath(), PathTo("pak0.pak/textures/Wall.wal"));
 }
 
 TEST_F(ArchiveFileDialogTest, SwitchesBetweenListAndDetails) {
-    Show();
-    Select("pak0.pak");
+    Show("pak0.pak");
     EXPECT_TRUE(Tool("List").isChecked());
     Click("apple.wal");
     Tool("Details").click();
@@ -200,10 +189,9 @@ TEST_F(ArchiveFileDialogTest, SwitchesBetweenListAndDetails) {
 }
 
 TEST_F(ArchiveFileDialogTest, ReadsABadArchiveOnceForEachActOfThePerson) {
-    Show();
-    Select("bad.pak");
+    Show("bad.pak");
     EXPECT_NE(TakeMessage().find("bad.pak"), std::string::npos);
-    EXPECT_TRUE(Names().empty());
+    EXPECT_TRUE(Names().isEmpty());
     EXPECT_FALSE(PressOK());
     EXPECT_TRUE(messages.empty());
     Type("bad.pak/x.wal");
@@ -212,38 +200,34 @@ TEST_F(ArchiveFileDialogTest, ReadsABadArchiveOnceForEachActOfThePerson) {
         TakeMessage();
     }
     Select("pak1.pak");
-    EXPECT_EQ(Names(), std::vector<std::string>{"x.wal"});
+    EXPECT_EQ(Names(), QStringList("c.wal"));
 }
 
 TEST_F(ArchiveFileDialogTest, ReadsPreviewsOnlyWhileTheyAreSwitchedOn) {
-    Show();
-    Select("plain.wal");
+    Show("plain.wal");
     Select("pak0.pak");
     Click("apple.wal");
     EXPECT_TRUE(previewed.empty());
-    QTest::keyClick(dialog->findChild<QCheckBox*>("enablePreview"), Qt::Key_Space);
+    QTest::keyClick(dialog.findChild<QCheckBox*>("enablePreview"), Qt::Key_Space);
     Click("textures");
     Select("plain.wal");
     ASSERT_EQ(previewed.size(), 2U);
     EXPECT_EQ(ToNativePath(previewed[0]), PathTo("pak0.pak/apple.wal"));
     EXPECT_EQ(previewed[1], PathTo("plain.wal"));
-    EXPECT_EQ(dialog->findChild<QLabel*>("previewText")->text(), "4 x 2");
+    EXPECT_EQ(dialog.findChild<QLabel*>("previewText")->text(), "4 x 2");
 }
 
 TEST_F(ArchiveFileDialogTest, AFolderOfManyFilesKeepsTheWindowAlive) {
     constexpr int files = 3000; // with the toolkit's own icons they take 600 ms at rest
-    for (int i = 0; i < files; ++i) Put("f" + std::to_string(i) + ".wal", {});
+    for (int i = 0; i < files; ++i) Put(std::to_string(i) + ".wal", {});
     QElapsedTimer sinceTick;
     qint64 longestPause = 0;
     QTimer tick;
-    QObject::connect(&tick, &QTimer::timeout,
-                     [&] { longestPause = std::max(longestPause, sinceTick.restart()); });
+    tick.callOnTimeout([&] { longestPause = std::max(longestPause, sinceTick.restart()); });
     sinceTick.start();
     tick.start(5);
     Show();
-    const auto* upper = dialog->findChild<QListView*>("listView");
-    EXPECT_TRUE(
-        QTest::qWaitFor([&] { return upper->model()->rowCount(upper->rootIndex()) >= files; }, 20000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return upper.model()->rowCount(upper.rootIndex()) >= files; }, 20000));
     EXPECT_LT(longestPause, 500) << "milliseconds, on a busy machine";
 }
 
