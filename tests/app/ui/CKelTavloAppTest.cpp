@@ -4,7 +4,6 @@
 #include "app/ui/FileFilters.h"
 #include "support/ui/ProgramFixture.h"
 
-#include <QDialogButtonBox>
 #include <QDropEvent>
 #include <QListWidget>
 #include <QMimeData>

@@ -7,11 +7,8 @@
 #include "support/ui/ProgramFixture.h"
 
 #include <QCheckBox>
-#include <QDialogButtonBox>
 #include <QFile>
-#include <QLineEdit>
 #include <QListWidget>
-#include <QTest>
 #include <QTextBlock>
 #include <QTextBrowser>
 

@@ -14,7 +14,6 @@
 #include <QDockWidget>
 #include <QMenuBar>
 #include <QScrollBar>
-#include <QTest>
 #include <QToolBar>
 
 namespace {

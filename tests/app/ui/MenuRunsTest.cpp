@@ -6,7 +6,6 @@
 #include "support/ui/ProgramFixture.h"
 
 #include <QColorDialog>
-#include <QTest>
 
 namespace {
 

@@ -8,12 +8,9 @@
 #include "res/ControlIds.h"
 
 #include <QCheckBox>
-#include <QDialogButtonBox>
 #include <QLabel>
-#include <QPushButton>
 #include <QSlider>
 #include <QTabWidget>
-#include <QTest>
 
 namespace {
 

@@ -5,7 +5,6 @@
 #include "support/ui/ProgramFixture.h"
 
 #include <QProcess>
-#include <QTest>
 
 namespace {
 

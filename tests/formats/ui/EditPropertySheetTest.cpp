@@ -6,76 +6,44 @@
 
 #include <QAbstractSpinBox>
 #include <QCheckBox>
-#include <QDialogButtonBox>
-#include <QLineEdit>
 #include <QTabWidget>
-#include <QTest>
 
 namespace {
 
-template <class Widget>
-std::vector<Widget*> FindAll(const QWidget& window) {
-    std::vector<Widget*> found;
-    for (QWidget* child : window.findChildren<QWidget*>())
-        if (auto* widget = dynamic_cast<Widget*>(child)) found.push_back(widget);
-    return found;
-}
-
 // The sheet as a person at the keyboard meets it.
-class Sheet {
-public:
-    explicit Sheet(QDialog& window) : dialog(window) {}
-
-    void ShowPage(int index) { Outer().setCurrentIndex(index); }
-    void ShowInnerPage(int index) {
-        ShowPage(2);
-        FindAll<QTabWidget>(dialog).at(1)->setCurrentIndex(index);
+struct Sheet {
+    // The third page is a sheet of pages itself; they are the pages 2, 3 and 4 here.
+    void ShowPage(int index) const {
+        const auto tabs = dialog.findChildren<QTabWidget*>();
+        tabs[0]->setCurrentIndex(std::min(index, 2));
+        if (index >= 2) tabs[1]->setCurrentIndex(index - 2);
     }
-    int GetPage() { return Outer().currentIndex(); }
-    CPropertyPage& GetActivePage() {
-        CPropertyPage* page = nullptr;
-        for (CPropertySheet* sheet : FindAll<CPropertySheet>(dialog))
-            if (sheet->isVisible()) page = sheet->GetActivePage();
-        return *page;
-    }
+    // A control of the page that is shown.
     template <class Control>
-    Control& Get(unsigned id) {
-        return dynamic_cast<Control&>(GetActivePage().GetDlgItem(id));
+    Control& Get(unsigned id) const {
+        CPropertyPage* page = nullptr;
+        for (QWidget* child : dialog.findChildren<QWidget*>())
+            if (auto* sheet = dynamic_cast<CPropertySheet*>(child); sheet && sheet->isVisible())
+                page = sheet->GetActivePage();
+        return dynamic_cast<Control&>(page->GetDlgItem(id));
     }
-    void Type(unsigned id, const QString& text) {
+    void Type(unsigned id, const QString& text) const {
         auto& edit = Get<QLineEdit>(id);
         edit.selectAll();
         edit.insert(text);
     }
-    void Press(QDialogButtonBox::StandardButton button) {
-        FindAll<QDialogButtonBox>(dialog).front()->button(button)->click();
-    }
-    // Runs the action, which is to be answered by a message.
-    QString Refusal(const std::function<void()>& action) {
-        QString text;
-        const DialogAnswer message([&](QDialog& box) {
-            text = dynamic_cast<QMessageBox&>(box).text();
-            box.accept();
-        });
-        action();
-        return text;
-    }
-    bool IsOpen() { return dialog.isVisible(); }
-
-private:
-    QTabWidget& Outer() { return *FindAll<QTabWidget>(dialog).front(); }
+    void Tick(unsigned id) const { QTest::keyClick(&Get<QCheckBox>(id), Qt::Key_Space); }
 
     QDialog& dialog;
 };
 
 class EditPropertySheetTest : public TavloViewFixture {
 protected:
-    void Run(const std::function<void(Sheet&)>& whatToDo) {
+    void Run(const std::function<void(const Sheet&)>& whatToDo) {
         const DialogAnswer answer([&](QDialog& dialog) {
-            Sheet sheet(dialog);
-            whatToDo(sheet);
-            if (sheet.IsOpen()) sheet.Press(QDialogButtonBox::Ok);
-            if (sheet.IsOpen()) dialog.reject();
+            whatToDo({dialog});
+            if (dialog.isVisible()) Press(dialog, QDialogButtonBox::Ok);
+            if (dialog.isVisible()) dialog.reject();
         });
         EXPECT_TRUE(Send(ID_EDIT_PROPERTIES));
     }
@@ -97,9 +65,8 @@ TEST_F(EditPropertySheetTest, ConfirmingUnchangedValuesChangesNothingHoweverUnus
     GetTexture().quakeName = "m\xFCr\xFF 16 bytes..."; // neither UTF-8 nor short enough
     GetTexture().quake2 = {std::string(32, 'x'), "a\nb\x81", 0xFFFFFFFF, 0x80000001, 0x80000000};
     const Quake2Properties before = GetTexture().quake2;
-    Run([](Sheet& sheet) {
-        sheet.ShowPage(1);
-        for (int page : {0, 1, 2}) sheet.ShowInnerPage(page);
+    Run([](const Sheet& sheet) {
+        for (const int page : {1, 2, 3, 4}) sheet.ShowPage(page);
     });
     EXPECT_FALSE(document->IsModified());
     EXPECT_TRUE(TakeChanges().empty());
@@ -109,18 +76,18 @@ TEST_F(EditPropertySheetTest, ConfirmingUnchangedValuesChangesNothingHoweverUnus
 
 TEST_F(EditPropertySheetTest, EachChangedGroupIsOneUndoableChange) {
     GetTexture().quakeName = "Wall";
-    Run([](Sheet& sheet) {
+    Run([](const Sheet& sheet) {
         sheet.Type(IDC_WIDTH, "128");
         sheet.ShowPage(1);
         sheet.Type(IDC_NAME, "wall");
-        sheet.ShowInnerPage(0);
+        sheet.ShowPage(2);
         sheet.Type(IDC_NAME, QString::fromUtf8("mür"));
         sheet.Type(IDC_NEXT_FRAME_NAME, "next");
         sheet.Type(IDC_VALUE, "-32767");
-        sheet.ShowInnerPage(1);
-        QTest::keyClick(&sheet.Get<QCheckBox>(IDC_FIRST_FLAG + 2), Qt::Key_Space);
-        sheet.ShowInnerPage(2);
-        QTest::keyClick(&sheet.Get<QCheckBox>(IDC_FIRST_FLAG + 29), Qt::Key_Space);
+        sheet.ShowPage(3);
+        sheet.Tick(IDC_FIRST_FLAG + 2);
+        sheet.ShowPage(4);
+        sheet.Tick(IDC_FIRST_FLAG + 29);
     });
     EXPECT_EQ(GetTexture().GetWidth(), 128);
     EXPECT_EQ(GetTexture().quakeName, "wall");
@@ -134,16 +101,16 @@ TEST_F(EditPropertySheetTest, EachChangedGroupIsOneUndoableChange) {
 
 TEST_F(EditPropertySheetTest, OnlyValuesThatDifferAtTheEndAreTaken) {
     GetTexture().quakeName = std::string(16, 'x');
-    Run([](Sheet& sheet) { sheet.Type(IDC_HEIGHT, "1024"); });
+    Run([](const Sheet& sheet) { sheet.Type(IDC_HEIGHT, "1024"); });
     EXPECT_EQ(GetTexture().GetHeight(), 1024);
     EXPECT_EQ(TakeChanges(), Names{"Resize"});
-    Run([&](Sheet& sheet) {
+    Run([&](const Sheet& sheet) {
         sheet.Type(IDC_HEIGHT, "16");
-        sheet.Press(QDialogButtonBox::Cancel);
+        sheet.dialog.reject();
     });
     EXPECT_EQ(GetTexture().GetHeight(), 32);
     EXPECT_TRUE(TakeChanges().empty());
-    Run([](Sheet& sheet) {
+    Run([](const Sheet& sheet) {
         sheet.Type(IDC_WIDTH, "128");
         sheet.ShowPage(1);
         sheet.ShowPage(0);
@@ -154,36 +121,38 @@ TEST_F(EditPropertySheetTest, OnlyValuesThatDifferAtTheEndAreTaken) {
 
 TEST_F(EditPropertySheetTest, RefusesValuesOutsideTheirRangesAndStays) {
     struct Case {
-        int page, innerPage; // no inner page: -1
+        int page;
         unsigned control;
         QString text;
         const char* message;
     };
     const Case cases[] = {
-        {0, -1, IDC_WIDTH, "0", "between 1 and 1024"},
-        {0, -1, IDC_HEIGHT, "1025", "between 1 and 1024"},
-        {0, -1, IDC_HEIGHT, "", "whole number"},
-        {0, -1, IDC_WIDTH, "12.5", "whole number"},
-        {0, -1, IDC_WIDTH, "99999999999999999999", "whole number"},
-        {1, -1, IDC_NAME, QString(16, 'x'), "more than 15"},
-        {1, -1, IDC_NAME, QString(8, QChar(0xFC)), "more than 15"}, // two bytes each
-        {2, 0, IDC_NAME, QString(32, 'x'), "more than 31"},
-        {2, 0, IDC_VALUE, "40000", "between -32767 and 32768"},
-        {2, 0, IDC_VALUE, "-32768", "between -32767 and 32768"},
+        {0, IDC_WIDTH, "0", "between 1 and 1024"},
+        {0, IDC_HEIGHT, "1025", "between 1 and 1024"},
+        {0, IDC_HEIGHT, "", "whole number"},
+        {0, IDC_WIDTH, "12.5", "whole number"},
+        {0, IDC_WIDTH, "99999999999999999999", "whole number"},
+        {1, IDC_NAME, QString(16, 'x'), "more than 15"},
+        {1, IDC_NAME, QString(8, QChar(0xFC)), "more than 15"}, // two bytes each
+        {2, IDC_NAME, QString(32, 'x'), "more than 31"},
+        {2, IDC_VALUE, "40000", "between -32767 and 32768"},
+        {2, IDC_VALUE, "-32768", "between -32767 and 32768"},
     };
-    Run([&](Sheet& sheet) {
-        for (const Case& row : cases) {
-            sheet.ShowPage(row.page);
-            if (row.innerPage >= 0) sheet.ShowInnerPage(row.innerPage);
-            const QString old = sheet.Get<QLineEdit>(row.control).text();
-            sheet.Type(row.control, row.text);
-            EXPECT_TRUE(sheet.Refusal([&] { sheet.Press(QDialogButtonBox::Ok); }).contains(row.message))
-                << row.text.toStdString();
-            ASSERT_TRUE(sheet.IsOpen());
-            sheet.Refusal([&] { sheet.ShowPage(row.page == 0 ? 1 : 0); });
-            EXPECT_EQ(sheet.GetPage(), row.page) << "the page is not left either";
-            EXPECT_EQ(sheet.Get<QLineEdit>(row.control).text(), row.text);
-            sheet.Type(row.control, old);
+    Run([&](const Sheet& sheet) {
+        for (const auto& [page, control, text, message] : cases) {
+            const auto refuse = [expected = message](QDialog& box) {
+                EXPECT_TRUE(dynamic_cast<QMessageBox&>(box).text().contains(expected)) << expected;
+                box.accept();
+            };
+            sheet.ShowPage(page);
+            const QString old = sheet.Get<QLineEdit>(control).text();
+            sheet.Type(control, text);
+            const DialogAnswer refusals(refuse, refuse);
+            Press(sheet.dialog, QDialogButtonBox::Ok);
+            ASSERT_TRUE(sheet.dialog.isVisible());
+            sheet.ShowPage(page == 0 ? 1 : 0);
+            EXPECT_EQ(sheet.Get<QLineEdit>(control).text(), text) << "the page is not left either";
+            sheet.Type(control, old);
         }
     });
     EXPECT_TRUE(TakeChanges().empty());
@@ -206,7 +175,7 @@ TEST_F(EditPropertySheetTest, StepsStayWithinTheRanges) {
         {IDC_HEIGHT, IDC_HEIGHT_SPIN, "", Qt::Key_Down, "1024"},
         {IDC_HEIGHT, IDC_HEIGHT_SPIN, "x", Qt::Key_Up, "1"},
     };
-    Run([&](Sheet& sheet) {
+    Run([&](const Sheet& sheet) {
         for (const auto& [edit, spin, typed, key, then] : steps) {
             if (!typed.isEmpty()) sheet.Type(edit, typed);
             QTest::keyClick(&sheet.Get<QAbstractSpinBox>(spin), key);

@@ -3,7 +3,6 @@
 
 #include <QContextMenuEvent>
 #include <QPaintEvent>
-#include <QTest>
 #include <QWindow>
 
 namespace {

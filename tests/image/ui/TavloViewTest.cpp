@@ -6,7 +6,6 @@
 #include "resources/ColorTableDocument.h"
 
 #include <QScrollBar>
-#include <QTest>
 #include <QWheelEvent>
 
 namespace {

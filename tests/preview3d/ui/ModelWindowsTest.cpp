@@ -6,7 +6,6 @@
 #include "res/CommandIds.h"
 #include "support/ui/ProgramFixture.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QMdiSubWindow>
 

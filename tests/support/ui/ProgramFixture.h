@@ -6,6 +6,8 @@
 #include "support/TestApplication.h"
 #include "support/ui/DialogAnswer.h"
 
+#include <QTest>
+
 // The program with its windows and a folder for files.
 class ProgramFixture : public testing::Test {
 protected:
