@@ -51,8 +51,7 @@ TEST_F(FileSystemTest, FindsArchivesOnTheWayOnly) {
     const FolderDocument* archive = files.FindArchive(pack + "\\textures");
     ASSERT_NE(archive, nullptr);
     EXPECT_EQ(files.FindArchive(pack + "/no/such/thing"), archive);
-    Put("plain.txt", ToBytes("text"));
-    EXPECT_EQ(files.FindArchive(PathTo("plain.txt/x")), nullptr);
+    EXPECT_EQ(files.FindArchive(Put("plain.txt", ToBytes("text")) + "/x"), nullptr);
     EXPECT_TRUE(messages.empty());
 }
 
@@ -71,7 +70,7 @@ TEST_F(FileSystemTest, PathsWorkInEverySpelling) {
     EXPECT_EQ(TextOf(pack + "/a"), "a file");
     EXPECT_EQ(TextOf(pack + "/a/b"), "below a folder of its name");
     EXPECT_THAT(NamesIn(pack), ElementsAre("textures", "readme.txt", "README.TXT", "a", "a", "inner.pak"));
-    EXPECT_THAT(NamesIn(pack + "/readme.txt"), ElementsAre());
+    EXPECT_TRUE(NamesIn(pack + "/readme.txt").empty());
     EXPECT_EQ(OpenFailure(pack + "/textures"), CFileException::accessDenied);
     EXPECT_EQ(OpenFailure(pack + "/nothing"), CFileException::fileNotFound);
 }
@@ -79,9 +78,9 @@ TEST_F(FileSystemTest, PathsWorkInEverySpelling) {
 TEST_F(FileSystemTest, APackInItselfEndsSomewhere) {
     PackBuilder builder;
     builder.Add("self.pak", {});
-    Bytes bytes = builder.Build();
-    PutU32(bytes, PackBuilder::headerSize + 56, 0);
-    PutU32(bytes, PackBuilder::headerSize + 60, static_cast<std::uint32_t>(bytes.size()));
+    Bytes bytes = CutTo(builder.Build(), PackBuilder::headerSize + 56);
+    const Bytes wholeFile = Words({0, PackBuilder::headerSize + PackBuilder::recordSize});
+    bytes.insert(bytes.end(), wholeFile.begin(), wholeFile.end());
     std::string path = Put("self.pak", bytes);
     for (int depth = 0; depth < 12; ++depth) path += "/self.pak";
     EXPECT_FALSE(StatusOf(path).exists);
@@ -89,7 +88,6 @@ TEST_F(FileSystemTest, APackInItselfEndsSomewhere) {
 }
 
 TEST_F(FileSystemTest, EntriesOfAChangedArchiveFail) {
-    EXPECT_EQ(TextOf(pack + "/a"), "a file");
     const auto kept = application.GetFileSystem().OpenFile(pack + "/a", CFile::modeRead, nullptr);
     std::filesystem::resize_file(pack, 100);
     CFileException failure;
@@ -99,12 +97,12 @@ TEST_F(FileSystemTest, EntriesOfAChangedArchiveFail) {
 }
 
 TEST_F(FileSystemTest, ATextureInAPackIsSavedIntoIt) {
-    auto* document = Open<WALDocument>(pack + "/textures/e1u1/floor1_1.wal");
-    ASSERT_NE(document, nullptr);
-    document->GetTexture().quake2.value = 77;
-    EXPECT_TRUE(document->OnSaveDocument(document->GetPathName()));
-    EXPECT_TRUE(application.GetFileSystem().FindArchive(pack + "/a")->IsModified());
-    EXPECT_EQ(TextOf(pack + "/textures/e1u1/floor1_1.wal")[96], 77);
+    const std::string path = pack + "/textures/e1u1/floor1_1.wal";
+    auto& document = *Open<WALDocument>(path);
+    document.GetTexture().quake2.value = 77;
+    EXPECT_TRUE(document.OnSaveDocument(path));
+    EXPECT_TRUE(application.GetFileSystem().FindArchive(path)->IsModified());
+    EXPECT_EQ(TextOf(path)[96], 77);
     EXPECT_EQ(ReadFile(pack), SamplePack()) << "the file on the disk never changes";
 }
 

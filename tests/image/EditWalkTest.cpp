@@ -1,4 +1,5 @@
 // Random edits, strokes, undos and redos against a plain model of what a history means.
+#include "formats/CodecHarness.h"
 #include "image/ImageDocuments.h"
 #include "image/TextureEdits.h"
 #include "res/CommandIds.h"
@@ -8,13 +9,10 @@
 #include "support/TestApplication.h"
 
 #include <deque>
-#include <gtest/gtest.h>
-#include <random>
 
 namespace {
 
-constexpr int steps = 20000;
-constexpr int largestSide = 6;
+constexpr int steps = 20000, largestSide = 6;
 constexpr std::size_t capacity = 16;
 
 struct State {
@@ -25,9 +23,8 @@ struct State {
 };
 
 bool Shows(const Texture& texture, const State& state) {
-    return texture.GetWidth() == state.picture.GetWidth() &&
-           std::ranges::equal(texture.Pixels(), state.picture.Pixels()) &&
-           texture.quakeName == state.quakeName && texture.quake2.value == state.value;
+    return SamePixels(texture, state.picture) && texture.quakeName == state.quakeName &&
+           texture.quake2.value == state.value;
 }
 
 // States in a row, of which one is current. Edits cut off what lies behind it, strokes change it in its

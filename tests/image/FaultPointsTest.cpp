@@ -33,8 +33,6 @@ public:
         current = this;
     }
     ~Fault() { current = nullptr; }
-    Fault(const Fault&) = delete;
-    Fault& operator=(const Fault&) = delete;
 
     static bool Hits(Step step) noexcept {
         if (!current || current->step != step) return false;
@@ -198,11 +196,7 @@ protected:
 } // namespace
 
 TEST_P(FaultPoints, ASaveLeavesTheDocumentAndTheOldFileOrTheNew) {
-    struct {
-        int side;
-        Bytes old;
-    } const cases[] = {{8, ToBytes("old")}, {12, {}}};
-    for (const auto& [side, old] : cases) {
+    for (const auto& [side, old] : {std::pair(8, ToBytes("old")), {12, Bytes()}}) {
         ASSERT_TRUE(Save(side, old, Step::read, never, false).succeeded);
         const Bytes whole = Written();
         ForEachFault([&](Step step, unsigned first, bool lasting) {
@@ -219,9 +213,8 @@ TEST_P(FaultPoints, ASaveLeavesTheDocumentAndTheOldFileOrTheNew) {
 
 TEST_P(FaultPoints, AnOpenGivesTheWholeDocumentOrNone) {
     ASSERT_TRUE(Save(8, {}, Step::read, never, false).succeeded);
-    const auto open = [&] { return dynamic_cast<TavloDocument*>(application.OpenDocumentFile(target)); };
     const Bytes file = ReadFile(target);
-    TavloDocument* document = open();
+    auto* document = Open<TavloDocument>(target);
     ASSERT_NE(document, nullptr);
     const Texture whole = document->GetTexture();
     document->OnCloseDocument();
@@ -231,7 +224,8 @@ TEST_P(FaultPoints, AnOpenGivesTheWholeDocumentOrNone) {
     ForEachFault(
         [&](Step step, unsigned first, bool lasting) {
             const std::ptrdiff_t liveBefore = liveAllocations;
-            const Attempt attempt = Try(step, first, lasting, [&] { return (document = open()) != nullptr; });
+            const Attempt attempt = Try(step, first, lasting,
+                                        [&] { return (document = Open<TavloDocument>(target)) != nullptr; });
             if (attempt.succeeded) {
                 EXPECT_TRUE(Same(document->GetTexture(), whole));
                 EXPECT_FALSE(std::ranges::count(document->GetReferences(), nullptr));

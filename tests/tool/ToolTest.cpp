@@ -40,15 +40,13 @@ protected:
 } // namespace
 
 TEST_F(ToolTest, RefusesWhatItDoesNotUnderstand) {
-    const std::vector<std::string> commands[] = {
-        {},
-        {"fly", "a"},
-        {"list"},
-        {"list", "a", "--wings"},
-        {"convert", pack, PathTo("out")},
-        {"convert", pack, PathTo("out"), "--to", "png"},
-        {"convert", floor, PathTo("x.png")},
-    };
+    const std::vector<std::string> commands[] = {{},
+                                                 {"fly", "a"},
+                                                 {"list"},
+                                                 {"list", "a", "--wings"},
+                                                 {"convert", pack, PathTo("out")},
+                                                 {"convert", pack, PathTo("out"), "--to", "png"},
+                                                 {"convert", floor, PathTo("x.png")}};
     for (const auto& command : commands) {
         EXPECT_EQ(Run(command), 2) << testing::PrintToString(command);
         EXPECT_EQ(out, "");
@@ -116,7 +114,6 @@ TEST_F(ToolTest, DescribesModelsAndWritesTheirTextures) {
     EXPECT_EQ(Run({"extract", path, PathTo("out")}), 0);
     EXPECT_THAT(err, HasSubstr("player_2.tga\" would have no pixels"));
     EXPECT_EQ(ReadFile(PathTo("out/player_1.tga"))[18], std::byte{4 * 3}) << "blue of the bottom left";
-    EXPECT_TRUE(fs::exists(PathTo("out/player_3.tga")));
     EXPECT_EQ(Run({"extract", PathTo("out/player.mdl"), PathTo("out")}), 1) << "nothing is written over";
     EXPECT_EQ(Run({"extract", PathTo("out/player.mdl"), PathTo("again")}), 0);
     EXPECT_FALSE(fs::exists(PathTo("again/player.mdl"))) << "it lies on the disk already";

@@ -1,14 +1,11 @@
 #include "image/picture/PixelTransform.h"
 
 #include <algorithm>
-#include <array>
 #include <gtest/gtest.h>
 #include <random>
 #include <vector>
 
 namespace {
-
-using Table = std::array<std::uint32_t, 256>;
 
 std::vector<Color> RandomPixels(std::size_t count) {
     std::mt19937 random(4);
@@ -18,13 +15,10 @@ std::vector<Color> RandomPixels(std::size_t count) {
 }
 
 // Channels within the mask are random, the others map every value to itself.
-Table MakeTable(Color changedChannels) {
-    std::mt19937 random(5);
-    Table table{};
-    for (std::uint32_t i = 0; i < 256; ++i) {
-        table[i] =
-            (static_cast<std::uint32_t>(random()) & changedChannels) | (i * 0x01010101 & ~changedChannels);
-    }
+std::vector<std::uint32_t> MakeTable(Color changedChannels) {
+    std::vector<std::uint32_t> table = RandomPixels(256);
+    for (std::uint32_t i = 0; i < 256; ++i)
+        table[i] = (table[i] & changedChannels) | (i * 0x01010101 & ~changedChannels);
     return table;
 }
 
@@ -43,18 +37,18 @@ TEST(CompositeTest, WeighsByAlphaOverAnOpaqueBackgroundOnly) {
     EXPECT_EQ(Composite(0x80123456, 0xFEFFFFFF), 0U);
     for (std::uint32_t value = 0; value < 256; ++value) {
         for (std::uint32_t alpha = 1; alpha < 255; ++alpha) {
-            const auto mix = [&](std::uint32_t under) {
-                return (value * alpha + under * (256 - alpha)) >> 8;
+            const auto mix = [&](std::uint32_t over, std::uint32_t under) {
+                return (over * alpha + under * (256 - alpha)) >> 8;
             };
             ASSERT_EQ(Composite(Compose(value, 255 - value, value, alpha), 0xFFFF0080),
-                      Compose(mix(255), ((255 - value) * alpha) >> 8, mix(128)));
+                      Compose(mix(value, 255), mix(255 - value, 0), mix(value, 128)));
         }
     }
 }
 
 TEST(ChannelTableTest, EveryMethodMapsAsSingleLookupsDo) {
     for (const Color channels : {0xFFFFFFFFU, 0x00FFFFFFU, 0x0000FF00U, 0xFF000000U, 0x00000000U}) {
-        const Table words = MakeTable(channels);
+        const auto words = MakeTable(channels);
         for (const ChannelTableMethod method : AvailableChannelTableMethods()) {
             const ChannelTable table(words.data(), method);
             for (std::size_t length = 0; length < 140; ++length) {
@@ -68,7 +62,7 @@ TEST(ChannelTableTest, EveryMethodMapsAsSingleLookupsDo) {
 }
 
 TEST(PixelTransformerTest, RowsGetWhatEachPixelGetsAlsoInPlace) {
-    const Table words = MakeTable(0xFFFFFFFF);
+    const auto words = MakeTable(0xFFFFFFFF);
     const Color background = 0xFF204060;
     for (const PixelTransform& transform :
          {PixelTransform(IdentityTransform{}), PixelTransform(OverBackgroundTransform{background}),

@@ -9,7 +9,7 @@
 namespace {
 
 constexpr PixelSize view{50, 40};
-constexpr std::size_t anyCount = 10000;
+constexpr std::size_t viewPixels = 50 * 40, anyCount = 10000;
 
 // Every screen pixel that shows one of the texels, as the painter of the tiles has it.
 std::vector<Color> PaintRun(const TexelRun& run, PixelSize size, const TileViewport& viewport) {
@@ -17,14 +17,14 @@ std::vector<Color> PaintRun(const TexelRun& run, PixelSize size, const TileViewp
     for (int x = run.first; x < run.first + run.count; ++x) picture.SetPixel(x, run.row, 1);
     std::array<std::uint32_t, 256> table;
     for (std::uint32_t v = 0; v < table.size(); ++v) table[v] = v;
-    std::vector<Color> pixels(static_cast<std::size_t>(view.width * view.height));
+    std::vector<Color> pixels(viewPixels);
     PaintTiles(picture, table.data(), viewport,
                {0, 0, view.width, view.height, pixels.data(), static_cast<std::size_t>(view.width)});
     return pixels;
 }
 
 std::vector<Color> FillRects(const std::vector<ScreenRect>& rects) {
-    std::vector<Color> pixels(static_cast<std::size_t>(view.width * view.height));
+    std::vector<Color> pixels(viewPixels);
     for (const ScreenRect& rect : rects)
         for (int y = rect.top; y < rect.top + rect.height; ++y)
             for (int x = rect.left; x < rect.left + rect.width; ++x)
@@ -45,7 +45,7 @@ TEST(TexelRectsTest, CoverTheTexelsInAllTilesAndNothingElse) {
             << size.width << " x " << size.height << " at " << viewport.zoom;
     }
     const std::vector<ScreenRect> tooMany = FindTexelRects({0, 0, 1}, {2, 2}, {}, view, 100);
-    EXPECT_EQ(FillRects(tooMany), std::vector<Color>(static_cast<std::size_t>(view.width * view.height), 1));
+    EXPECT_EQ(FillRects(tooMany), std::vector<Color>(viewPixels, 1));
 }
 
 } // namespace

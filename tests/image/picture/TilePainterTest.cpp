@@ -10,17 +10,13 @@
 TEST(TilePainter, ShowsTheTilingAtEveryZoomAndCorner) {
     std::array<std::uint32_t, 256> inverse;
     for (std::uint32_t v = 0; v < 256; ++v) inverse[v] = (255 - v) * 0x01010101U;
-    for (const auto& [width, height] :
-         {std::pair(1, 1), std::pair(3, 5), std::pair(8, 8), std::pair(70, 2)}) {
+    for (const auto& [width, height] : {std::pair(1, 1), {3, 5}, {8, 8}, {70, 2}}) {
         Image picture(width, height);
         std::iota(picture.Pixels().begin(), picture.Pixels().end(), 0x80102030U);
         for (const int zoom : {1, 2, 4, 8, 16, 3})
-            for (const auto& [scrollX, scrollY] :
-                 {std::pair(0, 0), std::pair(2, 1), std::pair(width + 7, 3 * height + 1)})
-                for (const auto& [left, top] : {std::pair(0, 0), std::pair(5, 13)}) {
-                    constexpr int targetWidth = 61;
-                    constexpr int targetHeight = 43;
-                    constexpr int stride = 64;
+            for (const auto& [scrollX, scrollY] : {std::pair(0, 0), {2, 1}, {width + 7, 3 * height + 1}})
+                for (const auto& [left, top] : {std::pair(0, 0), {5, 13}}) {
+                    constexpr int targetWidth = 61, targetHeight = 43, stride = 64;
                     std::vector<Color> pixels(stride * targetHeight, 1);
                     PaintTiles(picture, inverse.data(), {zoom, scrollX, scrollY},
                                {left, top, targetWidth, targetHeight, pixels.data(), stride});
