@@ -2,6 +2,7 @@
 
 #include "formats/ByteReader.h"
 #include "formats/GameTexture.h"
+#include "image/picture/IndexedPixels.h"
 #include "image/picture/NearestSearch.h"
 #include "image/picture/RgbTriples.h"
 #include "image/picture/Texture.h"
@@ -165,9 +166,7 @@ void ReadPCX(InputStream& in, Texture& texture, const ColorList* palette) {
     ByteReader bytes(in);
     for (int y = 0; y < header.Height(); ++y) {
         ReadLine(bytes, in, line);
-        const std::span<Color> row = texture.Row(y);
-        std::transform(line.begin(), line.begin() + header.Width(), row.begin(),
-                       [&](std::uint8_t index) { return colors[index]; });
+        ExpandIndices(line, colors, texture.Row(y));
     }
     texture.SetPalette(palette256);
 }

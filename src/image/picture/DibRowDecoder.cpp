@@ -2,6 +2,7 @@
 
 #include "image/picture/BgrPixels.h"
 #include "image/picture/DibDescription.h"
+#include "image/picture/IndexedPixels.h"
 
 #include <algorithm>
 #include <bit>
@@ -37,8 +38,7 @@ DibRowDecoder::Channel DibRowDecoder::MakeChannel(const ChannelMasks& masks, std
 
 void DibRowDecoder::Decode(std::span<const std::uint8_t> stored, std::span<Color> output) const {
     if (bitCount == 8) {
-        std::transform(stored.begin(), stored.begin() + static_cast<std::ptrdiff_t>(output.size()),
-                       output.begin(), [this](std::uint8_t index) { return colors[index]; });
+        ExpandIndices(stored, colors, output);
     } else if (bitCount < 8) {
         DecodeIndices(stored.data(), output);
     } else if (bitCount == 24) {

@@ -41,9 +41,9 @@ void CheckHeader(const DibHeader& header) {
     }
 }
 
-std::vector<Color> AllocateRows(const DibHeader& header, std::size_t wordCount) {
+PixelVector AllocateRows(const DibHeader& header, std::size_t wordCount) {
     try {
-        return std::vector<Color>(wordCount);
+        return PixelVector(wordCount, Color{0});
     } catch (const std::bad_alloc&) {
         Refuse("there is not enough memory for " + SizeText(header) + ".");
     }
@@ -80,7 +80,7 @@ void DibSection::Create(const DibHeader& description, const ChannelMasks& fieldM
     CheckHeader(description);
     const auto rowBytes = static_cast<std::size_t>(DibStride(description.bitCount, description.width));
     const auto rows = static_cast<std::size_t>(std::abs(description.height));
-    std::vector<Color> newWords = AllocateRows(description, rowBytes / sizeof(Color) * rows);
+    PixelVector newWords = AllocateRows(description, rowBytes / sizeof(Color) * rows);
     colorTable = InitialColorTable(description);
     words = std::move(newWords);
     header = description;

@@ -3,6 +3,7 @@
 #include "image/picture/ChannelMasks.h"
 #include "image/picture/ColorList.h"
 #include "image/picture/DibHeader.h"
+#include "image/picture/PixelVector.h"
 
 #include <cstddef>
 #include <span>
@@ -92,7 +93,7 @@ private:
     DibHeader header;
     std::size_t stride = 0;
     // The rows. Words, so that 32-bit pixels may be used as such; a stride is always whole words.
-    std::vector<Color> words;
+    PixelVector words;
     ColorList colorTable;
     ChannelMasks masks;
 };

@@ -2,7 +2,7 @@
 
 #include "image/picture/Color.h"
 #include "image/picture/PixelTransform.h"
-#include "image/picture/UnclearedAllocator.h"
+#include "image/picture/PixelVector.h"
 
 #include <cstddef>
 #include <span>
@@ -91,7 +91,7 @@ private:
                x % static_cast<unsigned>(width);
     }
 
-    std::vector<Color, UnclearedAllocator<Color>> pixels;
+    PixelVector pixels;
     int width = 1;
     int height = 1;
 };
