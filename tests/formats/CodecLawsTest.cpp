@@ -4,20 +4,9 @@
 
 namespace {
 
-struct Format {
-    const char* documentClass;
-    bool keepsAlpha;
-};
-
-const Format formats[] = {{"BMPDocument", false},
-                          {"MIPDocument", false},
-                          {"PCXDocument", false},
-                          {"TGADocument", true},
-                          {"WALDocument", false}};
-
-class CodecLaws : public testing::TestWithParam<Format> {
+class CodecLaws : public testing::TestWithParam<const char*> {
 protected:
-    CodecHarness codec{GetParam().documentClass};
+    CodecHarness codec{GetParam()};
 };
 
 } // namespace
@@ -30,7 +19,7 @@ TEST_P(CodecLaws, WhatIsWrittenIsReadBack) {
         EXPECT_TRUE(SamePixels(codec.Read(codec.Write(texture)), texture)) << width << " x " << height;
         texture.Pixels()[0] = 0x00123456;
         const Texture back = codec.Read(codec.Write(texture));
-        EXPECT_EQ(back.Pixels()[0] == 0x00123456, GetParam().keepsAlpha);
+        EXPECT_EQ(back.Pixels()[0] == 0x00123456, codec.codec.documentClass == "TGADocument");
         EXPECT_TRUE(std::ranges::equal(back.Pixels().subspan(1), texture.Pixels().subspan(1)));
     }
 }
@@ -40,5 +29,7 @@ TEST_P(CodecLaws, APictureWithoutPixelsIsNotWritten) {
     EXPECT_EQ(codec.WriteFailure(Texture(8, 0)), CArchiveException::badIndex);
 }
 
-INSTANTIATE_TEST_SUITE_P(AllFormats, CodecLaws, testing::ValuesIn(formats),
-                         [](const auto& format) { return std::string(format.param.documentClass, 3); });
+INSTANTIATE_TEST_SUITE_P(AllFormats, CodecLaws,
+                         testing::Values("BMPDocument", "MIPDocument", "PCXDocument", "TGADocument",
+                                         "WALDocument"),
+                         [](const auto& format) { return std::string(format.param, 3); });

@@ -13,7 +13,6 @@ protected:
     }
 
     Color RandomColor() { return static_cast<Color>(random()) | 0xFF000000; }
-    int RandomBelow(int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); }
     Image ConvertAnew() const {
         Image result = picture;
         if (GetParam() == PictureConversion::nearest)
@@ -37,7 +36,7 @@ TEST_P(ConvertedPictureTest, StrokesConvertOnlyWhatTheyMust) {
             converted.Invalidate();
         }
         const Image before = converted.Get(picture, GetParam(), &list);
-        const int x = RandomBelow(width), y = RandomBelow(height);
+        const int x = static_cast<int>(random() % width), y = static_cast<int>(random() % height);
         picture.SetPixel(x, y, RandomColor());
         const TexelRun run = converted.UpdateTexel(picture, x, y);
         const Image& after = converted.Get(picture, GetParam(), &list);

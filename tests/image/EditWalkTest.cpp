@@ -4,7 +4,6 @@
 #include "image/TextureEdits.h"
 #include "res/CommandIds.h"
 #include "resources/BrushDocument.h"
-#include "resources/BuiltInPath.h"
 #include "support/FakeShell.h"
 #include "support/TestApplication.h"
 
@@ -108,7 +107,7 @@ struct EditWalkTest : WorkshopTest, testing::WithParamInterface<unsigned>, Brush
 
     FakeShell shell;
     std::mt19937 random{GetParam()};
-    BrushDocument& brush = *Open<BrushDocument>(GetBuiltInPath(texelBrushFile));
+    BrushDocument& brush = *OpenBuiltIn<BrushDocument>(texelBrushFile);
     WALDocument& document = *Open<WALDocument>(Put("walk.wal", MakeWal(8, 8, "")));
     Timeline model;
 };

@@ -1,15 +1,13 @@
+#include "formats/CodecHarness.h"
 #include "framework/core/ReplacingFile.h"
 #include "image/ImageDocuments.h"
-#include "image/picture/ColorList.h"
 #include "support/TestApplication.h"
 
-#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <new>
-#include <random>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
@@ -170,8 +168,7 @@ protected:
         return document;
     }
     static bool Same(const Texture& left, const Texture& right) {
-        return left.GetWidth() == right.GetWidth() && std::ranges::equal(left.Pixels(), right.Pixels()) &&
-               left.quake2 == right.quake2 && !left.palette == !right.palette &&
+        return SamePixels(left, right) && left.quake2 == right.quake2 && !left.palette == !right.palette &&
                (!left.palette || *left.palette == *right.palette);
     }
     // Saves a new document over a file of these bytes, or to a name of no file.

@@ -3,7 +3,6 @@
 #include "res/CommandIds.h"
 #include "resources/BrushDocument.h"
 #include "resources/BuiltInPalettes.h"
-#include "resources/BuiltInPath.h"
 #include "resources/ColorSpaceDocument.h"
 #include "resources/DocumentMenuList.h"
 #include "support/TestApplication.h"
@@ -15,17 +14,11 @@ class TavloDocumentCommandsTest : public WorkshopTest {
 protected:
     TavloDocumentCommandsTest() {
         brushes.Init(ID_BRUSHES, ID_BRUSH_FIRST, ID_BRUSH_LAST + 1);
-        brushes.SetItem(1, OpenBuiltIn(colorPickerFile));
+        brushes.SetItem(1, OpenBuiltIn<CDocument>(colorPickerFile));
         spaces.Init(ID_PALETTE_SPACES, ID_COLOR_SPACE_FIRST, ID_COLOR_SPACE_LAST + 1);
-        spaces.SetItem(0, OpenBuiltIn(rgbaColorSpace));
+        spaces.SetItem(0, OpenBuiltIn<CDocument>(rgbaColorSpace));
     }
 
-    BaseDocument* OpenBuiltIn(BuiltInFile file) { return Open<BaseDocument>(GetBuiltInPath(file)); }
-    CCmdUI StateOf(CommandId id) {
-        CCmdUI state(id);
-        EXPECT_TRUE(document.OnCmdMsg(id, &state));
-        return state;
-    }
     void Send(CommandId id) { EXPECT_TRUE(document.OnCmdMsg(id, nullptr)); }
 
     WALDocument& document = *Open<WALDocument>(Put("floor.wal", MakeWal(16, 8)));
@@ -34,24 +27,24 @@ protected:
 };
 
 TEST_F(TavloDocumentCommandsTest, ChoosesBrushesAndPalettesFromTheLists) {
-    EXPECT_TRUE(StateOf(ID_BRUSH_NONE).checked && StateOf(ID_PALETTE_NONE).checked);
+    EXPECT_TRUE(StateOf(document, ID_BRUSH_NONE).checked && StateOf(document, ID_PALETTE_NONE).checked);
     Send(ID_BRUSH_FIRST + 1);
     EXPECT_EQ(document.GetCurrentBrush(), brushes.GetItem(ID_BRUSH_FIRST + 1));
-    EXPECT_TRUE(StateOf(ID_BRUSH_FIRST + 1).checked);
-    EXPECT_EQ(StateOf(ID_BRUSH_FIRST + 1).text, "Color Picker");
+    EXPECT_TRUE(StateOf(document, ID_BRUSH_FIRST + 1).checked);
+    EXPECT_EQ(StateOf(document, ID_BRUSH_FIRST + 1).text, "Color Picker");
     Send(ID_BRUSH_LAST);
     EXPECT_FALSE(document.HasBrush()) << "nothing is listed there";
     Send(ID_COLOR_SPACE_FIRST);
     EXPECT_EQ(document.GetCurrentPalette()->GetTitle(), "RGBA");
     Send(ID_COLOR_TABLE_FIRST);
-    EXPECT_TRUE(StateOf(ID_COLOR_SPACE_FIRST).checked) << "no list has that id";
+    EXPECT_TRUE(StateOf(document, ID_COLOR_SPACE_FIRST).checked) << "no list has that id";
     Send(ID_PALETTE_NONE);
     EXPECT_FALSE(document.HasPalette() || document.IsModified());
 }
 
 TEST_F(TavloDocumentCommandsTest, ConvertsThePictureAsAnUndoableChange) {
-    EXPECT_FALSE(StateOf(ID_FORMAT_NEAREST).enabled || StateOf(ID_FORMAT_DITHER).enabled);
-    document.SetCurrentPalette(dynamic_cast<PaletteDocument*>(OpenBuiltIn(grayScaleColors)));
+    EXPECT_FALSE(StateOf(document, ID_FORMAT_NEAREST).enabled || StateOf(document, ID_FORMAT_DITHER).enabled);
+    document.SetCurrentPalette(OpenBuiltIn<PaletteDocument>(grayScaleColors));
     document.GetTexture().SetPalette(GetQuakeIIPalette());
     const Texture original = document.GetTexture();
     for (const auto& [id, convert, undo] :
@@ -62,16 +55,17 @@ TEST_F(TavloDocumentCommandsTest, ConvertsThePictureAsAnUndoableChange) {
         Send(id);
         EXPECT_TRUE(SamePixels(document.GetTexture(), expected));
         EXPECT_EQ(*document.GetTexture().palette, GetQuakeIIPalette());
-        EXPECT_EQ(StateOf(ID_EDIT_UNDO).text, undo);
+        EXPECT_EQ(StateOf(document, ID_EDIT_UNDO).text, undo);
         Send(ID_EDIT_UNDO);
         EXPECT_TRUE(SamePixels(document.GetTexture(), original));
     }
 }
 
 TEST_F(TavloDocumentCommandsTest, RecordsNoConversionThatChangesNothing) {
-    for (BaseDocument* palette : {OpenBuiltIn(quake2Palette), OpenBuiltIn(rgbaColorSpace),
-                                  Open<BaseDocument>(Put("empty.kelcolors", {}))}) {
-        document.SetCurrentPalette(dynamic_cast<PaletteDocument*>(palette));
+    for (auto* palette :
+         {OpenBuiltIn<PaletteDocument>(quake2Palette), OpenBuiltIn<PaletteDocument>(rgbaColorSpace),
+          Open<PaletteDocument>(Put("empty.kelcolors", {}))}) {
+        document.SetCurrentPalette(palette);
         Send(ID_FORMAT_NEAREST);
         Send(ID_FORMAT_DITHER);
         EXPECT_FALSE(document.GetHistory().CanUndo() || document.IsModified()) << palette->GetTitle();

@@ -3,7 +3,6 @@
 #include "image/picture/ColorList.h"
 #include "res/CommandIds.h"
 #include "resources/BuiltInPalettes.h"
-#include "resources/BuiltInPath.h"
 #include "resources/PaletteDocument.h"
 #include "support/TestApplication.h"
 
@@ -23,11 +22,6 @@ protected:
     Document& New() {
         application.newType = DocTemplateRegistry::Get().FindTemplate(Document::runtimeClass);
         return dynamic_cast<Document&>(*application.OnFileNew());
-    }
-    static CCmdUI StateOf(TavloDocument& document, CommandId id) {
-        CCmdUI state(id);
-        EXPECT_TRUE(document.OnCmdMsg(id, &state));
-        return state;
     }
 };
 

@@ -13,14 +13,14 @@ class MD2DocumentTest : public WorkshopTest {
 protected:
     std::string OpenModel(const Bytes& bytes) { return Try<MD2Document>(bytes, ".md2"); }
     static Md2Builder Small() {
-        Md2Builder model;
-        model.skins = {std::string("models/a.pcx\0xy", 15), std::string(64, 'n')};
-        model.texCoords = 3;
-        model.triangles = {
-            {2, 1, 0, 0, 1, 2}, {3, 1, 0, 0, 1, 2}, {2, 1, 0, 0, 3, 2}, {0xFFFF, 0, 0, 0, 0, 0}};
-        model.frames = 2;
-        model.vertices = 3;
-        return model;
+        return {.skins = {std::string("models/a.pcx\0xy", 15), std::string(64, 'n')},
+                .texCoords = 3,
+                .triangles = {{2, 1, 0, 0, 1, 2},
+                              {3, 1, 0, 0, 1, 2},
+                              {2, 1, 0, 0, 3, 2},
+                              {0xFFFF, 0, 0, 0, 0, 0}},
+                .frames = 2,
+                .vertices = 3};
     }
 };
 

@@ -1,6 +1,5 @@
 #include "framework/core/MenuItems.h"
 #include "res/CommandIds.h"
-#include "resources/BuiltInPath.h"
 #include "resources/ColorTableDocument.h"
 #include "resources/DocumentMenuList.h"
 #include "support/TestApplication.h"
@@ -16,9 +15,7 @@ struct FakeMenu : MenuItems {
     using Item = std::pair<CommandId, std::string>;
 
     auto Find(CommandId id) { return std::ranges::find(items, id, &Item::first); }
-    bool HasItem(CommandId id) const override {
-        return std::ranges::find(items, id, &Item::first) != items.end();
-    }
+    bool HasItem(CommandId id) const override { return std::ranges::count(items, id, &Item::first) > 0; }
     void ModifyItem(CommandId id, CommandId newId, const std::string& text) override {
         if (HasItem(id)) *Find(id) = {newId, text};
     }
@@ -97,8 +94,8 @@ TEST_F(MenuItemListTest, DocumentsAreListedWithThoseOfDerivedClasses) {
     DocumentMenuList documents(ColorTableDocument::runtimeClass);
     documents.Init(placeholder + 1, limit, limit + 256);
     menu.items[1].first = placeholder + 1;
-    Open<BaseDocument>(GetBuiltInPath(quakePalette));
-    Open<BaseDocument>(GetBuiltInPath(rgbaColorSpace));
+    OpenBuiltIn<BaseDocument>(quakePalette);
+    OpenBuiltIn<BaseDocument>(rgbaColorSpace);
     Open<BaseDocument>(Put("R&B.kelcolors", Bytes(800)));
     Open<BaseDocument>(Put("R&B.kelcolors", Bytes(800)));
     MenuItemList::UpdateAll(menu, nullptr);

@@ -1,6 +1,5 @@
 #include "resources/BrushDocument.h"
 #include "resources/BuiltInPalettes.h"
-#include "resources/BuiltInPath.h"
 #include "resources/ColorSpaceDocument.h"
 #include "resources/LMPDocument.h"
 #include "support/TestApplication.h"
@@ -10,13 +9,7 @@ using testing::HasSubstr;
 
 namespace {
 
-class ReferenceDocumentsTest : public WorkshopTest {
-protected:
-    template <class Document>
-    Document* OpenBuiltIn(BuiltInFile file) {
-        return Open<Document>(GetBuiltInPath(file));
-    }
-};
+class ReferenceDocumentsTest : public WorkshopTest {};
 
 } // namespace
 

@@ -2,6 +2,7 @@
 
 #include "app/HeadlessApplication.h"
 #include "builders/TextureBuilder.h"
+#include "resources/BuiltInPath.h"
 #include "support/FolderTest.h"
 
 // What the sentences for files that cannot be opened say.
@@ -10,6 +11,13 @@ inline constexpr const char* badVersion = "version";
 inline constexpr const char* badIndex = "does not allow";
 inline constexpr const char* tooShort = "too early";
 
+// What the target says of the command, which it must know.
+inline CCmdUI StateOf(CCmdTarget& target, CommandId id) {
+    CCmdUI state(id);
+    EXPECT_TRUE(target.OnCmdMsg(id, &state));
+    return state;
+}
+
 // The program without windows and a folder for files, made afresh for each test.
 class WorkshopTest : public FolderTest {
 protected:
@@ -17,6 +25,10 @@ protected:
     template <class Document>
     Document* Open(const std::string& path) {
         return dynamic_cast<Document*>(application.OpenDocumentFile(path));
+    }
+    template <class Document>
+    Document* OpenBuiltIn(BuiltInFile file) {
+        return Open<Document>(GetBuiltInPath(file));
     }
     // Opens the bytes as a new file: empty when that goes well, else the message.
     template <class Document>

@@ -99,12 +99,11 @@ TEST_F(ToolTest, ExtractsInsideTheFolderOnly) {
 }
 
 TEST_F(ToolTest, DescribesModelsAndWritesTheirTextures) {
-    Md2Builder model;
-    model.skins = {"models/a.pcx"};
-    model.texCoords = 5;
-    model.triangles = {{0, 1, 2, 0, 1, 2}};
-    model.frames = 2;
-    model.vertices = 3;
+    const Md2Builder model{.skins = {"models/a.pcx"},
+                           .texCoords = 5,
+                           .triangles = {{0, 1, 2, 0, 1, 2}},
+                           .frames = 2,
+                           .vertices = 3};
     EXPECT_EQ(Run({"info", Put("a.md2", model.Build())}), 0);
     EXPECT_THAT(out, HasSubstr("frames: 2\nvertices of a frame: 3\ntexture coordinates: 5\ntriangles: 1\n"
                                "skins: 1\nskin: models/a.pcx\n"));

@@ -23,12 +23,11 @@ TEST(WindowPlacementTest, IsElevenWords) {
     EXPECT_FALSE(WindowPlacement::FromBytes(bytes));
 }
 
-TEST(SealedStateTest, OpensOnlyWhatIsWhole) {
-    const QByteArray state("some state");
-    Bytes sealed = SealState(7, state);
-    EXPECT_EQ(UnsealState(7, sealed), state);
+// Damaged ones come in the tests of the bars.
+TEST(SealedStateTest, OpensOnlyItsVersionWithoutMore) {
+    Bytes sealed = SealState(7, "some state");
+    EXPECT_EQ(UnsealState(7, sealed), "some state");
     EXPECT_TRUE(UnsealState(8, sealed).isNull());
-    EXPECT_TRUE(UnsealState(7, {}).isNull());
     sealed.push_back({});
     EXPECT_TRUE(UnsealState(7, sealed).isNull());
 }

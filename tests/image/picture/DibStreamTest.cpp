@@ -48,6 +48,10 @@ TEST(DibStreamTest, BitmapsOfEveryDepthSurvive) {
             for (std::size_t i = 0; i < bitmap.GetImageSize(); ++i)
                 bitmap.GetBits()[i] = static_cast<std::uint8_t>(random());
             bitmap.SetColorTable(0, CodecHarness::Palette().Colors());
+            DibSection painted(bitmap);
+            Image(5, 3).RenderTo(painted, IdentityTransform{});
+            PictureOf(bitmap).RenderTo(painted, IdentityTransform{});
+            EXPECT_TRUE(SamePixels(PictureOf(painted), PictureOf(bitmap))) << bitCount;
             for (const DibForm form : {DibForm::file, DibForm::clipboard}) {
                 CMemFile file;
                 FileStream stream(file);
