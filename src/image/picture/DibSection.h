@@ -8,7 +8,6 @@
 #include <cstddef>
 #include <span>
 #include <stdexcept>
-#include <vector>
 
 class DrawingSurface;
 class QRect;

@@ -7,7 +7,6 @@
 #include <cstddef>
 #include <span>
 #include <stdexcept>
-#include <vector>
 
 class ColorList;
 class DibSection;
