@@ -14,6 +14,9 @@
 
 #include <set>
 
+using testing::ElementsAre;
+using testing::HasSubstr;
+
 namespace {
 
 class FileDialogsTest : public ProgramFixture {
@@ -29,54 +32,49 @@ protected:
         EXPECT_TRUE(program.InitInstance({textures + "a.wal"}));
     }
 
-    static void Answer(QDialog& dialog, const std::string& name, QDialogButtonBox::StandardButton button) {
-        dialog.findChild<QLineEdit*>("fileNameEdit")->setText(QString::fromStdString(name));
-        dialog.findChild<QDialogButtonBox*>()->button(button)->click();
+    // Enters the name of a texture in the archive.
+    auto Enter(const std::string& name, QDialogButtonBox::StandardButton button) {
+        return [=, path = QString::fromStdString(textures + name)](QDialog& dialog) {
+            EnterName(dialog, path, button);
+        };
     }
 
     const std::string textures = PathTo("pak0.pak/textures/");
 };
 
 TEST_F(FileDialogsTest, OpensWhatIsChosenInAnArchive) {
-    const DialogAnswer answer(
-        [&](QDialog& dialog) { Answer(dialog, textures + "large.wal", QDialogButtonBox::Open); });
+    const DialogAnswer answer(Enter("large.wal", QDialogButtonBox::Open));
     Send(ID_FILE_OPEN);
     EXPECT_EQ(program.GetRecentFiles().GetPaths().front(), textures + "large.wal");
 }
 
 TEST_F(FileDialogsTest, SavesOverAnEntryAndTellsAtTheEndThatArchivesAreReadOnly) {
     const Bytes before = ReadFile(PathTo("pak0.pak"));
-    {
-        // A texture from an archive is saved under a name that the person confirms, and replaces what is
-        // there.
-        const DialogAnswer yes([&](QDialog& dialog) {
-            EXPECT_EQ(dialog.findChild<QLineEdit*>("fileNameEdit")->text(), "pak0.pak/textures/a.wal");
-            const DialogAnswer replace([](QDialog& question) {
-                EXPECT_TRUE(dynamic_cast<QMessageBox&>(question).text().contains("already exists"));
-                Press(QDialogButtonBox::Yes)(question);
-            });
-            Answer(dialog, textures + "b.wal", QDialogButtonBox::Save);
-        });
-        EXPECT_TRUE(Send(ID_FILE_SAVE));
-    }
+    const auto name = Enter("b.wal", QDialogButtonBox::Save);
     std::vector<std::string> told;
     const auto answer = [&told](QDialogButtonBox::StandardButton button) {
         return [&told, button](QDialog& dialog) {
             told.push_back(dynamic_cast<QMessageBox&>(dialog).text().toStdString());
-            Press(button)(dialog);
+            Press(dialog, button);
         };
     };
     {
-        const DialogAnswer yes(answer(QDialogButtonBox::Yes));
-        QTimer::singleShot(300, [&] {
-            const DialogAnswer ok(answer(QDialogButtonBox::Ok));
-            QTest::qWait(300);
-        });
+        // A texture from an archive is saved under a name that the person confirms, and replaces what is
+        // there.
+        const DialogAnswer answers(
+            [&](QDialog& dialog) {
+                EXPECT_EQ(dialog.findChild<QLineEdit*>("fileNameEdit")->text(), "pak0.pak/textures/a.wal");
+                name(dialog);
+            },
+            answer(QDialogButtonBox::Yes));
+        EXPECT_TRUE(Send(ID_FILE_SAVE));
+    }
+    {
+        const DialogAnswer answers(answer(QDialogButtonBox::Yes), answer(QDialogButtonBox::Ok));
         EXPECT_FALSE(program.SaveAllModified());
     }
-    ASSERT_EQ(told.size(), 2U);
-    EXPECT_EQ(told[0], "Save changes to " + PathTo("pak0.pak") + "?");
-    EXPECT_NE(told[1].find("pak0.pak"), std::string::npos);
+    EXPECT_THAT(told, ElementsAre(HasSubstr("already exists"), "Save changes to " + PathTo("pak0.pak") + "?",
+                                  HasSubstr("pak0.pak")));
     EXPECT_EQ(ReadFile(PathTo("pak0.pak")), before);
 }
 
@@ -109,10 +107,9 @@ TEST_F(FileDialogsTest, PreviewsPicturesAndNothingElse) {
     EXPECT_EQ(ReadPicturePreview(PathTo("pak0.pak/textures")).text, "");
     EXPECT_EQ(ReadForPreview(PathTo("pak0.pak")), nullptr);
     EXPECT_EQ(program.GetDocuments().size(), documents);
-    EXPECT_EQ(ReadForPreview(textures + "a.wal")->GetTexture().GetPixel(0, 0),
-              dynamic_cast<TavloDocument&>(*program.OpenDocumentFile(textures + "a.wal"))
-                  .GetTexture()
-                  .GetPixel(0, 0));
+    CDocument* document = program.OpenDocumentFile(textures + "a.wal");
+    EXPECT_EQ(ReadForPreview(textures + "a.wal")->GetTexture().GetPixel(7, 0),
+              dynamic_cast<TavloDocument&>(*document).GetTexture().GetPixel(7, 0));
 }
 
 // Every page that is linked to and every picture is there.

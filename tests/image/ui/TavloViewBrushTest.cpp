@@ -41,14 +41,11 @@ TEST_F(TavloViewBrushTest, StrokesGoAcrossTheSeam) {
     frame->SetZoom(2);
     view->SetScrollX(62);
     Press({1, 3});
-    EXPECT_EQ(TexelAt(62, 1), red);
     EXPECT_FALSE(document->IsModified()) << "not before the button is released";
     Drag({3, 4});
-    EXPECT_EQ(TexelAt(63, 2), red);
     Drag({4, 4});
-    EXPECT_EQ(TexelAt(0, 2), red);
     Release({6, 64});
-    EXPECT_EQ(TexelAt(1, 0), red);
+    for (const auto& [x, y] : {std::pair{62, 1}, {63, 2}, {0, 2}, {1, 0}}) EXPECT_EQ(TexelAt(x, y), red) << x;
     EXPECT_TRUE(document->IsModified());
     EXPECT_FALSE(document->GetHistory().CanUndo());
     view->SetScrollX(0);
@@ -75,13 +72,12 @@ TEST_F(TavloViewBrushTest, StrokesRepaintWhatTheyChangeInAllViews) {
     PaintSpy painted(*view), paintedToo(*other);
     Drag({9, 5});
     EXPECT_GT(painted.region.rectCount(), 1);
-    for (const QRect& rect : painted.region)
-        EXPECT_TRUE(
-            QRect(8, 4, 4, 4).contains(rect.translated(-rect.left() / 256 * 256, -rect.top() / 128 * 128)));
+    for (const QRect& rect : painted.region) // in each tile of 256 x 128
+        EXPECT_TRUE(QRect(8, 4, 4, 4).contains(rect.translated(-(rect.left() & ~255), -(rect.top() & ~127))));
     EXPECT_EQ(ColorShownAt(9, 5), red);
     QCoreApplication::processEvents();
-    ASSERT_FALSE(paintedToo.region.isEmpty());
-    EXPECT_EQ(*paintedToo.region.begin(), QRect(16, 8, 8, 8));
+    EXPECT_TRUE(paintedToo.region.contains(QRect(16, 8, 8, 8)));
+    EXPECT_FALSE(paintedToo.region.contains(QPoint(24, 8)));
     painted.region = {};
     Drag({10, 6});
     EXPECT_TRUE(painted.region.isEmpty()) << "the texel has that colour already";
@@ -95,9 +91,8 @@ TEST_F(TavloViewBrushTest, OnlyTheLeftButtonPaintsAndOnlyWithABrush) {
     Drag({5, 5});
     Release({9, 9});
     EXPECT_TRUE(std::ranges::equal(GetTexture().Pixels(), before.Pixels()));
-    QTest::mousePress(view, Qt::MiddleButton, {}, {3, 3});
-    Drag({5, 5}, Qt::MiddleButton);
-    QTest::mouseRelease(view, Qt::MiddleButton, {}, {3, 3});
+    QTest::mouseClick(view, Qt::MiddleButton, {}, {3, 3});
+    Drag({3, 3}, Qt::MiddleButton);
     EXPECT_NE(TexelAt(3, 3), red);
     EXPECT_FALSE(document->IsModified());
     Press({3, 3});
@@ -135,23 +130,19 @@ TEST_F(TavloViewBrushTest, ThePointerIsTheBrushsWithItsHotSpotOnTheTip) {
 }
 
 TEST_F(TavloViewBrushTest, TheContextMenuComesByMouseAndKeyboard) {
-    const auto brushesIn = [](QMenu& menu) -> QMenu& {
-        EXPECT_EQ(ItemTexts(menu), QStringList({"Brush", "Color...", "Zoom", "Properties", "Cancel"}));
-        return *menu.actions().front()->menu();
-    };
-    {
-        const PopupAnswer choose([&](QMenu& menu) { brushesIn(menu).actions().at(1)->trigger(); });
-        const QPoint inWindow = view->mapTo(view->window(), QPoint(20, 20));
-        QTest::mouseClick(view->window()->windowHandle(), Qt::RightButton, {}, inWindow);
-        QCoreApplication::processEvents();
-    }
+    const PopupAnswer answers(
+        [](QMenu& menu) { menu.actions().front()->menu()->actions().at(1)->trigger(); },
+        [](QMenu& menu) {
+            EXPECT_EQ(ItemTexts(menu), QStringList({"Brush", "Color...", "Zoom", "Properties", "Cancel"}));
+            EXPECT_EQ(ItemTexts(*menu.actions().front()->menu()),
+                      QStringList({"Texel Brush", "Color Picker", "", "None"}));
+        });
+    const QPoint inWindow = view->mapTo(view->window(), QPoint(20, 20));
+    QTest::mouseClick(view->window()->windowHandle(), Qt::RightButton, {}, inWindow);
+    QCoreApplication::processEvents();
     ASSERT_TRUE(document->HasBrush());
     EXPECT_EQ(document->GetCurrentBrush()->GetTitle(), "Color Picker");
-    const PopupAnswer look([&](QMenu& menu) {
-        EXPECT_EQ(ItemTexts(brushesIn(menu)), QStringList({"Texel Brush", "Color Picker", "", "None"}));
-    });
     // What the windowing system makes of the menu key.
-    const QPoint middle = view->rect().center();
-    QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, middle, view->mapToGlobal(middle));
+    QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, {}, view->mapToGlobal(QPoint()));
     QCoreApplication::sendEvent(view, &menuKey);
 }

@@ -1,6 +1,3 @@
-#include "image/ui/TavloView.h"
-
-#include "framework/core/Text.h"
 #include "image/ui/TavloViewFixture.h"
 #include "res/CommandIds.h"
 #include "resources/ColorTableDocument.h"
@@ -82,8 +79,9 @@ TEST_F(TavloViewTest, TellsPositionAndColorUnderTheMouse) {
     view->SetScrollX(3);
     QTest::mouseMove(view, {9, 5});
     EXPECT_EQ(PaneText(2), "5.25, 1.25");
-    const Color color = GetTexture().GetPixel(5, 1);
-    EXPECT_EQ(PaneText(3), Format("rgb: %.2X %.2X %.2X", Red(color), Green(color), Blue(color)));
+    GetTexture().SetPixel(5, 1, 0xFF0A1B2C);
+    QTest::mouseMove(view, {9, 6});
+    EXPECT_EQ(PaneText(3), "rgb: 0A 1B 2C");
     QTest::mouseClick(view, Qt::LeftButton, {}, {11, 3});
     EXPECT_EQ(PaneText(2), "5.75, 0.75");
     EXPECT_FALSE(document->IsModified());

@@ -9,7 +9,6 @@
 #include <QPushButton>
 #include <QTimer>
 
-#include <chrono>
 #include <functional>
 #include <gtest/gtest.h>
 #include <type_traits>
@@ -21,13 +20,17 @@ class WindowAnswer {
 public:
     template <class... Answers>
     explicit WindowAnswer(Answers... inTurn) : answers{std::move(inTurn)...} {
-        QObject::connect(&timer, &QTimer::timeout, &timer, [this] { Look(); });
-        timer.start(std::chrono::milliseconds(10));
+        LookLater();
     }
     ~WindowAnswer() { EXPECT_EQ(asked, answers.size()) << "dialogs or menus"; }
 
 private:
+    // By a timer for each look: an answer may open the next window, and runs as long as that.
+    void LookLater() {
+        QTimer::singleShot(10, &watcher, [this] { Look(); });
+    }
     void Look() {
+        LookLater();
         auto* window = qobject_cast<Window*>(activeWindow());
         if (window && window != last && asked < answers.size()) {
             last = window;
@@ -43,7 +46,7 @@ private:
     std::size_t asked = 0;
     QPointer<Window> last;
     int ticks = 0;
-    QTimer timer;
+    QObject watcher;
 };
 
 using DialogAnswer = WindowAnswer<QDialog, &QApplication::activeModalWidget>;
