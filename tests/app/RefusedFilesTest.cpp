@@ -61,15 +61,11 @@ const Damage damages[] = {
     {"wad", {1936}, {all}, tooShort},
     {"md2", {0}, {0x4F504449}, badFormat}, // "IDPO"
     {"md2", {4}, {7, 9}, badVersion},
-    {"md2", {20}, {32}, tooShort}, // counts, and the limits of the game
-    {"md2", {20}, {33, most, least}, badIndex},
-    {"md2", {24}, {2048}, tooShort},
+    {"md2", {20}, {33, most, least}, badIndex}, // counts, beyond the limits of the game
     {"md2", {24}, {2049, most, least}, badIndex},
     {"md2", {28}, {most}, tooShort},
     {"md2", {28}, {all}, badIndex},
-    {"md2", {32}, {4096}, tooShort},
     {"md2", {32}, {4097, most, least}, badIndex},
-    {"md2", {40}, {512}, tooShort},
     {"md2", {40}, {513, most, least}, badIndex},
     {"md2", {44, 48, 52, 56}, {most, least, all}, tooShort}, // where the parts lie
     {"mdl", {180}, {most, least, all, 25}, badIndex},        // textures

@@ -40,15 +40,6 @@ TEST_F(SettingsTest, EverySliderPositionSurvivesStoring) {
         WriteGamma(store, {gamma, gamma, gamma});
         EXPECT_EQ(PositionOfGamma(ReadGamma(store)->green), position);
     }
-    EXPECT_EQ(PositionOfGamma(1.23), 25);
-}
-
-TEST_F(SettingsTest, KeepsCustomColorsTwice) {
-    const CustomColors colors{0x00030201};
-    WriteCustomColors(store, applicationSection, colors);
-    EXPECT_EQ(store.ReadBinary("Application", "CustomColors")->size(), 64U);
-    EXPECT_FALSE(ReadCustomColors(store, mainSection));
-    EXPECT_EQ(ReadCustomColors(store, applicationSection), colors);
 }
 
 TEST(GammaSettingsTest, MapsChannelsThroughGamma) {

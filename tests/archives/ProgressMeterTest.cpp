@@ -43,8 +43,8 @@ TEST_F(ProgressMeterTest, ShowsWorkThatWillTakeTwoSeconds) {
 }
 
 TEST_F(ProgressMeterTest, CountsFromItsMinimumWithoutOverflow) {
-    constexpr std::int32_t least = std::numeric_limits<std::int32_t>::min(),
-                           most = std::numeric_limits<std::int32_t>::max();
-    Expect(least, most,
-           {{1, least, {}}, {3, most, {"open Working... -2147483648..2147483647 at 2147483647"}}});
+    using Limits = std::numeric_limits<std::int32_t>;
+    Expect(Limits::min(), Limits::max(),
+           {{1, Limits::min(), {}},
+            {3, Limits::max(), {"open Working... -2147483648..2147483647 at 2147483647"}}});
 }

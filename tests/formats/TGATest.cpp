@@ -36,7 +36,6 @@ TEST_F(TGATest, WritesAlphaOnlyWhereThereIsSome) {
     EXPECT_THAT(Numbers(bytes, bytes.size() - 4, 4), testing::ElementsAre('L', 'E', '.', 0));
     picture.SetPixel(2, 1, 0xFE778899);
     bytes = tga.Write(picture);
-    ASSERT_EQ(bytes.size(), headerSize + 4 * 6 + footerSize);
     EXPECT_THAT(Numbers(bytes, 16, 2), testing::ElementsAre(32, 8));
     bytes[17] = {}; // the descriptor knows of no alpha
     EXPECT_TRUE(SamePixels(tga.Read(bytes), picture));

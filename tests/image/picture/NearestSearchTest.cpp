@@ -4,7 +4,6 @@
 #include "image/picture/ColorList.h"
 #include "image/picture/NearestKernels.h"
 
-#include <algorithm>
 #include <gtest/gtest.h>
 #include <random>
 #include <vector>
