@@ -1,7 +1,6 @@
 #include "app/ui/MainFrame.h"
 
-#include "framework/ui/CControlBar.h"
-#include "framework/ui/CMenu.h"
+#include "framework/core/Text.h"
 #include "framework/ui/CSplitterWnd.h"
 #include "framework/ui/ChildFrame.h"
 #include "framework/ui/SplitTracker.h"
@@ -36,11 +35,10 @@ std::string Layout(const MainFrame& frame) {
     const auto* filters = frame.findChild<QToolBar*>("bar59398");
     auto* palette = frame.findChild<QDockWidget*>("bar59401");
     const WindowPlacement::Rectangle normal = frame.GetWindowPlacement().normal;
-    return std::to_string(frame.toolBarArea(tools)) + " " + std::to_string(frame.toolBarArea(filters)) + " " +
-           std::to_string(frame.dockWidgetArea(palette)) + (tools->isHidden() ? " no tools" : "") +
-           (palette->isHidden() ? " no palette" : "") + (frame.isMaximized() ? " maximized" : "") + " " +
-           std::to_string(normal.left) + " " + std::to_string(normal.top) + " " +
-           std::to_string(normal.right) + " " + std::to_string(normal.bottom);
+    return Format("%d %d %d%s%s%s %d %d %d %d", frame.toolBarArea(tools), frame.toolBarArea(filters),
+                  frame.dockWidgetArea(palette), tools->isHidden() ? " no tools" : "",
+                  palette->isHidden() ? " no palette" : "", frame.isMaximized() ? " maximized" : "",
+                  normal.left, normal.top, normal.right, normal.bottom);
 }
 
 using MainFrameTest = ProgramFixture;

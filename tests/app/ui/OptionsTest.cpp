@@ -1,7 +1,5 @@
 #include "app/Settings.h"
 #include "app/ui/CGammaSettingsDialog.h"
-#include "app/ui/CGammaSettingsDialogButton.h"
-#include "app/ui/COptionsSheet.h"
 #include "framework/ui/ColorPrompt.h"
 #include "image/ui/TavloViewFixture.h"
 #include "res/CommandIds.h"
@@ -21,7 +19,7 @@ protected:
         const DialogAnswer answer([&](QDialog& sheet) {
             sheet.findChild<QTabWidget*>()->setCurrentIndex(1);
             whatToDo(sheet);
-            sheet.findChild<QDialogButtonBox*>()->button(button)->click();
+            Press(sheet, button);
         });
         EXPECT_TRUE(Send(ID_TOOLS_OPTIONS));
     }
@@ -72,8 +70,7 @@ TEST_F(OptionsTest, UnlinkedSlidersDifferAndApplyKeepsTheSheet) {
             QTest::keyClick(&Slider(dialog, IDC_SLIDER_BLUE), Qt::Key_PageUp);
             dialog.accept();
         });
-        sheet.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Apply)->click();
-        EXPECT_TRUE(sheet.isVisible());
+        Press(sheet, QDialogButtonBox::Apply);
         EXPECT_FALSE(IsApplyEnabled(sheet));
         EXPECT_EQ(Gamma().GetValues(), (GammaValues{5, 1, 2}));
         EXPECT_EQ(ColorShownAt(5, 5), ApplyGamma({5, 1, 2}, GetTexture().GetPixel(5, 5)));

@@ -30,12 +30,10 @@ TEST_F(CMDIFrameWndTest, RoutesCommandsFromTheViewOutwards) {
     QWidget other; // leaves the commands with the document
     other.show();
     QApplication::setActiveWindow(&other);
-    QCoreApplication::processEvents();
     EXPECT_TRUE(AskCommand(mainFrame, viewCommand).enabled);
 }
 
 TEST_F(CMDIFrameWndTest, ShowsTheMenuOfTheDocumentInFront) {
-    EXPECT_EQ(FirstMenuOf(mainFrame), "&Own");
     CDocument& hidden = NewDocument(1);
     EXPECT_FALSE(hidden.GetFrame()->IsShown());
     EXPECT_EQ(FirstMenuOf(mainFrame), "&Own");
@@ -47,7 +45,6 @@ TEST_F(CMDIFrameWndTest, ShowsTheMenuOfTheDocumentInFront) {
     FrameOf(second).showMaximized();
     second.OnCloseDocument();
     EXPECT_EQ(mainFrame.MDIGetActive(), first.GetFrame());
-    EXPECT_EQ(FirstMenuOf(mainFrame), "&File");
     first.OnCloseDocument();
     EXPECT_EQ(mainFrame.MDIGetActive(), nullptr);
     EXPECT_EQ(FirstMenuOf(mainFrame), "&Own");

@@ -1,3 +1,4 @@
+#include "framework/core/Text.h"
 #include "framework/ui/CDialogBar.h"
 #include "framework/ui/CStatusBar.h"
 #include "framework/ui/CToolBar.h"
@@ -34,10 +35,10 @@ protected:
     }
     // Everything that the state holds, as people see it.
     std::string Layout() const {
-        return std::to_string(mainFrame.toolBarArea(&tools)) + "," +
-               std::to_string(mainFrame.dockWidgetArea(&panel)) + (tools.IsVisible() ? " tools" : "") +
-               (panel.IsVisible() ? " panel" : "") + (panel.isFloating() ? " floats" : "") +
-               (mainFrame.statusBar()->isHidden() ? "" : " status");
+        return Format("%d %d%s%s%s%s", mainFrame.toolBarArea(&tools), mainFrame.dockWidgetArea(&panel),
+                      tools.IsVisible() ? " tools" : "", panel.IsVisible() ? " panel" : "",
+                      panel.isFloating() ? " floats" : "",
+                      mainFrame.statusBar()->isHidden() ? "" : " status");
     }
 
     CToolBar& tools = *new CToolBar(ID_VIEW_TOOLBAR, "Tools", &mainFrame);

@@ -2,12 +2,10 @@
 #include "framework/ui/CSplitterWnd.h"
 #include "framework/ui/ChildFrame.h"
 #include "monkey/ToolkitComplaints.h"
-#include "preview3d/ui/ModelView.h"
 #include "res/CommandIds.h"
 #include "support/ui/ProgramFixture.h"
 
 #include <QFile>
-#include <QMdiSubWindow>
 
 #include <malloc.h>
 
@@ -34,7 +32,7 @@ protected:
         model.texCoords = model.vertices = 3;
         model.triangles = {{0, 1, 2, 0, 1, 2}};
         model.frames = 1;
-        WriteFile(path, model.Build());
+        Put("model.md2", model.Build());
     }
 
     void OpenTileSplitHideAndClose(std::size_t windowCount) {
@@ -54,12 +52,10 @@ protected:
         const auto frame = [&](std::size_t i) -> QWidget& {
             return dynamic_cast<QWidget&>(*views[i]->GetFrame());
         };
-        QCoreApplication::processEvents();
         for (std::size_t i = 0; i < views.size(); i += 3) frame(i).hide();
         QCoreApplication::processEvents();
         for (std::size_t i = 0; i < views.size(); i += 6) frame(i).show();
         for (std::size_t i = 0; i + 1 < views.size(); ++i) frame(i).close();
-        QCoreApplication::processEvents();
         document->OnCloseDocument();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCoreApplication::processEvents();
