@@ -37,8 +37,10 @@ void Add(Digest& digest, const BrushDocument& document) {
 
 void Add(Digest& digest, const MD2Document& model) {
     for (const std::string& skin : model.GetSkins()) digest.Add(skin);
-    for (const MD2Document::TexCoord& place : model.GetTexCoords())
-        digest.Add(static_cast<std::size_t>(place.s * 65536 + place.t));
+    for (const MD2Document::TexCoord& place : model.GetTexCoords()) {
+        digest.Add(static_cast<std::size_t>(place.s));
+        digest.Add(static_cast<std::size_t>(place.t));
+    }
     for (const MD2Document::Triangle& triangle : model.GetTriangles()) digest.Add(model.IsDrawable(triangle));
     for (const MD2Document::Frame& frame : model.GetFrames()) {
         digest.Add(std::string(frame.name, sizeof frame.name));

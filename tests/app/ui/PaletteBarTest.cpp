@@ -58,6 +58,8 @@ TEST_F(PaletteBarTest, ThePointerIsOverThePixelThatItPicks) {
     Click(PalettePlanes::strip2, {0, 15});
     EXPECT_EQ(program.GetCurrentColor(), 0x00281EFFU);
     EXPECT_EQ(ColorUnder(PalettePlanes::strip1, {9, 9}), "rgb: (28 1E 09)");
+    Click(PalettePlanes::plane, {30, -3}); // between the controls
+    EXPECT_EQ(program.GetCurrentColor(), 0x00281EFFU);
 }
 
 // The scale is fixed for a process.
@@ -100,6 +102,9 @@ TEST_F(PaletteBarTest, KeepsACopyOfTheTableThatItShows) {
     table->OnCloseDocument();
     Click(PalettePlanes::plane, {16 * 7 + 4, 16 + 4});
     EXPECT_EQ(program.GetCurrentColor(), 0xFF171717U);
+    Choose(0);
+    Choose(PalettePlanes::colorTable);
+    EXPECT_EQ(palette->GetPlanes().GetColors().GetCount(), 200U);
 }
 
 // The chooser's values are only good until the documents change.
