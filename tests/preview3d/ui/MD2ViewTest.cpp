@@ -3,6 +3,7 @@
 #include "builders/ModelBuilder.h"
 #include "image/TavloDocument.h"
 #include "res/CommandIds.h"
+#include "support/ui/GLErrors.h"
 #include "support/ui/ProgramFixture.h"
 #include "support/ui/RayCaster.h"
 
@@ -113,6 +114,7 @@ TEST_F(MD2ViewTest, DrawsTheModelWithThePicture) {
     view.window()->resize(700, 900);
     QCoreApplication::processEvents();
     ExpectScene(view);
+    ExpectNoGLErrors(view);
 }
 
 TEST_F(MD2ViewTest, ShowsEachTexelOfAnOddPictureInItsPlace) {

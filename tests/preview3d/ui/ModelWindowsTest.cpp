@@ -3,6 +3,7 @@
 #include "framework/ui/ChildFrame.h"
 #include "monkey/ToolkitComplaints.h"
 #include "res/CommandIds.h"
+#include "support/ui/GLErrors.h"
 #include "support/ui/ProgramFixture.h"
 
 #include <QFile>
@@ -55,6 +56,8 @@ protected:
         for (std::size_t i = 0; i < views.size(); i += 3) frame(i).hide();
         QCoreApplication::processEvents();
         for (std::size_t i = 0; i < views.size(); i += 6) frame(i).show();
+        QCoreApplication::processEvents();
+        ExpectNoGLErrors(GetMainFrame());
         for (std::size_t i = 0; i + 1 < views.size(); ++i) frame(i).close();
         document->OnCloseDocument();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

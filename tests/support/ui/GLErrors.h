@@ -1,0 +1,19 @@
+#pragma once
+
+#include "preview3d/ui/OpenGLCtrl.h"
+
+#include <GL/gl.h>
+#include <gtest/gtest.h>
+
+// The controls in the window have drawn without an error of OpenGL.
+inline void ExpectNoGLErrors(const QWidget& window) {
+    int controls = 0;
+    for (QWidget* child : window.findChildren<QWidget*>())
+        if (auto* control = dynamic_cast<OpenGLCtrl*>(child)) {
+            ++controls;
+            control->MakeCurrent();
+            EXPECT_EQ(glGetError(), GLenum{GL_NO_ERROR});
+            control->ReleaseCurrent();
+        }
+    EXPECT_GT(controls, 0);
+}
