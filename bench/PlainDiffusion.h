@@ -6,5 +6,5 @@
 
 class ColorList;
 
-// Error diffusion along one row as it is defined, by a search of the whole list for each pixel.
+// Error diffusion along one row as it is defined, by the list's own search for each pixel.
 void DiffusePlainly(std::span<Color> row, const ColorList& list);

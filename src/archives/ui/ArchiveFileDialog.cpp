@@ -110,8 +110,8 @@ bool ArchiveFileDialog::ShowSelection(const std::string& path) {
 
 void ArchiveFileDialog::FillLowerList(const std::string& path) {
     const CWaitCursor wait;
-    panel->GetList().SetItems(
-        {}, {}); // a message or a progress window may come, and the old lines would be drawn
+    // A message or a progress window may come, and the old lines would be drawn.
+    panel->GetList().SetItems({}, {});
     archivePath = path;
     std::vector<ArchiveListItem> items;
     if (!path.empty()) {
