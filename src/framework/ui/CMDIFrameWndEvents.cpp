@@ -7,6 +7,7 @@
 #include "framework/ui/CStatusBar.h"
 #include "framework/ui/MDIClientArea.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDropEvent>
 #include <QMenuBar>
@@ -93,6 +94,8 @@ bool CMDIFrameWnd::eventFilter(QObject* watched, QEvent* event) {
 
 // Every document is asked before the first one closes: a refusal leaves all of them open.
 void CMDIFrameWnd::closeEvent(QCloseEvent* event) {
+    // The desktop's end of session comes here also while a dialog asks about a document, which must stay.
+    if (QApplication::activeModalWidget()) return event->ignore();
     CWinApp* application = CWinApp::Find();
     const bool agreed = !application || application->SaveAllModified();
     event->setAccepted(agreed);

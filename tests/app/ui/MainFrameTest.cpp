@@ -97,6 +97,15 @@ TEST_F(MainFrameTest, SettingsAreWrittenBeforeTheQuestion) {
     document->SetModifiedFlag(false);
 }
 
+TEST_F(MainFrameTest, StaysWhileADialogIsOpen) {
+    Start();
+    const DialogAnswer cancel([&](QDialog& dialog) {
+        EXPECT_FALSE(GetMainFrame().close());
+        dialog.reject();
+    });
+    Send(ID_TOOLS_OPTIONS);
+}
+
 TEST_F(MainFrameTest, StartsAsItWasLeft) {
     const auto layoutOfNext = [&] {
         CKelTavloApp next(std::make_unique<ProfileStore>(PathTo("settings.ini")));
