@@ -5,8 +5,23 @@
 #include <QIcon>
 
 #include <cstdio>
+#include <unistd.h>
 
 namespace {
+
+QtMessageHandler toolkitHandler = nullptr;
+
+// Without a display the toolkit complains about it, and then aborts. This ends the program with the first
+// complaint instead.
+void HandleMessage(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    static QString complaint;
+    if (!QCoreApplication::startingUp()) return toolkitHandler(type, context, text);
+    if (complaint.isEmpty()) complaint = text.trimmed();
+    if (type != QtFatalMsg) return;
+    std::fprintf(stderr, "keltavlo: No window can be opened (%s); keltavlo-tool needs no display.\n",
+                 qPrintable(complaint));
+    _exit(1);
+}
 
 void NameApplication() {
     QCoreApplication::setApplicationName(QStringLiteral("KelTavlo"));
@@ -16,7 +31,7 @@ void NameApplication() {
 // Texts need no screen, so they are answered before the windowing system is asked for one.
 bool AnswerOnConsole(int argc, char** argv) {
     const QCoreApplication console(argc, argv);
-    const CommandLine line = ParseCommandLine(QCoreApplication::arguments());
+    const CommandLine line = ParseCommandLine({argv, argv + argc});
     if (line.help)
         std::fputs(HelpText().c_str(), stdout);
     else if (line.version)
@@ -47,7 +62,8 @@ int RunProgram(const CommandLine& line) {
 int main(int argc, char** argv) {
     NameApplication();
     if (AnswerOnConsole(argc, argv)) return 0;
-    const QApplication windows(argc, argv);
+    toolkitHandler = qInstallMessageHandler(&HandleMessage);
+    const QApplication windows(argc, argv); // which takes its own options out of the arguments
     NameWindows();
-    return RunProgram(ParseCommandLine(QCoreApplication::arguments()));
+    return RunProgram(ParseCommandLine({argv, argv + argc}));
 }
