@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QTabWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -96,12 +97,19 @@ bool CPropertySheet::KillActivePage() {
 void CPropertySheet::ActivatePage(int index) {
     const QSignalBlocker quiet(tabs);
     if (activePage) tabs->setCurrentWidget(activePage);
-    if (!KillActivePage()) return;
+    if (!KillActivePage()) return KeepFocus();
     activePage = pages.at(static_cast<std::size_t>(index));
     tabs->setCurrentWidget(activePage);
     if (activePage->shown) return;
     activePage->shown = true;
     activePage->OnInitDialog();
+}
+
+// After its key for the next page the toolkit focuses the tabs, because no window is active so soon after a
+// message.
+void CPropertySheet::KeepFocus() {
+    if (QWidget* control = window()->focusWidget())
+        QTimer::singleShot(0, control, [control] { control->setFocus(); });
 }
 
 bool CPropertySheet::Apply() {
