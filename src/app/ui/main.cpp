@@ -5,21 +5,23 @@
 #include <QIcon>
 
 #include <cstdio>
+#include <string_view>
 #include <unistd.h>
 
 namespace {
 
 QtMessageHandler toolkitHandler = nullptr;
 
-// Without a display the toolkit complains about it, and then aborts. This ends the program with the first
-// complaint instead.
+// Without a display the toolkit reports why, and aborts. This ends the program with the first reason instead.
 void HandleMessage(QtMsgType type, const QMessageLogContext& context, const QString& text) {
-    static QString complaint;
-    if (!QCoreApplication::startingUp()) return toolkitHandler(type, context, text);
-    if (complaint.isEmpty()) complaint = text.trimmed();
+    static QString reason;
+    const bool isReason = std::string_view(context.category).starts_with("qt.qpa");
+    if (!QCoreApplication::startingUp() || (type != QtFatalMsg && !isReason))
+        return toolkitHandler(type, context, text);
+    if (reason.isEmpty()) reason = text.trimmed();
     if (type != QtFatalMsg) return;
     std::fprintf(stderr, "keltavlo: No window can be opened (%s); keltavlo-tool needs no display.\n",
-                 qPrintable(complaint));
+                 qPrintable(reason));
     _exit(1);
 }
 
