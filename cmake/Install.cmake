@@ -25,10 +25,10 @@ set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME keltavlo)
 set(CPACK_PACKAGE_CONTACT "KelTavlo developers <keltavlo@example.org>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "workshop for the textures of the Quake games")
-set(CPACK_PACKAGE_DESCRIPTION "Opens the textures of Quake, Quake II, Hexen II, Half-Life and Quake III Arena
-from the disk or out of their archives, shows them tiled without end, edits
-them with what the games store beside the pixels, and saves them in five
-formats. Quake II models show the texture that is being edited.")
+set(CPACK_PACKAGE_DESCRIPTION "Opens the textures of Quake, Quake II, Hexen II and Half-Life from the disk or
+out of PAK and WAD archives, and loose textures of Quake III Arena, shows them
+tiled without end, edits them with what the games store beside the pixels, and
+saves them in five formats. Quake II models show the texture that is being edited.")
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_PACKAGE_VERSION "${PROJECT_VERSION}~${stage}") # sorts before the release itself
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)

@@ -81,7 +81,7 @@ constexpr StringRow rows[] = {
     {ID_APP_EXIT, "Close every document and end the program\nExit"},
     {ID_EDIT_UNDO, "Take back the last change\nUndo"},
     {ID_EDIT_REDO, "Make the change again that was taken back\nRedo"},
-    {ID_EDIT_CUT, "Move the picture to the clipboard\nCut"},
+    {ID_EDIT_CUT, "Copy the picture to the clipboard and leave it in place\nCut"},
     {ID_EDIT_COPY, "Copy the picture to the clipboard\nCopy"},
     {ID_EDIT_PASTE, "Replace the picture by the one on the clipboard\nPaste"},
     {ID_EDIT_CLEAR, "Clear the picture\nClear"},

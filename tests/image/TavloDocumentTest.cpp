@@ -6,6 +6,8 @@
 #include "resources/PaletteDocument.h"
 #include "support/TestApplication.h"
 
+#include <sys/stat.h>
+
 using testing::HasSubstr;
 
 namespace {
@@ -53,8 +55,22 @@ TEST_F(TavloDocumentTest, TheNameDecidesTheFormat) {
     EXPECT_FALSE(document->OnSaveDocument(PathTo("palette.lmp")));
     EXPECT_THAT(TakeMessage(), HasSubstr("Cannot save"));
     EXPECT_NE(Try<TavloDocument>(ToBytes("no bitmap"), ".unknown"), "");
-    EXPECT_EQ(Open<TavloDocument>(PathTo("missing.wal")), nullptr);
-    EXPECT_THAT(TakeMessage(), HasSubstr("not found"));
+    for (const std::string& path : {PathTo("missing.wal"), std::string()}) {
+        EXPECT_EQ(Open<TavloDocument>(path), nullptr);
+        EXPECT_THAT(TakeMessage(), HasSubstr("not found"));
+    }
+}
+
+TEST_F(TavloDocumentTest, AFileThatNobodyMayWriteIsSavedUnderANameThatIsAskedFor) {
+    const std::string path = Put("a.wal", MakeWal(8, 8));
+    chmod(path.c_str(), 0444); // which does not stop root
+    auto* document = Open<WALDocument>(path);
+    EXPECT_FALSE(document->DoFileSave());
+    application.fileName = PathTo("b.wal");
+    EXPECT_TRUE(document->DoFileSave());
+    EXPECT_EQ(document->GetPathName(), PathTo("b.wal"));
+    EXPECT_FALSE(document->OnSaveDocument(path));
+    EXPECT_THAT(TakeMessage(), HasSubstr("denied"));
 }
 
 TEST_F(TavloDocumentTest, SavingFitsTheSizeAsAnUndoableChange) {

@@ -8,11 +8,13 @@
 namespace {
 
 struct Parser : QCommandLineParser {
-    QCommandLineOption help = addHelpOption();
+    QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")},
+                            QStringLiteral("Print this text.")};
     QCommandLineOption version = addVersionOption();
 
     Parser() {
         setApplicationDescription(QStringLiteral("A workshop for the textures of games."));
+        addOption(help);
         setSingleDashWordOptionMode(ParseAsLongOptions); // such as the toolkit's own "-platform"
         addPositionalArgument(QStringLiteral("file"),
                               QStringLiteral("The file to open, also one inside an archive."),
@@ -20,15 +22,26 @@ struct Parser : QCommandLineParser {
     }
 };
 
+// Names of files need not be UTF-8. The parser sees each byte as one character, so all of them survive.
+QString FromBytes(const std::string& bytes) {
+    return QString::fromLatin1(bytes.data(), static_cast<qsizetype>(bytes.size()));
+}
+
+std::string ToBytes(const QString& text) {
+    return text.toLatin1().toStdString();
+}
+
 } // namespace
 
-CommandLine ParseCommandLine(const QStringList& arguments) {
+CommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
     Parser parser;
     CommandLine line;
-    if (!parser.parse(arguments)) line.error = FromQString(parser.errorText());
+    QStringList texts;
+    for (const std::string& argument : arguments) texts.push_back(FromBytes(argument));
+    if (!parser.parse(texts)) line.error = ToBytes(parser.errorText());
     line.help = parser.isSet(parser.help);
     line.version = parser.isSet(parser.version);
-    for (const QString& path : parser.positionalArguments()) line.paths.push_back(FromQString(path));
+    for (const QString& path : parser.positionalArguments()) line.paths.push_back(ToBytes(path));
     return line;
 }
 

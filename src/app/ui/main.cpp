@@ -5,8 +5,25 @@
 #include <QIcon>
 
 #include <cstdio>
+#include <string_view>
+#include <unistd.h>
 
 namespace {
+
+QtMessageHandler toolkitHandler = nullptr;
+
+// Without a display the toolkit reports why, and aborts. This ends the program with the first reason instead.
+void HandleMessage(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    static QString reason;
+    const bool isReason = std::string_view(context.category).starts_with("qt.qpa");
+    if (!QCoreApplication::startingUp() || (type != QtFatalMsg && !isReason))
+        return toolkitHandler(type, context, text);
+    if (reason.isEmpty()) reason = text.trimmed();
+    if (type != QtFatalMsg) return;
+    std::fprintf(stderr, "keltavlo: No window can be opened (%s); keltavlo-tool needs no display.\n",
+                 qPrintable(reason));
+    _exit(1);
+}
 
 void NameApplication() {
     QCoreApplication::setApplicationName(QStringLiteral("KelTavlo"));
@@ -16,7 +33,7 @@ void NameApplication() {
 // Texts need no screen, so they are answered before the windowing system is asked for one.
 bool AnswerOnConsole(int argc, char** argv) {
     const QCoreApplication console(argc, argv);
-    const CommandLine line = ParseCommandLine(QCoreApplication::arguments());
+    const CommandLine line = ParseCommandLine({argv, argv + argc});
     if (line.help)
         std::fputs(HelpText().c_str(), stdout);
     else if (line.version)
@@ -47,7 +64,8 @@ int RunProgram(const CommandLine& line) {
 int main(int argc, char** argv) {
     NameApplication();
     if (AnswerOnConsole(argc, argv)) return 0;
-    const QApplication windows(argc, argv);
+    toolkitHandler = qInstallMessageHandler(&HandleMessage);
+    const QApplication windows(argc, argv); // which takes its own options out of the arguments
     NameWindows();
-    return RunProgram(ParseCommandLine(QCoreApplication::arguments()));
+    return RunProgram(ParseCommandLine({argv, argv + argc}));
 }

@@ -28,7 +28,7 @@ bool CFile::GetStatus(const std::string& path, CFileStatus& status) {
         status.attributes |= CFileStatus::directoryAttribute;
     else
         status.size = static_cast<std::uint64_t>(info.st_size);
-    if (access(native.c_str(), W_OK) != 0) status.attributes |= CFileStatus::readOnlyAttribute;
+    if (!MayWrite(native, info)) status.attributes |= CFileStatus::readOnlyAttribute;
     status.created = ToTime(info.st_ctim);
     status.accessed = ToTime(info.st_atim);
     status.modified = ToTime(info.st_mtim);

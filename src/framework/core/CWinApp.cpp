@@ -44,6 +44,11 @@ CDocTemplate* CWinApp::FindBestTemplate(const std::string& path, CDocument*& ope
 
 CDocument* CWinApp::OpenDocumentFile(const std::string& path) {
     const std::string fullPath = FullPath(path);
+    if (fullPath.empty()) { // a template would take it for a new document
+        const CFileException failure(CFileException::fileNotFound, CFileException::noOsError, path);
+        UserInterface::Get().ShowMessage(DescribeFailure(Direction::opening, path, failure));
+        return nullptr;
+    }
     CDocument* open = nullptr;
     CDocTemplate* type = FindBestTemplate(fullPath, open);
     if (!type) return nullptr;

@@ -90,7 +90,7 @@ ReplacingFile::ReplacingFile(const std::string& path) : targetPath(FullPath(path
     }
     if (!S_ISREG(info.st_mode))
         throw CFileException(CFileException::invalidFile, CFileException::noOsError, targetPath);
-    if (access(targetPath.c_str(), W_OK) != 0) ThrowErrno(targetPath);
+    if (!MayWrite(targetPath, info)) ThrowErrno(targetPath);
 }
 
 void ReplacingFile::Close() {

@@ -15,6 +15,17 @@
 #include <QStatusTipEvent>
 #include <QUrl>
 
+#include <algorithm>
+
+namespace {
+
+// The name's own bytes: QUrl::toLocalFile would replace those that are not UTF-8.
+std::string LocalPathOf(const QUrl& url) {
+    return QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()).toStdString();
+}
+
+} // namespace
+
 const CommandMap& CMDIFrameWnd::GetCommandMap() const {
     using Self = CMDIFrameWnd;
     static const CommandMap map{
@@ -103,12 +114,13 @@ void CMDIFrameWnd::closeEvent(QCloseEvent* event) {
 }
 
 void CMDIFrameWnd::dragEnterEvent(QDragEnterEvent* event) {
-    if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (std::ranges::any_of(urls, &QUrl::isLocalFile)) event->acceptProposedAction();
 }
 
 void CMDIFrameWnd::dropEvent(QDropEvent* event) {
     event->acceptProposedAction();
     activateWindow();
     for (const QUrl& url : event->mimeData()->urls())
-        if (url.isLocalFile()) CWinApp::Get().OpenDocumentFile(FromQString(url.toLocalFile()));
+        if (url.isLocalFile()) CWinApp::Get().OpenDocumentFile(LocalPathOf(url));
 }

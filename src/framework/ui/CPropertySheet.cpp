@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QTabWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -91,17 +92,24 @@ bool CPropertySheet::KillActivePage() {
     return !activePage || activePage->OnKillActive();
 }
 
-// The toolkit changes the page first and tells then.
+// The toolkit changes the page before it reports that. The old page returns first, so that it is on top while
+// it refuses to be left and its control can take the focus.
 void CPropertySheet::ActivatePage(int index) {
-    if (!KillActivePage()) {
-        const QSignalBlocker quiet(tabs);
-        tabs->setCurrentWidget(activePage);
-        return;
-    }
+    const QSignalBlocker quiet(tabs);
+    if (activePage) tabs->setCurrentWidget(activePage);
+    if (!KillActivePage()) return KeepFocus();
     activePage = pages.at(static_cast<std::size_t>(index));
+    tabs->setCurrentWidget(activePage);
     if (activePage->shown) return;
     activePage->shown = true;
     activePage->OnInitDialog();
+}
+
+// After its key for the next page the toolkit focuses the tabs, because no window is active so soon after a
+// message.
+void CPropertySheet::KeepFocus() {
+    if (QWidget* control = window()->focusWidget())
+        QTimer::singleShot(0, control, [control] { control->setFocus(); });
 }
 
 bool CPropertySheet::Apply() {

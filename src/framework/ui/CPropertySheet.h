@@ -34,6 +34,7 @@ public:
 
 private:
     void ActivatePage(int index);
+    void KeepFocus();
 
     QWidget* owner;
     QTabWidget* tabs;                   // a child of this window

@@ -2,6 +2,7 @@
 
 #include "app/ui/CommandLine.h"
 #include "app/ui/FileFilters.h"
+#include "res/CommandIds.h"
 #include "support/ui/ProgramFixture.h"
 
 #include <QDropEvent>
@@ -11,6 +12,9 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <filesystem>
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -50,25 +54,37 @@ TEST_F(CKelTavloAppTest, OffersTheTypesFilterFirst) {
 
 TEST_F(CKelTavloAppTest, OpensFilesThatAreDropped) {
     Start();
-    const std::string path = Put("floor.wal", MakeWal(8, 8));
-    QMimeData files;
-    files.setUrls({QUrl::fromLocalFile(QString::fromStdString(path)), QUrl("http://example.invalid/x.wal")});
-    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
-    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+    const std::string path = Put("caf\xE9%.wal", MakeWal(8, 8)); // not UTF-8
+    const QUrl page("http://example.invalid/x.wal");
+    const QUrl file = QUrl::fromEncoded("file://" + QByteArray::fromStdString(PathTo("caf%E9%25.wal")));
     // Drops come through the native window: it alone knows which widget they are for.
-    QCoreApplication::sendEvent(GetMainFrame().windowHandle(), &enter);
-    QCoreApplication::sendEvent(GetMainFrame().windowHandle(), &drop);
+    const auto drag = [&](const QList<QUrl>& urls) {
+        QMimeData files;
+        files.setUrls(urls);
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+        QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(GetMainFrame().windowHandle(), &enter);
+        if (enter.isAccepted()) QCoreApplication::sendEvent(GetMainFrame().windowHandle(), &drop);
+        return enter.isAccepted();
+    };
+    EXPECT_FALSE(drag({page}));
+    EXPECT_TRUE(drag({file, page}));
     QCoreApplication::processEvents();
-    EXPECT_EQ(program.GetRecentFiles().GetPaths(), std::vector<std::string>{path});
+    ASSERT_EQ(program.GetRecentFiles().GetPaths(), std::vector<std::string>{path});
+    EXPECT_TRUE(Send(ID_FILE_SAVE));
+    EXPECT_EQ(std::distance(fs::directory_iterator(PathTo("")), {}), 2) << "the settings, and the same file";
+    EXPECT_TRUE(fs::remove(path)); // the toolkit could not
 }
 
 TEST(CommandLineTest, TellsPathsFromOptions) {
-    const CommandLine line = ParseCommandLine({"keltavlo", "a.wal", "--", "-b.wal"});
-    EXPECT_EQ(line.paths, (std::vector<std::string>{"a.wal", "-b.wal"}));
+    const CommandLine line = ParseCommandLine({"keltavlo", "caf\xE9.wal", "", "--", "-b.wal"});
+    EXPECT_EQ(line.paths, (std::vector<std::string>{"caf\xE9.wal", "", "-b.wal"}));
     EXPECT_TRUE(line.error.empty());
     EXPECT_TRUE(ParseCommandLine({"keltavlo", "-platform", "offscreen", "--help"}).help);
     EXPECT_FALSE(ParseCommandLine({"keltavlo", "-reverse"}).version);
-    EXPECT_FALSE(ParseCommandLine({"keltavlo", "--bogus"}).error.empty());
+    for (const char* option : {"--bogus", "--help-all"})
+        EXPECT_FALSE(ParseCommandLine({"keltavlo", option}).error.empty()) << option;
+    EXPECT_EQ(HelpText().find("--help-all"), std::string::npos);
 }
 
 } // namespace

@@ -140,18 +140,22 @@ TEST_F(EditPropertySheetTest, RefusesValuesOutsideTheirRangesAndStays) {
     };
     Run([&](const Sheet& sheet) {
         for (const auto& [page, control, text, message] : cases) {
-            const auto refuse = [expected = message](QDialog& box) {
+            sheet.ShowPage(page);
+            auto& edit = sheet.Get<QLineEdit>(control);
+            const auto refuse = [&edit, expected = message](QDialog& box) {
                 EXPECT_TRUE(dynamic_cast<QMessageBox&>(box).text().contains(expected)) << expected;
+                EXPECT_TRUE(edit.isVisible()) << "the message is about the page on top";
                 box.accept();
             };
-            sheet.ShowPage(page);
-            const QString old = sheet.Get<QLineEdit>(control).text();
+            const QString old = edit.text();
             sheet.Type(control, text);
             const DialogAnswer refusals(refuse, refuse);
             Press(sheet.dialog, QDialogButtonBox::Ok);
             ASSERT_TRUE(sheet.dialog.isVisible());
-            sheet.ShowPage(page == 0 ? 1 : 0);
-            EXPECT_EQ(sheet.Get<QLineEdit>(control).text(), text) << "the page is not left either";
+            QTest::keyClick(&edit, Qt::Key_Tab, Qt::ControlModifier); // to the next page
+            QCoreApplication::processEvents();
+            EXPECT_EQ(edit.text(), text) << "the page is not left either";
+            EXPECT_EQ(sheet.dialog.focusWidget(), edit.focusProxy() ? edit.focusProxy() : &edit);
             sheet.Type(control, old);
         }
     });
