@@ -106,6 +106,17 @@ TEST_F(FileSystemTest, ATextureInAPackIsSavedIntoIt) {
     EXPECT_EQ(ReadFile(pack), SamplePack()) << "the file on the disk never changes";
 }
 
+TEST_F(FileSystemTest, AnotherProgramHoldsNothing) {
+    PackBuilder builder;
+    builder.Add("setup.exe", ToBytes("MZ!"));
+    for (const std::string& path :
+         {Put("other.exe", ToBytes("MZ!")), Put("p.pak", builder.Build()) + "/setup.exe"}) {
+        EXPECT_TRUE(NamesIn(path).empty()) << path;
+        EXPECT_FALSE(StatusOf(path + "/res/Quake.lmp").exists) << path;
+    }
+    EXPECT_TRUE(messages.empty());
+}
+
 TEST_F(FileSystemTest, BuiltInFilesLieBelowTheProgram) {
     const std::string program = GetModulePath();
     EXPECT_THAT(NamesIn(program), ElementsAre("res"));
@@ -115,8 +126,10 @@ TEST_F(FileSystemTest, BuiltInFilesLieBelowTheProgram) {
     EXPECT_EQ(status.attributes, CFileStatus::readOnlyAttribute | CFileStatus::hiddenAttribute);
     EXPECT_FALSE(status.modified);
     EXPECT_EQ(OpenFailure(GetBuiltInPath(quakePalette), CFile::modeReadWrite), CFileException::accessDenied);
-    const std::string link = PathTo("program link");
-    std::filesystem::create_symlink(program, link);
-    EXPECT_TRUE(StatusOf(link).browsable);
-    EXPECT_TRUE(StatusOf(link + "/res/Quake.lmp").exists);
+    for (const char* name : {"program link", "program-0.23", "program.pak"}) {
+        const std::string link = PathTo(name);
+        std::filesystem::create_symlink(program, link);
+        EXPECT_TRUE(StatusOf(link).browsable) << name;
+        EXPECT_TRUE(StatusOf(link + "/res/Quake.lmp").exists) << name;
+    }
 }
