@@ -67,7 +67,9 @@ void FileSystem::GetStatus(const std::string& path, EntryStatus& status) {
                   disk.created, disk.accessed, disk.modified};
     }
     const bool isFile = status.exists && !(status.attributes & CFileStatus::directoryAttribute);
-    if (isFile && IsFolderType(status.fullName)) status.browsable = true;
+    // Only a file of the disk can be the program; asking the disk about each entry would slow listings.
+    const std::string name = status.onDisk ? status.fullName : std::string(FileNameOf(status.fullName));
+    if (isFile && IsFolderType(name)) status.browsable = true;
 }
 
 std::unique_ptr<CFile> FileSystem::OpenFile(const std::string& path, unsigned flags,

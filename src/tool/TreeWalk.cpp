@@ -2,6 +2,7 @@
 
 #include "archives/FolderDocument.h"
 #include "framework/core/CDocTemplate.h"
+#include "framework/core/ModulePath.h"
 #include "framework/core/Path.h"
 #include "framework/core/Text.h"
 #include "resources/DocTemplateRegistry.h"
@@ -133,6 +134,6 @@ std::string TypeNameOf(const std::string& path) {
     const DocTemplateRegistry& registry = DocTemplateRegistry::Get();
     const CDocTemplate* type = registry.FindTemplate(*registry.GetDocumentClassOfName(path));
     const std::string extension = type->GetDocString(CDocTemplate::filterExt);
-    return EqualNoCase(extension, ExtensionOf(path)) ? type->GetDocString(CDocTemplate::filterName)
-                                                     : "unknown";
+    return EqualNoCase(extension, TypeExtensionOf(path)) ? type->GetDocString(CDocTemplate::filterName)
+                                                         : "unknown";
 }

@@ -31,8 +31,8 @@ const std::string& GetModulePath() {
     return TheModule().path;
 }
 
-// Every entry of a listing is asked about, so the full path is made only for a name that fits.
 bool IsModulePath(std::string_view path) {
+    if (path.empty() || !IsSeparator(path.front())) return false;
     const Module& module = TheModule();
     if (FileNameOf(path) == FileNameOf(module.path) && FullPath(path) == module.path) return true;
     struct stat info {};
