@@ -30,8 +30,9 @@ FolderDocument* OpenFolder(const std::string& path) {
     const CRuntimeClass* type = FolderTypeOf(path);
     if (!type) return nullptr;
     CDocument* document = FindOpenFolder(*type, path);
-    if (!document) document = DocTemplateRegistry::Get().OpenDocument(path);
-    return dynamic_cast<FolderDocument*>(document);
+    if (!document) return dynamic_cast<FolderDocument*>(DocTemplateRegistry::Get().OpenDocument(path));
+    auto* archive = dynamic_cast<FolderDocument*>(document);
+    return archive->Refresh() ? archive : nullptr;
 }
 
 // The archive of the disk that the path leads into.
@@ -66,7 +67,9 @@ void FileSystem::GetStatus(const std::string& path, EntryStatus& status) {
                   disk.created, disk.accessed, disk.modified};
     }
     const bool isFile = status.exists && !(status.attributes & CFileStatus::directoryAttribute);
-    if (isFile && IsFolderType(status.fullName)) status.browsable = true;
+    // Only a file of the disk can be the program; asking the disk about each entry would slow listings.
+    const std::string name = status.onDisk ? status.fullName : std::string(FileNameOf(status.fullName));
+    if (isFile && IsFolderType(name)) status.browsable = true;
 }
 
 std::unique_ptr<CFile> FileSystem::OpenFile(const std::string& path, unsigned flags,
@@ -80,6 +83,6 @@ void FileSystem::ListFolder(const std::string& path, FolderListing& listing) {
     const FolderDocument* archive = FindArchive(path);
     EntryStatus status;
     GetStatus(path, status);
-    if (status.browsable) archive = OpenFolder(path);
+    if (status.browsable) archive = OpenFolder(status.fullName);
     if (archive) archive->ListFolder(path, listing);
 }

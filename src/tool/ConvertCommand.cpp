@@ -23,37 +23,44 @@ std::string SizeOf(const Texture& texture) {
 }
 
 // Writes the document's picture under another name.
-void WritePicture(Tool& tool, TavloDocument& document, const std::string& to, bool force) {
-    if (!PrepareOutput(tool, to, force)) return;
+void WritePicture(Tool& tool, TavloDocument& document, const std::string& to, OutputPlace& outputs) {
+    if (!outputs.Prepare(to)) return;
     const std::string before = SizeOf(document.GetTexture());
     if (!document.OnSaveDocument(to)) return; // the application has said why
+    outputs.AddWritten(to);
     const std::string after = SizeOf(document.GetTexture());
     if (after != before)
         tool.Note("\"" + ToDisplayPath(to) + "\" was made " + after + " from " + before +
                   " to fit the games.");
 }
 
-void ConvertPicture(Tool& tool, const std::string& from, const std::string& to, bool force) {
-    auto* document = dynamic_cast<TavloDocument*>(tool.GetApplication().OpenDocumentFile(from));
-    if (!document) return;
-    WritePicture(tool, *document, to, force);
+void ConvertPicture(Tool& tool, const std::string& from, const std::string& to, OutputPlace& outputs) {
+    CDocument* document = tool.GetApplication().OpenDocumentFile(from);
+    if (!document) return; // the application has said why
+    if (auto* picture = dynamic_cast<TavloDocument*>(document))
+        WritePicture(tool, *picture, to, outputs);
+    else
+        tool.Fail("\"" + ToDisplayPath(from) + "\" is not a picture.");
     document->OnCloseDocument();
 }
 
 void ConvertTree(Tool& tool, const std::string& tree, const std::string& folder,
                  const ToolArguments& arguments) {
-    WalkTree(tool, tree, [&](const std::string& path, const std::string& name) {
+    OutputPlace outputs(tool, arguments.force);
+    for (const auto& [path, name] : ListTree(tool, tree, outputs)) {
         tool.ShowProgress(name);
-        if (!CodecOfName(name)) return tool.Note("\"" + name + "\" is no picture and was left out.");
         const std::string stem = name.substr(0, name.size() - ExtensionOf(name).size());
-        ConvertPicture(tool, path, folder + "/" + stem + arguments.format, arguments.force);
-    });
+        if (CodecOfName(name))
+            ConvertPicture(tool, path, JoinPath(folder, stem + arguments.format), outputs);
+        else
+            tool.Note("Skipped \"" + name + "\": not a picture.");
+    }
 }
 
 } // namespace
 
 void Convert(Tool& tool, const ToolArguments& arguments) {
-    const std::string from = FullPath(arguments.paths[0]);
+    const std::string from = TreePath(arguments.paths[0]);
     const std::string to = FullPath(arguments.paths[1]);
     EntryStatus status;
     tool.GetApplication().GetFileSystem().GetStatus(from, status);
@@ -64,6 +71,8 @@ void Convert(Tool& tool, const ToolArguments& arguments) {
     } else {
         if (!CodecOfName(to))
             throw UsageError("The name of the output must end in .wal, .mip, .pcx, .tga or .bmp.");
-        ConvertPicture(tool, from, to, arguments.force);
+        OutputPlace outputs(tool, arguments.force);
+        outputs.AddInput(from);
+        ConvertPicture(tool, from, to, outputs);
     }
 }

@@ -21,10 +21,9 @@ std::vector<std::byte> ReadAll(Tool& tool, const std::string& path) {
     return bytes;
 }
 
-void ExtractFile(Tool& tool, const std::string& path, const std::string& target, bool force) {
-    if (!PrepareOutput(tool, target, force)) return;
+void ExtractFile(Tool& tool, const std::string& path, const std::string& target, OutputPlace& outputs) {
     try {
-        WriteOutput(tool, target, ReadAll(tool, path));
+        outputs.Write(target, ReadAll(tool, path));
     } catch (const std::exception& failure) {
         tool.Fail(DescribeFailure(Direction::opening, path, failure));
     }
@@ -43,7 +42,7 @@ std::vector<std::byte> ToTarga(const Image& picture) {
 
 // Writes each texture that the model carries, numbered from 1: the file does not say which names are theirs
 // to keep.
-void ExtractTextures(Tool& tool, const std::string& path, const std::string& folder, bool force) {
+void ExtractTextures(Tool& tool, const std::string& path, const std::string& folder, OutputPlace& outputs) {
     auto* model = dynamic_cast<MDLDocument*>(tool.GetApplication().OpenDocumentFile(path));
     if (!model) return; // the application has said why
     const std::string stem = folder + "/" + std::string(BaseNameOf(path)) + "_";
@@ -52,8 +51,8 @@ void ExtractTextures(Tool& tool, const std::string& path, const std::string& fol
         const std::string target = stem + std::to_string(++number) + ".tga";
         if (texture.Pixels().empty())
             tool.Note("\"" + ToDisplayPath(target) + "\" would have no pixels and was left out.");
-        else if (PrepareOutput(tool, target, force))
-            WriteOutput(tool, target, ToTarga(texture));
+        else
+            outputs.Write(target, ToTarga(texture));
     }
     if (number == 0) tool.Note("\"" + ToDisplayPath(path) + "\" carries no textures.");
     model->OnCloseDocument();
@@ -61,24 +60,26 @@ void ExtractTextures(Tool& tool, const std::string& path, const std::string& fol
 
 // A file of an archive, and the textures of a model wherever it lies.
 void ExtractOne(Tool& tool, const std::string& path, const EntryStatus& status, const std::string& folder,
-                bool force) {
+                OutputPlace& outputs) {
+    outputs.AddInput(path);
     const bool isModel = EqualNoCase(ExtensionOf(path), ".mdl");
-    if (isModel) ExtractTextures(tool, path, folder, force);
+    if (isModel) ExtractTextures(tool, path, folder, outputs);
     if (!isModel || !status.onDisk)
-        ExtractFile(tool, path, folder + "/" + std::string(FileNameOf(path)), force);
+        ExtractFile(tool, path, folder + "/" + std::string(FileNameOf(path)), outputs);
 }
 
 } // namespace
 
 void Extract(Tool& tool, const ToolArguments& arguments) {
-    const std::string path = FullPath(arguments.paths[0]);
+    const std::string path = TreePath(arguments.paths[0]);
     const std::string folder = FullPath(arguments.paths[1]);
     EntryStatus status;
     tool.GetApplication().GetFileSystem().GetStatus(path, status);
     if (!status.exists) return tool.Fail("\"" + ToDisplayPath(path) + "\" was not found.");
-    if (!IsTree(status)) return ExtractOne(tool, path, status, folder, arguments.force);
-    WalkTree(tool, path, [&](const std::string& file, const std::string& name) {
+    OutputPlace outputs(tool, arguments.force);
+    if (!IsTree(status)) return ExtractOne(tool, FullPath(path), status, folder, outputs);
+    for (const auto& [file, name] : ListTree(tool, path, outputs)) {
         tool.ShowProgress(name);
-        ExtractFile(tool, file, folder + "/" + name, arguments.force);
-    });
+        ExtractFile(tool, file, JoinPath(folder, name), outputs);
+    }
 }

@@ -9,7 +9,7 @@
 
 void ListFolder(Tool& tool, const ToolArguments& arguments) {
     FileSystem& files = tool.GetApplication().GetFileSystem();
-    const std::string folder = FullPath(arguments.paths.front());
+    const std::string folder = TreePath(arguments.paths.front());
     EntryStatus status;
     files.GetStatus(folder, status);
     FolderListing listing;

@@ -33,7 +33,7 @@ void PrintHelp(std::ostream& out) {
         out << "  " << row.name << " " << row.arguments << "\n      " << row.help << "\n";
     out << "\nOptions:\n"
            "  --to FORMAT   wal, mip, pcx, tga or bmp\n"
-           "  --force       write over files that exist\n"
+           "  --force       overwrite files that exist\n"
            "  --help        show this text\n"
            "  --version     show the version\n"
            "\nPaths lead into archives as if these were folders. The exit code is 0 when all went well.\n";

@@ -2,9 +2,11 @@
 
 #include "archives/FolderDocument.h"
 #include "framework/core/CDocTemplate.h"
+#include "framework/core/ModulePath.h"
 #include "framework/core/Path.h"
 #include "framework/core/Text.h"
 #include "resources/DocTemplateRegistry.h"
+#include "tool/OutputPlace.h"
 #include "tool/Tool.h"
 
 #include <algorithm>
@@ -14,8 +16,6 @@
 namespace {
 
 namespace fs = std::filesystem;
-
-using Visitor = std::function<void(const std::string& path, const std::string& name)>;
 
 bool IsFolder(const EntryStatus& status) {
     return (status.attributes & CFileStatus::directoryAttribute) != 0;
@@ -42,41 +42,98 @@ std::vector<std::string> NamesIn(Tool& tool, const std::string& folder, const En
     return listing.names;
 }
 
-void WalkFolder(Tool& tool, const std::string& folder, const std::string& prefix, const EntryStatus& status,
-                const Visitor& visit) {
-    std::set<std::string> seen;
-    for (const std::string& name : NamesIn(tool, folder, status)) {
-        const std::string relative = prefix + name;
-        const std::string path = JoinPath(folder, name);
-        EntryStatus child;
-        tool.GetApplication().GetFileSystem().GetStatus(path, child);
-        if (!StaysInside(name))
-            tool.Fail("\"" + relative + "\" would lead out of the folder and was left out.");
-        else if (!seen.insert(status.onDisk && !status.browsable ? name : FoldCase(name)).second)
-            tool.Note("\"" + relative + "\" stands there a second time; the first one counts.");
-        else if (IsFolder(child))
-            WalkFolder(tool, path, relative + "/", child, visit);
-        else
-            visit(path, relative);
+// Names for the entries of one folder, each used once. Archives do not tell capitals apart.
+class NewNames {
+public:
+    explicit NewNames(const std::vector<std::string>& names) {
+        for (const std::string& name : names) all.insert(FoldCase(WithoutSeparator(name)));
     }
-}
+    static std::string WithoutSeparator(const std::string& name) {
+        return name.substr(0, name.size() - (name.ends_with('/') ? 1 : 0));
+    }
+    // The name itself if it is still free, else one with a number.
+    std::string Take(const std::string& name) {
+        if (used.insert(FoldCase(name)).second) return name;
+        const std::string_view extension = ExtensionOf(name);
+        const std::string stem = name.substr(0, name.size() - extension.size()) + "_";
+        std::string numbered = name;
+        for (int i = 2; !all.insert(FoldCase(numbered)).second; ++i)
+            numbered = (stem + std::to_string(i)).append(extension);
+        return numbered;
+    }
+
+private:
+    std::set<std::string> all, used;
+};
+
+// Walks a tree and gathers its files.
+class TreeWalk {
+public:
+    TreeWalk(Tool& reportingTool, OutputPlace& outputPlace) : tool(reportingTool), outputs(outputPlace) {}
+
+    void Walk(const std::string& folder, const std::string& prefix, const EntryStatus& status) {
+        const std::vector<std::string> names = NamesIn(tool, folder, status);
+        if (status.onDisk && !status.browsable) {
+            for (const std::string& name : names) Add(JoinPath(folder, name), prefix, name, name);
+            return;
+        }
+        std::set<std::string> seen;
+        NewNames newNames(names);
+        for (const std::string& name : names) {
+            const std::string plain = NewNames::WithoutSeparator(name);
+            if (seen.insert(FoldCase(name)).second)
+                Add(JoinPath(folder, name), prefix, plain, newNames.Take(plain));
+            else
+                NoteDuplicate(prefix + name);
+        }
+    }
+
+    std::vector<TreeFile> found;
+
+private:
+    void NoteDuplicate(const std::string& name) { tool.Note("Skipped a second \"" + name + "\"."); }
+
+    void Add(const std::string& path, const std::string& prefix, const std::string& name,
+             const std::string& newName) {
+        if (!StaysInside(name))
+            return tool.Fail("Skipped \"" + prefix + name + "\": it would lead out of the folder.");
+        if (newName != name)
+            tool.Note("A file and a folder are called \"" + prefix + name + "\"; the second becomes \"" +
+                      prefix + newName + "\".");
+        EntryStatus status;
+        tool.GetApplication().GetFileSystem().GetStatus(path, status);
+        if (IsFolder(status)) return Walk(path, prefix + newName + "/", status);
+        outputs.AddInput(path);
+        found.push_back({path, prefix + newName});
+    }
+
+    Tool& tool;
+    OutputPlace& outputs;
+};
 
 } // namespace
+
+std::string TreePath(const std::string& argument) {
+    const bool ended = !argument.empty() && IsSeparator(argument.back());
+    return ended ? JoinPath(FullPath(argument), {}) : FullPath(argument);
+}
 
 bool IsTree(const EntryStatus& status) {
     return status.exists && (status.browsable || IsFolder(status));
 }
 
-void WalkTree(Tool& tool, const std::string& tree, const Visitor& visit) {
+std::vector<TreeFile> ListTree(Tool& tool, const std::string& tree, OutputPlace& outputs) {
     EntryStatus status;
     tool.GetApplication().GetFileSystem().GetStatus(tree, status);
-    WalkFolder(tool, tree, {}, status, visit);
+    TreeWalk walk(tool, outputs);
+    walk.Walk(tree, {}, status);
+    return std::move(walk.found);
 }
 
 std::string TypeNameOf(const std::string& path) {
     const DocTemplateRegistry& registry = DocTemplateRegistry::Get();
     const CDocTemplate* type = registry.FindTemplate(*registry.GetDocumentClassOfName(path));
     const std::string extension = type->GetDocString(CDocTemplate::filterExt);
-    return EqualNoCase(extension, ExtensionOf(path)) ? type->GetDocString(CDocTemplate::filterName)
-                                                     : "unknown";
+    return EqualNoCase(extension, TypeExtensionOf(path)) ? type->GetDocString(CDocTemplate::filterName)
+                                                         : "unknown";
 }

@@ -2,20 +2,30 @@
 
 #include "resources/FileSource.h"
 
-#include <functional>
 #include <string>
+#include <vector>
 
+class OutputPlace;
 class Tool;
+
+// The full path of an argument. A separator at its end stays: in an archive it picks the folder where a file
+// has the same name.
+std::string TreePath(const std::string& argument);
 
 // Whether a path is a folder of the disk or an archive, an archive's folder or an archive.
 bool IsTree(const EntryStatus& status);
 
-// Calls `visit` for every file below a folder of the disk or of an archive, with its path and its name below
-// the tree
-// ("a/b.wal"). Archives within the tree count as files. A name that would lead out of the tree is reported
-// and left out, as is a second entry of one name, which no path reaches.
-void WalkTree(Tool& tool, const std::string& tree,
-              const std::function<void(const std::string& path, const std::string& name)>& visit);
+// A file below a tree.
+struct TreeFile {
+    std::string path;
+    std::string name; // what to call it below another folder: "a/b.wal"
+};
+
+// Every file below a folder of the disk or of an archive; each becomes an input of `outputs`. Archives within
+// the tree count as files. Skips, and reports, a name that would lead out of the tree, and a second file of
+// one name in an archive, because no path reaches it. Of a file and a folder of one name, the second gets
+// another name, which a note tells.
+std::vector<TreeFile> ListTree(Tool& tool, const std::string& tree, OutputPlace& outputs);
 
 // What people call the type that the path would open as, such as "Quake II Texture Files (*.wal)".
 std::string TypeNameOf(const std::string& path);
