@@ -18,6 +18,7 @@
 namespace {
 
 constexpr std::size_t paletteSize = 256;
+constexpr std::size_t cacheSlots = 1021; // a prime, so that ramps of one channel spread well
 
 ColorList MakePalette(Color alphaBits) {
     std::mt19937 random(1);
@@ -52,10 +53,11 @@ void Fill(Picture& picture, const std::vector<Color>& pixels) {
 }
 
 void FindPlainly(const ColorList& list, std::span<const Color> pixels, std::span<std::uint8_t> indices) {
-    const NearestColorCacheScope cacheScope(list);
+    list.CreateCache(cacheSlots);
     std::ranges::transform(pixels, indices.begin(), [&](Color color) {
         return static_cast<std::uint8_t>(list.FindNearestIndex(color));
     });
+    list.DestroyCache();
 }
 
 void FindFast(const ColorList& list, std::span<const Color> pixels, std::span<std::uint8_t> indices) {
@@ -88,8 +90,9 @@ void NearestAlphas(benchmark::State& state) {
 }
 
 void DiffuseRowsPlainly(Image& picture, const ColorList& list) {
-    const NearestColorCacheScope cacheScope(list);
+    list.CreateCache(cacheSlots);
     for (int y = 0; y < picture.GetHeight(); ++y) DiffusePlainly(picture.Row(y), list);
+    list.DestroyCache();
 }
 
 void DiffuseFast(Image& picture, const ColorList& list) {

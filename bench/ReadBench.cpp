@@ -81,7 +81,7 @@ std::string PutIndexedBitmap(const std::string& name) {
         std::mt19937 random(3);
         for (std::size_t i = 0; i < bitmap.GetImageSize(); ++i)
             bitmap.GetBits()[i] = static_cast<std::uint8_t>(random());
-        WriteDib(out, DibForm::file, bitmap);
+        bitmap.WriteStream(out, true);
     });
 }
 

@@ -85,7 +85,7 @@ Outcome ReadDocument(ByteSpan bytes, Buffering buffering) {
 Outcome ReadClipboardBitmap(ByteSpan bytes, Buffering buffering) {
     return WithStream(bytes, buffering, [](InputStream& in, Digest& digest) {
         Image picture;
-        ReadDib(in, DibForm::clipboard, picture);
+        ReadDib(in, false, picture);
         digest.Add(picture);
     });
 }

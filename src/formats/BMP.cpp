@@ -6,12 +6,12 @@
 #include "resources/streams/OutputStream.h"
 
 void ReadBMP(InputStream& in, Texture& texture, const ColorList*) {
-    ReadDib(in, DibForm::file, texture);
+    ReadDib(in, true, texture);
 }
 
 void WriteBMP(OutputStream& out, const Texture& texture, const ColorList*) {
     if (texture.Pixels().empty()) out.Fail(StreamError::badIndex);
     DibSection bitmap(texture.GetWidth(), texture.GetHeight(), 32);
     texture.RenderTo(bitmap, IdentityTransform{});
-    WriteDib(out, DibForm::file, bitmap);
+    bitmap.WriteStream(out, true);
 }

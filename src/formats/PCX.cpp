@@ -51,27 +51,46 @@ constexpr bool IsRun(unsigned byte) {
 
 // The end of a file with a palette.
 constexpr std::uint8_t paletteMark = 12;
+constexpr std::size_t paletteSize = 256; // colors
 struct Trailer {
     std::uint8_t mark;
-    std::array<std::uint8_t, 256 * rgbTripleSize> colors;
+    std::array<std::uint8_t, paletteSize * rgbTripleSize> colors;
 };
 static_assert(sizeof(Trailer) == 769);
+
+// Whether the fields make sense, also those of kinds that cannot be read.
+bool IsPcx(const Header& header) {
+    return header.encoding <= runLengthEncoding && header.bitsPerPixel > 0 && header.planes > 0 &&
+           header.Width() > 0 && header.Height() > 0 &&
+           std::uint64_t{header.bytesPerLine} * 8 >=
+               static_cast<std::uint64_t>(header.Width()) * header.bitsPerPixel;
+}
+
+// Empty for a kind that can be read.
+std::string RefusalOf(const Header& header) {
+    if (header.encoding != runLengthEncoding) return "Uncompressed PCX pictures are not supported.";
+    const int depth = header.bitsPerPixel * header.planes;
+    if (depth != 8) return std::to_string(depth) + "-bit PCX pictures are not supported.";
+    if (header.planes != 1) return "PCX pictures of several planes are not supported.";
+    if (header.bytesPerLine % 2 != 0)
+        return "PCX pictures with an odd number of bytes a row are not supported.";
+    return {};
+}
 
 // In this order: the first fault decides what the user is told.
 void CheckHeader(const InputStream& in, const Header& header) {
     if (header.manufacturer != expectedManufacturer) in.Fail(StreamError::badClass);
     if (header.version != expectedVersion) in.Fail(StreamError::badSchema);
-    const bool isReadable = header.encoding == runLengthEncoding && header.bitsPerPixel == 8 &&
-                            header.planes == 1 && header.bytesPerLine % 2 == 0;
-    const bool hasPicture = header.Width() > 0 && header.Height() > 0 &&
-                            header.LineSize() >= static_cast<std::size_t>(header.Width());
-    if (!isReadable || !hasPicture) in.Fail(StreamError::badIndex);
+    if (!IsPcx(header)) in.Fail(StreamError::badIndex);
+    const std::string refusal = RefusalOf(header);
+    if (!refusal.empty()) in.Fail(StreamError::badIndex, refusal);
 }
 
-// A row takes at least so many bytes, however well it is coded.
+// A row takes at least so many bytes, however well it is coded: two for a run, one for a single byte.
 void CheckLength(const InputStream& in, const Header& header) {
-    const std::uint64_t runs = (header.LineSize() + maximumRun - 1) / maximumRun;
-    if (2 * runs * static_cast<std::uint64_t>(header.Height()) > in.GetRemaining())
+    const std::uint64_t rowBytes =
+        2 * (header.LineSize() / maximumRun) + std::min<std::size_t>(header.LineSize() % maximumRun, 2);
+    if (rowBytes * static_cast<std::uint64_t>(header.Height()) > in.GetRemaining())
         in.Fail(StreamError::endOfFile);
 }
 
@@ -113,6 +132,13 @@ void ReadLine(ByteReader& reader, const InputStream& in, std::span<std::uint8_t>
         }
         reader.Take(used);
     }
+}
+
+// The end of a file is a palette only when it is a full one.
+void CheckColors(const OutputStream& out, const ColorList& colors) {
+    if (colors.GetCount() == paletteSize) return;
+    out.Fail(StreamError::badIndex, "A PCX file needs a palette of 256 colors, and this picture's has " +
+                                        std::to_string(colors.GetCount()) + ".");
 }
 
 Header HeaderOf(const Texture& texture, const ColorList& colors) {
@@ -176,7 +202,7 @@ void WritePCX(OutputStream& out, const Texture& texture, const ColorList* palett
     const ColorList& colors = PaletteOf(texture, palette);
     if (texture.GetWidth() < 1 || texture.GetWidth() > maximumWidth || texture.GetHeight() < 1)
         out.Fail(StreamError::badIndex);
-    CheckPalette(out, colors);
+    CheckColors(out, colors);
     const Header header = HeaderOf(texture, colors);
     out.Write(&header, sizeof header);
     WriteLines(out, texture, colors);

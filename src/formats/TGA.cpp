@@ -1,5 +1,6 @@
 #include "formats/TGA.h"
 
+#include "framework/core/Exceptions.h"
 #include "image/picture/BgrPixels.h"
 #include "image/picture/StoredRows.h"
 #include "image/picture/Texture.h"
@@ -12,8 +13,15 @@
 
 namespace {
 
-constexpr std::uint8_t noPicture = 0;
-constexpr std::uint8_t trueColor = 2;
+enum ImageType : std::uint8_t {
+    noPicture = 0,
+    colorMapped = 1,
+    trueColor = 2,
+    gray = 3,
+    colorMappedRuns = 9,
+    trueColorRuns = 10,
+    grayRuns = 11
+};
 constexpr std::uint8_t columnsFromRight = 0x10; // in the descriptor
 constexpr std::uint8_t rowsFromTop = 0x20;
 constexpr std::uint8_t eightAlphaBits = 8;
@@ -53,6 +61,9 @@ struct Footer {
 static_assert(offsetof(Footer, nul) == Footer::storedSize - 1);
 
 void CheckFooter(InputStream& in) {
+    if (in.GetLength() < Footer::storedSize)
+        throw CFileException(CFileException::badSeek, in.GetName(),
+                             CArchiveException(CArchiveException::endOfFile).what());
     Footer footer;
     in.Seek(-static_cast<std::int64_t>(Footer::storedSize), CFile::From::end);
     in.Read(&footer, Footer::storedSize);
@@ -63,12 +74,42 @@ std::uint64_t PictureBytes(const Header& header, std::uint64_t pixelBytes) {
     return pixelBytes * header.width * header.height;
 }
 
-// A picture without pixels costs its writer nothing, so it may not claim much.
-bool IsReadable(const Header& header) {
+// Whether the fields make sense, also those of kinds that cannot be read. A picture without pixels costs its
+// writer nothing, so it may not claim much.
+bool IsTarga(const Header& header) {
     constexpr std::uint64_t maximumEmptyPicture = std::uint64_t{16} << 20;
     if (header.width == 0 || header.height == 0 || header.colorMapType > 1) return false;
     if (header.imageType == noPicture) return PictureBytes(header, sizeof(Color)) <= maximumEmptyPicture;
-    return header.imageType == trueColor && (header.depth == 24 || header.depth == 32);
+    constexpr int trueColorDepths[] = {15, 16, 24, 32};
+    return header.imageType != trueColor ||
+           std::ranges::find(trueColorDepths, header.depth) != std::end(trueColorDepths);
+}
+
+// Empty for a kind that can be read.
+std::string RefusalOf(const Header& header) {
+    switch (header.imageType) {
+    case noPicture:
+        return {};
+    case trueColor:
+        if (header.depth >= 24) return {};
+        return std::to_string(header.depth) + "-bit Targa pictures are not supported.";
+    case colorMapped:
+        return "Color-mapped Targa pictures are not supported.";
+    case gray:
+        return "Gray Targa pictures are not supported.";
+    case colorMappedRuns:
+    case trueColorRuns:
+    case grayRuns:
+        return "Run-length encoded Targa pictures are not supported.";
+    default:
+        return "This kind of Targa picture is not supported.";
+    }
+}
+
+void CheckHeader(const InputStream& in, const Header& header) {
+    if (!IsTarga(header)) in.Fail(StreamError::badIndex);
+    const std::string refusal = RefusalOf(header);
+    if (!refusal.empty()) in.Fail(StreamError::badIndex, refusal);
 }
 
 void ReadPixels(InputStream& in, const Header& header, Image& picture) {
@@ -106,7 +147,7 @@ void ReadTGA(InputStream& in, Texture& texture, const ColorList*) {
     in.Seek(0);
     Header header;
     in.Read(&header, sizeof header);
-    if (!IsReadable(header)) in.Fail(StreamError::badIndex);
+    CheckHeader(in, header);
     if (header.imageType == noPicture) {
         texture.SetSize(header.width, header.height);
         std::ranges::fill(texture.Pixels(), Color{0});

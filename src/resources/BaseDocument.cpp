@@ -5,6 +5,7 @@
 #include "res/CommandIds.h"
 #include "resources/DocTemplateRegistry.h"
 #include "resources/FileSource.h"
+#include "resources/ForeignFile.h"
 #include "resources/Shell.h"
 #include "resources/streams/ArchiveStream.h"
 
@@ -91,10 +92,14 @@ void BaseDocument::ReleaseReference(BaseDocument*) {}
 
 void BaseDocument::Serialize(CArchive& archive) {
     ArchiveStream stream(archive);
-    if (archive.IsStoring())
-        WriteContents(stream);
-    else
+    if (archive.IsStoring()) return WriteContents(stream);
+    try {
         ReadContents(stream);
+    } catch (const CArchiveException& failure) {
+        const std::string refusal = DescribeForeignFile(stream);
+        if (refusal.empty()) throw;
+        throw CArchiveException(failure.cause, failure.fileName, refusal);
+    }
 }
 
 const CommandMap& BaseDocument::GetCommandMap() const {

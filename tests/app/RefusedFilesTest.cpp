@@ -30,20 +30,28 @@ const Damage damages[] = {
     {"mip", {24}, {all}, tooShort}, // where the first level lies
     {"pcx", {0}, {11}, badFormat, 1},
     {"pcx", {1}, {3}, badVersion, 1},
-    {"pcx", {2}, {0}, badIndex, 1},        // not coded
-    {"pcx", {3}, {4}, badIndex, 1},        // bits
-    {"pcx", {4}, {8}, badIndex, 2},        // no column
-    {"pcx", {6}, {0xFFFF}, badIndex, 2},   // no row
-    {"pcx", {8}, {8}, badIndex, 2},        // more columns than a row holds
-    {"pcx", {10}, {0xFFFF}, tooShort, 2},  // the most that the fields can claim
-    {"pcx", {65}, {3}, badIndex, 1},       // planes
-    {"pcx", {66}, {3, 6, 9}, badIndex, 2}, // bytes of a row
-    {"tga", {1}, {2, 255}, badIndex, 1},   // the colour map
-    {"tga", {2}, {1, 3, 4, 9, 10, 11, 32, 255}, badIndex, 1},
+    {"pcx", {2}, {0}, "Uncompressed", 1},
+    {"pcx", {2}, {2}, badIndex, 1},
+    {"pcx", {3}, {4}, "4-bit PCX", 1},
+    {"pcx", {3, 65}, {0}, badIndex, 1},
+    {"pcx", {4}, {8}, badIndex, 2},       // no column
+    {"pcx", {6}, {0xFFFF}, badIndex, 2},  // no row
+    {"pcx", {8}, {8}, badIndex, 2},       // more columns than a row holds
+    {"pcx", {10}, {0xFFFF}, tooShort, 2}, // the most that the fields can claim
+    {"pcx", {65}, {3}, "24-bit PCX", 1},  // planes
+    {"pcx", {66}, {9}, "odd number", 2},  // bytes of a row
+    {"pcx", {66}, {3, 6}, badIndex, 2},
+    {"tga", {1}, {2, 255}, badIndex, 1}, // the color map
+    {"tga", {2}, {1}, "Color-mapped Targa", 1},
+    {"tga", {2}, {3}, "Gray Targa", 1},
+    {"tga", {2}, {9, 10, 11}, "Run-length encoded Targa", 1},
+    {"tga", {2}, {4, 32, 255}, "not supported", 1},
     {"tga", {12, 14}, {0}, badIndex, 2},
     {"tga", {14}, {0xFFFF}, tooShort, 2},
-    {"tga", {16}, {0, 1, 8, 15, 16, 23, 33, 255}, badIndex, 1}, // bits
-    {"tga", {234, 235}, {1}, badIndex, 1},                      // the footer's dot and NUL
+    {"tga", {16}, {15}, "15-bit Targa", 1},
+    {"tga", {16}, {16}, "16-bit Targa", 1},
+    {"tga", {16}, {0, 1, 8, 23, 33, 255}, badIndex, 1},
+    {"tga", {234, 235}, {1}, badIndex, 1}, // the footer's dot and NUL
     {"wal", {32, 36}, {0, 63, 260, 264, 0xFFFFFFF8}, badIndex},
     {"wal", {40}, {185 - 63, all}, tooShort}, // where the first level lies
     // Of archives, the last values are those that lead one byte too far.
@@ -81,9 +89,9 @@ struct Ending {
 };
 
 const Ending endings[] = {
-    {"bmp", 1, 0, tooShort},   {"mip", 1, 21, tooShort}, {"pcx", 1, 0, tooShort},
-    {"tga", 26, 26, tooShort}, {"wal", 1, 21, tooShort}, {"pak", 1, 0, tooShort},
-    {"wad", 1, 0, tooShort},   {"md2", 1, 0, tooShort},  {"mdl", 1, 0, badIndex},
+    {"bmp", 1, 0, tooShort},  {"mip", 1, 21, tooShort}, {"pcx", 1, 0, tooShort},
+    {"tga", 1, 26, tooShort}, {"wal", 1, 21, tooShort}, {"pak", 1, 0, tooShort},
+    {"wad", 1, 0, tooShort},  {"md2", 1, 0, tooShort},  {"mdl", 1, 0, badIndex},
 };
 
 class RefusedFiles : public WorkshopTest {
@@ -107,6 +115,18 @@ TEST_F(RefusedFiles, HaveTheirSentences) {
                 std::memcpy(&bytes.at(offset), &value, width);
                 EXPECT_THAT(Try(bytes, type), testing::HasSubstr(message)) << type << offset << ": " << value;
             }
+}
+
+TEST_F(RefusedFiles, AreNamedWhenNothingReadsTheirKind) {
+    for (const auto& [start, kind] :
+         {std::pair("\x89PNG\r\n\x1A\n", "PNG"), {"IDPO\x06\0\0\0", "Quake model"}})
+        for (const std::string type :
+             {"bmp", "mip", "pcx", "tga", "wal", "pak", "wad", "md2", "mdl", "kelbrush"}) {
+            Bytes bytes(3000, std::byte{0xAB});
+            std::memcpy(bytes.data(), start, 8);
+            EXPECT_THAT(Try(bytes, type), testing::HasSubstr(kind)) << type;
+            EXPECT_EQ(Try(CutTo(bytes, 7), type).find(kind), std::string::npos) << type;
+        }
 }
 
 TEST_F(RefusedFiles, EndEarly) {

@@ -62,6 +62,21 @@ TEST_F(PCXTest, RunsStayWithinTheirRow) {
     EXPECT_EQ(pcx.ReadFailure(FileOf(4, 1, {1, 2, 3, 0xC1})), CArchiveException::endOfFile);
 }
 
+TEST_F(PCXTest, RowsMayBeCodedInTheFewestBytes) {
+    constexpr int longestRun = 63;
+    for (std::uint16_t width = 2; width <= 520; width += 2) {
+        Bytes bytes = FileOf(width, 3, {});
+        for (int y = 0; y < 3; ++y)
+            for (int left = width; left > 0; left -= longestRun) {
+                if (left > 1) bytes.push_back(static_cast<std::byte>(0xC0 + std::min(left, longestRun)));
+                bytes.push_back(std::byte{7});
+            }
+        EXPECT_THAT(pcx.Read(bytes).Pixels(), testing::Each(CodecHarness::Palette()[7])) << width;
+        bytes.pop_back();
+        EXPECT_EQ(pcx.ReadFailure(bytes), CArchiveException::endOfFile) << width;
+    }
+}
+
 TEST_F(PCXTest, AFileWithoutAPaletteGetsTheDefaultOne) {
     // A file of 769 bytes has no room for one, whatever it starts with; one byte more and it has.
     Bytes bytes = FileOf(2, 1, {1, 2});
@@ -72,13 +87,13 @@ TEST_F(PCXTest, AFileWithoutAPaletteGetsTheDefaultOne) {
     EXPECT_EQ(*pcx.Read(bytes).palette, ColorList(std::vector<Color>(256, 0xFF000000)));
 }
 
-TEST_F(PCXTest, ShortPalettesEndInBlackAndLongOnesAreRefused) {
-    Texture texture = RandomTexture(2, 2, ColorList{0xFF102030});
-    texture.SetPalette(ColorList{0xFF102030});
-    const Texture back = pcx.Read(pcx.Write(texture));
-    EXPECT_EQ(back.palette->GetColor(0), 0xFF102030U);
-    EXPECT_EQ(back.palette->GetColor(255), 0xFF000000U);
-    texture.SetPalette(ColorList(257));
-    EXPECT_EQ(pcx.WriteFailure(texture), CArchiveException::badIndex);
+TEST_F(PCXTest, WritesPalettesOf256ColorsOnly) {
+    Texture texture(2, 2);
+    for (const std::size_t count : {0U, 1U, 16U, 255U, 257U}) {
+        texture.SetPalette(ColorList(count));
+        EXPECT_EQ(pcx.WriteFailure(texture), CArchiveException::badIndex) << count;
+        EXPECT_THAT([&] { pcx.Write(texture); },
+                    testing::ThrowsMessage<CArchiveException>(testing::HasSubstr("256 colors")));
+    }
     EXPECT_EQ(pcx.WriteFailure(Texture(65535, 1)), CArchiveException::badIndex) << "no even number of bytes";
 }

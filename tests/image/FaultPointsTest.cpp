@@ -163,7 +163,7 @@ protected:
         texture.SetSize(side, side);
         for (Color color = 0xFF000000; Color & pixel : texture.Pixels()) pixel = color += 0x10305;
         texture.quake2.name = "a name that takes memory of its own";
-        texture.SetPalette(ColorList{0xFF000000, 0xFFFFFFFF});
+        texture.SetPalette(CodecHarness::Palette());
         document.SetModifiedFlag();
         return document;
     }

@@ -7,9 +7,6 @@
 
 namespace {
 
-// Below this many pixels arranging a table costs more than it saves.
-constexpr std::size_t fewPixels = 256;
-
 void MapByLookups(const std::uint32_t* table256, std::span<const Color> input, std::span<Color> output) {
     std::ranges::transform(input, output.begin(), ChannelTableTransform{table256});
 }
@@ -62,14 +59,6 @@ void ChannelTable::Apply(std::span<const Color> input, std::span<Color> output) 
     }
     const std::size_t done = ApplyByVectors(input, output);
     MapByLookups(words.data(), input.subspan(done), output.subspan(done));
-}
-
-void ApplyChannelTable(const std::uint32_t* table256, std::span<const Color> input, std::span<Color> output) {
-    if (input.size() < fewPixels) {
-        MapByLookups(table256, input, output);
-    } else {
-        ChannelTable(table256).Apply(input, output);
-    }
 }
 
 std::array<std::uint32_t, 256> HalveBrightness(const std::uint32_t* table256) {

@@ -50,7 +50,3 @@ private:
 
 // The table (256 entries) for red, green and blue that are halved first; alpha goes through it as it is.
 std::array<std::uint32_t, 256> HalveBrightness(const std::uint32_t* table256);
-
-// Maps the pixels through a table of 256 entries that is used once; whoever has many rows keeps a
-// ChannelTable.
-void ApplyChannelTable(const std::uint32_t* table256, std::span<const Color> input, std::span<Color> output);

@@ -14,9 +14,6 @@ class NearestColorCache;
 // cache.
 class ColorList {
 public:
-    // Slots that every conversion and writer asks for: a prime, so that ramps of one channel spread well.
-    static constexpr std::size_t defaultSlotCount = 1021;
-
     ColorList();
     // A list of that many entries, all 0.
     explicit ColorList(std::size_t count);
@@ -42,7 +39,7 @@ public:
 
     // Remembers lookups until DestroyCache, a change or an assignment; a memo only, so constant lists may
     // have one.
-    void CreateCache(std::size_t slotCount = defaultSlotCount) const;
+    void CreateCache(std::size_t slotCount) const;
     void DestroyCache() const;
     bool HasCache() const { return cache != nullptr; }
 
@@ -58,18 +55,6 @@ public:
 private:
     std::vector<Color> colors;
     mutable std::unique_ptr<NearestColorCache> cache;
-};
-
-// Keeps a cache on a list for the length of a scope, also when the work inside throws.
-class NearestColorCacheScope {
-public:
-    explicit NearestColorCacheScope(const ColorList& cachedList) : list(cachedList) { list.CreateCache(); }
-    ~NearestColorCacheScope() { list.DestroyCache(); }
-    NearestColorCacheScope(const NearestColorCacheScope&) = delete;
-    NearestColorCacheScope& operator=(const NearestColorCacheScope&) = delete;
-
-private:
-    const ColorList& list;
 };
 
 // Squared distance of the channels, alpha weighing three times as much as each of the others; at most

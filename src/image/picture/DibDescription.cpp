@@ -1,6 +1,5 @@
 #include "image/picture/DibDescription.h"
 
-#include "framework/core/Exceptions.h"
 #include "image/picture/DibFile.h"
 #include "image/picture/Image.h"
 #include "resources/streams/InputStream.h"
@@ -97,7 +96,7 @@ const char* RefusalOf(std::uint32_t compression) {
 
 void CheckCompression(const InputStream& in, const DibHeader& header) {
     if (header.compression == DibHeader::uncompressed || HasMasks(header)) return;
-    throw CArchiveException(CArchiveException::badIndex, in.GetName(), RefusalOf(header.compression));
+    in.Fail(StreamError::badIndex, RefusalOf(header.compression));
 }
 
 bool IsOneRun(std::uint32_t mask) {
@@ -152,15 +151,15 @@ DibDescription ReadInformation(InputStream& in) {
 
 } // namespace
 
-DibDescription ReadDibDescription(InputStream& in, DibForm form) {
+DibDescription ReadDibDescription(InputStream& in, bool withFileHeader) {
     const std::uint64_t start = in.GetPosition();
     DibFileHeader fileHeader;
-    if (form == DibForm::file) {
+    if (withFileHeader) {
         in.Read(&fileHeader, sizeof fileHeader);
         if (fileHeader.type != DibFileHeader::bitmapType) in.Fail(StreamError::badClass);
     }
     DibDescription description = ReadInformation(in);
-    if (form == DibForm::file) in.Seek(start + fileHeader.rowsOffset);
+    if (withFileHeader) in.Seek(start + fileHeader.rowsOffset);
     if (description.Stride() * static_cast<std::uint64_t>(description.Rows()) > in.GetRemaining())
         in.Fail(StreamError::endOfFile);
     return description;

@@ -6,9 +6,6 @@
 
 class InputStream;
 
-// Where a stored bitmap is: in a file of its own, after a file header of 14 bytes, or on the clipboard.
-enum class DibForm { file, clipboard };
-
 // What a stored bitmap says before its rows.
 struct DibDescription {
     DibHeader header;
@@ -22,8 +19,8 @@ struct DibDescription {
     int PictureRow(int i) const { return header.height < 0 ? i : Rows() - 1 - i; }
 };
 
-// Reads it and leaves the stream at the first row; the stream has all rows then, and the picture's sides are
-// 1 to 65535. Headers of every size are brought to the 40-byte form. Calls Fail with badClass for another
-// kind of file, with badIndex for fields that make no bitmap and with endOfFile for one that ends early; a
-// compressed bitmap is a CArchiveException that says so.
-DibDescription ReadDibDescription(InputStream& in, DibForm form);
+// Reads it, after the file header of 14 bytes if there is one, and leaves the stream at the first row; the
+// stream has all rows then, and the picture's sides are 1 to 65535. Headers of every size become the 40-byte
+// form. Calls Fail with badClass for another kind of file, with badIndex for fields that make no bitmap and
+// for compressed bitmaps, with a sentence that says so, and with endOfFile for a stream that ends early.
+DibDescription ReadDibDescription(InputStream& in, bool withFileHeader);

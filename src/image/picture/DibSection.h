@@ -10,6 +10,8 @@
 #include <stdexcept>
 
 class DrawingSurface;
+class InputStream;
+class OutputStream;
 class QRect;
 
 // A bitmap could not be created; the text is a sentence for the user.
@@ -37,7 +39,6 @@ public:
     void Destroy();
     void Recreate(int width, int height, int bitCount);
 
-    bool IsEmpty() const { return words.empty(); }
     int GetWidth() const { return header.width; }
     // In rows, never negative.
     int GetHeight() const { return header.height < 0 ? -header.height : header.height; }
@@ -68,8 +69,11 @@ public:
     // 32 bits.
     void SetPixel(int x, int y, Color color);
 
-    // Bytes of the bitmap as a stream: header, colour table and rows, and the file header of 14 bytes when
-    // asked for.
+    // The bitmap as a stream: header, color table and rows, in a file after a file header of 14 bytes.
+    // Replaces the bitmap by the stored one, of its depth and row order. Fails as ReadDibDescription does.
+    void ReadStream(InputStream& in, bool withFileHeader);
+    void WriteStream(OutputStream& out, bool withFileHeader) const;
+    // Bytes that WriteStream writes.
     std::uint64_t GetStreamSize(bool withFileHeader) const;
 
     // Copies the entries from the first one on, opaque, and returns how many there were.

@@ -1,5 +1,6 @@
 #include "image/picture/DibStream.h"
 
+#include "image/picture/DibDescription.h"
 #include "image/picture/DibFile.h"
 #include "image/picture/DibRowDecoder.h"
 #include "image/picture/DibSection.h"
@@ -23,8 +24,8 @@ void WriteTable(OutputStream& out, const DibSection& bitmap) {
 
 } // namespace
 
-void ReadDib(InputStream& in, DibForm form, Image& picture) {
-    const DibDescription description = ReadDibDescription(in, form);
+void ReadDib(InputStream& in, bool withFileHeader, Image& picture) {
+    const DibDescription description = ReadDibDescription(in, withFileHeader);
     const DibRowDecoder decoder(description);
     picture.SetSizeUncleared(description.header.width, description.Rows());
     StoredRows rows(in, description.Stride(), static_cast<std::size_t>(description.Rows()));
@@ -32,22 +33,21 @@ void ReadDib(InputStream& in, DibForm form, Image& picture) {
         decoder.Decode(rows.Next(), picture.Row(description.PictureRow(i)));
 }
 
-void ReadDib(InputStream& in, DibForm form, DibSection& bitmap) {
-    const DibDescription description = ReadDibDescription(in, form);
-    bitmap.Create(description.header, description.masks);
-    bitmap.SetColorTable(0, description.colors.Colors());
-    in.Read(bitmap.GetBits(), bitmap.GetImageSize());
+void DibSection::ReadStream(InputStream& in, bool withFileHeader) {
+    const DibDescription description = ReadDibDescription(in, withFileHeader);
+    Create(description.header, description.masks);
+    SetColorTable(0, description.colors.Colors());
+    in.Read(GetBits(), GetImageSize());
 }
 
-void WriteDib(OutputStream& out, DibForm form, const DibSection& bitmap) {
-    if (form == DibForm::file) {
+void DibSection::WriteStream(OutputStream& out, bool withFileHeader) const {
+    if (withFileHeader) {
         DibFileHeader fileHeader;
-        fileHeader.fileSize = static_cast<std::uint32_t>(bitmap.GetStreamSize(true));
-        fileHeader.rowsOffset =
-            static_cast<std::uint32_t>(bitmap.GetStreamSize(true) - bitmap.GetImageSize());
+        fileHeader.fileSize = static_cast<std::uint32_t>(GetStreamSize(true));
+        fileHeader.rowsOffset = static_cast<std::uint32_t>(GetStreamSize(true) - GetImageSize());
         out.Write(&fileHeader, sizeof fileHeader);
     }
-    out.Write(&bitmap.GetHeader(), sizeof(DibHeader));
-    WriteTable(out, bitmap);
-    out.Write(bitmap.GetBits(), bitmap.GetImageSize());
+    out.Write(&header, sizeof header);
+    WriteTable(out, *this);
+    out.Write(GetBits(), GetImageSize());
 }

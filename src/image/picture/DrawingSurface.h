@@ -3,7 +3,7 @@
 class DibSection;
 class QRect;
 
-// What bitmaps are painted on. Implemented where there are windows.
+// What DibSection::Draw paints on. PainterSurface implements it for windows.
 class DrawingSurface {
 public:
     virtual ~DrawingSurface() = default;

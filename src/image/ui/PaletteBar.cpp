@@ -3,13 +3,12 @@
 #include "framework/core/StringTable.h"
 #include "framework/core/Text.h"
 #include "framework/ui/Commands.h"
+#include "image/ui/PainterSurface.h"
 #include "image/ui/PaletteChooser.h"
 #include "res/ShellStrings.h"
 #include "resources/Shell.h"
 
-#include <QImage>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QVBoxLayout>
 #include <QtMath>
 
@@ -25,9 +24,8 @@ public:
 
 protected:
     void paintEvent(QPaintEvent*) override {
-        const QImage picture(bitmap.GetBits(), bitmap.GetWidth(), bitmap.GetHeight(),
-                             static_cast<qsizetype>(bitmap.GetStride()), QImage::Format_RGB32);
-        QPainter(this).drawImage(0, 0, picture);
+        PainterSurface surface(*this);
+        bitmap.Draw(surface, rect());
     }
 
 private:

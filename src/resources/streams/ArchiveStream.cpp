@@ -39,6 +39,10 @@ void ArchiveStream::Fail(StreamError error) const {
     throw CArchiveException(CauseOf(error), GetName());
 }
 
+void ArchiveStream::Fail(StreamError error, std::string sentence) const {
+    throw CArchiveException(CauseOf(error), GetName(), std::move(sentence));
+}
+
 void ArchiveStream::Read(void* buffer, std::size_t count) {
     if (archive.Read(buffer, count) != count) throw CArchiveException(CArchiveException::endOfFile);
 }

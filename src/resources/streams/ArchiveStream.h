@@ -15,6 +15,7 @@ public:
     void Seek(std::int64_t offset, CFile::From from) override;
     std::unique_ptr<CFile> DuplicateFile() const override { return archive.GetFile().Duplicate(); }
     [[noreturn]] void Fail(StreamError error) const override;
+    [[noreturn]] void Fail(StreamError error, std::string sentence) const override;
     using InputStream::Read;
     void Read(void* buffer, std::size_t count) override;
     using OutputStream::Write;

@@ -22,4 +22,6 @@ public:
     virtual std::unique_ptr<CFile> DuplicateFile() const = 0;
     // Throws the exception of the stream's form for this error, with the stream's name.
     [[noreturn]] virtual void Fail(StreamError error) const = 0;
+    // The same with a sentence that tells the user more than the error does.
+    [[noreturn]] virtual void Fail(StreamError error, std::string sentence) const = 0;
 };

@@ -1,10 +1,21 @@
 #include "resources/streams/FileStream.h"
 
-void FileStream::Fail(StreamError error) const {
-    // The causes of file exceptions have the same numbers, as far as they go.
+namespace {
+
+// File exceptions number their causes the same way, but have fewer of them.
+CFileException::Cause CauseOf(StreamError error) {
     const bool known = error >= StreamError::generic && error <= StreamError::endOfFile;
-    const auto cause = known ? static_cast<CFileException::Cause>(error) : CFileException::generic;
-    throw CFileException(cause, CFileException::noOsError, GetName());
+    return known ? static_cast<CFileException::Cause>(error) : CFileException::generic;
+}
+
+} // namespace
+
+void FileStream::Fail(StreamError error) const {
+    throw CFileException(CauseOf(error), CFileException::noOsError, GetName());
+}
+
+void FileStream::Fail(StreamError error, std::string sentence) const {
+    throw CFileException(CauseOf(error), GetName(), std::move(sentence));
 }
 
 void FileStream::Read(void* buffer, std::size_t count) {

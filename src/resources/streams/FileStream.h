@@ -14,6 +14,7 @@ public:
     void Seek(std::int64_t offset, CFile::From from) override { file.Seek(offset, from); }
     std::unique_ptr<CFile> DuplicateFile() const override { return file.Duplicate(); }
     [[noreturn]] void Fail(StreamError error) const override;
+    [[noreturn]] void Fail(StreamError error, std::string sentence) const override;
     using InputStream::Read;
     void Read(void* buffer, std::size_t count) override;
     using OutputStream::Write;

@@ -16,14 +16,14 @@ TEST(ColorListTest, TheCacheChangesNoResultAndEndsWithTheList) {
     std::mt19937 random(3);
     ColorList list;
     for (int i = 0; i < 40; ++i) list.Append(static_cast<Color>(random()));
-    list.CreateCache();
+    list.CreateCache(1021);
     ColorList other(list);
     EXPECT_FALSE(other.HasCache());
     for (int i = 0; i < 5000; ++i) {
         const Color color = static_cast<Color>(random() % 3000);
         ASSERT_EQ(list.FindNearestIndex(color), other.FindNearestIndex(color));
     }
-    other.CreateCache();
+    other.CreateCache(1021);
     other = list;
     EXPECT_FALSE(other.HasCache());
     list.Append(0xFF800000);

@@ -24,7 +24,7 @@ TEST(DibStreamTest, SkipsTheRestOfTheTable) {
         stream.Write(std::span<const Color>(std::vector<Color>{1, 2, 3, 0x00ABCD80}));
         stream.Seek(0);
         Image picture;
-        ReadDib(stream, DibForm::clipboard, picture);
+        ReadDib(stream, false, picture);
         EXPECT_EQ(picture.GetPixel(0, 0), bitCount == 1 ? 0xFF000002 : 0xFFABCD80);
     }
 }
@@ -48,20 +48,20 @@ TEST(DibStreamTest, BitmapsOfEveryDepthSurvive) {
             Image(5, 3).RenderTo(painted, IdentityTransform{});
             PictureOf(bitmap).RenderTo(painted, IdentityTransform{});
             EXPECT_TRUE(SamePixels(PictureOf(painted), PictureOf(bitmap))) << bitCount;
-            for (const DibForm form : {DibForm::file, DibForm::clipboard}) {
+            for (const bool withFileHeader : {true, false}) {
                 CMemFile file;
                 FileStream stream(file);
-                WriteDib(stream, form, bitmap);
-                EXPECT_EQ(file.GetLength(), bitmap.GetStreamSize(form == DibForm::file)) << bitCount;
+                bitmap.WriteStream(stream, withFileHeader);
+                EXPECT_EQ(file.GetLength(), bitmap.GetStreamSize(withFileHeader)) << bitCount;
                 stream.Seek(0);
                 DibSection back;
-                ReadDib(stream, form, back);
+                back.ReadStream(stream, withFileHeader);
                 EXPECT_EQ(stream.GetRemaining(), 0U) << bitCount;
                 EXPECT_EQ(back.IsTopDown(), height < 0);
                 EXPECT_TRUE(SamePixels(PictureOf(back), PictureOf(bitmap))) << bitCount;
                 stream.Seek(0);
                 Image picture;
-                ReadDib(stream, form, picture);
+                ReadDib(stream, withFileHeader, picture);
                 EXPECT_TRUE(SamePixels(picture, PictureOf(bitmap))) << bitCount;
             }
         }

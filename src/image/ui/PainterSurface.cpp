@@ -1,0 +1,28 @@
+#include "image/ui/PainterSurface.h"
+
+#include "image/picture/DibSection.h"
+#include "image/picture/Image.h"
+
+#include <QImage>
+
+namespace {
+
+// The bitmap's own memory where the toolkit knows its layout.
+QImage Share(const DibSection& bitmap) {
+    return {bitmap.GetBits(), bitmap.GetWidth(), bitmap.GetHeight(),
+            static_cast<qsizetype>(bitmap.GetStride()), QImage::Format_RGB32};
+}
+
+QImage Share(const Image& picture) {
+    return {reinterpret_cast<const uchar*>(picture.Pixels().data()), picture.GetWidth(), picture.GetHeight(),
+            QImage::Format_RGB32};
+}
+
+} // namespace
+
+void PainterSurface::StretchBits(const DibSection& bitmap, const QRect& destination) {
+    if (bitmap.IsTopDown() && bitmap.HasColorRows()) return painter.drawImage(destination, Share(bitmap));
+    Image picture;
+    picture.FromBitmap(bitmap);
+    painter.drawImage(destination, Share(picture));
+}

@@ -1,0 +1,9 @@
+#pragma once
+
+#include <string>
+
+class InputStream;
+
+// A sentence that names the kind of a file that no document type reads, recognized by its first bytes; empty
+// for any other file. Moves the stream.
+std::string DescribeForeignFile(InputStream& in);
