@@ -57,6 +57,25 @@ TEST_F(TavloViewTest, ScrollingGoesRound) {
     EXPECT_EQ(view->GetScrollX(), 40);
     view->SetScrollY(-33);
     EXPECT_EQ(view->GetScrollBar(Qt::Vertical).value(), 31);
+    for (const auto& [key, x, y] : {std::tuple{Qt::Key_Right, 41, 31},
+                                    {Qt::Key_Down, 41, 0},
+                                    {Qt::Key_PageUp, 41, 16},
+                                    {Qt::Key_PageDown, 41, 0},
+                                    {Qt::Key_Up, 41, 31},
+                                    {Qt::Key_Left, 40, 31},
+                                    {Qt::Key_Home, 0, 0},
+                                    {Qt::Key_Left, 63, 0},
+                                    {Qt::Key_End, 0, 0}}) {
+        QTest::keyClick(view, key);
+        EXPECT_EQ(std::pair(view->GetScrollX(), view->GetScrollY()), std::pair(x, y)) << key;
+    }
+}
+
+TEST_F(TavloViewTest, ShiftF10OpensTheContextMenu) {
+    const PopupAnswer answer([](const QMenu& menu) {
+        EXPECT_EQ(ItemTexts(menu), QStringList({"Brush", "Color...", "Zoom", "Properties", "Cancel"}));
+    });
+    QTest::keyClick(view, Qt::Key_F10, Qt::ShiftModifier);
 }
 
 TEST_F(TavloViewTest, PaintsTheTilingFromTheScrollPosition) {
@@ -72,6 +91,9 @@ TEST_F(TavloViewTest, PaintsTheTilingFromTheScrollPosition) {
     EXPECT_EQ(view->GetScrollY(), 30) << "the position is not wrapped again when the picture shrinks";
     EXPECT_EQ(view->GetScrollBar(Qt::Vertical).maximum(), 7);
     EXPECT_EQ(ColorShownAt(16, 0), 0xFFFF8040U);
+    GetTexture().SetSize(64, 32);
+    document->UpdateAllViews(nullptr);
+    EXPECT_EQ(view->GetScrollBar(Qt::Vertical).value(), 30);
 }
 
 TEST_F(TavloViewTest, TellsPositionAndColorUnderTheMouse) {
