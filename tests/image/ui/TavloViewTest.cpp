@@ -1,3 +1,4 @@
+#include "framework/ui/CMenu.h"
 #include "image/ui/TavloViewFixture.h"
 #include "res/CommandIds.h"
 #include "resources/ColorTableDocument.h"
@@ -80,7 +81,12 @@ TEST_F(TavloViewTest, ShiftF10OpensTheContextMenu) {
 
 TEST_F(TavloViewTest, PaintsTheTilingFromTheScrollPosition) {
     Send(ID_ZOOM_400);
-    EXPECT_TRUE(StateOf(ID_ZOOM_400).radio);
+    GetMainFrame().GetCurrentMenu().UpdateAll();
+    for (const CommandId id : {ID_ZOOM_100, ID_ZOOM_200, ID_ZOOM_400, ID_ZOOM_800, ID_ZOOM_1600}) {
+        const QAction& item = *GetMainFrame().GetCurrentMenu().FindItem(id);
+        EXPECT_TRUE(item.isCheckable() && item.actionGroup()) << id;
+        EXPECT_EQ(item.isChecked(), id == ID_ZOOM_400);
+    }
     view->SetScrollX(3);
     view->SetScrollY(30);
     EXPECT_EQ(ColorShownAt(9, 5), GetTexture().GetPixel(5, 31));
