@@ -161,6 +161,10 @@ TEST_F(CMDIFrameWndTest, ListsRecentFilesInThePlaceholdersPlace) {
     UpdateRecentFileMenu(menu, {"/x/c.pcx"});
     EXPECT_EQ(file.actions().size(), 5);
     EXPECT_EQ(file.actions()[2]->text(), "&1 /x/c.pcx");
+    UpdateRecentFileMenu(menu, {"/x/" + std::string(300, 'y') + "/c.pcx"});
+    const QString longest = file.actions()[2]->text();
+    EXPECT_TRUE(longest.startsWith("&1 /x/") && longest.endsWith("/c.pcx")) << longest.toStdString();
+    EXPECT_LT(longest.size(), 150);
 }
 
 TEST_F(CMDIFrameWndTest, NumbersTheWindowsOfADocument) {
