@@ -50,7 +50,7 @@ const CommandMap& TavloDocument::GetCommandMap() const {
             Command<&Self::OnEditProperties>(ID_EDIT_PROPERTIES),
             CommandRange<&Self::OnBrush, &Self::OnUpdateBrush>(ID_BRUSH_FIRST, ID_BRUSH_LAST),
             Command<&Self::OnBrushNone, &Self::OnUpdateBrushNone>(ID_BRUSH_NONE),
-            CommandRange<&Self::OnPalette, &Self::OnUpdatePalette>(ID_COLOR_TABLE_FIRST, ID_COLOR_SPACE_LAST),
+            CommandRange<&Self::OnPalette, &Self::OnUpdatePalette>(ID_COLOR_TABLE_FIRST, ID_COLOR_TABLE_LAST),
             Command<&Self::OnPaletteNone, &Self::OnUpdatePaletteNone>(ID_PALETTE_NONE),
             Command<&Self::OnFormatNearest, &Self::OnUpdateFormat>(ID_FORMAT_NEAREST),
             Command<&Self::OnFormatDither, &Self::OnUpdateFormat>(ID_FORMAT_DITHER),

@@ -37,5 +37,8 @@ enum ProgramCommand : CommandId {
     ID_COLOR_TABLE_FIRST = 50688,
     ID_COLOR_TABLE_LAST = 50943,
     ID_COLOR_SPACE_FIRST = 50944,
-    ID_COLOR_SPACE_LAST = 51199
+    ID_COLOR_SPACE_LAST = 51199,
+    // The bars beside the standard toolbar, which is ID_VIEW_TOOLBAR.
+    ID_FILTER_BAR = 59398,
+    ID_PALETTE_BAR = 59401
 };

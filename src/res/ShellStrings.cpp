@@ -8,6 +8,7 @@ constexpr StringRow rows[] = {
     {AFX_IDS_APP_TITLE, "KelTavlo"},
     {AFX_IDS_IDLEMESSAGE, "Ready"},
     {AFX_IDS_RECENT_FILE, "Recent File"},
+    {AFX_IDS_MDICHILD, "Activate this window"},
     {AFX_IDS_OPENFILE, "Open"},
     {AFX_IDS_SAVEFILE, "Save As"},
     {AFX_IDS_SAVEFILECOPY, "Save Copy As"},

@@ -3,7 +3,7 @@
 #include "res/CommandIds.h"
 #include "resources/BrushDocument.h"
 #include "resources/BuiltInPalettes.h"
-#include "resources/ColorSpaceDocument.h"
+#include "resources/ColorTableDocument.h"
 #include "resources/DocumentMenuList.h"
 #include "support/TestApplication.h"
 
@@ -15,15 +15,15 @@ protected:
     TavloDocumentCommandsTest() {
         brushes.Init(ID_BRUSHES, ID_BRUSH_FIRST, ID_BRUSH_LAST + 1);
         brushes.SetItem(1, OpenBuiltIn<CDocument>(colorPickerFile));
-        spaces.Init(ID_PALETTE_SPACES, ID_COLOR_SPACE_FIRST, ID_COLOR_SPACE_LAST + 1);
-        spaces.SetItem(0, OpenBuiltIn<CDocument>(rgbaColorSpace));
+        tables.Init(ID_PALETTE_TABLES, ID_COLOR_TABLE_FIRST, ID_COLOR_TABLE_LAST);
+        tables.SetItem(0, OpenBuiltIn<CDocument>(quake2Palette));
     }
 
     void Send(CommandId id) { EXPECT_TRUE(document.OnCmdMsg(id, nullptr)); }
 
     WALDocument& document = *Open<WALDocument>(Put("floor.wal", MakeWal(16, 8)));
     DocumentMenuList brushes{BrushDocument::runtimeClass};
-    DocumentMenuList spaces{ColorSpaceDocument::runtimeClass};
+    DocumentMenuList tables{ColorTableDocument::runtimeClass};
 };
 
 TEST_F(TavloDocumentCommandsTest, ChoosesBrushesAndPalettesFromTheLists) {
@@ -34,10 +34,12 @@ TEST_F(TavloDocumentCommandsTest, ChoosesBrushesAndPalettesFromTheLists) {
     EXPECT_EQ(StateOf(document, ID_BRUSH_FIRST + 1).text, "Color Picker");
     Send(ID_BRUSH_LAST);
     EXPECT_FALSE(document.HasBrush()) << "nothing is listed there";
-    Send(ID_COLOR_SPACE_FIRST);
-    EXPECT_EQ(document.GetCurrentPalette()->GetTitle(), "RGBA");
     Send(ID_COLOR_TABLE_FIRST);
-    EXPECT_TRUE(StateOf(document, ID_COLOR_SPACE_FIRST).checked) << "no list has that id";
+    EXPECT_EQ(document.GetCurrentPalette()->GetTitle(), "Quake II");
+    Send(ID_COLOR_TABLE_LAST);
+    EXPECT_TRUE(StateOf(document, ID_COLOR_TABLE_FIRST).checked) << "no list has that id";
+    for (const CommandId id : {ID_COLOR_SPACE_FIRST, ID_COLOR_SPACE_LAST})
+        EXPECT_FALSE(document.OnCmdMsg(id, nullptr)) << "color spaces are listed, not chosen: " << id;
     Send(ID_PALETTE_NONE);
     EXPECT_FALSE(document.HasPalette() || document.IsModified());
 }

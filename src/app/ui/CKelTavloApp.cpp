@@ -3,6 +3,7 @@
 #include "app/Settings.h"
 #include "app/ui/CAboutDialog.h"
 #include "app/ui/FileFilters.h"
+#include "app/ui/HelpPages.h"
 #include "app/ui/HelpWindow.h"
 #include "app/ui/MainFrame.h"
 #include "app/ui/PicturePreview.h"
@@ -16,6 +17,7 @@
 #include "framework/core/Text.h"
 #include "framework/ui/ChildFrame.h"
 #include "framework/ui/ColorPrompt.h"
+#include "framework/ui/ContextHelp.h"
 #include "framework/ui/MessageBoxes.h"
 #include "framework/ui/NormalCursor.h"
 #include "image/TavloDocument.h"
@@ -127,7 +129,7 @@ const CommandMap& CKelTavloApp::GetCommandMap() const {
         {Command<&Self::OnCommandNew>(ID_FILE_NEW), Command<&Self::OnFileOpen>(ID_FILE_OPEN),
          Command<&Self::OnAppAbout>(ID_APP_ABOUT), Command<&Self::OnAppExit>(ID_APP_EXIT),
          Command<&Self::OnHelpFinder>(ID_HELP_FINDER), Command<&Self::OnHelpFinder>(ID_DEFAULT_HELP),
-         Command<&Self::OnHelp>(ID_HELP), Command<&Self::OnHelp>(ID_CONTEXT_HELP),
+         Command<&Self::OnHelp>(ID_HELP), Command<&Self::OnContextHelp>(ID_CONTEXT_HELP),
          CommandRange<&Self::OnRecentFile, &Self::OnUpdateRecentFile>(ID_FILE_MRU_FIRST, ID_FILE_MRU_LAST)}};
     return map;
 }
@@ -164,6 +166,16 @@ void CKelTavloApp::OnHelp() {
     const CDocument* document = active ? active->GetActiveDocument() : nullptr;
     if (dynamic_cast<const TavloDocument*>(document)) return ShowHelp("painting.html");
     ShowHelp(document ? "models.html" : "index.html");
+}
+
+// What has no page of its own gets the page of the active window.
+void CKelTavloApp::OnContextHelp() {
+    if (!contextHelp)
+        contextHelp = std::make_unique<ContextHelp>(*mainFrame, [this](CommandId id) {
+            const char* page = HelpPageFor(id);
+            page ? ShowHelp(page) : OnHelp();
+        });
+    contextHelp->Begin();
 }
 
 void CKelTavloApp::ShowHelp(const char* page) {

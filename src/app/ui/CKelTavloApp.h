@@ -6,6 +6,7 @@
 #include "framework/ui/WindowedUserInterface.h"
 #include "resources/Shell.h"
 
+class ContextHelp;
 class HelpWindow;
 class MainFrame;
 
@@ -53,11 +54,13 @@ private:
     void OnAppExit();
     void OnHelpFinder();
     void OnHelp();
+    void OnContextHelp();
     void ShowHelp(const char* page);
 
     Workshop workshop;
     CClipboard clipboard;
     std::unique_ptr<MainFrame> mainFrame;
     std::unique_ptr<HelpWindow> help; // made when it is first asked for
-    std::uint32_t currentColor = 0;   // 0xAARRGGBB; of the brushes of all documents
+    std::unique_ptr<ContextHelp> contextHelp;
+    std::uint32_t currentColor = 0; // 0xAARRGGBB; of the brushes of all documents
 };

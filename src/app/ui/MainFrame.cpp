@@ -1,10 +1,10 @@
 #include "app/ui/MainFrame.h"
 
+#include "app/ui/CKelTavloToolBar.h"
 #include "framework/core/CWinApp.h"
 #include "framework/core/StringTable.h"
 #include "framework/ui/CMenu.h"
 #include "framework/ui/CStatusBar.h"
-#include "framework/ui/CToolBar.h"
 #include "framework/ui/RecentFileMenu.h"
 #include "image/picture/Color.h"
 #include "image/ui/PaletteBar.h"
@@ -19,8 +19,6 @@ namespace {
 
 constexpr std::size_t positionPane = 2;
 constexpr std::size_t colorPane = 3;
-constexpr unsigned filterBarId = 59398;
-constexpr unsigned paletteBarId = 59401;
 
 std::string ColorText(std::uint32_t argb) {
     if (Alpha(argb) == 255) return FormatString(IDS_COLOR_OPAQUE, Red(argb), Green(argb), Blue(argb));
@@ -38,9 +36,9 @@ MainFrame::MainFrame() {
 }
 
 void MainFrame::CreateBars() {
-    standardToolBar = new CToolBar(ID_VIEW_TOOLBAR, LoadString(IDS_STANDARD_BAR), this);
-    filterToolBar = new CToolBar(filterBarId, LoadString(IDS_FILTER_BAR), this);
-    paletteBar = new PaletteBar(paletteBarId, this);
+    standardToolBar = new CKelTavloToolBar(ID_VIEW_TOOLBAR, LoadString(IDS_STANDARD_BAR), this);
+    filterToolBar = new CKelTavloToolBar(ID_FILTER_BAR, LoadString(IDS_FILTER_BAR), this);
+    paletteBar = new PaletteBar(ID_PALETTE_BAR, this);
     standardToolBar->LoadToolBar(ToolBarRows(IDR_STANDARD_BAR), *this);
     filterToolBar->LoadToolBar(ToolBarRows(IDR_FILTER_BAR), *this);
     DockControlBar(*standardToolBar);

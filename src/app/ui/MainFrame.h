@@ -8,7 +8,7 @@
 #include <string>
 
 class BaseDocument;
-class CToolBar;
+class CKelTavloToolBar;
 class DocumentView;
 class PaletteBar;
 
@@ -51,8 +51,8 @@ private:
 
     GammaSettings gamma;
     std::uint32_t showCommand = WindowPlacement::show; // once the window has been shown
-    CToolBar* standardToolBar = nullptr;               // children of this window
-    CToolBar* filterToolBar = nullptr;
+    CKelTavloToolBar* standardToolBar = nullptr;       // children of this window
+    CKelTavloToolBar* filterToolBar = nullptr;
     PaletteBar* paletteBar = nullptr;
     std::vector<CControlBar*> controlBars; // children of this window, in the order of the menu
     MenuRuns menuRuns{controlBars};

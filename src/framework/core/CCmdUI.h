@@ -13,7 +13,11 @@ public:
 
     void Enable(bool on) { enabled = on; }
     void SetCheck(bool on) { checked = on; }
-    void SetRadio(bool on) { checked = radio = on; }
+    // For a choice of several: a dot instead of a tick.
+    void SetRadio(bool on) {
+        checked = on;
+        radio = true;
+    }
     void SetText(std::string newText) { text = std::move(newText); }
 
     CommandId id;

@@ -6,6 +6,7 @@
 #include "framework/core/UserInterface.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -20,6 +21,11 @@ void CDocument::SetTitle(const std::string& newTitle) {
     if (DocumentFrame* frame = GetFrame()) frame->OnTitleChanged();
 }
 
+void CDocument::SetModifiedFlag(bool on) {
+    if (std::exchange(modified, on) == on) return;
+    if (DocumentFrame* frame = GetFrame()) frame->OnTitleChanged();
+}
+
 void CDocument::SetPathName(const std::string& path, bool addToRecentFiles) {
     pathName = FullPath(path);
     SetTitle(std::string(FileNameOf(pathName)));
@@ -28,7 +34,7 @@ void CDocument::SetPathName(const std::string& path, bool addToRecentFiles) {
 
 bool CDocument::OnNewDocument() {
     DeleteContents();
-    modified = false;
+    SetModifiedFlag(false);
     pathName.clear();
     return true;
 }
@@ -43,7 +49,7 @@ bool CDocument::OnOpenDocument(const std::string& path) {
             CArchive archive(*file, CArchive::load);
             Serialize(archive);
         }
-        modified = false;
+        SetModifiedFlag(false);
         return true;
     } catch (const std::exception& failure) {
         DeleteContents();
@@ -62,7 +68,7 @@ bool CDocument::OnSaveDocument(const std::string& path) {
         Serialize(archive);
         archive.Flush();
         file->Close();
-        modified = false;
+        SetModifiedFlag(false);
         return true;
     } catch (const std::exception& failure) {
         if (file) file->Abort();

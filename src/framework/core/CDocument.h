@@ -20,7 +20,7 @@ public:
     } // empty until the document was opened or saved
     virtual void SetPathName(const std::string& path, bool addToRecentFiles = true);
     bool IsModified() const { return modified; }
-    void SetModifiedFlag(bool on = true) { modified = on; }
+    void SetModifiedFlag(bool on = true);
     CDocTemplate* GetDocTemplate() const { return docTemplate; }
 
     // Make the document new, or read or write its file. A failure is told to the user, who sees a sentence

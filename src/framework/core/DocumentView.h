@@ -16,6 +16,7 @@ public:
     virtual void InitialUpdate(bool visible) = 0;
     // Ends the window and its views without a question.
     virtual void DestroyFrame() = 0;
+    // The title or the modified mark of the document changed.
     virtual void OnTitleChanged() = 0;
     // Whether people see the frame (false for hidden documents).
     virtual bool IsShown() const = 0;

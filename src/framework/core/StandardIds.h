@@ -43,6 +43,7 @@ enum StandardString : unsigned {
     AFX_IDS_APP_TITLE = 57344,
     AFX_IDS_IDLEMESSAGE = 57345,
     AFX_IDS_RECENT_FILE = 57346, // the placeholder of the recent files
+    AFX_IDS_MDICHILD = 61215,    // the prompt of the windows listed in the Window menu
     AFX_IDS_OPENFILE = 61440,
     AFX_IDS_SAVEFILE = 61441,
     AFX_IDS_ALLFILTER = 61442,

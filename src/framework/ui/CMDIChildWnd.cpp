@@ -27,19 +27,6 @@ std::vector<CMDIChildWnd*> FramesOf(const CDocument& document) {
     return frames;
 }
 
-// The toolkit takes "[*]" in a title for a mark of its own, and two of them for one that is meant.
-QString WindowTitle(const std::string& text) {
-    return ToQString(text).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
-}
-
-void RenewTitles(const CDocument& document) {
-    const std::vector<CMDIChildWnd*> frames = FramesOf(document);
-    for (std::size_t i = 0; i < frames.size(); ++i) {
-        const std::string number = frames.size() > 1 ? ":" + std::to_string(i + 1) : std::string();
-        frames[i]->setWindowTitle(WindowTitle(document.GetTitle() + number));
-    }
-}
-
 } // namespace
 
 CMDIChildWnd::CMDIChildWnd() {
@@ -53,10 +40,31 @@ CMDIChildWnd::~CMDIChildWnd() {
     if (std::exchange(shown, false) && mdiFrame) mdiFrame->RemoveChild(*this);
 }
 
+// The toolkit replaces "[*]" in a title by its mark, and shows two of them as one.
+QString CMDIChildWnd::MarkedTitle(const std::string& text) {
+    const QString mark = QStringLiteral("[*]");
+    return ToQString(text).replace(mark, mark + mark) + mark;
+}
+
+void CMDIChildWnd::UpdateTitles(const CDocument& document) {
+    const std::vector<CMDIChildWnd*> frames = FramesOf(document);
+    for (std::size_t i = 0; i < frames.size(); ++i) {
+        const std::string number = frames.size() > 1 ? ":" + std::to_string(i + 1) : std::string();
+        frames[i]->SetTitle(document.GetTitle() + number, document.IsModified());
+    }
+}
+
+void CMDIChildWnd::SetTitle(const std::string& text, bool modified) {
+    title = text;
+    setWindowTitle(MarkedTitle(title));
+    setWindowModified(modified);
+    if (mdiFrame) mdiFrame->OnUpdateFrameTitle();
+}
+
 void CMDIChildWnd::Create(CDocument& document, const CRuntimeClass& viewClass, CMDIFrameWnd* owner) {
     mdiFrame = owner;
     activeView = &CreateClient(document, viewClass);
-    RenewTitles(document);
+    UpdateTitles(document);
 }
 
 CView& CMDIChildWnd::CreateClient(CDocument& document, const CRuntimeClass& viewClass) {
@@ -124,11 +132,11 @@ void CMDIChildWnd::DetachViews() {
     }
     const bool documentStays = own.size() < document->GetViews().size();
     for (CView* view : own) view->Detach();
-    if (documentStays) RenewTitles(*document);
+    if (documentStays) UpdateTitles(*document);
 }
 
 void CMDIChildWnd::OnTitleChanged() {
-    if (CDocument* document = GetActiveDocument()) RenewTitles(*document);
+    if (CDocument* document = GetActiveDocument()) UpdateTitles(*document);
 }
 
 bool CMDIChildWnd::OnCmdMsg(CommandId id, CCmdUI* state) {

@@ -5,6 +5,8 @@
 
 #include <QMdiSubWindow>
 
+#include <string>
+
 class CDocument;
 class CMDIFrameWnd;
 class CView;
@@ -26,13 +28,16 @@ public:
     void SetActiveView(CView* view);
     // The document of the frame's views; null while the frame ends.
     CDocument* GetActiveDocument() const;
-    CMDIFrameWnd* GetMDIFrame() const { return mdiFrame; }
+    // The document's title, numbered when the document has several windows.
+    const std::string& GetTitle() const { return title; }
+    // A text as a window's title, with the toolkit's mark for unsaved changes behind it.
+    static QString MarkedTitle(const std::string& text);
 
     void ActivateFrame() override;
     void InitialUpdate(bool visible) override;
     // At once for the views and for people; the window itself is deleted when its events are over.
     void DestroyFrame() override;
-    // Renews the titles of all frames of the document.
+    // Updates the titles of all frames of the document.
     void OnTitleChanged() override;
     bool IsShown() const override { return shown; }
 
@@ -49,9 +54,12 @@ protected:
 private:
     void OnFileClose();
     void DetachViews();
+    void SetTitle(const std::string& text, bool modified);
+    static void UpdateTitles(const CDocument& document);
 
     CView* activeView = nullptr;
     CMDIFrameWnd* mdiFrame = nullptr;
+    std::string title;
     bool shown = false;
     bool ending = false;
 };

@@ -1,21 +1,20 @@
 #include "framework/ui/CMDIFrameWnd.h"
 
-#include "framework/core/CDocument.h"
 #include "framework/core/CWinApp.h"
 #include "framework/core/StandardIds.h"
 #include "framework/core/StringTable.h"
-#include "framework/core/Text.h"
 #include "framework/ui/CControlBar.h"
 #include "framework/ui/CMDIChildWnd.h"
 #include "framework/ui/CMenu.h"
 #include "framework/ui/CStatusBar.h"
-#include "framework/ui/CView.h"
 #include "framework/ui/Commands.h"
 #include "framework/ui/MDIClientArea.h"
 
 #include <QAbstractEventDispatcher>
 #include <QMenuBar>
 #include <QShortcut>
+
+#include <utility>
 
 namespace {
 
@@ -29,7 +28,8 @@ CMDIFrameWnd::CMDIFrameWnd()
     setCentralWidget(clientArea);
     setStatusBar(statusBarWindow);
     statusBarWindow->SetPaneText(0, LoadString(AFX_IDS_IDLEMESSAGE));
-    setWindowTitle(ToQString(LoadString(AFX_IDS_APP_TITLE)));
+    OnUpdateFrameTitle();
+    clientArea->setFocus(); // otherwise the first control of a bar gets the focus
     setAcceptDrops(true);
     menuBar()->installEventFilter(this);
     connect(clientArea, &QMdiArea::subWindowActivated, this, [this] { OnChildActivated(); });
@@ -45,12 +45,26 @@ CMDIFrameWnd::~CMDIFrameWnd() {
 void CMDIFrameWnd::LoadFrame(unsigned menuId, std::span<const AcceleratorRow> accelerators) {
     ownMenuId = menuId;
     ShowMenu(menuId);
-    for (const AcceleratorRow& row : accelerators) {
-        const QKeySequence keys =
-            QKeySequence::fromString(QString::fromUtf8(row.keys), QKeySequence::PortableText);
-        connect(new QShortcut(keys, this), &QShortcut::activated, this,
-                [this, id = row.id] { SendCommand(*this, id); });
-    }
+    for (const AcceleratorRow& row : accelerators)
+        AddKeys(row.keys, [this, id = row.id] { SendCommand(*this, id); });
+    AddChildKeys();
+}
+
+template <class Action>
+void CMDIFrameWnd::AddKeys(const char* keys, Action action) {
+    const QKeySequence sequence =
+        QKeySequence::fromString(QString::fromUtf8(keys), QKeySequence::PortableText);
+    connect(new QShortcut(sequence, this), &QShortcut::activated, this, std::move(action));
+}
+
+// Keys that every main frame has, whatever its accelerators.
+void CMDIFrameWnd::AddChildKeys() {
+    for (const char* keys : {"Ctrl+F4", "Ctrl+Shift+F4"})
+        AddKeys(keys, [this] {
+            if (activeChild) activeChild->close();
+        });
+    AddKeys("Ctrl+F6", [this] { MDINext(false); });
+    AddKeys("Ctrl+Shift+F6", [this] { MDINext(true); });
 }
 
 void CMDIFrameWnd::ShowMenu(unsigned menuId) {
@@ -77,77 +91,6 @@ void CMDIFrameWnd::OnIdle() {
     for (CControlBar* bar : dockedBars) bar->OnUpdateCmdUI();
 }
 
-std::vector<CMDIChildWnd*> CMDIFrameWnd::GetChildren() const {
-    return clientArea->GetChildren();
-}
-
-void CMDIFrameWnd::AddChild(CMDIChildWnd& child) {
-    const std::size_t number = GetChildren().size();
-    clientArea->addSubWindow(&child);
-    clientArea->Place(child, static_cast<int>(number));
-}
-
-// The next child takes over that the last one filled the client area.
-void CMDIFrameWnd::RemoveChild(CMDIChildWnd& child) {
-    const bool maximized = activeChild == &child && child.isMaximized();
-    if (activeChild == &child) SetActiveChild(nullptr);
-    clientArea->removeSubWindow(&child);
-    OnChildActivated();
-    if (maximized && activeChild) activeChild->showMaximized();
-}
-
-void CMDIFrameWnd::MDIActivate(CMDIChildWnd& child) {
-    if (child.isMinimized())
-        child.showNormal();
-    else
-        child.show();
-    clientArea->setActiveSubWindow(&child);
-    OnChildActivated();
-}
-
-// The toolkit also tells when a window outside becomes active; the child then stays the one that commands
-// are for.
-void CMDIFrameWnd::OnChildActivated() {
-    SetActiveChild(clientArea->GetCurrentChild());
-}
-
-void CMDIFrameWnd::SetActiveChild(CMDIChildWnd* child) {
-    if (child == activeChild) return;
-    CView* deactivated = activeChild ? activeChild->GetActiveView() : nullptr;
-    activeChild = child;
-    const CDocument* document = child ? child->GetActiveDocument() : nullptr;
-    const CDocTemplate* type = document ? document->GetDocTemplate() : nullptr;
-    ShowMenu(type ? type->GetRow().menuId : ownMenuId);
-    ChangeActiveView(child ? child->GetActiveView() : nullptr, deactivated);
-}
-
-void CMDIFrameWnd::ChangeActiveView(CView* activated, CView* deactivated) {
-    if (deactivated) deactivated->OnActivateView(false, activated, deactivated);
-    if (!activated) return;
-    activated->OnActivateView(true, activated, deactivated);
-    activated->setFocus();
-}
-
 void CMDIFrameWnd::OnInitMenuPopup(CMenu& menu) {
     UpdateWindowList(menu);
-}
-
-// The windows stand below the Window menu's own items, each with a tick when it is the active one.
-void CMDIFrameWnd::UpdateWindowList(CMenu& menu) {
-    const std::vector<CMDIChildWnd*> children = GetChildren();
-    CommandId id = ID_WINDOW_CHILD_FIRST;
-    for (const CMDIChildWnd* child : children) {
-        const unsigned number = id - ID_WINDOW_CHILD_FIRST + 1;
-        std::string text = number < 10 ? "&" : "";
-        text += std::to_string(number) + " ";
-        text += MenuText(FromQString(child->windowTitle()));
-        if (menu.FindItem(id)) {
-            menu.ModifyItem(id, id, text);
-        } else {
-            if (number == 1) menu.AppendItem(ID_WINDOW_NEW, 0, {});
-            menu.AppendItem(ID_WINDOW_NEW, id, text);
-        }
-        ++id;
-    }
-    for (; menu.FindItem(id); ++id) menu.RemoveItem(id);
 }

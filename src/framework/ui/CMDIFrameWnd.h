@@ -35,6 +35,10 @@ public:
     // For a child that ends: it is no longer active, nor listed.
     void RemoveChild(CMDIChildWnd& child);
     void MDIActivate(CMDIChildWnd& child);
+    // Activates the child behind the active one, or before it; after the last one comes the first.
+    void MDINext(bool previous);
+    // Names the active document in the title. A maximized child adds its own title in brackets.
+    void OnUpdateFrameTitle();
     // Tells the views that another one is active, and keeps account of it.
     void ChangeActiveView(CView* activated, CView* deactivated);
 
@@ -78,6 +82,9 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
+    template <class Action>
+    void AddKeys(const char* keys, Action action);
+    void AddChildKeys();
     void OnChildActivated();
     void SetActiveChild(CMDIChildWnd* child);
     void ShowMenu(unsigned menuId);

@@ -83,7 +83,9 @@ void CMDIFrameWnd::OnUpdateViewStatusBar(CCmdUI& state) {
     state.SetCheck(!statusBarWindow->isHidden());
 }
 
+// The toolkit adds a maximized child's title to whatever title there is, and takes it away again later.
 bool CMDIFrameWnd::event(QEvent* event) {
+    if (event->type() == QEvent::WindowTitleChange) OnUpdateFrameTitle();
     if (event->type() != QEvent::StatusTip) return QMainWindow::event(event);
     statusBarWindow->ShowPrompt(static_cast<QStatusTipEvent*>(event)->tip());
     return true;

@@ -122,7 +122,7 @@ void CMenu::UpdatePopup(QMenu& popup) {
 void CMenu::UpdateItem(QAction& action) {
     const CCmdUI state = AskCommand(target, IdOf(action));
     action.setEnabled(state.enabled);
-    if (state.checked) action.setCheckable(true);
+    if (state.checked || state.radio) action.setCheckable(true);
     MarkAsRadio(action, state.radio);
     action.setChecked(state.checked);
     if (!state.checked && !action.actionGroup()) action.setCheckable(false);

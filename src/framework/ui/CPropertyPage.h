@@ -15,7 +15,6 @@ public:
 
     // The sheet that the page was added to; null without one.
     CPropertySheet* GetSheet() const { return sheet; }
-    bool WasShown() const { return shown; }
     bool IsModified() const { return modified; }
     // Gives the keys to the page's first control.
     void FocusFirstControl();

@@ -13,7 +13,6 @@ public:
 
     // Puts a scheme in front of the address, which the text does not show.
     void AddPrefix(const std::string& prefix);
-    const std::string& GetLink() const { return link; }
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;

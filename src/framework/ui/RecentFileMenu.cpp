@@ -3,14 +3,27 @@
 #include "framework/core/Path.h"
 #include "framework/core/StandardIds.h"
 #include "framework/core/StringTable.h"
+#include "framework/core/Text.h"
 #include "framework/ui/CMenu.h"
+
+#include <QApplication>
+#include <QFontMetrics>
 
 #include <algorithm>
 
 namespace {
 
+constexpr int maximumWidth = 60; // average characters
+
+// A long path loses its middle.
+std::string ShortPath(const std::string& path) {
+    const QFontMetrics metrics(QApplication::font("QMenu"));
+    return FromQString(metrics.elidedText(ToQString(ToDisplayPath(path)), Qt::ElideMiddle,
+                                          maximumWidth * metrics.averageCharWidth()));
+}
+
 std::string ItemText(const std::vector<std::string>& paths, std::size_t index) {
-    return "&" + std::to_string(index + 1) + " " + MenuText(ToDisplayPath(paths[index]));
+    return "&" + std::to_string(index + 1) + " " + MenuText(ShortPath(paths[index]));
 }
 
 } // namespace

@@ -1,8 +1,27 @@
 #include "image/ui/InfiniteScrollView.h"
 
+#include <QKeyEvent>
 #include <QScrollBar>
 
 namespace {
+
+struct ScrollKey {
+    int key;
+    Qt::Orientation orientation;
+    QAbstractSlider::SliderAction action;
+};
+constexpr ScrollKey scrollKeys[] = {
+    {Qt::Key_Left, Qt::Horizontal, QAbstractSlider::SliderSingleStepSub},
+    {Qt::Key_Right, Qt::Horizontal, QAbstractSlider::SliderSingleStepAdd},
+    {Qt::Key_Up, Qt::Vertical, QAbstractSlider::SliderSingleStepSub},
+    {Qt::Key_Down, Qt::Vertical, QAbstractSlider::SliderSingleStepAdd},
+    {Qt::Key_PageUp, Qt::Vertical, QAbstractSlider::SliderPageStepSub},
+    {Qt::Key_PageDown, Qt::Vertical, QAbstractSlider::SliderPageStepAdd},
+    {Qt::Key_Home, Qt::Horizontal, QAbstractSlider::SliderToMinimum},
+    {Qt::Key_Home, Qt::Vertical, QAbstractSlider::SliderToMinimum},
+    {Qt::Key_End, Qt::Horizontal, QAbstractSlider::SliderToMaximum},
+    {Qt::Key_End, Qt::Vertical, QAbstractSlider::SliderToMaximum},
+};
 
 // Where a use of the bar leads.
 int PositionAfter(int action, int position, int range, const QScrollBar& bar) {
@@ -65,6 +84,16 @@ void InfiniteScrollView::OnScroll(Axis& axis, int action) {
     SetScroll(axis, PositionAfter(action, axis.position, axis.range, GetScrollBar(axis.orientation)));
 }
 
+void InfiniteScrollView::keyPressEvent(QKeyEvent* event) {
+    CView::keyPressEvent(event);
+    if (event->modifiers() & ~Qt::KeypadModifier) return;
+    for (const ScrollKey& row : scrollKeys) {
+        if (row.key != event->key()) continue;
+        GetScrollBar(row.orientation).triggerAction(row.action);
+        event->accept();
+    }
+}
+
 void InfiniteScrollView::SetScroll(Axis& axis, int position) {
     const int wrapped = Wrapped(position, axis.range);
     if (wrapped != axis.position) update();
@@ -77,6 +106,7 @@ void InfiniteScrollView::SetRange(Axis& axis, int count) {
     if (count != bar.maximum() - bar.minimum() + 1) {
         bar.setRange(0, count - 1);
         bar.setPageStep(count / 2);
+        bar.setValue(axis.position); // a smaller range may have moved it
         update();
     }
     axis.range = count;

@@ -17,6 +17,9 @@ public:
 
     void OnCreate() override;
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     struct Axis {
         Qt::Orientation orientation;

@@ -11,6 +11,7 @@
 #include "resources/Shell.h"
 
 #include <QContextMenuEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWheelEvent>
 
@@ -93,6 +94,14 @@ void TavloView::ShowTexel(const TexelPoint& texel) const {
     Shell& shell = Shell::Get();
     shell.SetPositionText(std::fmod(texel.x, texture.GetWidth()), std::fmod(texel.y, texture.GetHeight()));
     shell.SetColorText(texture.GetPixelWrapped(texel.Column(), texel.Row()));
+}
+
+// The toolkit knows only the menu key.
+void TavloView::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_F10 || event->modifiers() != Qt::ShiftModifier)
+        return InfiniteScrollView::keyPressEvent(event);
+    QContextMenuEvent menu(QContextMenuEvent::Keyboard, rect().center(), mapToGlobal(rect().center()));
+    contextMenuEvent(&menu);
 }
 
 // The menu is made afresh each time, and with it the runs that change. A stroke keeps the mouse.

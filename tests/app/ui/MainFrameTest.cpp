@@ -65,6 +65,16 @@ TEST_F(MainFrameTest, AltFOpensTheFileMenuEveryTime) {
     }
 }
 
+TEST_F(MainFrameTest, WithoutADocumentNoControlHasTheKeys) {
+    Start();
+    QApplication::setActiveWindow(&GetMainFrame());
+    const auto* bar = GetMainFrame().findChild<QDockWidget*>("bar59401");
+    const auto controlHasThem = [&] { return bar->isAncestorOf(QApplication::focusWidget()); };
+    EXPECT_FALSE(controlHasThem());
+    program.OpenDocumentFile(Put("a.wal", MakeWal(8, 8)))->OnCloseDocument();
+    EXPECT_FALSE(controlHasThem());
+}
+
 // A pane beside another one shows the same rows from its first moment.
 TEST_F(MainFrameTest, PanesOfARowScrollTogether) {
     Start();

@@ -41,6 +41,8 @@ TEST_F(MenuRunsTest, ListWhatIsOpen) {
     GetMainFrame().GetCurrentMenu().UpdateAll();
     EXPECT_TRUE(third.isChecked());
     EXPECT_EQ(third.text(), "R&&B");
+    EXPECT_EQ(Item(ID_WINDOW_CHILD_FIRST)->statusTip(), "Activate this window");
+    EXPECT_FALSE(StateOf(ID_COLOR_SPACE_FIRST).enabled) << "color spaces are listed, not chosen";
 }
 
 TEST_F(MenuRunsTest, ShowAndHideTheBars) {

@@ -114,11 +114,11 @@ TEST_F(CMDIFrameWndTest, OpenMenusFollowTheCommandsStatesAndPrompt) {
 
 TEST_F(CMDIFrameWndTest, ListsItsWindows) {
     TestDocument& first = NewDocument();
-    first.SetTitle("a&b\tc");
+    first.SetTitle("a&b\tc[*]");
     NewDocument();
     CMenu& menu = mainFrame.GetCurrentMenu();
     menu.UpdateAll();
-    EXPECT_EQ(menu.FindItem(ID_WINDOW_CHILD_FIRST)->text(), "&1 a&&b c");
+    EXPECT_EQ(menu.FindItem(ID_WINDOW_CHILD_FIRST)->text(), "&1 a&&b c[*]");
     EXPECT_TRUE(menu.FindItem(ID_WINDOW_CHILD_FIRST + 1)->isChecked());
     menu.FindItem(ID_WINDOW_CHILD_FIRST)->trigger();
     EXPECT_EQ(mainFrame.MDIGetActive(), first.GetFrame());
@@ -161,20 +161,31 @@ TEST_F(CMDIFrameWndTest, ListsRecentFilesInThePlaceholdersPlace) {
     UpdateRecentFileMenu(menu, {"/x/c.pcx"});
     EXPECT_EQ(file.actions().size(), 5);
     EXPECT_EQ(file.actions()[2]->text(), "&1 /x/c.pcx");
+    UpdateRecentFileMenu(menu, {"/x/" + std::string(300, 'y') + "/c.pcx"});
+    const QString longest = file.actions()[2]->text();
+    EXPECT_TRUE(longest.startsWith("&1 /x/") && longest.endsWith("/c.pcx")) << longest.toStdString();
+    EXPECT_LT(longest.size(), 150);
 }
 
 TEST_F(CMDIFrameWndTest, NumbersTheWindowsOfADocument) {
     TestDocument& document = NewDocument();
     document.SetTitle("a&b\tc[*]");
     CMDIChildWnd& first = FrameOf(document);
-    EXPECT_EQ(first.windowTitle(), "a&b\tc[*][*]"); // the toolkit shows a doubled mark once
+    // The toolkit shows a doubled mark once, and in the place of a single one whether there are changes.
+    EXPECT_EQ(first.windowTitle(), "a&b\tc[*][*][*]");
     ASSERT_TRUE(Send(ID_WINDOW_NEW));
     CMDIChildWnd& second = *mainFrame.MDIGetActive();
     document.SetTitle("d");
-    EXPECT_EQ(first.windowTitle(), "d:1");
-    EXPECT_EQ(second.windowTitle(), "d:2");
+    EXPECT_EQ(first.windowTitle(), "d:1[*]");
+    EXPECT_EQ(second.windowTitle(), "d:2[*]");
+    EXPECT_EQ(mainFrame.windowTitle(), "KelTavlo - d[*]");
+    for (const bool modified : {true, false}) {
+        document.SetModifiedFlag(modified);
+        for (const QWidget* window : std::initializer_list<const QWidget*>{&first, &second, &mainFrame})
+            EXPECT_EQ(window->isWindowModified(), modified) << window->windowTitle().toStdString();
+    }
     EXPECT_FALSE(first.close()); // the window goes by itself, later
-    EXPECT_EQ(second.windowTitle(), "d");
+    EXPECT_EQ(second.windowTitle(), "d[*]");
     EXPECT_THAT(document.GetViews(), ElementsAre(second.GetActiveView()));
     EXPECT_THAT(mainFrame.GetChildren(), ElementsAre(&second));
 }
@@ -190,20 +201,53 @@ TEST_F(CMDIFrameWndTest, TheLastWindowAsksBeforeItTakesTheDocumentAlong) {
     EXPECT_EQ(mainFrame.MDIGetActive(), nullptr);
 }
 
-TEST_F(CMDIFrameWndTest, AMaximizedWindowNamesItselfInTheMainTitle) {
+TEST_F(CMDIFrameWndTest, TheMainTitleNamesTheActiveWindow) {
     TestDocument& document = NewDocument();
     const auto title = [&] { return mainFrame.windowTitle().toStdString(); };
-    EXPECT_EQ(title(), "KelTavlo");
+    EXPECT_EQ(title(), "KelTavlo - shown1[*]");
     FrameOf(document).showMaximized();
-    EXPECT_EQ(title(), "KelTavlo - [shown1]");
+    EXPECT_EQ(title(), "KelTavlo - [shown1[*]]");
     TestDocument& second = NewDocument();
-    EXPECT_EQ(title(), "KelTavlo - [shown2]");
+    EXPECT_EQ(title(), "KelTavlo - [shown2[*]]");
     second.SetTitle("b&c");
-    EXPECT_EQ(title(), "KelTavlo - [b&c]");
+    EXPECT_EQ(title(), "KelTavlo - [b&c[*]]");
+    FrameOf(second).showNormal();
+    EXPECT_EQ(title(), "KelTavlo - b&c[*]");
+    FrameOf(second).showMaximized();
+    second.SetModifiedFlag();
+    EXPECT_TRUE(mainFrame.isWindowModified());
     second.OnCloseDocument();
-    EXPECT_EQ(title(), "KelTavlo - [shown1]");
+    EXPECT_EQ(title(), "KelTavlo - [shown1[*]]");
+    EXPECT_FALSE(mainFrame.isWindowModified());
+    document.SetModifiedFlag();
     document.OnCloseDocument();
     EXPECT_EQ(title(), "KelTavlo");
+    EXPECT_FALSE(mainFrame.isWindowModified());
+}
+
+TEST_F(CMDIFrameWndTest, CtrlF6GoesRoundTheWindowsAndCtrlF4ClosesOne) {
+    NewDocument(1); // hidden
+    for (int i = 0; i < 3; ++i) NewDocument();
+    const std::vector<CMDIChildWnd*> windows = mainFrame.GetChildren();
+    const auto press = [&](Qt::Key key, Qt::KeyboardModifiers keys = {}) {
+        QApplication::setActiveWindow(&mainFrame); // again after a dialog
+        QTest::keyClick(&mainFrame, key, Qt::ControlModifier | keys);
+        return mainFrame.MDIGetActive();
+    };
+    EXPECT_EQ(press(Qt::Key_F6), windows[0]);
+    EXPECT_EQ(press(Qt::Key_F6), windows[1]);
+    EXPECT_EQ(press(Qt::Key_F6, Qt::ShiftModifier), windows[0]);
+    EXPECT_EQ(press(Qt::Key_F6, Qt::ShiftModifier), windows[2]);
+    windows[2]->GetActiveDocument()->SetModifiedFlag();
+    {
+        const DialogAnswer answers(Press(QDialogButtonBox::Cancel), Press(QDialogButtonBox::No));
+        EXPECT_EQ(press(Qt::Key_F4), windows[2]);
+        EXPECT_NE(press(Qt::Key_F4, Qt::ShiftModifier), windows[2]);
+    }
+    press(Qt::Key_F4);
+    EXPECT_EQ(mainFrame.GetChildren().size(), 1U);
+    for (int i = 0; i < 2; ++i) EXPECT_FALSE(press(Qt::Key_F4));
+    EXPECT_FALSE(press(Qt::Key_F6));
 }
 
 } // namespace

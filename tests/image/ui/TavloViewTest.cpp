@@ -1,3 +1,4 @@
+#include "framework/ui/CMenu.h"
 #include "image/ui/TavloViewFixture.h"
 #include "res/CommandIds.h"
 #include "resources/ColorTableDocument.h"
@@ -57,11 +58,35 @@ TEST_F(TavloViewTest, ScrollingGoesRound) {
     EXPECT_EQ(view->GetScrollX(), 40);
     view->SetScrollY(-33);
     EXPECT_EQ(view->GetScrollBar(Qt::Vertical).value(), 31);
+    for (const auto& [key, x, y] : {std::tuple{Qt::Key_Right, 41, 31},
+                                    {Qt::Key_Down, 41, 0},
+                                    {Qt::Key_PageUp, 41, 16},
+                                    {Qt::Key_PageDown, 41, 0},
+                                    {Qt::Key_Up, 41, 31},
+                                    {Qt::Key_Left, 40, 31},
+                                    {Qt::Key_Home, 0, 0},
+                                    {Qt::Key_Left, 63, 0},
+                                    {Qt::Key_End, 0, 0}}) {
+        QTest::keyClick(view, key);
+        EXPECT_EQ(std::pair(view->GetScrollX(), view->GetScrollY()), std::pair(x, y)) << key;
+    }
+}
+
+TEST_F(TavloViewTest, ShiftF10OpensTheContextMenu) {
+    const PopupAnswer answer([](const QMenu& menu) {
+        EXPECT_EQ(ItemTexts(menu), QStringList({"Brush", "Color...", "Zoom", "Properties", "Cancel"}));
+    });
+    QTest::keyClick(view, Qt::Key_F10, Qt::ShiftModifier);
 }
 
 TEST_F(TavloViewTest, PaintsTheTilingFromTheScrollPosition) {
     Send(ID_ZOOM_400);
-    EXPECT_TRUE(StateOf(ID_ZOOM_400).radio);
+    GetMainFrame().GetCurrentMenu().UpdateAll();
+    for (const CommandId id : {ID_ZOOM_100, ID_ZOOM_200, ID_ZOOM_400, ID_ZOOM_800, ID_ZOOM_1600}) {
+        const QAction& item = *GetMainFrame().GetCurrentMenu().FindItem(id);
+        EXPECT_TRUE(item.isCheckable() && item.actionGroup()) << id;
+        EXPECT_EQ(item.isChecked(), id == ID_ZOOM_400);
+    }
     view->SetScrollX(3);
     view->SetScrollY(30);
     EXPECT_EQ(ColorShownAt(9, 5), GetTexture().GetPixel(5, 31));
@@ -72,6 +97,9 @@ TEST_F(TavloViewTest, PaintsTheTilingFromTheScrollPosition) {
     EXPECT_EQ(view->GetScrollY(), 30) << "the position is not wrapped again when the picture shrinks";
     EXPECT_EQ(view->GetScrollBar(Qt::Vertical).maximum(), 7);
     EXPECT_EQ(ColorShownAt(16, 0), 0xFFFF8040U);
+    GetTexture().SetSize(64, 32);
+    document->UpdateAllViews(nullptr);
+    EXPECT_EQ(view->GetScrollBar(Qt::Vertical).value(), 30);
 }
 
 TEST_F(TavloViewTest, TellsPositionAndColorUnderTheMouse) {

@@ -162,11 +162,11 @@ TEST_F(MD2ViewTest, KeepsThePictureOfWhenItWasMade) {
 TEST_F(MD2ViewTest, IsGreyWithoutAPictureAndRedWithoutTexture) {
     MD2View& view = OpenModel();
     ExpectScene(view, PlainShade(grey));
-    EXPECT_TRUE(StateOf(ID_3D_TEXTURED).radio);
+    EXPECT_TRUE(StateOf(ID_3D_TEXTURED).checked);
     EXPECT_TRUE(Send(ID_3D_SOLID));
     ExpectScene(view, PlainShade(qRgb(255, 0, 0)));
     EXPECT_TRUE(StateOf(ID_3D_SOLID).radio);
-    EXPECT_FALSE(StateOf(ID_3D_TEXTURED).radio);
+    EXPECT_FALSE(StateOf(ID_3D_TEXTURED).checked);
     EXPECT_TRUE(Send(ID_3D_TEXTURED));
     ExpectScene(view, PlainShade(grey));
     EXPECT_FALSE(StateOf(ID_3D_WIREFRAME).enabled);

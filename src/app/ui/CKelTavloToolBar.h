@@ -1,0 +1,9 @@
+#pragma once
+
+#include "framework/ui/CToolBar.h"
+
+// The program's own kind of toolbar.
+class CKelTavloToolBar final : public Dynamic<"CKelTavloToolBar", CKelTavloToolBar, CToolBar> {
+public:
+    using Dynamic::Dynamic;
+};

@@ -1,0 +1,79 @@
+#include "framework/ui/CMenu.h"
+#include "framework/ui/CStatusBar.h"
+#include "image/ui/TavloViewFixture.h"
+#include "res/CommandIds.h"
+
+#include <QDockWidget>
+#include <QTextBrowser>
+#include <QToolBar>
+#include <QToolButton>
+#include <QUrl>
+
+namespace {
+
+// The program with a texture; each test asks for help on parts of its window.
+class ContextHelpTest : public TavloViewFixture {
+protected:
+    static bool IsAsking() {
+        const QCursor* cursor = QGuiApplication::overrideCursor();
+        return cursor && cursor->shape() == Qt::WhatsThisCursor;
+    }
+    // The page that the help shows; closes the help.
+    static std::string TakePage() {
+        for (QWidget* window : QApplication::topLevelWidgets())
+            if (const auto* browser = window->findChild<QTextBrowser*>(); browser && window->isVisible()) {
+                EXPECT_FALSE(browser->toPlainText().isEmpty()) << browser->source().toString().toStdString();
+                window->close();
+                return browser->source().fileName().toStdString();
+            }
+        return "none";
+    }
+    std::string PageAfterClick(QWidget& target, const QPoint& place) {
+        EXPECT_TRUE(Send(ID_CONTEXT_HELP));
+        EXPECT_TRUE(IsAsking());
+        QTest::mouseClick(&target, Qt::LeftButton, {}, place);
+        EXPECT_FALSE(IsAsking());
+        return TakePage();
+    }
+    std::string PageAfterClick(QWidget& target) { return PageAfterClick(target, target.rect().center()); }
+    std::string PageAfterItem(CommandId id) {
+        QAction* item = GetMainFrame().GetCurrentMenu().FindItem(id);
+        auto& popup = dynamic_cast<QMenu&>(*item->parent());
+        popup.popup({});
+        return PageAfterClick(popup, popup.actionGeometry(item).center());
+    }
+};
+
+TEST_F(ContextHelpTest, TheNextClickOpensThePageOfWhatItHits) {
+    for (const auto& [id, page] : {std::pair<CommandId, const char*>{ID_FILE_OPEN, "first-steps.html"},
+                                   {ID_APP_EXIT, "first-steps.html"},
+                                   {ID_EDIT_PROPERTIES, "flags.html"},
+                                   {ID_EDIT_CLEAR, "disabled.html"},
+                                   {ID_3D_SOLID, "models.html"},
+                                   {ID_COLOR_TABLE_FIRST, "painting.html"},
+                                   {ID_HELP_FINDER, "index.html"}}) {
+        EXPECT_EQ(PageAfterItem(id), page) << id;
+        EXPECT_FALSE(QApplication::activePopupWidget());
+    }
+    EXPECT_TRUE(GetMainFrame().isVisible() && GetMainFrame().MDIGetActive()) << "nothing is carried out";
+    auto& filters = *GetMainFrame().findChild<QToolBar*>("bar59398");
+    EXPECT_EQ(PageAfterClick(*filters.widgetForAction(filters.actions().back())), "painting.html");
+    EXPECT_EQ(PageAfterClick(filters, {1, 1}), "painting.html");
+    EXPECT_EQ(PageAfterClick(*GetMainFrame().findChild<QDockWidget*>("bar59401")->widget()), "painting.html");
+    EXPECT_EQ(program.GetCurrentColor(), 0U) << "the click picks no color";
+    EXPECT_EQ(PageAfterClick(GetMainFrame().GetStatusBar()), "first-steps.html");
+    EXPECT_EQ(PageAfterClick(*view), "painting.html") << "the page of the active window";
+}
+
+TEST_F(ContextHelpTest, EscapeEndsIt) {
+    ASSERT_TRUE(Send(ID_CONTEXT_HELP) && Send(ID_CONTEXT_HELP));
+    EXPECT_TRUE(IsAsking());
+    QTest::keyClick(view, Qt::Key_Escape);
+    EXPECT_FALSE(QGuiApplication::overrideCursor());
+    Choose(texelBrushFile);
+    QTest::mouseClick(view, Qt::LeftButton);
+    EXPECT_TRUE(document->IsModified());
+    EXPECT_EQ(TakePage(), "none");
+}
+
+} // namespace
