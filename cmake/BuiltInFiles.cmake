@@ -3,7 +3,7 @@ set(builtInSource "${CMAKE_BINARY_DIR}/generated/BuiltInFiles.cpp")
 file(GLOB paletteTables CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/src/res/palettes/*.txt")
 file(MAKE_DIRECTORY "${CMAKE_BINARY_DIR}/generated")
 
-add_executable(make_built_in_files tools/MakeBuiltInFiles.cpp)
+add_executable(make_built_in_files dev/generators/MakeBuiltInFiles.cpp)
 target_link_libraries(make_built_in_files PRIVATE project_options)
 add_custom_command(
     OUTPUT "${builtInSource}"

@@ -4,5 +4,5 @@
 
 // The nine files that the program carries, two rows each: the name under "DIR", the bytes under the name's
 // extension. The build makes them from the palette tables in res/palettes and the rules in
-// tools/MakeBuiltInFiles.cpp.
+// dev/generators/MakeBuiltInFiles.cpp.
 std::span<const ResourceRow> BuiltInFileRows();

@@ -1,4 +1,4 @@
-// The least that a windowed program of the toolkit does: what bench/startup compares ours with.
+// The least that a windowed program of the toolkit does: what dev/bench/startup compares ours with.
 #include <QApplication>
 #include <QMainWindow>
 
