@@ -18,6 +18,11 @@ public:
     void SetLength(std::uint64_t length) override;
     std::unique_ptr<CFile> Duplicate() const override;
 
+protected:
+    const char* GetFullSentence() const override {
+        return "This file lies in an archive, where files cannot grow, and its new contents are larger.";
+    }
+
 private:
     std::shared_ptr<EntryBytes> bytes;
     std::function<void()> beforeWrite;

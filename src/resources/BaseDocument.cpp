@@ -25,7 +25,7 @@ private:
 } // namespace
 
 void BaseDocument::WriteContents(OutputStream&) {
-    throw CArchiveException(CArchiveException::badClass);
+    throw CArchiveException(CArchiveException::badClass, {}, CannotBeWritten(GetRuntimeClass()));
 }
 
 void BaseDocument::ReadContents(InputStream&) {
