@@ -60,7 +60,7 @@ void Add(Digest& digest, FolderDocument& document, const std::string& folder) {
     for (const std::string& name : listing.names) {
         digest.Add(name);
         const std::string path = JoinPath(folder, name);
-        if (left == 0 || path.size() > 4096) continue;
+        if (left == 0 || path.size() > 4096 || name.empty()) continue; // no name: the folder's own path
         --left;
         if (const auto file = document.OpenEntry(path, CFile::modeRead, nullptr))
             digest.Add(file->GetLength());

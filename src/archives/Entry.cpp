@@ -23,20 +23,22 @@ void FolderEntry::RemoveChildren() {
 
 Entry* FolderEntry::FindChild(std::string_view name) const {
     const Named* found = Find(name);
-    return found ? found->first : nullptr;
+    if (!found) return nullptr;
+    return found->file ? found->file : found->folder;
 }
 
 FolderEntry* FolderEntry::FindFolder(std::string_view name) const {
     const Named* found = Find(name);
-    return found ? found->firstFolder : nullptr;
+    return found ? found->folder : nullptr;
 }
 
 const FolderEntry::Named* FolderEntry::Find(std::string_view name) const {
     for (; indexedCount < children.size(); ++indexedCount) {
         Entry* child = children[indexedCount].get();
         Named& named = index[FoldCase(child->GetName())];
-        if (!named.first) named.first = child;
-        if (!named.firstFolder) named.firstFolder = dynamic_cast<FolderEntry*>(child);
+        auto* folder = dynamic_cast<FolderEntry*>(child);
+        if (folder && !named.folder) named.folder = folder;
+        if (!folder && !named.file) named.file = child;
     }
     const auto place = index.find(FoldCase(name));
     return place == index.end() ? nullptr : &place->second;

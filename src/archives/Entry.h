@@ -40,15 +40,15 @@ public:
     void Reserve(std::size_t count) { children.reserve(count); }
     void RemoveChildren();
 
-    // The first child of that name without regard to case, or null.
+    // The first file of that name without regard to case, else the folder of that name, else null.
     Entry* FindChild(std::string_view name) const;
-    // The first that is a folder; a file of the same name does not stand in its way.
+    // The folder of that name, even if a file has the same name; or null.
     FolderEntry* FindFolder(std::string_view name) const;
 
 private:
     struct Named {
-        Entry* first = nullptr;
-        FolderEntry* firstFolder = nullptr;
+        Entry* file = nullptr;
+        FolderEntry* folder = nullptr;
     };
     const Named* Find(std::string_view name) const;
 

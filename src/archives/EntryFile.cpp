@@ -1,9 +1,9 @@
 #include "archives/EntryFile.h"
 
 EntryFile::EntryFile(std::shared_ptr<EntryBytes> entryBytes, std::size_t length,
-                     std::function<void()> noteWrite)
+                     std::function<void()> noteWrite, std::weak_ptr<const void> entryLife)
     : CMemFile(std::span(*entryBytes).first(length)), bytes(std::move(entryBytes)),
-      beforeWrite(std::move(noteWrite)) {}
+      beforeWrite(std::move(noteWrite)), life(std::move(entryLife)) {}
 
 void EntryFile::Write(const void* buffer, std::size_t count) {
     beforeWrite();
@@ -16,5 +16,5 @@ void EntryFile::SetLength(std::uint64_t length) {
 }
 
 std::unique_ptr<CFile> EntryFile::Duplicate() const {
-    return std::make_unique<EntryFile>(bytes, GetLength(), beforeWrite);
+    return std::make_unique<EntryFile>(bytes, GetLength(), beforeWrite, life);
 }

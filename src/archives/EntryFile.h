@@ -8,15 +8,18 @@
 // they were changed, and a file may outlive the archive it came from.
 using EntryBytes = std::vector<std::byte>;
 
-// A file over an entry's bytes: reads them and can overwrite them, but cannot grow. It carries no path.
+// A file over an entry's bytes: reads them and can overwrite them, but cannot grow. It has no path.
 class EntryFile final : public CMemFile {
 public:
-    // `length` may be less than the buffer's size. `noteWrite` runs before every change.
-    EntryFile(std::shared_ptr<EntryBytes> entryBytes, std::size_t length, std::function<void()> noteWrite);
+    // `length` may be less than the buffer's size. `noteWrite` runs before every change. The file counts as
+    // unchanged while what `entryLife` points to exists.
+    EntryFile(std::shared_ptr<EntryBytes> entryBytes, std::size_t length, std::function<void()> noteWrite,
+              std::weak_ptr<const void> entryLife);
 
     void Write(const void* buffer, std::size_t count) override;
     void SetLength(std::uint64_t length) override;
     std::unique_ptr<CFile> Duplicate() const override;
+    bool IsUnchanged() const override { return !life.expired(); }
 
 protected:
     const char* GetFullSentence() const override {
@@ -26,4 +29,5 @@ protected:
 private:
     std::shared_ptr<EntryBytes> bytes;
     std::function<void()> beforeWrite;
+    std::weak_ptr<const void> life;
 };

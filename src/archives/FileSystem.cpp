@@ -30,8 +30,9 @@ FolderDocument* OpenFolder(const std::string& path) {
     const CRuntimeClass* type = FolderTypeOf(path);
     if (!type) return nullptr;
     CDocument* document = FindOpenFolder(*type, path);
-    if (!document) document = DocTemplateRegistry::Get().OpenDocument(path);
-    return dynamic_cast<FolderDocument*>(document);
+    if (!document) return dynamic_cast<FolderDocument*>(DocTemplateRegistry::Get().OpenDocument(path));
+    auto* archive = dynamic_cast<FolderDocument*>(document);
+    return archive->Refresh() ? archive : nullptr;
 }
 
 // The archive of the disk that the path leads into.
@@ -80,6 +81,6 @@ void FileSystem::ListFolder(const std::string& path, FolderListing& listing) {
     const FolderDocument* archive = FindArchive(path);
     EntryStatus status;
     GetStatus(path, status);
-    if (status.browsable) archive = OpenFolder(path);
+    if (status.browsable) archive = OpenFolder(status.fullName);
     if (archive) archive->ListFolder(path, listing);
 }

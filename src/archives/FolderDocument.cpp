@@ -21,12 +21,19 @@ void FolderDocument::AddEntry(const std::string& path, std::unique_ptr<Entry> en
 }
 
 Entry* FolderDocument::FindEntry(const std::string& path) const {
-    const PathBelow below = SplitBelow(GetRootName(), path);
+    PathBelow below = SplitBelow(GetRootName(), path);
     if (!below.below) return nullptr;
+    const bool folderFirst = below.fileName.empty();
+    if (folderFirst) {
+        below.fileName = std::move(below.directories.back());
+        below.directories.pop_back();
+    }
     const FolderEntry* folder = &root;
     for (const std::string& component : below.directories)
         if (folder) folder = folder->FindFolder(component);
-    return folder ? folder->FindChild(below.fileName) : nullptr;
+    if (!folder) return nullptr;
+    Entry* const named = folderFirst ? folder->FindFolder(below.fileName) : nullptr;
+    return named ? named : folder->FindChild(below.fileName);
 }
 
 void FolderDocument::GetEntryStatus(const std::string& path, EntryStatus& status) const {
@@ -35,6 +42,8 @@ void FolderDocument::GetEntryStatus(const std::string& path, EntryStatus& status
     if (!entry) return;
     entry->GetStatus(status);
     status.fullName = path;
+    if (status.attributes & CFileStatus::directoryAttribute) return;
+    while (IsSeparator(status.fullName.back())) status.fullName.pop_back();
 }
 
 std::unique_ptr<CFile> FolderDocument::OpenEntry(const std::string& path, unsigned flags,
@@ -54,17 +63,35 @@ void FolderDocument::ListFolder(const std::string& path, FolderListing& listing)
     const bool isRoot = EqualNoCase(FullPath(path), FullPath(GetRootName()));
     const auto* folder = isRoot ? &root : dynamic_cast<const FolderEntry*>(FindEntry(path));
     if (!folder) return;
-    for (const auto& child : folder->GetChildren()) listing.names.push_back(child->GetName());
+    for (const auto& child : folder->GetChildren()) {
+        listing.names.push_back(child->GetName());
+        const bool isFolder = dynamic_cast<const FolderEntry*>(child.get()) != nullptr;
+        if (isFolder && folder->FindChild(listing.names.back()) != child.get()) listing.names.back() += '/';
+    }
+}
+
+bool FolderDocument::Refresh() {
+    return ArchiveFreeze::Find() || !IsOutdated() || OnOpenDocument(GetPathName());
+}
+
+// An archive without a root name was not read: its file was empty, or damaged when it was last refreshed. The
+// built-in files have no source.
+bool FolderDocument::IsOutdated() const {
+    if (IsModified()) return false;
+    return source ? !source->IsUnchanged() : GetRootName().empty();
 }
 
 CFile& FolderDocument::GetSource(std::uint64_t offset, std::uint64_t length) const {
-    if (!source->IsUnchanged())
-        throw CFileException(CFileException::generic, GetRootName(),
-                             "The archive was changed or replaced after it was opened.");
+    if (!source->IsUnchanged()) ThrowChanged(GetRootName());
     const std::uint64_t size = source->GetLength();
     if (length > 0 && (offset > size || length > size - offset))
         throw CFileException(CFileException::endOfFile, CFileException::noOsError, GetRootName());
     return *source;
+}
+
+void FolderDocument::ThrowChanged(const std::string& archivePath) {
+    throw CFileException(CFileException::generic, archivePath,
+                         "The archive was changed or replaced after it was opened.");
 }
 
 void FolderDocument::BeginReading(InputStream& in) {
@@ -85,6 +112,7 @@ void FolderDocument::AddNamedEntry(std::string_view name, std::unique_ptr<Entry>
 
 void FolderDocument::DeleteContents() {
     ResetTree();
+    SetRootName({});
     source.reset();
     lastFolder = nullptr;
 }

@@ -2,13 +2,20 @@
 
 #include "archives/Entry.h"
 #include "framework/core/Path.h"
+#include "framework/core/Service.h"
 #include "resources/ReferenceDocument.h"
 
-// What a folder holds.
+// What a folder contains.
 struct FolderListing {
-    std::vector<std::string> names; // in the order of the tree
+    // In the order of the tree. A folder that has the same name as a file beside it ends in "/", so that
+    // joined to the folder's path each name leads to its own entry.
+    std::vector<std::string> names;
     std::string path;
 };
+
+// While one exists, an archive whose file has changed is not read again, so that no message can appear: for
+// code that runs while the screen is being painted.
+class ArchiveFreeze : public Service<ArchiveFreeze> {};
 
 // A document that is a tree of named entries: an archive or the folder of built-in files. Its entries are
 // reached by paths that go through the document's own path as if it were a folder.
@@ -21,13 +28,17 @@ public:
     // Appends the entry in the folder that the path names below the root; folders that are missing are made.
     // The entry's own name is not looked at, so several entries may have one name.
     void AddEntry(const std::string& path, std::unique_ptr<Entry> entry);
-    // The first entry of that path without regard to case, or null.
+    // The first file of that path without regard to case, else the folder, else null. If the path ends in a
+    // separator, the folder comes first.
     Entry* FindEntry(const std::string& path) const;
-    // Resets the status when there is no such entry.
+    // Resets the status when there is no such entry. A file's full name has no separator at its end.
     void GetEntryStatus(const std::string& path, EntryStatus& status) const;
     std::unique_ptr<CFile> OpenEntry(const std::string& path, unsigned flags, CFileException* failure);
     // Empty names when the path is no folder.
     void ListFolder(const std::string& path, FolderListing& listing) const;
+    // Reads the archive again if its file has changed since it was read, unless entries were written to.
+    // False when that failed: the user was told, and the archive is empty until a later call succeeds.
+    bool Refresh();
     // The path of the first file entry on the way to the path that `isArchive` accepts; empty when there is
     // none.
     template <class Predicate>
@@ -36,6 +47,8 @@ public:
     // The file that the entries' bytes lie in, for reading an extent of it. CFileException when it was
     // changed since it was opened, or does not back the extent.
     CFile& GetSource(std::uint64_t offset, std::uint64_t length) const;
+    // CFileException for an entry that is out of date.
+    [[noreturn]] static void ThrowChanged(const std::string& archivePath);
 
 protected:
     // The first step of reading an archive: an empty tree under the name of what is read, whose bytes stay at
@@ -51,6 +64,7 @@ protected:
 
 private:
     FolderEntry& MakeFolder(const std::vector<std::string>& components);
+    bool IsOutdated() const;
 
     RootEntry root;
     std::unique_ptr<CFile> source;
@@ -63,7 +77,8 @@ template <class Predicate>
 std::string FolderDocument::FindOnTheWay(const std::string& path, Predicate isArchive) const {
     std::string way = GetRootName();
     const FolderEntry* folder = &root;
-    const PathBelow below = SplitBelow(GetRootName(), path);
+    PathBelow below = SplitBelow(GetRootName(), path);
+    if (below.below && below.fileName.empty()) below.directories.pop_back();
     for (const std::string& component : below.directories) {
         way = JoinPath(way, component);
         if (const FolderEntry* next = folder->FindFolder(component))

@@ -11,6 +11,7 @@ bool ResourceDocument::OnDocumentReady() {
     ResetTree();
     // The program may have been reached through a link.
     SetRootName(GetTransferPath().empty() ? GetModulePath() : GetTransferPath());
+    if (!IsModulePath(GetRootName())) return true;
     const std::string folder = JoinPath(GetRootName(), builtInFolder);
     for (const unsigned id : EnumResources(builtInNameType)) {
         const std::string name = GetBuiltInName(id);

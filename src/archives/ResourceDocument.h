@@ -2,8 +2,8 @@
 
 #include "archives/FolderDocument.h"
 
-// The files that the program carries inside itself, as a folder "res" below the program's own file. Read
-// only.
+// The files that the program carries inside itself, as a folder "res" below the program's own file. Empty for
+// any other program's file. Read only.
 class ResourceDocument final : public Dynamic<"ResourceDocument", ResourceDocument, FolderDocument> {
 public:
     // Builds the tree; nothing of the file that was opened is looked at.

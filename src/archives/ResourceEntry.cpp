@@ -15,6 +15,7 @@ std::unique_ptr<CFile> ResourceEntry::OpenEntry(unsigned flags, CFileException* 
         if (failure) *failure = CFileException(CFileException::accessDenied, 0, name);
         return nullptr;
     }
-    return std::make_unique<EntryFile>(std::make_shared<EntryBytes>(data.begin(), data.end()), data.size(),
-                                       [] {});
+    const auto bytes = std::make_shared<EntryBytes>(data.begin(), data.end());
+    return std::make_unique<EntryFile>(
+        bytes, data.size(), [] {}, bytes);
 }

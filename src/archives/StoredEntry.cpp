@@ -21,11 +21,15 @@ void StoredEntry::GetStatus(EntryStatus& status) const {
 std::unique_ptr<CFile> StoredEntry::OpenEntry(unsigned, CFileException* failure, FolderDocument& owner) {
     try {
         const std::shared_ptr<EntryBytes> bytes = Load(owner);
-        return std::make_unique<EntryFile>(bytes, GetExtent().length,
-                                           [this, &owner, weak = std::weak_ptr(bytes)] {
-                                               use->changed = weak.lock();
-                                               owner.SetModifiedFlag();
-                                           });
+        // The owner exists for as long as its entry.
+        const auto noteWrite = [life = std::weak_ptr(use), weak = std::weak_ptr(bytes), &owner,
+                                path = owner.GetRootName()] {
+            const std::shared_ptr<Use> entry = life.lock();
+            if (!entry) FolderDocument::ThrowChanged(path);
+            entry->changed = weak.lock();
+            owner.SetModifiedFlag();
+        };
+        return std::make_unique<EntryFile>(bytes, GetExtent().length, noteWrite, use);
     } catch (const CFileException& exception) {
         if (failure) *failure = exception;
         return nullptr;
@@ -33,7 +37,7 @@ std::unique_ptr<CFile> StoredEntry::OpenEntry(unsigned, CFileException* failure,
 }
 
 std::shared_ptr<EntryBytes> StoredEntry::Load(FolderDocument& owner) {
-    if (!use) use = std::make_unique<Use>();
+    if (!use) use = std::make_shared<Use>();
     if (std::shared_ptr<EntryBytes> bytes = use->loaded.lock()) return bytes;
     const Extent extent = GetExtent();
     CFile& file = owner.GetSource(extent.offset, extent.stored);

@@ -27,6 +27,7 @@ private:
         std::weak_ptr<EntryBytes> loaded;    // for as long as a file is open over them
         std::shared_ptr<EntryBytes> changed; // set by the first write
     };
-    // Made when the entry is first opened: most of a large archive's never are.
-    std::unique_ptr<Use> use;
+    // Made when the entry is first opened: most of a large archive's never are. Files over the entry see by
+    // it whether the entry still exists.
+    std::shared_ptr<Use> use;
 };

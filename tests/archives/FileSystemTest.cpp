@@ -4,6 +4,7 @@
 #include "framework/core/Path.h"
 #include "image/ImageDocuments.h"
 #include "resources/BuiltInPath.h"
+#include "support/CauseOf.h"
 #include "support/TestApplication.h"
 
 #include <filesystem>
@@ -33,6 +34,8 @@ protected:
         outer.Add("README.TXT", ToBytes("second"));
         outer.Add("a", ToBytes("a file"));
         outer.Add("a/b", ToBytes("below a folder of its name"));
+        outer.Add("c/d", ToBytes("first of all"));
+        outer.Add("c", ToBytes("behind a folder of its name"));
         outer.Add("inner.pak", inner.Build());
         return outer.Build();
     }
@@ -69,7 +72,15 @@ TEST_F(FileSystemTest, PathsWorkInEverySpelling) {
     EXPECT_EQ(TextOf(pack + "/Readme.txt"), "first");
     EXPECT_EQ(TextOf(pack + "/a"), "a file");
     EXPECT_EQ(TextOf(pack + "/a/b"), "below a folder of its name");
-    EXPECT_THAT(NamesIn(pack), ElementsAre("textures", "readme.txt", "README.TXT", "a", "a", "inner.pak"));
+    EXPECT_THAT(NamesIn(pack),
+                ElementsAre("textures", "readme.txt", "README.TXT", "a", "a/", "c/", "c", "inner.pak"));
+    EXPECT_THAT(NamesIn(pack + "\\A/"), ElementsAre("b"));
+    EXPECT_EQ(StatusOf(pack + "\\a/").attributes, CFileStatus::directoryAttribute);
+    EXPECT_EQ(StatusOf(pack + "/a").size, 6U);
+    EXPECT_EQ(TextOf(pack + "/c"), "behind a folder of its name");
+    EXPECT_EQ(TextOf(pack + "/c/d"), "first of all");
+    EXPECT_THAT(NamesIn(pack + "/inner.pak/"), ElementsAre("deep"));
+    EXPECT_TRUE(StatusOf(pack + "/inner.pak/").browsable);
     EXPECT_TRUE(NamesIn(pack + "/readme.txt").empty());
     EXPECT_EQ(OpenFailure(pack + "/textures"), CFileException::accessDenied);
     EXPECT_EQ(OpenFailure(pack + "/nothing"), CFileException::fileNotFound);
@@ -87,13 +98,46 @@ TEST_F(FileSystemTest, APackInItselfEndsSomewhere) {
     EXPECT_LE(application.GetDocuments().size(), 8U);
 }
 
-TEST_F(FileSystemTest, EntriesOfAChangedArchiveFail) {
-    const auto kept = application.GetFileSystem().OpenFile(pack + "/a", CFile::modeRead, nullptr);
+TEST_F(FileSystemTest, AChangedArchiveIsReadAgain) {
+    const std::string picture = pack + "/textures/e1u1/floor1_1.wal";
+    auto& document = *Open<WALDocument>(picture);
+    EXPECT_EQ(TextOf(pack + "/inner.pak/deep/letter.txt"), "from inside");
+    const auto kept = application.GetFileSystem().OpenFile(pack + "/a", CFile::modeReadWrite, nullptr);
+    PackBuilder inner, outer;
+    inner.Add("deep/letter.txt", ToBytes("rebuilt"));
+    outer.Add("added", ToBytes("new"));
+    outer.Add("inner.pak", inner.Build());
+    Put("pak0.pak", outer.Build());
+    EXPECT_THAT(NamesIn(pack), ElementsAre("added", "inner.pak"));
+    EXPECT_EQ(TextOf(pack + "/inner.pak/deep/letter.txt"), "rebuilt");
+    EXPECT_EQ(Open<WALDocument>(picture), &document) << "open pictures stay";
+    EXPECT_EQ(CauseOf<CFileException>([&] { kept->Write("x", 1); }), CFileException::generic);
+    for (const char* partial : {"PACK", ""}) { // as while it is being written
+        messages.clear();
+        Put("pak0.pak", ToBytes(partial));
+        EXPECT_TRUE(NamesIn(pack).empty());
+        EXPECT_EQ(messages.size(), *partial ? 1U : 0U);
+        Put("pak0.pak", SamplePack());
+        EXPECT_EQ(TextOf(pack + "/a"), "a file");
+    }
+}
+
+TEST_F(FileSystemTest, AChangedArchiveStaysWhereItMustNotBeReadAgain) {
+    const std::string path = pack + "/a";
+    EXPECT_EQ(TextOf(path), "a file");
     std::filesystem::resize_file(pack, 100);
+    {
+        const ArchiveFreeze freeze;
+        EXPECT_TRUE(StatusOf(path).exists);
+    }
+    Put("pak0.pak", SamplePack());
+    application.GetFileSystem().OpenFile(path, CFile::modeReadWrite, nullptr)->Write("A", 1);
+    std::filesystem::resize_file(pack, 100);
+    EXPECT_EQ(TextOf(path), "A file") << "what was written here";
     CFileException failure;
     EXPECT_EQ(application.GetFileSystem().OpenFile(pack + "/readme.txt", CFile::modeRead, &failure), nullptr);
     EXPECT_THAT(failure.what(), HasSubstr("changed"));
-    EXPECT_EQ(TextOf(pack + "/a"), "a file") << "bytes in use stay";
+    EXPECT_TRUE(messages.empty());
 }
 
 TEST_F(FileSystemTest, ATextureInAPackIsSavedIntoIt) {
@@ -109,6 +153,17 @@ TEST_F(FileSystemTest, ATextureInAPackIsSavedIntoIt) {
     EXPECT_EQ(ReadFile(pack), SamplePack()) << "the file on the disk never changes";
 }
 
+TEST_F(FileSystemTest, AnotherProgramHoldsNothing) {
+    PackBuilder builder;
+    builder.Add("setup.exe", ToBytes("MZ!"));
+    for (const std::string& path :
+         {Put("other.exe", ToBytes("MZ!")), Put("p.pak", builder.Build()) + "/setup.exe"}) {
+        EXPECT_TRUE(NamesIn(path).empty()) << path;
+        EXPECT_FALSE(StatusOf(path + "/res/Quake.lmp").exists) << path;
+    }
+    EXPECT_TRUE(messages.empty());
+}
+
 TEST_F(FileSystemTest, BuiltInFilesLieBelowTheProgram) {
     const std::string program = GetModulePath();
     EXPECT_THAT(NamesIn(program), ElementsAre("res"));
@@ -118,8 +173,10 @@ TEST_F(FileSystemTest, BuiltInFilesLieBelowTheProgram) {
     EXPECT_EQ(status.attributes, CFileStatus::readOnlyAttribute | CFileStatus::hiddenAttribute);
     EXPECT_FALSE(status.modified);
     EXPECT_EQ(OpenFailure(GetBuiltInPath(quakePalette), CFile::modeReadWrite), CFileException::accessDenied);
-    const std::string link = PathTo("program link");
-    std::filesystem::create_symlink(program, link);
-    EXPECT_TRUE(StatusOf(link).browsable);
-    EXPECT_TRUE(StatusOf(link + "/res/Quake.lmp").exists);
+    for (const char* name : {"program link", "program-0.23", "program.pak"}) {
+        const std::string link = PathTo(name);
+        std::filesystem::create_symlink(program, link);
+        EXPECT_TRUE(StatusOf(link).browsable) << name;
+        EXPECT_TRUE(StatusOf(link + "/res/Quake.lmp").exists) << name;
+    }
 }

@@ -170,6 +170,7 @@ QString ArchiveFileDialog::TitleOf(const std::string& path) const {
 
 void ArchiveFileDialog::Describe(ArchiveListItem& item) const {
     const std::string& name = listing.names[item.data];
+    const ArchiveFreeze whilePainting;
     const EntryStatus status = StatusOf(JoinPath(archivePath, name));
     const bool directory = (status.attributes & CFileStatus::directoryAttribute) != 0;
     if (!directory) item.size = SizeText(status);

@@ -25,22 +25,21 @@ const Module& TheModule() {
     return module;
 }
 
-bool IsModule(const std::string& native) {
-    const Module& module = TheModule();
-    if (FullPath(native) == module.path) return true;
-    struct stat info {};
-    return stat(native.c_str(), &info) == 0 && info.st_ino == module.identity.st_ino &&
-           info.st_dev == module.identity.st_dev;
-}
-
 } // namespace
 
 const std::string& GetModulePath() {
     return TheModule().path;
 }
 
+// Every entry of a listing is asked about, so the full path is made only for a name that fits.
+bool IsModulePath(std::string_view path) {
+    const Module& module = TheModule();
+    if (FileNameOf(path) == FileNameOf(module.path) && FullPath(path) == module.path) return true;
+    struct stat info {};
+    return stat(ToNativePath(path).c_str(), &info) == 0 && info.st_ino == module.identity.st_ino &&
+           info.st_dev == module.identity.st_dev;
+}
+
 std::string TypeExtensionOf(std::string_view path) {
-    const std::string_view extension = ExtensionOf(path);
-    if (extension.empty() && !path.empty() && IsModule(ToNativePath(path))) return ".exe";
-    return std::string(extension);
+    return IsModulePath(path) ? ".exe" : std::string(ExtensionOf(path));
 }

@@ -6,7 +6,9 @@
 // The full path of the running program's file, as it was at the start.
 const std::string& GetModulePath();
 
-// The extension by which a path's document type is chosen: the path's own, save that the running program's
-// file counts as ".exe" on systems whose programs have none (also through links, and after the file was
-// replaced).
+// Whether the path leads to the running program's file, also through links and after the file was replaced.
+bool IsModulePath(std::string_view path);
+
+// The extension that picks a path's document type: ".exe" for the running program's file, whatever it is
+// called, and the path's own for every other.
 std::string TypeExtensionOf(std::string_view path);
