@@ -152,6 +152,24 @@ TEST_F(ArchiveFileDialogTest, WalksIntoFoldersAndArchivesAndTakesTheFileChosenTh
     EXPECT_TRUE(Open<CDocument>(dialog.GetSelectedInnerPath()));
 }
 
+TEST_F(ArchiveFileDialogTest, EntersAFolderOfAFilesName) {
+    PackBuilder pack;
+    pack.Add("a", Bytes(2048));
+    pack.Add("a/b.wal", MakeWal(8, 8));
+    Put("twins.pak", pack.Build());
+    Show("twins.pak");
+    EXPECT_EQ(Names(), QStringList({"a", "a"}));
+    EXPECT_EQ(Column(1), QStringList({"2KB", ""}));
+    const QRect folderLine = View().visualRect(View().model()->index(1, 0));
+    QTest::mouseClick(View().viewport(), Qt::LeftButton, {}, folderLine.center());
+    EXPECT_EQ(NameBox(), "");
+    QTest::mouseDClick(View().viewport(), Qt::LeftButton, {}, folderLine.center());
+    EXPECT_EQ(dialog.findChild<QLabel*>("lowerTitle")->text(), "Contents of twins.pak/a:");
+    Click("b.wal");
+    EXPECT_TRUE(PressOK());
+    EXPECT_TRUE(Open<CDocument>(dialog.GetSelectedInnerPath()));
+}
+
 TEST_F(ArchiveFileDialogTest, KeepsTheChosenNameWhenTheArchiveChanges) {
     Show("pak0.pak");
     Click("apple.wal");
