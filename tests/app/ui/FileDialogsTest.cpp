@@ -100,7 +100,6 @@ TEST_F(FileDialogsTest, TheFileTypeDecidesTheExtension) {
         const DialogAnswer answer([&](QDialog& dialog) {
             auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
             auto* types = dialog.findChild<QComboBox*>("fileTypeCombo");
-            EXPECT_EQ(types->count(), anyType + 1);
             EXPECT_EQ(dynamic_cast<QFileDialog&>(dialog).labelText(QFileDialog::LookIn), "Save in:");
             dialog.findChild<QListView*>("listView")->clearSelection();
             name->setText(typed);
@@ -138,9 +137,6 @@ TEST_F(FileDialogsTest, AsksBeforeAnUnknownExtensionMakesABitmap) {
 }
 
 TEST_F(FileDialogsTest, StartsWhereTheLastOneEnded) {
-    const auto lower = [](const QDialog& dialog) {
-        return dialog.findChild<QStackedWidget*>("lowerList")->currentWidget();
-    };
     const auto details = [](const QDialog& dialog) {
         for (auto* button : dialog.findChildren<QToolButton*>())
             if (button->accessibleName() == "Details") return button;
@@ -150,15 +146,13 @@ TEST_F(FileDialogsTest, StartsWhereTheLastOneEnded) {
         const DialogAnswer answers([&](QDialog& dialog) {
             EnterName(dialog, QString::fromStdString(textures), QDialogButtonBox::Open);
             details(dialog)->click();
-            dialog.findChild<QToolButton*>("detailModeButton")->click();
             dialog.reject();
         });
         Send(ID_FILE_OPEN);
     }
     const DialogAnswer answers([&](QDialog& dialog) {
         EXPECT_TRUE(details(dialog)->isChecked());
-        EXPECT_TRUE(dialog.findChild<QTreeView*>("treeView")->isVisible());
-        auto* list = qobject_cast<QTreeView*>(lower(dialog));
+        auto* list = dialog.findChild<QStackedWidget*>("lowerList")->findChild<QTreeView*>();
         ASSERT_TRUE(list && list->model()->rowCount() == 4);
         list->setCurrentIndex(list->model()->index(3, 0));
         Press(dialog, QDialogButtonBox::Open);

@@ -279,22 +279,18 @@ TEST_F(ArchiveFileDialogTest, EnterClosesTheListOfCompletions) {
     EXPECT_FALSE(popup.isVisible());
 }
 
-// What the view would need for the column: nothing in it is cut.
-int WidthFor(const QAbstractItemView& view, int column) {
-    return view.sizeHintForColumn(column);
-}
-
 TEST_F(ArchiveFileDialogTest, CutsNoColumnOfTheUpperListWhileThereIsRoom) {
     Put("a rather long name of a texture.wal", {});
     dialog.setViewMode(QFileDialog::Detail);
     Show();
     const auto& tree = *dialog.findChild<QTreeView*>("treeView");
+    const QAbstractItemView& lines = tree;
     PlaceOf(tree, "plain.wal");
     for (const int width : {900, 1200}) {
         dialog.resize(width, 700);
         EXPECT_TRUE(QTest::qWaitFor([&] {
             for (int column = 0; column < tree.model()->columnCount(); ++column)
-                if (tree.columnWidth(column) < WidthFor(tree, column)) return false;
+                if (tree.columnWidth(column) < lines.sizeHintForColumn(column)) return false;
             return !tree.horizontalScrollBar()->isVisible();
         }));
     }
