@@ -101,7 +101,7 @@ void CFileDialog::Propose(const std::string& proposal) {
 
 std::string CFileDialog::GoTowards(const std::string& path) {
     std::string name = ToNativePath(path);
-    std::string folder = ParentOf(name);
+    std::string folder = name;
     while (!folder.empty() && folder != ParentOf(folder) && !IsFolder(folder)) folder = ParentOf(folder);
     if (IsFolder(folder)) {
         setDirectory(ToQString(folder));

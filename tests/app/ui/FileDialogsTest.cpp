@@ -111,12 +111,18 @@ TEST_F(FileDialogsTest, TheFileTypeDecidesTheExtension) {
         EXPECT_TRUE(Send(ID_FILE_SAVE_AS));
         EXPECT_EQ(program.GetRecentFiles().GetPaths().front(), PathTo(saved));
     }
-    const DialogAnswer typedLast([](QDialog& dialog) {
-        dialog.findChild<QListView*>("listView")->clearSelection();
-        dialog.findChild<QComboBox*>("fileTypeCombo")->setCurrentIndex(tgaType);
-        EnterName(dialog, "typed", QDialogButtonBox::Save);
-    });
+    const DialogAnswer answers(
+        [](QDialog& dialog) {
+            dialog.findChild<QListView*>("listView")->clearSelection();
+            dialog.findChild<QComboBox*>("fileTypeCombo")->setCurrentIndex(tgaType);
+            EnterName(dialog, "typed", QDialogButtonBox::Save);
+        },
+        [&](QDialog& dialog) {
+            EXPECT_EQ(dynamic_cast<QFileDialog&>(dialog).directory(), QDir(folder.path()));
+            dialog.reject();
+        });
     Send(ID_FILE_SAVE_AS);
+    Send(ID_FILE_OPEN);
     EXPECT_EQ(program.GetRecentFiles().GetPaths().front(), PathTo("typed.tga"));
 }
 
