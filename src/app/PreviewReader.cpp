@@ -1,25 +1,14 @@
 #include "app/PreviewReader.h"
 
+#include "app/PictureTypes.h"
 #include "framework/core/CArchive.h"
-#include "framework/core/Path.h"
-#include "framework/core/Text.h"
 #include "image/TavloDocument.h"
-#include "resources/DocTemplateRegistry.h"
 #include "resources/FileSource.h"
 #include "resources/streams/ArchiveStream.h"
 
 namespace {
 
 constexpr std::uint64_t largestFile = 64 << 20; // bytes; more takes longer than looking around should
-
-// A name that no picture type knows counts as a bitmap elsewhere; here it must say so.
-const CRuntimeClass* PictureClassOf(const std::string& path) {
-    const DocTemplateRegistry& registry = DocTemplateRegistry::Get();
-    const CRuntimeClass* type = registry.GetDocumentClassOfName(path);
-    if (!type || !type->IsDerivedFrom(TavloDocument::runtimeClass)) return nullptr;
-    const bool isItsName = EqualNoCase(registry.GetFilterExtension(*type), ExtensionOf(path));
-    return isItsName ? type : nullptr;
-}
 
 } // namespace
 

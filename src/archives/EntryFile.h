@@ -21,6 +21,11 @@ public:
     std::unique_ptr<CFile> Duplicate() const override;
     bool IsUnchanged() const override { return !life.expired(); }
 
+protected:
+    const char* GetFullSentence() const override {
+        return "This file lies in an archive, where files cannot grow, and its new contents are larger.";
+    }
+
 private:
     std::shared_ptr<EntryBytes> bytes;
     std::function<void()> beforeWrite;

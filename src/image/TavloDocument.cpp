@@ -20,8 +20,9 @@ constexpr BuiltInFile builtInReferences[] = {
 // badIndex for a class that stands for no picture format.
 const Codec& CodecOf(const CRuntimeClass* documentClass) {
     const Codec* codec = documentClass ? FindCodec(documentClass->name) : nullptr;
-    if (!codec) throw CArchiveException(CArchiveException::badIndex);
-    return *codec;
+    if (codec) return *codec;
+    if (!documentClass) throw CArchiveException(CArchiveException::badIndex);
+    throw CArchiveException(CArchiveException::badIndex, {}, CannotBeWritten(*documentClass));
 }
 
 const ColorList* DefaultPaletteOf(const Codec& codec) {

@@ -26,6 +26,7 @@ constexpr StringRow rows[] = {
     {IDS_WORKING, "Working..."},
     {IDS_READING_DIRECTORY, "Reading Directory..."},
     {IDS_READING_FILES, "Reading Files..."},
+    {IDS_CANNOT_BE_WRITTEN, "%s cannot be written."},
     // Window title, document name, new-file name, filter name, filter extension, registry type id and name.
     {IDR_BITMAP, "\nbitmap\nBitmap\nBitmap Files (*.bmp)\n.bmp\nBitmap.Image\nBitmap Image"},
     {IDR_MIPMAP, "\nmipmap\nMipmap\nQuake Texture Files (*.mip)\n.mip\nMipmap.Image\nMipmap Image"},

@@ -20,6 +20,7 @@ constexpr StringRow rows[] = {
     {AFX_IDS_FILE_MISSING, "%s\nThere is no such file."},
     {AFX_IDP_PARSE_INT_RANGE, "Enter a whole number between %d and %d."},
     {AFX_IDP_PARSE_STRING_SIZE, "Enter no more than %u characters. Letters beyond ASCII count as several."},
+    {AFX_IDS_SAVE_IN, "Save in:"},
     {AFX_IDS_PATH_MISSING, "%s\nThere is no such folder."},
 
     // Labels and patterns of the file dialogs. Archives stand in every row: they count as folders.
@@ -64,6 +65,10 @@ constexpr StringRow rows[] = {
     {IDS_DATE_AND_TIME, "%c"},
     {IDS_PREVIEW_SIZE, "%d x %d"},
     {IDS_NO_PREVIEW, "No preview of this picture."},
+    {IDS_NO_PICTURE, "This file has no preview."},
+    {IDS_CONTENTS_OF, "Contents of %s:"},
+    {IDS_UNKNOWN_FORMAT, "%s\nKelTavlo does not know this extension and will write a %s.\n"
+                         "Do you want to save it under this name?"},
     {IDS_NOT_IMPLEMENTED_TITLE, "Not Implemented"},
     {IDS_NOT_IMPLEMENTED, "%s is not implemented.\nKelTavlo is not fully implemented yet. Sorry.\n\n"
                           "keltavlo@example.org\nwww.example.org/keltavlo\n"},

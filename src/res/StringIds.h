@@ -22,7 +22,8 @@ enum DocumentStringId : unsigned {
     IDS_NONE = 1248,
     IDS_WORKING = 2304,
     IDS_READING_DIRECTORY = 2305,
-    IDS_READING_FILES = 2306
+    IDS_READING_FILES = 2306,
+    IDS_CANNOT_BE_WRITTEN = 2307
 };
 
 // Strings of the document types.

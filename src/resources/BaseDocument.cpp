@@ -26,7 +26,7 @@ private:
 } // namespace
 
 void BaseDocument::WriteContents(OutputStream&) {
-    throw CArchiveException(CArchiveException::badClass);
+    throw CArchiveException(CArchiveException::badClass, {}, CannotBeWritten(GetRuntimeClass()));
 }
 
 void BaseDocument::ReadContents(InputStream&) {

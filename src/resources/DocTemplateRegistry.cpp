@@ -1,8 +1,11 @@
 #include "resources/DocTemplateRegistry.h"
 
+#include "framework/core/CDocTemplate.h"
 #include "framework/core/CWinApp.h"
 #include "framework/core/ModulePath.h"
+#include "framework/core/StringTable.h"
 #include "framework/core/Text.h"
+#include "res/StringIds.h"
 #include "resources/BaseDocument.h"
 
 #include <algorithm>
@@ -41,6 +44,17 @@ std::string DocTemplateRegistry::GetFilterExtension(const CRuntimeClass& documen
     return type ? type->GetDocString(CDocTemplate::filterExt) : std::string();
 }
 
+bool DocTemplateRegistry::KnowsName(const std::string& name) const {
+    const CRuntimeClass* type = GetDocumentClassOfName(name);
+    return type && EqualNoCase(GetFilterExtension(*type), TypeExtensionOf(name));
+}
+
 BaseDocument* DocTemplateRegistry::OpenDocument(const std::string& path) const {
     return dynamic_cast<BaseDocument*>(CWinApp::Get().OpenDocumentFile(path));
+}
+
+std::string CannotBeWritten(const CRuntimeClass& documentClass) {
+    const CDocTemplate* type = DocTemplateRegistry::Get().FindTemplate(documentClass);
+    const std::string files(type ? type->GetDocString(CDocTemplate::filterName) : documentClass.name);
+    return FormatString(IDS_CANNOT_BE_WRITTEN, files.c_str());
 }

@@ -22,6 +22,11 @@ public:
     const CRuntimeClass* GetDocumentClassOfName(const std::string& name) const;
     // The file extension of the class's type, such as ".mip"; empty when the class has no type.
     std::string GetFilterExtension(const CRuntimeClass& documentClass) const;
+    // Whether a type has the name's extension.
+    bool KnowsName(const std::string& name) const;
     // The document open under the path, or the file read into a new one; null when that failed.
     BaseDocument* OpenDocument(const std::string& path) const;
 };
+
+// The sentence that says that files of the class's type cannot be written.
+std::string CannotBeWritten(const CRuntimeClass& documentClass);

@@ -147,6 +147,9 @@ TEST_F(FileSystemTest, ATextureInAPackIsSavedIntoIt) {
     EXPECT_TRUE(document.OnSaveDocument(path));
     EXPECT_TRUE(application.GetFileSystem().FindArchive(path)->IsModified());
     EXPECT_EQ(TextOf(path)[96], 77);
+    document.GetTexture().SetSize(256, 256);
+    EXPECT_FALSE(document.OnSaveDocument(path));
+    EXPECT_THAT(TakeMessage(), HasSubstr("cannot grow"));
     EXPECT_EQ(ReadFile(pack), SamplePack()) << "the file on the disk never changes";
 }
 

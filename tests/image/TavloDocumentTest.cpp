@@ -53,7 +53,7 @@ TEST_F(TavloDocumentTest, OpeningTwiceGivesOneDocument) {
 TEST_F(TavloDocumentTest, TheNameDecidesTheFormat) {
     auto* document = Open<WALDocument>(Put("a.wal", MakeWal(8, 8)));
     EXPECT_FALSE(document->OnSaveDocument(PathTo("palette.lmp")));
-    EXPECT_THAT(TakeMessage(), HasSubstr("Cannot save"));
+    EXPECT_THAT(TakeMessage(), HasSubstr("Quake II Palette Files (*.lmp) cannot be written."));
     EXPECT_NE(Try<TavloDocument>(ToBytes("no bitmap"), ".unknown"), "");
     for (const std::string& path : {PathTo("missing.wal"), std::string()}) {
         EXPECT_EQ(Open<TavloDocument>(path), nullptr);

@@ -12,6 +12,8 @@
 #include "archives/ui/HiddenView.h"
 #include "archives/ui/ProgressDialog.h"
 #include "formats/ui/EditPropertySheet.h"
+#include "framework/core/CDocTemplate.h"
+#include "framework/core/Path.h"
 #include "framework/core/ReplacingFile.h"
 #include "framework/core/StringTable.h"
 #include "framework/core/Text.h"
@@ -26,12 +28,24 @@
 #include "preview3d/ui/MD2View.h"
 #include "res/CommandIds.h"
 #include "res/ShellStrings.h"
+#include "resources/DocTemplateRegistry.h"
 
 namespace {
 
 std::unique_ptr<ProfileStore> OfThisVersion(std::unique_ptr<ProfileStore> settings) {
     CheckSettingsVersion(*settings);
     return settings;
+}
+
+// Asks before a picture gets the format of the first type because its name's extension is unknown.
+bool MaySave(const FileNameQuestion& question, const std::string& path) {
+    const DocTemplateRegistry& registry = DocTemplateRegistry::Get();
+    const CRuntimeClass* written = registry.GetDocumentClassOfName(path);
+    const bool isPicture =
+        question.type && question.type->GetDocumentClass().IsDerivedFrom(TavloDocument::runtimeClass);
+    if (!isPicture || !written || registry.KnowsName(path)) return true;
+    const std::string format = registry.FindTemplate(*written)->GetDocString(CDocTemplate::regFileTypeName);
+    return AskYesNo(FormatString(IDS_UNKNOWN_FORMAT, ToDisplayPath(path).c_str(), format.c_str()));
 }
 
 } // namespace
@@ -78,9 +92,11 @@ bool CKelTavloApp::CarryOut(const std::vector<std::string>& paths) {
 
 std::optional<std::string> CKelTavloApp::PromptFileName(const FileNameQuestion& question) {
     const NormalCursor arrow;
-    ArchiveFileDialog dialog(GetDialogOwner(), question, BuildFileFilters(question),
-                             {workshop.GetFileSystem(), ReadPicturePreview,
-                              [this](const std::string& what) { NotImplemented(what); }});
+    ArchiveFileDialog dialog(
+        GetDialogOwner(), question, BuildFileFilters(question),
+        {workshop.GetFileSystem(), ReadPicturePreview,
+         [this](const std::string& what) { NotImplemented(what); },
+         [&](const std::string& path) { return question.open || MaySave(question, path); }, dialogMemory});
     const bool accepted = dialog.exec() == QDialog::Accepted;
     // Window managers lose track of the focus when a question and the dialog go at once.
     if (mainFrame) mainFrame->activateWindow();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Workshop.h"
+#include "archives/ui/FileDialogMemory.h"
 #include "framework/core/CWinApp.h"
 #include "framework/ui/CClipboard.h"
 #include "framework/ui/WindowedUserInterface.h"
@@ -59,6 +60,7 @@ private:
 
     Workshop workshop;
     CClipboard clipboard;
+    FileDialogMemory dialogMemory;
     std::unique_ptr<MainFrame> mainFrame;
     std::unique_ptr<HelpWindow> help; // made when it is first asked for
     std::unique_ptr<ContextHelp> contextHelp;

@@ -24,7 +24,7 @@ QImage ToImage(const Image& picture) {
 Preview ReadPicturePreview(const std::string& path) {
     try {
         const std::unique_ptr<TavloDocument> document = ReadForPreview(path);
-        if (!document) return {};
+        if (!document) return {{}, ToQString(LoadString(IDS_NO_PICTURE))};
         const Texture& texture = document->GetTexture();
         const std::string size = FormatString(IDS_PREVIEW_SIZE, texture.GetWidth(), texture.GetHeight());
         return {ToImage(texture), ToQString(size) + '\n' + TypeNameOfFile(path)};

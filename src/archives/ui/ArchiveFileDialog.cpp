@@ -6,6 +6,7 @@
 #include "archives/ui/PreviewPanel.h"
 #include "archives/ui/TypeName.h"
 #include "framework/core/CWinApp.h"
+#include "framework/core/Path.h"
 #include "framework/core/StringTable.h"
 #include "framework/core/Text.h"
 #include "res/ShellStrings.h"
@@ -26,9 +27,19 @@ bool IsFolder(const EntryStatus& status) {
     return status.browsable || (status.attributes & CFileStatus::directoryAttribute) != 0;
 }
 
+// An archive, or something in one.
+bool IsArchived(const EntryStatus& status) {
+    return status.browsable || !status.onDisk;
+}
+
 QString SizeText(const EntryStatus& status) {
     constexpr std::uint64_t kilobyte = 1024;
     return ToQString(FormatString(IDS_KILOBYTES, static_cast<unsigned>(status.size / kilobyte)));
+}
+
+// A separator marks the folder of two entries of one name; its icon tells the user as much.
+QString ShownName(const std::string& name) {
+    return ToQString(name.ends_with('/') ? name.substr(0, name.size() - 1) : name);
 }
 
 QString TimeText(const CTime& time) {
@@ -59,8 +70,8 @@ QWidget* MakeHelp(QWidget* parent) {
 } // namespace
 
 ArchiveFileDialog::ArchiveFileDialog(QWidget* owner, const FileNameQuestion& question,
-                                     const std::vector<FileFilter>& filters, Services programServices)
-    : CFileDialog(owner, question, filters), services(std::move(programServices)),
+                                     std::vector<FileFilter> fileFilters, Services programServices)
+    : CFileDialog(owner, question, std::move(fileFilters)), services(std::move(programServices)),
       panel(new ArchivePanel(this)), preview(new PreviewPanel(this, services.readPreview)) {
     setIconProvider(&types);
     AddPanels();
@@ -69,6 +80,29 @@ ArchiveFileDialog::ArchiveFileDialog(QWidget* owner, const FileNameQuestion& que
     panel->GetList().onSelect = [this](const ArchiveListItem& item) { SelectItem(item); };
     panel->GetList().onOpen = [this](const ArchiveListItem& item) { OpenItem(item); };
     panel->onUpOneLevel = [this] { services.notImplemented("Up One Level"); };
+    if (services.memory.lowerDetails) panel->SetStyle(ArchiveListView::Style::details);
+    if (SplitPath(question.proposal).directories.empty()) GoToLastFolder(question.proposal.empty());
+}
+
+// A proposed name stays: an archive would take its place.
+void ArchiveFileDialog::GoToLastFolder(bool intoArchive) {
+    const std::string folder = services.memory.folder;
+    if (folder.empty()) return;
+    const std::string inner = GoTowards(folder);
+    if (inner.empty() || !intoArchive) return;
+    const std::string archive = inner.substr(0, inner.find('/'));
+    selectFile(ToQString(archive));
+    if (ShowSelection(GetPathName()) && IsFolderThere(folder)) FillLowerList(folder);
+}
+
+// A file that was taken counts, wherever the lists stand.
+void ArchiveFileDialog::done(int result) {
+    const std::string inner = GetSelectedInnerPath();
+    const std::string shown = archivePath.empty() ? FromQString(directory().absolutePath()) : archivePath;
+    const bool elsewhere = result == Accepted && inner.empty();
+    services.memory = {elsewhere ? ParentOf(GetPathName()) : shown,
+                       panel->GetList().GetStyle() == ArchiveListView::Style::details};
+    CFileDialog::done(result);
 }
 
 // The lower list stands below the standard part, preview and help beside the two.
@@ -103,7 +137,7 @@ bool ArchiveFileDialog::ShowSelection(const std::string& path) {
     selection = path;
     const bool resolved = CanBeResolved(path);
     const EntryStatus status = resolved ? StatusOf(path) : EntryStatus();
-    FillLowerList(status.browsable ? path : std::string());
+    FillLowerList(IsFolder(status) && IsArchived(status) ? path : std::string());
     preview->SetPath(status.exists && !IsFolder(status) ? path : std::string());
     return resolved;
 }
@@ -116,11 +150,22 @@ void ArchiveFileDialog::FillLowerList(const std::string& path) {
     std::vector<ArchiveListItem> items;
     if (!path.empty()) {
         services.fileSystem.ListFolder(path, listing);
-        for (const std::string& name : listing.names) items.push_back({ToQString(name), items.size()});
+        for (const std::string& name : listing.names) items.push_back({ShownName(name), items.size()});
     }
     panel->GetList().SetItems(std::move(items), [this](ArchiveListItem& item) { Describe(item); });
     panel->SetActive(!path.empty());
     panel->SetName(ToQString(innerName));
+    panel->SetTitle(TitleOf(path));
+}
+
+// The way from the folder that the upper list shows, if it leads from there.
+QString ArchiveFileDialog::TitleOf(const std::string& path) const {
+    if (path.empty()) return {};
+    QString title = ToQString(ToDisplayPath(path));
+    const QString folder = directory().absolutePath() + '/';
+    if (title.startsWith(folder)) title.remove(0, folder.size());
+    if (title.endsWith('/')) title.chop(1);
+    return ToQString(FormatString(IDS_CONTENTS_OF, FromQString(title).c_str()));
 }
 
 void ArchiveFileDialog::Describe(ArchiveListItem& item) const {
@@ -154,7 +199,11 @@ bool ArchiveFileDialog::OnFileNameOK() {
     const std::string inner = GetSelectedInnerPath();
     if (!archivePath.empty() && inner.empty()) return false;
     const std::string& target = inner.empty() ? path : inner;
-    return CanBeResolved(target) && MayTake(target);
+    return CanBeResolved(target) && MayTake(target) && services.mayTake(target);
+}
+
+bool ArchiveFileDialog::IsFolderThere(const std::string& path) const {
+    return (StatusOf(path).attributes & CFileStatus::directoryAttribute) != 0;
 }
 
 bool ArchiveFileDialog::IsFileThere(const std::string& path) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "archives/FolderDocument.h"
+#include "archives/ui/FileDialogMemory.h"
 #include "archives/ui/FileTypeProvider.h"
 #include "framework/ui/CFileDialog.h"
 
@@ -26,10 +27,12 @@ public:
         FileSystem& fileSystem;
         std::function<Preview(const std::string& path)> readPreview;
         std::function<void(const std::string& what)> notImplemented; // tells the person
+        std::function<bool(const std::string& path)> mayTake;        // the last word on a path
+        FileDialogMemory& memory;
     };
 
-    ArchiveFileDialog(QWidget* owner, const FileNameQuestion& question,
-                      const std::vector<FileFilter>& filters, Services programServices);
+    ArchiveFileDialog(QWidget* owner, const FileNameQuestion& question, std::vector<FileFilter> filters,
+                      Services programServices);
 
     // The file chosen in the lower list; empty when there is none or no archive is selected.
     std::string GetSelectedInnerPath() const;
@@ -38,10 +41,14 @@ protected:
     void OnFileNameChange(const std::string& path) override { ShowSelection(path); }
     bool OnFileNameOK() override;
     bool IsFileThere(const std::string& path) const override;
+    bool IsFolderThere(const std::string& path) const override;
+    void done(int result) override;
 
 private:
     void AddPanels();
     void SetUpPreview();
+    void GoToLastFolder(bool intoArchive);
+    QString TitleOf(const std::string& path) const;
     // False when an archive on the way cannot be read: the person has been told.
     bool ShowSelection(const std::string& path);
     void FillLowerList(const std::string& path);

@@ -1,6 +1,7 @@
 #include "archives/ui/ArchiveListView.h"
 
-#include <QHeaderView>
+#include "framework/ui/ColumnSizer.h"
+
 #include <QKeyEvent>
 #include <QListView>
 #include <QStyle>
@@ -9,27 +10,43 @@
 
 #include <algorithm>
 
-// Gives every line of the list the width of the longest name: the list, which takes all lines to be alike so
-// that long listings are quick, measures a single one.
+// Gives every line of the list the size of the one with the longest name: the list, which takes all lines to
+// be alike so that long listings are quick, measures a single one.
 class ArchiveNameDelegate final : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    void SetNames(const std::vector<ArchiveListItem>& items, const QFontMetrics& metrics) {
-        longest = 0;
-        for (const ArchiveListItem& item : items)
-            longest = std::max(longest, metrics.horizontalAdvance(item.name));
+    void SetNames(const std::vector<ArchiveListItem>& items, const QFontMetricsF& metrics) {
+        double longestAdvance = 0; // pixels
+        longest.clear();
+        for (const ArchiveListItem& item : items) {
+            const double advance = metrics.horizontalAdvance(item.name);
+            if (advance > longestAdvance) longest = item.name;
+            longestAdvance = std::max(advance, longestAdvance);
+        }
     }
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        const QSize own = QStyledItemDelegate::sizeHint(option, index);
-        const int ownName = option.fontMetrics.horizontalAdvance(index.data().toString());
-        return {own.width() - ownName + longest, own.height()};
+        QStyleOptionViewItem line = option;
+        initStyleOption(&line, index);
+        line.text = longest;
+        return line.widget->style()->sizeFromContents(QStyle::CT_ItemViewItem, &line, {}, line.widget);
     }
 
 private:
-    int longest = 0; // pixels
+    QString longest;
 };
+
+namespace {
+
+// Two sevenths for the name, a fifth of the rest for the size; type and time share what remains.
+std::vector<int> WidthsOfColumns(int room) {
+    const int name = 2 * room / 7;
+    const int size = (room - name) / 5;
+    return {name, size, (room - name - size) / 2};
+}
+
+} // namespace
 
 ArchiveListView::ArchiveListView(QWidget* parent)
     : QStackedWidget(parent), model(new ArchiveListModel(this)), list(new QListView(this)),
@@ -42,9 +59,9 @@ ArchiveListView::ArchiveListView(QWidget* parent)
     details->setRootIsDecorated(false);
     details->setItemsExpandable(false);
     details->setUniformRowHeights(true);
-    details->header()->setSectionResizeMode(QHeaderView::Interactive);
     SetUp(*list);
     SetUp(*details);
+    new ColumnSizer(*details, WidthsOfColumns);
     details->setSelectionModel(list->selectionModel());
     connect(list->selectionModel(), &QItemSelectionModel::selectionChanged,
             [this](const QItemSelection& selected) {
@@ -69,7 +86,7 @@ void ArchiveListView::SetUp(QAbstractItemView& view) {
 }
 
 void ArchiveListView::SetItems(std::vector<ArchiveListItem> items, ArchiveListModel::Describer describe) {
-    names->SetNames(items, list->fontMetrics());
+    names->SetNames(items, QFontMetricsF(list->font()));
     model->SetItems(std::move(items), std::move(describe));
 }
 
@@ -96,23 +113,4 @@ bool ArchiveListView::eventFilter(QObject* view, QEvent* event) {
     if (!item.folder || !onOpen) return false;
     onOpen(item);
     return true;
-}
-
-void ArchiveListView::showEvent(QShowEvent* event) {
-    QStackedWidget::showEvent(event);
-    if (!columnsSized) SizeColumns();
-    columnsSized = true;
-}
-
-// Two sevenths for the name, a fifth of the rest for the size; type and time share what remains.
-void ArchiveListView::SizeColumns() {
-    int rest = contentsRect().width() - 2 * details->frameWidth();
-    const auto size = [&](int column, int columnWidth) {
-        details->header()->resizeSection(column, columnWidth);
-        rest -= columnWidth;
-    };
-    size(0, 2 * rest / 7);
-    size(1, rest / 5);
-    size(2, rest / 2);
-    size(3, rest);
 }

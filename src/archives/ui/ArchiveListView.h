@@ -28,15 +28,12 @@ public:
 
 protected:
     bool eventFilter(QObject* view, QEvent* event) override;
-    void showEvent(QShowEvent* event) override;
 
 private:
     void SetUp(QAbstractItemView& view);
-    void SizeColumns();
 
     ArchiveListModel* model;
     QListView* list;
     QTreeView* details;
     ArchiveNameDelegate* names;
-    bool columnsSized = false;
 };

@@ -10,9 +10,13 @@
 #include <QVBoxLayout>
 
 ArchivePanel::ArchivePanel(QWidget* parent)
-    : QWidget(parent), list(new ArchiveListView(this)), nameBox(new QLineEdit(this)) {
+    : QWidget(parent), titleLabel(new QLabel(this)), list(new ArchiveListView(this)),
+      nameBox(new QLineEdit(this)) {
     list->setMinimumSize(FromDialogUnits(*this, {272, 84}));
     list->setObjectName(QStringLiteral("lowerList"));
+    titleLabel->setObjectName(QStringLiteral("lowerTitle"));
+    titleLabel->setTextFormat(Qt::PlainText);
+    titleLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     nameBox->setObjectName(QStringLiteral("nameBox"));
     nameBox->setReadOnly(true); // only the list chooses a file
     auto* label = new QLabel(QStringLiteral("File na&me:"), this);
@@ -30,6 +34,7 @@ ArchivePanel::ArchivePanel(QWidget* parent)
     connect(detailsButton, &QToolButton::clicked, [this] { SetStyle(ArchiveListView::Style::details); });
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(titleLabel);
     layout->addWidget(list, 1);
     layout->addLayout(row);
     SetStyle(ArchiveListView::Style::list);
@@ -53,6 +58,20 @@ void ArchivePanel::SetActive(bool active) {
 
 void ArchivePanel::SetName(const QString& name) {
     nameBox->setText(name);
+}
+
+void ArchivePanel::SetTitle(const QString& newTitle) {
+    title = newTitle;
+    ShowTitle();
+}
+
+void ArchivePanel::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    ShowTitle();
+}
+
+void ArchivePanel::ShowTitle() {
+    titleLabel->setText(titleLabel->fontMetrics().elidedText(title, Qt::ElideMiddle, width()));
 }
 
 void ArchivePanel::SetStyle(ArchiveListView::Style newStyle) {

@@ -6,6 +6,7 @@
 
 #include <functional>
 
+class QLabel;
 class QLineEdit;
 class QToolButton;
 
@@ -19,12 +20,20 @@ public:
     // Idle, nothing in it can be used.
     void SetActive(bool active);
     void SetName(const QString& name);
+    // What the list shows the contents of.
+    void SetTitle(const QString& newTitle);
+    void SetStyle(ArchiveListView::Style style);
     std::function<void()> onUpOneLevel;
 
-private:
-    QToolButton* AddButton(QLayout& row, QStyle::StandardPixmap icon, const QString& tip);
-    void SetStyle(ArchiveListView::Style style);
+protected:
+    void resizeEvent(QResizeEvent* event) override;
 
+private:
+    void ShowTitle();
+    QToolButton* AddButton(QLayout& row, QStyle::StandardPixmap icon, const QString& tip);
+
+    QString title;
+    QLabel* titleLabel;
     ArchiveListView* list;
     QLineEdit* nameBox;
     QToolButton* up;

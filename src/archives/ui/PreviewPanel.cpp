@@ -3,14 +3,17 @@
 #include "archives/ui/DialogUnits.h"
 
 #include <QCheckBox>
-#include <QFrame>
 #include <QLabel>
 #include <QPainter>
 #include <QVBoxLayout>
 
-class PreviewPanel::Area final : public QFrame {
+// The text shows where there is no picture.
+class PreviewPanel::Area final : public QLabel {
 public:
-    explicit Area(QWidget* parent) : QFrame(parent) {
+    explicit Area(QWidget* parent) : QLabel(parent) {
+        setTextFormat(Qt::PlainText);
+        setWordWrap(true);
+        setAlignment(Qt::AlignCenter);
         setFrameStyle(QFrame::Panel | QFrame::Sunken);
         setMinimumSize(FromDialogUnits(*this, {85, 79}));
         setObjectName(QStringLiteral("previewArea"));
@@ -23,7 +26,7 @@ public:
 protected:
     // In whole screen pixels, so that every texel shows as it is.
     void paintEvent(QPaintEvent* event) override {
-        QFrame::paintEvent(event);
+        QLabel::paintEvent(event);
         if (picture.isNull()) return;
         const double ratio = devicePixelRatioF();
         const QRect room = contentsRect();
@@ -77,6 +80,8 @@ void PreviewPanel::SetPath(const std::string& newPath) {
 void PreviewPanel::Show() {
     const bool shown = IsPreviewEnabled() && !path.empty();
     const Preview preview = shown ? reader(path) : Preview();
+    const bool isPicture = !preview.picture.isNull();
     area->SetPicture(preview.picture);
-    text->setText(preview.text);
+    area->setText(isPicture ? QString() : preview.text);
+    text->setText(isPicture ? preview.text : QString());
 }

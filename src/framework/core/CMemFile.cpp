@@ -21,7 +21,7 @@ void CMemFile::Write(const void* buffer, std::size_t count) {
     const std::size_t fitting = std::min(count, room);
     std::memcpy(bytes + position, buffer, fitting);
     position += fitting;
-    if (fitting < count) throw CMemoryException();
+    if (fitting < count) throw CMemoryException(GetFullSentence());
 }
 
 std::uint64_t CMemFile::Seek(std::int64_t offset, From from) {
@@ -31,7 +31,7 @@ std::uint64_t CMemFile::Seek(std::int64_t offset, From from) {
 
 void CMemFile::SetLength(std::uint64_t length) {
     if (length == GetLength()) return;
-    if (fixed) throw CMemoryException();
+    if (fixed) throw CMemoryException(GetFullSentence());
     own.resize(length);
 }
 

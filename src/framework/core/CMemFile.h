@@ -28,6 +28,10 @@ public:
 
     std::span<const std::byte> Bytes() const { return fixed ? std::span<const std::byte>(attached) : own; }
 
+protected:
+    // What the user reads when a fixed buffer is full.
+    virtual const char* GetFullSentence() const { return "The file cannot grow."; }
+
 private:
     std::vector<std::byte> own;
     std::span<std::byte> attached;

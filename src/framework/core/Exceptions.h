@@ -64,6 +64,8 @@ public:
 class CMemoryException : public CException {
 public:
     CMemoryException();
+    // With a sentence that tells more.
+    explicit CMemoryException(std::string text) : CException(std::move(text)) {}
 };
 
 enum class Direction { opening, saving };

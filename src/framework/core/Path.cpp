@@ -71,6 +71,15 @@ std::string_view BaseNameOf(std::string_view path) {
     return name.substr(0, name.rfind('.'));
 }
 
+std::string WithExtension(std::string_view path, std::string_view extension,
+                          std::span<const std::string> known) {
+    const std::string_view old = ExtensionOf(path);
+    const auto isOld = [&](const std::string& other) { return EqualNoCase(other, old); };
+    const bool fits = old.empty() ? !FileNameOf(path).empty() : std::ranges::any_of(known, isOld);
+    if (!fits) return std::string(path);
+    return std::string(path.substr(0, path.size() - old.size())).append(extension);
+}
+
 std::string ParentOf(std::string_view path) {
     while (path.size() > 1 && IsSeparator(path.back())) path.remove_suffix(1);
     std::size_t end = path.find_last_of("/\\:");

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,6 +21,10 @@ PathParts SplitPath(std::string_view path);
 std::string_view FileNameOf(std::string_view path);  // behind the last separator
 std::string_view BaseNameOf(std::string_view path);  // the file name before its last "."
 std::string_view ExtensionOf(std::string_view path); // from the last "." of the file name, with it; or empty
+// The path with `extension` in the place of one of the `known` extensions, whatever their case, or behind a
+// name without a dot. Other names stay as they are.
+std::string WithExtension(std::string_view path, std::string_view extension,
+                          std::span<const std::string> known);
 // Without the final component and the separators before it; a root stays ("/a" gives "/", "a" gives "").
 std::string ParentOf(std::string_view path);
 // "\" stands between the two unless the folder path ends in a separator.

@@ -5,11 +5,17 @@
 #include "framework/core/StandardIds.h"
 #include "framework/core/StringTable.h"
 #include "framework/core/Text.h"
+#include "framework/ui/ColumnSizer.h"
 #include "framework/ui/MessageBoxes.h"
 
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QCompleter>
 #include <QGridLayout>
 #include <QLineEdit>
+#include <QListView>
 #include <QScopedValueRollback>
+#include <QTreeView>
 
 #include <algorithm>
 
@@ -25,54 +31,112 @@ bool IsFile(const std::string& path) {
     return CFile::GetStatus(path, status) && !status.IsDirectory();
 }
 
-// In the toolkit's form the patterns stand in the last parentheses. "*.*" means every name, also one without
-// a dot.
+// In the toolkit's form the last parentheses contain the patterns. "*.*" means every name, also one without a
+// dot. The toolkit gives a name to save the first pattern's extension: the first one matches no name and has
+// none.
 QString NameFilter(const FileFilter& filter) {
     QString patterns = ToQString(filter.patterns).replace(';', ' ').trimmed();
     patterns.replace(QStringLiteral("*.*"), QStringLiteral("*"));
-    return ToQString(filter.label) + QStringLiteral(" (") + patterns + ')';
+    return ToQString(filter.label) + QStringLiteral(" (/ ") + patterns + ')';
 }
 
 QLineEdit* NameEdit(const QFileDialog& dialog) {
     return dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
 }
 
+QComboBox* FilterCombo(const QFileDialog& dialog) {
+    return dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
+}
+
+// The name takes what the others leave, which is at least a quarter.
+std::vector<int> WidthsOfFileColumns(const QTreeView& view, int room) {
+    std::vector<int> widths(1);
+    int rest = room - WidthOfContents(view, view.model()->columnCount() - 1);
+    for (int column = 1; column + 1 < view.model()->columnCount(); ++column) {
+        widths.push_back(WidthOfContents(view, column));
+        rest -= widths.back();
+    }
+    widths.front() = std::max(rest, room / 4);
+    return widths;
+}
+
 } // namespace
 
 CFileDialog::CFileDialog(QWidget* owner, const FileNameQuestion& question,
-                         const std::vector<FileFilter>& filters)
-    : QFileDialog(owner, ToQString(LoadString(question.titleId))), open(question.open),
-      mustExist(question.mustExist) {
+                         std::vector<FileFilter> fileFilters)
+    : QFileDialog(owner, ToQString(LoadString(question.titleId))), filters(std::move(fileFilters)),
+      open(question.open), mustExist(question.mustExist) {
     setOptions(DontUseNativeDialog | HideNameFilterDetails | DontConfirmOverwrite);
     setAcceptMode(open ? AcceptOpen : AcceptSave);
     setFileMode(AnyFile); // what may be taken is decided here, not by what is on the disk
-    SetFilters(filters);
-    if (question.type) setDefaultSuffix(ToQString(question.type->GetDocString(CDocTemplate::filterExt)));
+    if (!open) setLabelText(LookIn, ToQString(LoadString(AFX_IDS_SAVE_IN)));
+    if (question.type) typeExtension = question.type->GetDocString(CDocTemplate::filterExt);
+    ShowFilters();
+    ShowColumns();
     Propose(question.proposal);
     connect(this, &QFileDialog::currentChanged,
             [this](const QString& path) { OnFileNameChange(FullPath(FromQString(path))); });
 }
 
-void CFileDialog::SetFilters(const std::vector<FileFilter>& filters) {
+void CFileDialog::ShowFilters() {
     QStringList names;
     for (const FileFilter& filter : filters) names << NameFilter(filter);
     setNameFilters(names);
+    if (const QComboBox* combo = FilterCombo(*this); combo && !open)
+        connect(combo, &QComboBox::activated, [this](int index) { FollowFilter(index); });
 }
 
-// Below the innermost folder of the disk; what lies in an archive is named by its way through it.
+void CFileDialog::ShowColumns() {
+    auto* view = findChild<QTreeView*>(QStringLiteral("treeView"));
+    if (view) new ColumnSizer(*view, [view](int room) { return WidthsOfFileColumns(*view, room); });
+}
+
+// What lies in an archive is named by its way through it.
 void CFileDialog::Propose(const std::string& proposal) {
     QLineEdit* edit = NameEdit(*this);
     if (proposal.empty() || !edit) return;
-    std::string name = ToNativePath(proposal);
-    std::string folder = ParentOf(name);
+    edit->setText(ToQString(GoTowards(proposal)));
+    edit->selectAll();
+}
+
+std::string CFileDialog::GoTowards(const std::string& path) {
+    std::string name = ToNativePath(path);
+    std::string folder = name;
     while (!folder.empty() && folder != ParentOf(folder) && !IsFolder(folder)) folder = ParentOf(folder);
     if (IsFolder(folder)) {
         setDirectory(ToQString(folder));
         name.erase(0, folder.size());
         name.erase(0, name.find_first_not_of('/'));
     }
-    edit->setText(ToQString(name));
-    edit->selectAll();
+    return name;
+}
+
+// A filter for one format decides the extension of the name.
+void CFileDialog::FollowFilter(int index) {
+    const std::string& extension = filters[static_cast<std::size_t>(index)].extension;
+    if (extension.empty()) return;
+    std::vector<std::string> known;
+    for (const FileFilter& filter : filters)
+        if (!filter.extension.empty()) known.push_back(filter.extension);
+    GiveExtension(extension, known);
+}
+
+// Adds the extension to a name without one.
+void CFileDialog::CompleteName() {
+    const QComboBox* combo = FilterCombo(*this);
+    if (!combo || combo->currentIndex() < 0 || IsFolderThere(GetPathName())) return;
+    const std::string& chosen = filters[static_cast<std::size_t>(combo->currentIndex())].extension;
+    GiveExtension(chosen.empty() ? typeExtension : chosen, {});
+}
+
+// To the toolkit, a line selected in a list counts for more than the name.
+void CFileDialog::GiveExtension(const std::string& extension, const std::vector<std::string>& known) {
+    QLineEdit* edit = NameEdit(*this);
+    if (!edit) return;
+    const QString name = ToQString(WithExtension(FromQString(edit->text()), extension, known));
+    if (name == edit->text()) return;
+    if (auto* list = findChild<QListView*>(QStringLiteral("listView"))) list->clearSelection();
+    edit->setText(name);
 }
 
 std::string CFileDialog::GetPathName() const {
@@ -80,17 +144,29 @@ std::string CFileDialog::GetPathName() const {
     return files.isEmpty() ? std::string() : FullPath(FromQString(files.front()));
 }
 
+// The list of completions would stay over the dialog that stays open.
+void CFileDialog::TidyName() {
+    QLineEdit* edit = NameEdit(*this);
+    if (!edit) return;
+    if (const QCompleter* completer = edit->completer()) completer->popup()->hide();
+    if (edit->text().contains('\\')) edit->setText(edit->text().replace('\\', '/'));
+}
+
 void CFileDialog::accept() {
     if (deciding) return; // a second press of the key, while the person is told about the first
     const QScopedValueRollback<bool> now(deciding, true);
-    if (QLineEdit* edit = NameEdit(*this); edit && edit->text().contains('\\'))
-        edit->setText(edit->text().replace('\\', '/'));
+    TidyName();
+    if (!open) CompleteName();
     const std::string path = GetPathName();
     if (IsFolder(path) || OnFileNameOK()) QFileDialog::accept();
 }
 
 bool CFileDialog::IsFileThere(const std::string& path) const {
     return IsFile(path);
+}
+
+bool CFileDialog::IsFolderThere(const std::string& path) const {
+    return IsFolder(path);
 }
 
 bool CFileDialog::MayTake(const std::string& path) const {

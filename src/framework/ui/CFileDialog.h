@@ -8,8 +8,9 @@
 #include <vector>
 
 struct FileFilter {
-    std::string label;    // as it is shown
-    std::string patterns; // such as "*.pak;*.wal"
+    std::string label;       // as it is shown
+    std::string patterns;    // such as "*.pak;*.wal"
+    std::string extension{}; // of the one format that files are saved in with this filter; empty for none
 };
 
 class QGridLayout;
@@ -19,7 +20,7 @@ class QGridLayout;
 class CFileDialog : public QFileDialog {
 public:
     // The first filter is the selected one.
-    CFileDialog(QWidget* owner, const FileNameQuestion& question, const std::vector<FileFilter>& filters);
+    CFileDialog(QWidget* owner, const FileNameQuestion& question, std::vector<FileFilter> fileFilters);
 
     // The path chosen; absolute.
     std::string GetPathName() const;
@@ -33,6 +34,8 @@ protected:
     virtual bool OnFileNameOK() { return MayTake(GetPathName()); }
     // Whether there is a file of that path, which the person would replace.
     virtual bool IsFileThere(const std::string& path) const;
+    // Whether there is a folder of that path, which a name is not completed to a file's.
+    virtual bool IsFolderThere(const std::string& path) const;
 
     // Whether the path will do for what the dialog was opened for; tells the person why not.
     bool MayTake(const std::string& path) const;
@@ -41,10 +44,20 @@ protected:
     // The controls of the standard part.
     QGridLayout& GetGrid() const;
 
-private:
-    void SetFilters(const std::vector<FileFilter>& filters);
-    void Propose(const std::string& proposal);
+    // Shows the innermost folder of the disk on the way to the path; returns the rest of the path, native.
+    std::string GoTowards(const std::string& path);
 
+private:
+    void ShowFilters();
+    void ShowColumns();
+    void Propose(const std::string& proposal);
+    void FollowFilter(int index);
+    void TidyName();
+    void CompleteName();
+    void GiveExtension(const std::string& extension, const std::vector<std::string>& known);
+
+    std::vector<FileFilter> filters;
+    std::string typeExtension; // of the document's type; may be empty
     bool open;
     bool mustExist;
     bool deciding = false; // about a name; the person may have been asked

@@ -7,10 +7,16 @@
 #include "support/ui/ProgramFixture.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QFile>
+#include <QFileDialog>
+#include <QListView>
 #include <QListWidget>
+#include <QStackedWidget>
 #include <QTextBlock>
 #include <QTextBrowser>
+#include <QToolButton>
+#include <QTreeView>
 
 #include <set>
 
@@ -28,6 +34,7 @@ protected:
         pack.Add("textures/b.wal", MakeWal(8, 8, "b"));
         pack.Add("textures/large.wal", MakeWal(64, 64, "large"));
         pack.Add("textures/bad.wal", ToBytes("bad"));
+        pack.Add("readme", ToBytes("bad"));
         Put("pak0.pak", pack.Build());
         EXPECT_TRUE(program.InitInstance({textures + "a.wal"}));
     }
@@ -78,6 +85,88 @@ TEST_F(FileDialogsTest, SavesOverAnEntryAndTellsAtTheEndThatArchivesAreReadOnly)
     EXPECT_EQ(ReadFile(PathTo("pak0.pak")), before);
 }
 
+// Rows of Save As for a texture of Quake II.
+enum SaveType { ownType, everyType, bmpType, mipType, pcxType, tgaType, walType, anyType };
+
+TEST_F(FileDialogsTest, TheFileTypeDecidesTheExtension) {
+    for (const auto& [typed, type, shown, saved] : {std::tuple{"new1.bmp", pcxType, "new1.pcx", "new1.pcx"},
+                                                    {"new1.BMP", tgaType, "new1.tga", "new1.tga"},
+                                                    {"new2.tga", walType, "new2.wal", "new2.wal"},
+                                                    {"new3.tga", everyType, "new3.tga", "new3.tga"},
+                                                    {"new3.pcx", anyType, "new3.pcx", "new3.pcx"},
+                                                    {"flt", tgaType, "flt.tga", "flt.tga"},
+                                                    {"plain", anyType, "plain", "plain.wal"},
+                                                    {"wall.v2.mip", bmpType, "wall.v2.bmp", "wall.v2.bmp"}}) {
+        const DialogAnswer answer([&](QDialog& dialog) {
+            auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
+            auto* types = dialog.findChild<QComboBox*>("fileTypeCombo");
+            EXPECT_EQ(dynamic_cast<QFileDialog&>(dialog).labelText(QFileDialog::LookIn), "Save in:");
+            dialog.findChild<QListView*>("listView")->clearSelection();
+            name->setText(typed);
+            types->setCurrentIndex(type);
+            emit types->activated(type);
+            EXPECT_EQ(name->text(), shown) << typed;
+            Press(dialog, QDialogButtonBox::Save);
+        });
+        EXPECT_TRUE(Send(ID_FILE_SAVE_AS));
+        EXPECT_EQ(program.GetRecentFiles().GetPaths().front(), PathTo(saved));
+    }
+    const DialogAnswer answers(
+        [](QDialog& dialog) {
+            dialog.findChild<QListView*>("listView")->clearSelection();
+            dialog.findChild<QComboBox*>("fileTypeCombo")->setCurrentIndex(tgaType);
+            EnterName(dialog, "typed", QDialogButtonBox::Save);
+        },
+        [&](QDialog& dialog) {
+            EXPECT_EQ(dynamic_cast<QFileDialog&>(dialog).directory(), QDir(folder.path()));
+            dialog.reject();
+        });
+    Send(ID_FILE_SAVE_AS);
+    Send(ID_FILE_OPEN);
+    EXPECT_EQ(program.GetRecentFiles().GetPaths().front(), PathTo("typed.tga"));
+}
+
+TEST_F(FileDialogsTest, AsksBeforeAnUnknownExtensionMakesABitmap) {
+    const auto standard = [](QDialog& dialog) {
+        EXPECT_THAT(dynamic_cast<QMessageBox&>(dialog).text().toStdString(), HasSubstr("Bitmap Image"));
+        dynamic_cast<QMessageBox&>(dialog).defaultButton()->click();
+    };
+    const DialogAnswer answers(
+        [](QDialog& dialog) {
+            EnterName(dialog, "x.png", QDialogButtonBox::Save);
+            EXPECT_TRUE(dialog.isVisible());
+            Press(dialog, QDialogButtonBox::Save);
+        },
+        standard, Press(QDialogButtonBox::Yes));
+    Send(ID_FILE_SAVE_AS);
+    EXPECT_EQ(ReadFile(PathTo("x.png")).at(0), std::byte{'B'});
+}
+
+TEST_F(FileDialogsTest, StartsWhereTheLastOneEnded) {
+    const auto details = [](const QDialog& dialog) {
+        for (auto* button : dialog.findChildren<QToolButton*>())
+            if (button->accessibleName() == "Details") return button;
+        throw std::runtime_error("no such button");
+    };
+    {
+        const DialogAnswer answers([&](QDialog& dialog) {
+            EnterName(dialog, QString::fromStdString(textures), QDialogButtonBox::Open);
+            details(dialog)->click();
+            dialog.reject();
+        });
+        Send(ID_FILE_OPEN);
+    }
+    const DialogAnswer answers([&](QDialog& dialog) {
+        EXPECT_TRUE(details(dialog)->isChecked());
+        auto* list = dialog.findChild<QStackedWidget*>("lowerList")->findChild<QTreeView*>();
+        ASSERT_TRUE(list && list->model()->rowCount() == 4);
+        list->setCurrentIndex(list->model()->index(3, 0));
+        Press(dialog, QDialogButtonBox::Open);
+    });
+    Send(ID_FILE_OPEN);
+    EXPECT_EQ(program.GetRecentFiles().GetPaths().front(), textures + "large.wal");
+}
+
 TEST_F(FileDialogsTest, RemembersThatThePreviewIsOn) {
     const auto switchPreview = [](CKelTavloApp& run) {
         bool wasOn = false;
@@ -104,7 +193,7 @@ TEST_F(FileDialogsTest, PreviewsPicturesAndNothingElse) {
     const Preview bad = ReadPicturePreview(textures + "bad.wal");
     EXPECT_TRUE(bad.picture.isNull());
     EXPECT_FALSE(bad.text.isEmpty());
-    EXPECT_EQ(ReadPicturePreview(PathTo("pak0.pak/textures")).text, "");
+    EXPECT_EQ(ReadPicturePreview(PathTo("pak0.pak/readme")).text, "This file has no preview.");
     EXPECT_EQ(ReadForPreview(PathTo("pak0.pak")), nullptr);
     EXPECT_EQ(program.GetDocuments().size(), documents);
     CDocument* document = program.OpenDocumentFile(textures + "a.wal");

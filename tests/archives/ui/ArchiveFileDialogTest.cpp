@@ -7,10 +7,14 @@
 #include "support/TestApplication.h"
 #include "support/ui/DialogAnswer.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
+#include <QCompleter>
 #include <QLabel>
 #include <QListView>
 #include <QPushButton>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
 #include <QTest>
 #include <QToolButton>
 #include <QTreeView>
@@ -99,6 +103,7 @@ protected:
     std::string InnerPath() const { return ToNativePath(dialog.GetSelectedInnerPath()); }
 
     std::vector<std::string> previewed, missing;
+    FileDialogMemory memory;
     ArchiveFileDialog dialog{nullptr,
                              {.proposal = {}, .mustExist = true},
                              {{"Packs (*.x)", "*.pak;*.wal;*.wad;"}},
@@ -107,7 +112,8 @@ protected:
                                   previewed.push_back(path);
                                   return Preview{QImage(4, 2, QImage::Format_RGB32), "4 x 2"};
                               },
-                              [this](const std::string& what) { missing.push_back(what); }}};
+                              [this](const std::string& what) { missing.push_back(what); },
+                              [](const std::string&) { return true; }, memory}};
     QListView& upper = *dialog.findChild<QListView*>("listView");
     ArchiveListView& lower = *dialog.findChild<ArchiveListView*>("lowerList");
 };
@@ -142,6 +148,24 @@ TEST_F(ArchiveFileDialogTest, WalksIntoFoldersAndArchivesAndTakesTheFileChosenTh
     Select("pak0.pak");
     DoubleClick("inner.pak");
     Click("c.wal");
+    EXPECT_TRUE(PressOK());
+    EXPECT_TRUE(Open<CDocument>(dialog.GetSelectedInnerPath()));
+}
+
+TEST_F(ArchiveFileDialogTest, EntersAFolderOfAFilesName) {
+    PackBuilder pack;
+    pack.Add("a", Bytes(2048));
+    pack.Add("a/b.wal", MakeWal(8, 8));
+    Put("twins.pak", pack.Build());
+    Show("twins.pak");
+    EXPECT_EQ(Names(), QStringList({"a", "a"}));
+    EXPECT_EQ(Column(1), QStringList({"2KB", ""}));
+    const QRect folderLine = View().visualRect(View().model()->index(1, 0));
+    QTest::mouseClick(View().viewport(), Qt::LeftButton, {}, folderLine.center());
+    EXPECT_EQ(NameBox(), "");
+    QTest::mouseDClick(View().viewport(), Qt::LeftButton, {}, folderLine.center());
+    EXPECT_EQ(dialog.findChild<QLabel*>("lowerTitle")->text(), "Contents of twins.pak/a:");
+    Click("b.wal");
     EXPECT_TRUE(PressOK());
     EXPECT_TRUE(Open<CDocument>(dialog.GetSelectedInnerPath()));
 }
@@ -212,11 +236,100 @@ TEST_F(ArchiveFileDialogTest, ReadsPreviewsOnlyWhileTheyAreSwitchedOn) {
     EXPECT_TRUE(previewed.empty());
     QTest::keyClick(dialog.findChild<QCheckBox*>("enablePreview"), Qt::Key_Space);
     Click("textures");
+    Click("zebra.txt");
     Select("plain.wal");
-    ASSERT_EQ(previewed.size(), 2U);
+    ASSERT_EQ(previewed.size(), 3U);
     EXPECT_EQ(ToNativePath(previewed[0]), PathTo("pak0.pak/apple.wal"));
-    EXPECT_EQ(previewed[1], PathTo("plain.wal"));
+    EXPECT_EQ(previewed[2], PathTo("plain.wal"));
     EXPECT_EQ(dialog.findChild<QLabel*>("previewText")->text(), "4 x 2");
+}
+
+TEST_F(ArchiveFileDialogTest, ListsATypedFolderOfAnArchiveAndNamesIt) {
+    Show();
+    const auto* title = dialog.findChild<QLabel*>("lowerTitle");
+    for (const auto& [other, shown, typed] :
+         {std::tuple{"plain.wal", "", "pak0.pak/textures"},
+          {"pak1.pak", "Contents of pak1.pak:", "pak0.pak\\textures\\"}}) {
+        Select(other);
+        EXPECT_EQ(title->text(), shown);
+        Type(typed);
+        EXPECT_FALSE(PressOK());
+        EXPECT_EQ(Names(), QStringList({"e1", "Wall.wal"}));
+        EXPECT_EQ(title->text(), "Contents of pak0.pak/textures:");
+    }
+    DoubleClick("e1");
+    EXPECT_EQ(title->text(), "Contents of pak0.pak/textures/e1:");
+    Click("b.wal");
+    EXPECT_TRUE(PressOK());
+    EXPECT_EQ(InnerPath(), PathTo("pak0.pak/textures/e1/b.wal"));
+}
+
+TEST_F(ArchiveFileDialogTest, EnterClosesTheListOfCompletions) {
+    Show();
+    auto* edit = dialog.findChild<QLineEdit*>("fileNameEdit");
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    edit->setFocus();
+    const QWidget& popup = *edit->completer()->popup();
+    for (const char* typed : {"pak", "0.pak"}) {
+        QTest::keyClicks(edit, typed);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return popup.isVisible(); }));
+    }
+    QTest::keyClick(edit->completer()->popup(), Qt::Key_Return);
+    EXPECT_EQ(Names().size(), 4);
+    EXPECT_FALSE(popup.isVisible());
+}
+
+TEST_F(ArchiveFileDialogTest, CutsNoColumnOfTheUpperListWhileThereIsRoom) {
+    Put("a rather long name of a texture.wal", {});
+    dialog.setViewMode(QFileDialog::Detail);
+    Show();
+    const auto& tree = *dialog.findChild<QTreeView*>("treeView");
+    const QAbstractItemView& lines = tree;
+    PlaceOf(tree, "plain.wal");
+    for (const int width : {900, 1200}) {
+        dialog.resize(width, 700);
+        EXPECT_TRUE(QTest::qWaitFor([&] {
+            for (int column = 0; column < tree.model()->columnCount(); ++column)
+                if (tree.columnWidth(column) < lines.sizeHintForColumn(column)) return false;
+            return !tree.horizontalScrollBar()->isVisible();
+        }));
+    }
+}
+
+TEST_F(ArchiveFileDialogTest, DetailsOfManyLinesNeedNoScrollingAside) {
+    PackBuilder pack;
+    for (int i = 0; i < 200; ++i) pack.Add("file" + std::to_string(i), {});
+    Put("many.pak", pack.Build());
+    Show("many.pak");
+    Tool("Details").click();
+    for (const int width : {1200, 800}) {
+        dialog.resize(width, 700);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !View().horizontalScrollBar()->isVisible(); })) << width;
+        EXPECT_TRUE(View().verticalScrollBar()->isVisible());
+    }
+}
+
+TEST(ArchiveListViewTest, CutsNoNameInTheList) {
+    AddStrings(ShellStrings());
+    const QStyledItemDelegate plain;
+    for (const char* first : {"a", "e1", "fill", "Wiwi.w"})
+        for (const char* longest :
+             {"floor1_1.wal", "WALL_metal.pcx", "illiterate1.tga", "tttttttttttt", "1jfj1jfj1"}) {
+            ArchiveListView view(nullptr);
+            view.SetItems({{first, 0}, {longest, 1}}, [](ArchiveListItem&) {});
+            view.resize(600, 300);
+            view.show();
+            auto& list = dynamic_cast<QListView&>(*view.currentWidget());
+            QStyleOptionViewItem option;
+            option.initFrom(&list);
+            option.decorationSize = list.iconSize();
+            option.widget = &list;
+            for (int row = 0; row < 2; ++row) {
+                const QModelIndex index = list.model()->index(row, 0);
+                EXPECT_GE(list.visualRect(index).width(), plain.sizeHint(option, index).width())
+                    << first << ", " << longest;
+            }
+        }
 }
 
 // Of processor time, which other programs do not change.
