@@ -1,4 +1,4 @@
-# The files that the program carries are made from the palette tables while it is built.
+# Generates the source of the built-in files from the palette tables.
 set(builtInSource "${CMAKE_BINARY_DIR}/generated/BuiltInFiles.cpp")
 file(GLOB paletteTables CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/src/res/palettes/*.txt")
 file(MAKE_DIRECTORY "${CMAKE_BINARY_DIR}/generated")
@@ -9,5 +9,5 @@ add_custom_command(
     OUTPUT "${builtInSource}"
     COMMAND make_built_in_files "${CMAKE_SOURCE_DIR}/src/res/palettes" "${builtInSource}"
     DEPENDS make_built_in_files ${paletteTables}
-    COMMENT "Making the built-in files")
+    COMMENT "Generating the built-in files")
 target_sources(layer_app PRIVATE "${builtInSource}")

@@ -1,5 +1,4 @@
-# What "cmake --install" puts in place, and the Debian package that "cpack -G DEB" makes of it. Built-in files travel inside the
-# programs.
+# What "cmake --install" installs and "cpack -G DEB" packs. The programs contain the built-in files.
 include(GNUInstallDirs)
 set(CMAKE_SKIP_INSTALL_ALL_DEPENDENCY ON) # the tests and samples are not installed
 set(packaging "${CMAKE_SOURCE_DIR}/packaging")
@@ -26,9 +25,9 @@ set(CPACK_PACKAGE_NAME keltavlo)
 set(CPACK_PACKAGE_CONTACT "KelTavlo developers <keltavlo@example.org>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "workshop for the textures of the Quake games")
 set(CPACK_PACKAGE_DESCRIPTION "Opens the textures of Quake, Quake II, Hexen II and Half-Life from the disk or
-out of PAK and WAD archives, and loose textures of Quake III Arena, shows them
-tiled without end, edits them with what the games store beside the pixels, and
-saves them in five formats. Quake II models show the texture that is being edited.")
+out of PAK and WAD archives, and loose textures of Quake III Arena, tiles them
+endlessly, edits them and what the games store beside the pixels, and saves them
+in five formats. Shows Quake II models with the texture that you work on.")
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_PACKAGE_VERSION "${PROJECT_VERSION}~${stage}") # sorts before the release itself
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)

@@ -1,6 +1,6 @@
-# Who may use whom. One row a layer: its folder below src/, then the layers that it may include (and, through them, what
-# those may include). The build links by this table and the test "layers" reads every #include against it.
-# The left column (no "ui" in its name) links no Widgets.
+# Which layer may use which. Each row is a folder below src/, then the layers that it may include; what those may
+# include, it may include too. The build links by this table, and the test "layers" checks every #include against it.
+# The left column (folders not called "ui") links no Widgets.
 set(LAYERS
     "framework/core    :"
     "res               : framework/core"

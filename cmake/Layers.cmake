@@ -1,4 +1,4 @@
-# Turns each row of the layer table into one static library over the sources of its folder.
+# Makes each row of the layer table a static library of the sources in its folder.
 include(${CMAKE_CURRENT_LIST_DIR}/LayerTable.cmake)
 
 function(layer_target folder out)
@@ -6,11 +6,11 @@ function(layer_target folder out)
     set(${out} "layer_${name}" PARENT_SCOPE)
 endfunction()
 
-# GLOB with CONFIGURE_DEPENDS: a new file belongs to its folder's layer without a further line anywhere.
+# CONFIGURE_DEPENDS adds a new file to its folder's layer at the next build.
 function(add_layer folder uses)
     layer_target("${folder}" target)
     file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/src/${folder}/*.cpp")
-    list(FILTER sources EXCLUDE REGEX "/main[.]cpp$") # belongs to its program
+    list(FILTER sources EXCLUDE REGEX "/main[.]cpp$") # part of its program
     file(GLOB headers CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/src/${folder}/*.h")
     add_library(${target} STATIC ${sources} ${headers})
     target_link_libraries(${target} PRIVATE project_options)

@@ -1,5 +1,5 @@
-# Compiler settings that all targets of the project share. The presets make warnings errors; other builds do not, so that
-# a newer compiler cannot break them.
+# Compiler settings that all targets of the project share. The presets make warnings errors; other builds do not, so
+# that a newer compiler cannot break them.
 add_library(project_options INTERFACE)
 target_compile_features(project_options INTERFACE cxx_std_20)
 target_compile_options(project_options INTERFACE
@@ -13,7 +13,8 @@ if(KELTAVLO_SANITIZE)
     add_link_options(-fsanitize=address,undefined)
 endif()
 if(KELTAVLO_FUZZ)
-    add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all -fno-sanitize=vptr,function)
+    add_compile_options(
+        -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all -fno-sanitize=vptr,function)
     add_compile_definitions(_GLIBCXX_ASSERTIONS)
     add_link_options(-fsanitize=address,undefined)
 endif()

@@ -1,13 +1,14 @@
-# Plants faults in copies of a tiny tree and sees the layer check name each; the clean tree passes.
+# Plants faults in copies of a tiny tree and expects the layer check to name each; the clean tree passes.
 # cmake -DCHECK=<CheckLayers.cmake> -DSCRATCH=<folder to work in> -P CheckLayersTest.cmake
 cmake_minimum_required(VERSION 3.25)
 set(tiny "low : " "high : low" "low/ui : low" "high/ui : high low/ui")
 
-# plant(FILE TEXT ...): lays the clean tree anew with these files on top.
+# plant(FILE TEXT ...): writes the clean tree again, then these files.
 function(plant)
     file(REMOVE_RECURSE "${SCRATCH}")
     file(WRITE "${SCRATCH}/src/low/Low.h" "#include <QString>\n#include <QStringView>\n#include <vector>\n")
-    file(WRITE "${SCRATCH}/src/high/High.cpp" "#include \"low/Low.h\"\n#include <QCoreApplication>\n#include \"High.moc\"\n")
+    file(WRITE "${SCRATCH}/src/high/High.cpp"
+        "#include \"low/Low.h\"\n#include <QCoreApplication>\n#include \"High.moc\"\n")
     file(WRITE "${SCRATCH}/src/low/ui/View.h" "#include \"low/Low.h\"\n#include <QWidget>\n")
     file(WRITE "${SCRATCH}/src/high/ui/Frame.h" "#include \"low/ui/View.h\"\n#include \"low/Low.h\"\n")
     while(ARGV)
@@ -16,7 +17,8 @@ function(plant)
     endwhile()
 endfunction()
 
-# expect(ANSWER): runs the check by the table in `rows`; its output must contain ANSWER, and only "no forbidden include" passes.
+# expect(ANSWER): runs the check with the table in `rows`. Its output must contain ANSWER, and the check must pass only
+# if ANSWER ends in "no forbidden include".
 function(expect answer)
     file(WRITE "${SCRATCH}/Table.cmake" "set(LAYERS \"${rows}\")\n")
     execute_process(COMMAND ${CMAKE_COMMAND} -DROOT=${SCRATCH} -DTABLE=${SCRATCH}/Table.cmake -P ${CHECK}
@@ -45,11 +47,11 @@ expect("high/Right.cpp uses low/ui")
 plant(low/ui/Sideways.h "#include \"high/ui/Frame.h\"")
 expect("low/ui/Sideways.h uses high/ui")
 plant(low/Relative.h "#include \"../high/High.h\"")
-expect("which lies in no layer")
+expect("which is in no layer")
 plant(low/Beside.h "#include \"Low.h\"")
-expect("which lies in no layer")
+expect("which is in no layer")
 plant(stray/Stray.h "#pragma once")
-expect("stray/Stray.h lies in no layer")
+expect("stray/Stray.h is in no layer")
 foreach(header QWidget QtGui/QImage QtWidgets QGuiApplication QPainter GL/gl.h)
     plant(low/Window.h "#include <${header}>")
     expect("low/Window.h uses <${header}> on the left")
@@ -57,7 +59,7 @@ endforeach()
 
 plant()
 set(rows "low : high" "high : low")
-expect("low uses high, which does not stand above it")
+expect("low uses high, which is not above it")
 set(rows "low : " "low/ui : low" "high : low/ui")
 expect("high on the left uses low/ui on the right")
 set(rows "${tiny}" "low : ")

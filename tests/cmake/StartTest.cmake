@@ -1,4 +1,4 @@
-# Without a display that can be reached, the program ends with one sentence and exit code 1.
+# Without a display, the program prints one sentence and ends with exit code 1.
 # cmake -DPROGRAM=<keltavlo> -P StartTest.cmake
 cmake_minimum_required(VERSION 3.25)
 foreach(variable DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM QT_QPA_PLATFORM_PLUGIN_PATH)
