@@ -23,7 +23,7 @@ public:
 
 protected:
     const char* GetFullSentence() const override {
-        return "This file lies in an archive, where files cannot grow, and its new contents are larger.";
+        return "The new contents are too large: files in an archive cannot grow.";
     }
 
 private:

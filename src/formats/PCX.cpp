@@ -73,7 +73,7 @@ std::string RefusalOf(const Header& header) {
     if (depth != 8) return std::to_string(depth) + "-bit PCX pictures are not supported.";
     if (header.planes != 1) return "PCX pictures of several planes are not supported.";
     if (header.bytesPerLine % 2 != 0)
-        return "PCX pictures with an odd number of bytes a row are not supported.";
+        return "PCX pictures with an odd number of bytes per row are not supported.";
     return {};
 }
 

@@ -17,13 +17,13 @@ constexpr StringRow rows[] = {
     {AFX_IDS_NEW_TITLE, "New"},
     {AFX_IDS_NEW_LABEL, "&New document of type:"},
     {AFX_IDS_FILE_EXISTS, "%s already exists.\nDo you want to replace it?"},
-    {AFX_IDS_FILE_MISSING, "%s\nThere is no such file."},
+    {AFX_IDS_FILE_MISSING, "%s\nThis file does not exist."},
     {AFX_IDP_PARSE_INT_RANGE, "Enter a whole number between %d and %d."},
-    {AFX_IDP_PARSE_STRING_SIZE, "Enter no more than %u characters. Letters beyond ASCII count as several."},
+    {AFX_IDP_PARSE_STRING_SIZE, "Enter no more than %u characters. Non-ASCII letters count as several."},
     {AFX_IDS_SAVE_IN, "Save in:"},
-    {AFX_IDS_PATH_MISSING, "%s\nThere is no such folder."},
+    {AFX_IDS_PATH_MISSING, "%s\nThis folder does not exist."},
 
-    // Labels and patterns of the file dialogs. Archives stand in every row: they count as folders.
+    // Labels and patterns of the file dialogs. Every row includes archives, because they count as folders.
     {IDS_OPEN_FILTERS, "All Files (*.bmp, *.lmp, *.md2, *.mdl, *.mip, *.pcx, *.tga, *.wal)\n"
                        "*.bmp;*.lmp;*.md2;*.mdl;*.mip;*.pak;*.pcx;*tga;*.wad;*.wal\n"
                        "Quake Files (*.lmp, *mdl, *.mip, *.pcx)\n*.lmp;*.mdl;*.mip;*.pak;*.pcx;*.wad;\n"
@@ -72,10 +72,10 @@ constexpr StringRow rows[] = {
     {IDS_NOT_IMPLEMENTED_TITLE, "Not Implemented"},
     {IDS_NOT_IMPLEMENTED, "%s is not implemented.\nKelTavlo is not fully implemented yet. Sorry.\n\n"
                           "keltavlo@example.org\nwww.example.org/keltavlo\n"},
-    {IDS_NO_OPENGL, "Models cannot be shown: this system offers no OpenGL to draw them with."},
+    {IDS_NO_OPENGL, "Models cannot be shown because this system has no OpenGL."},
 
     {ID_FILE_NEW, "Create a new texture\nNew"},
-    {ID_FILE_OPEN, "Open a file, also one inside an archive\nOpen"},
+    {ID_FILE_OPEN, "Open a file, even one inside an archive\nOpen"},
     {ID_FILE_CLOSE, "Close the active document\nClose"},
     {ID_FILE_SAVE, "Save the active document\nSave"},
     {ID_FILE_SAVE_AS, "Save the active document under another name\nSave As"},
@@ -84,19 +84,19 @@ constexpr StringRow rows[] = {
     {ID_FILE_MRU_FIRST + 1, "Open this file again\nRecent File"},
     {ID_FILE_MRU_FIRST + 2, "Open this file again\nRecent File"},
     {ID_FILE_MRU_LAST, "Open this file again\nRecent File"},
-    {ID_APP_EXIT, "Close every document and end the program\nExit"},
-    {ID_EDIT_UNDO, "Take back the last change\nUndo"},
-    {ID_EDIT_REDO, "Make the change again that was taken back\nRedo"},
+    {ID_APP_EXIT, "Close all documents and exit\nExit"},
+    {ID_EDIT_UNDO, "Undo the last change\nUndo"},
+    {ID_EDIT_REDO, "Redo the change that was undone\nRedo"},
     {ID_EDIT_CUT, "Copy the picture to the clipboard and leave it in place\nCut"},
     {ID_EDIT_COPY, "Copy the picture to the clipboard\nCopy"},
-    {ID_EDIT_PASTE, "Replace the picture by the one on the clipboard\nPaste"},
+    {ID_EDIT_PASTE, "Replace the picture with the one on the clipboard\nPaste"},
     {ID_EDIT_CLEAR, "Clear the picture\nClear"},
     {ID_EDIT_SELECT_ALL, "Select the whole picture\nSelect All"},
     {ID_SELECT_NONE, "Select nothing\nSelect None"},
-    {ID_EDIT_PROPERTIES, "Edit the size, the names and the game's flags of the texture\nProperties"},
+    {ID_EDIT_PROPERTIES, "Edit the texture's size, names and flags\nProperties"},
     {ID_VIEW_TOOLBAR, "Show or hide this toolbar\nToolbar"},
     {ID_VIEW_STATUS_BAR, "Show or hide the status bar\nStatus Bar"},
-    {ID_VIEW_REFRESH, "Draw everything anew\nRefresh"},
+    {ID_VIEW_REFRESH, "Redraw everything\nRefresh"},
     {ID_ZOOM_100, "Show each texel as one pixel\n100%"},
     {ID_ZOOM_200, "Show each texel two pixels wide\n200%"},
     {ID_ZOOM_400, "Show each texel four pixels wide\n400%"},
@@ -126,11 +126,11 @@ constexpr StringRow rows[] = {
     {ID_WINDOW_ARRANGE, "Arrange the minimized windows\nArrange Icons"},
     {ID_WINDOW_SPLIT, "Split the active window into panes\nSplit"},
     {ID_NEXT_PANE, "Go to the next pane of the active window\nNext Pane"},
-    {ID_PREV_PANE, "Go to the pane before in the active window\nPrevious Pane"},
-    {ID_HELP, "Show the help on what you are working with\nHelp"},
-    {ID_HELP_FINDER, "Show the help\nHelp Topics"},
-    {ID_CONTEXT_HELP, "Show help on a part of the window\nHelp"},
-    {ID_APP_ABOUT, "Show what program this is\nAbout"},
+    {ID_PREV_PANE, "Go to the previous pane of the active window\nPrevious Pane"},
+    {ID_HELP, "Show the help page for the active window\nHelp"},
+    {ID_HELP_FINDER, "Show the help topics\nHelp Topics"},
+    {ID_CONTEXT_HELP, "Show the help page for a part of the window\nHelp"},
+    {ID_APP_ABOUT, "Show the version, Qt, OpenGL and the settings path\nAbout"},
 };
 
 } // namespace

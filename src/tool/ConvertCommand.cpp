@@ -30,7 +30,7 @@ void WritePicture(Tool& tool, TavloDocument& document, const std::string& to, Ou
     outputs.AddWritten(to);
     const std::string after = SizeOf(document.GetTexture());
     if (after != before)
-        tool.Note("\"" + ToDisplayPath(to) + "\" was made " + after + " from " + before +
+        tool.Note("\"" + ToDisplayPath(to) + "\" was resized from " + before + " to " + after +
                   " to fit the games.");
 }
 
@@ -65,8 +65,10 @@ void Convert(Tool& tool, const ToolArguments& arguments) {
     EntryStatus status;
     tool.GetApplication().GetFileSystem().GetStatus(from, status);
     if (IsTree(status)) {
-        if (arguments.format.empty()) throw UsageError("A folder or archive is converted --to a format.");
-        if (!CodecOfName("x" + arguments.format)) throw UsageError("--to takes wal, mip, pcx, tga or bmp.");
+        if (arguments.format.empty())
+            throw UsageError("Converting a folder or archive requires --to FORMAT.");
+        if (!CodecOfName("x" + arguments.format))
+            throw UsageError("--to requires wal, mip, pcx, tga or bmp.");
         ConvertTree(tool, from, to, arguments);
     } else {
         if (!CodecOfName(to))

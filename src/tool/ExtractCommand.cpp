@@ -50,11 +50,11 @@ void ExtractTextures(Tool& tool, const std::string& path, const std::string& fol
     for (const Image& texture : model->GetTextures()) {
         const std::string target = stem + std::to_string(++number) + ".tga";
         if (texture.Pixels().empty())
-            tool.Note("\"" + ToDisplayPath(target) + "\" would have no pixels and was left out.");
+            tool.Note("Skipped \"" + ToDisplayPath(target) + "\": it would have no pixels.");
         else
             outputs.Write(target, ToTarga(texture));
     }
-    if (number == 0) tool.Note("\"" + ToDisplayPath(path) + "\" carries no textures.");
+    if (number == 0) tool.Note("\"" + ToDisplayPath(path) + "\" contains no textures.");
     model->OnCloseDocument();
 }
 

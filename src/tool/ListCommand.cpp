@@ -16,7 +16,7 @@ void ListFolder(Tool& tool, const ToolArguments& arguments) {
     files.ListFolder(folder, listing);
     const bool inArchive = status.browsable || !status.onDisk;
     if (!IsTree(status) || !inArchive)
-        return tool.Fail("\"" + ToDisplayPath(folder) + "\" is no archive or folder in one.");
+        return tool.Fail("\"" + ToDisplayPath(folder) + "\" is not an archive or a folder in one.");
     for (const std::string& name : listing.names) {
         files.GetStatus(JoinPath(folder, name), status);
         const bool isFolder = (status.attributes & CFileStatus::directoryAttribute) != 0;

@@ -32,7 +32,7 @@ bool OutputPlace::Prepare(const std::string& path) {
     std::error_code failure;
     std::filesystem::create_directories(ToNativePath(ParentOf(path)), failure);
     if (failure)
-        tool.Fail("The folder of \"" + ToDisplayPath(path) + "\" cannot be made: " + failure.message() + ".");
+        tool.Fail("Cannot create the folder of \"" + ToDisplayPath(path) + "\": " + failure.message() + ".");
     return !failure;
 }
 

@@ -19,10 +19,10 @@ struct CommandRow {
 constexpr CommandRow commands[] = {
     {"list", "PATH", "Lists an archive, a folder inside it or the built-in folder: size, type, name.", 1,
      ListFolder},
-    {"info", "PATH", "Tells what a file holds: format, size, names, flags, palette, counts.", 1, ShowInfo},
-    {"convert", "IN OUT", "Writes the picture IN in the format that OUT's name picks.", 2, Convert},
+    {"info", "PATH", "Describes a file: format, size, names, flags, palette, counts.", 1, ShowInfo},
+    {"convert", "IN OUT", "Writes the picture IN in the format of OUT's extension.", 2, Convert},
     {"convert", "TREE OUTDIR --to FORMAT",
-     "Converts every picture of a folder or archive, keeping its folders.", 2, Convert},
+     "Converts every picture in a folder or archive and keeps the folders.", 2, Convert},
     {"extract", "PATH OUTDIR", "Writes the files of an archive, and the textures of an MDL model as Targa.",
      2, Extract},
 };
@@ -33,20 +33,20 @@ void PrintHelp(std::ostream& out) {
         out << "  " << row.name << " " << row.arguments << "\n      " << row.help << "\n";
     out << "\nOptions:\n"
            "  --to FORMAT   wal, mip, pcx, tga or bmp\n"
-           "  --force       overwrite files that exist\n"
+           "  --force       overwrite existing files\n"
            "  --help        show this text\n"
            "  --version     show the version\n"
-           "\nPaths lead into archives as if these were folders. The exit code is 0 when all went well.\n";
+           "\nPaths may lead into archives as if these were folders. The exit code is 0 on success.\n";
 }
 
 const CommandRow& FindCommand(const ToolArguments& arguments) {
-    if (arguments.command.empty()) throw UsageError("Say what to do; --help lists the commands.");
+    if (arguments.command.empty()) throw UsageError("No command given; see --help.");
     const CommandRow* row =
         std::find_if(std::begin(commands), std::end(commands),
                      [&](const CommandRow& candidate) { return arguments.command == candidate.name; });
-    if (row == std::end(commands)) throw UsageError("There is no command " + arguments.command + ".");
+    if (row == std::end(commands)) throw UsageError("Unknown command: " + arguments.command + ".");
     if (arguments.paths.size() != row->pathCount)
-        throw UsageError(arguments.command + " takes " + row->arguments + ".");
+        throw UsageError(arguments.command + " requires " + row->arguments + ".");
     return *row;
 }
 

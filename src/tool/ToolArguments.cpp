@@ -5,7 +5,7 @@ namespace {
 // Takes one option; `next` is the argument behind it, or null. True when that one belongs to the option.
 bool TakeOption(ToolArguments& taken, const std::string& option, const std::string* next) {
     if (option == "--to") {
-        if (!next) throw UsageError("--to needs a format: wal, mip, pcx, tga or bmp.");
+        if (!next) throw UsageError("--to requires a format: wal, mip, pcx, tga or bmp.");
         taken.format = "." + *next;
         return true;
     }
@@ -16,7 +16,7 @@ bool TakeOption(ToolArguments& taken, const std::string& option, const std::stri
     else if (option == "--version")
         taken.version = true;
     else
-        throw UsageError("There is no option " + option + ".");
+        throw UsageError("Unknown option: " + option + ".");
     return false;
 }
 

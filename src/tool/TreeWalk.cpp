@@ -91,7 +91,7 @@ public:
     std::vector<TreeFile> found;
 
 private:
-    void NoteDuplicate(const std::string& name) { tool.Note("Skipped a second \"" + name + "\"."); }
+    void NoteDuplicate(const std::string& name) { tool.Note("Skipped another \"" + name + "\"."); }
 
     void Add(const std::string& path, const std::string& prefix, const std::string& name,
              const std::string& newName) {

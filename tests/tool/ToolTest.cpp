@@ -172,7 +172,7 @@ TEST_F(ToolTest, DescribesModelsAndWritesTheirTextures) {
     EXPECT_EQ(Run({"info", path}), 0);
     EXPECT_THAT(out, HasSubstr("textures: 3\ntexture: 4 x 2\ntexture: 0 x 1\ntexture: 16 x 16\n"));
     EXPECT_EQ(Run({"extract", path, PathTo("out")}), 0);
-    EXPECT_THAT(err, HasSubstr("player_2.tga\" would have no pixels"));
+    EXPECT_THAT(err, HasSubstr("player_2.tga\": it would have no pixels"));
     EXPECT_EQ(ReadFile(PathTo("out/player_1.tga"))[18], std::byte{4 * 3}) << "blue of the bottom left";
     EXPECT_EQ(Run({"extract", PathTo("out/player.mdl"), PathTo("out")}), 1) << "nothing is written over";
     EXPECT_EQ(Run({"extract", PathTo("out/player.mdl"), PathTo("again")}), 0);

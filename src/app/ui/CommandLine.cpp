@@ -17,7 +17,7 @@ struct Parser : QCommandLineParser {
         addOption(help);
         setSingleDashWordOptionMode(ParseAsLongOptions); // such as the toolkit's own "-platform"
         addPositionalArgument(QStringLiteral("file"),
-                              QStringLiteral("The file to open, also one inside an archive."),
+                              QStringLiteral("The file to open, which may be inside an archive."),
                               QStringLiteral("[file...]"));
     }
 };

@@ -11,7 +11,7 @@ namespace {
 std::string ArchiveSentence(CArchiveException::Cause cause) {
     static constexpr std::array sentences{
         "No error occurred.",
-        "This kind of file cannot do what was asked.",
+        "This kind of file does not support the operation.",
         "This kind of file can only be read.",
         "The file ends too early.",
         "This kind of file can only be written.",
@@ -94,7 +94,7 @@ CFileException CFileException::FromErrno(int error, std::string file) {
     return CFileException(CauseOfErrno(error), error, std::move(file));
 }
 
-CMemoryException::CMemoryException() : CException("There is not enough room in memory.") {}
+CMemoryException::CMemoryException() : CException("There is not enough memory.") {}
 
 std::string DescribeFailure(Direction direction, const std::string& path, const std::exception& failure) {
     const char* verb = direction == Direction::opening ? "open" : "save";

@@ -65,7 +65,7 @@ const Color* ColorList::FindNearest(Color color) const {
     if (cache) {
         if (const Color* match = cache->Find(color)) return match;
     }
-    if (colors.empty()) throw std::out_of_range("The colour list is empty.");
+    if (colors.empty()) throw std::out_of_range("The color list is empty.");
     const Color* match = ScanForNearest(colors, color);
     if (cache) cache->Store(color, match);
     return match;

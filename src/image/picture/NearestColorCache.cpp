@@ -3,5 +3,5 @@
 #include <stdexcept>
 
 NearestColorCache::NearestColorCache(std::size_t slotCount) : slots(slotCount) {
-    if (slotCount == 0) throw std::invalid_argument("A nearest-colour cache needs a slot.");
+    if (slotCount == 0) throw std::invalid_argument("A nearest-color cache needs a slot.");
 }

@@ -36,7 +36,7 @@ NearestSearch::NearestSearch(const ColorList& searchedList, const NearestKernels
 NearestSearch::~NearestSearch() = default;
 
 NearestTables& NearestSearch::Tables(std::span<const Color> pixels) {
-    if (list.GetCount() == 0) throw std::out_of_range("The colour list is empty.");
+    if (list.GetCount() == 0) throw std::out_of_range("The color list is empty.");
     if (!tables) tables = std::make_unique<NearestTables>(list, UsualAlpha(pixels), kernels);
     return *tables;
 }
@@ -46,7 +46,7 @@ std::size_t NearestSearch::FindIndex(Color color) {
 }
 
 void NearestSearch::FindIndices(std::span<const Color> pixels, std::span<std::uint8_t> indices) {
-    if (list.GetCount() > 256) throw std::length_error("The colour list is too long for indices of a byte.");
+    if (list.GetCount() > 256) throw std::length_error("The color list is too long for indices of one byte.");
     if (!pixels.empty()) kernels.findIndices(Tables(pixels), pixels, indices.data());
 }
 
