@@ -12,7 +12,7 @@
 
 namespace {
 
-// An archive on the disk, its directory in front and its entries' bytes behind it.
+// An archive on the disk: its directory, then the bytes of its entries.
 class LargeArchive {
 public:
     LargeArchive(const std::string& name, const Bytes& directory, std::uint64_t size)
@@ -75,7 +75,7 @@ using GetArchive = const std::string& (*)();
 
 void ReadThrough(benchmark::State& state, GetArchive archive) {
     const std::string& path = archive();
-    std::vector<std::byte> buffer(128 * 1024); // what cat reads at once
+    std::vector<std::byte> buffer(128 * 1024); // the block size of cat
     for (auto _ : state) {
         DiskFile file(path, CFile::modeRead);
         while (file.Read(buffer.data(), buffer.size()) > 0) benchmark::ClobberMemory();
@@ -97,8 +97,8 @@ void Open(benchmark::State& state, GetArchive archive) {
 BENCHMARK_CAPTURE(Open, Pack, Pack)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Open, Wad, Wad)->Unit(benchmark::kMillisecond);
 
-// What browsing does: the names of a folder, then the status of each. The argument is how many other
-// documents are open.
+// Browsing: the names of a folder, then the status of each. The argument is the number of other open
+// documents.
 void ListWithStatus(benchmark::State& state) {
     HeadlessApplication application([](const std::string&) {});
     FileSystem& files = application.GetFileSystem();

@@ -1,4 +1,4 @@
-// The least that a windowed program of the toolkit does: what dev/bench/startup compares ours with.
+// The smallest Qt program with a window, for comparison in dev/bench/startup.
 #include <QApplication>
 #include <QMainWindow>
 

@@ -26,7 +26,7 @@ const ModelFile& Largest() {
     return model;
 }
 
-// The least that loading can cost: the file's bytes in memory of their own.
+// The lower bound of loading: reading the file's bytes into new memory.
 void ReadModelBytes(benchmark::State& state) {
     const ModelFile& model = Largest();
     for (auto _ : state) {

@@ -12,8 +12,8 @@
 #include <random>
 #include <vector>
 
-// Every search is new: its tables are part of the time. "Plain" is the scan of the list with its cache. The
-// arguments are the picture's side and its number of colours, 0 for as many as it has pixels.
+// Every search is new, so the time includes building its tables. "Plain" is the scan of the list with its
+// cache. The arguments are the picture's side and its number of colors, where 0 means one per pixel.
 
 namespace {
 
@@ -27,7 +27,7 @@ ColorList MakePalette(Color alphaBits) {
     return ColorList(colors);
 }
 
-// Different colours in no order: multiplying by an odd number permutes the numbers of 24 bits.
+// Distinct colors in random order: multiplying by an odd number permutes the 24-bit numbers.
 std::vector<Color> MakeDistinctColors(std::size_t count) {
     std::vector<Color> colors(count);
     for (std::size_t i = 0; i < count; ++i)
@@ -75,7 +75,7 @@ void NearestIndices(benchmark::State& state) {
     }
 }
 
-// Neither the pixels nor the entries have one alpha.
+// Both the pixels and the entries have various alphas.
 template <auto find>
 void NearestAlphas(benchmark::State& state) {
     const ColorList list = MakePalette(0);
@@ -105,7 +105,7 @@ void NearestDiffusion(benchmark::State& state) {
     const std::vector<Color> pixels = MakePixels(state);
     Image picture(static_cast<int>(state.range(0)), static_cast<int>(state.range(0)));
     for (auto _ : state) {
-        Fill(picture, pixels); // a small part of the time of either
+        Fill(picture, pixels); // a small part of either time
         diffuse(picture, list);
         benchmark::ClobberMemory();
     }

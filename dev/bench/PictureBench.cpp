@@ -9,7 +9,7 @@
 #include <random>
 #include <vector>
 
-// "CopyPicture" is the measure for the others: run all with --benchmark_enable_random_interleaving=true and
+// "CopyPicture" is the reference for the others: run all with --benchmark_enable_random_interleaving=true and
 // compare.
 
 namespace {
@@ -32,7 +32,7 @@ Table MakeRandomTable() {
     return table;
 }
 
-// As a gamma setting makes it: other colours, the same alpha.
+// Like that of a gamma setting: changes the colors and keeps alpha.
 Table MakeGammaTable() {
     Table table{};
     for (std::uint32_t i = 0; i < 256; ++i) table[i] = Compose(i * i / 255, (i + 255) / 2, 255 - i, i);

@@ -6,5 +6,5 @@
 
 class ColorList;
 
-// Error diffusion along one row as it is defined, by the list's own search for each pixel.
+// Error diffusion along one row by its definition, with the list's own search for each pixel.
 void DiffusePlainly(std::span<Color> row, const ColorList& list);

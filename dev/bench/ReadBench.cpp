@@ -15,8 +15,8 @@
 #include <cstdlib>
 #include <random>
 
-// Files become new pictures in memory; the page cache is warm. The files stay in the folder that the variable
-// BENCH_FILES names, for other programs to read.
+// Reads files into new pictures in memory, with a warm page cache. The files stay in the folder named by the
+// variable BENCH_FILES, so that other programs can read them.
 
 namespace {
 
@@ -38,7 +38,7 @@ const ColorList& Palette() {
     return palette;
 }
 
-// Runs of one to eight equal pixels, as drawn textures have them.
+// Runs of one to eight equal pixels, as in drawn textures.
 Texture MakePicture(int side, Color transparency) {
     Texture picture(side, side);
     picture.SetPalette(Palette());
@@ -97,7 +97,7 @@ void Read(benchmark::State& state, const std::string& path, std::string_view doc
     }
 }
 
-// Allocating and clearing the memory of a picture, as any vector does and as pictures do.
+// Allocating and clearing the memory of a picture, as a vector does it and as pictures do it.
 template <class Pixels>
 void ReadClear(benchmark::State& state) {
     for (auto _ : state) {

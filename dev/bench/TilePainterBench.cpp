@@ -53,7 +53,7 @@ void StrokeCopyView(benchmark::State& state) {
 }
 BENCHMARK(StrokeCopyView)->Unit(benchmark::kMicrosecond);
 
-// What one step of a brush stroke paints anew. Arguments: side of the picture, zoom.
+// Repainting after one step of a brush stroke. Arguments: side of the picture, zoom.
 void StrokeRepaint(benchmark::State& state) {
     const int side = static_cast<int>(state.range(0));
     Image picture(side, side);

@@ -5,9 +5,9 @@
 #include <array>
 #include <functional>
 
-// Makes Quake II models (".md2"): the header, the skins, texture coordinates, triangles and frames in this
-// order. Frame f has the name "frame" and f. Unless the rules are replaced, texture coordinate i is (i, -i)
-// and vertex i of frame f is (f, i, i + 1), modulo 256.
+// Builds Quake II models (".md2"): the header, the skins, texture coordinates, triangles and frames in this
+// order. Frame 5 is called "frame5". By default, texture coordinate i is (i, -i) and vertex i of frame f is
+// (f, i, i + 1), modulo 256.
 struct Md2Builder {
     static constexpr std::size_t headerSize = 68;
     // Offsets of the header's fields.
@@ -25,19 +25,19 @@ struct Md2Builder {
 
     using TexCoord = std::array<int, 2>; // s and t in pixels of the skin
     std::function<TexCoord(int i)> texCoordAt = [](int i) { return TexCoord{i, -i}; };
-    using Vertex = std::array<int, 3>; // bytes, before they are scaled
+    using Vertex = std::array<int, 3>; // bytes, before scaling
     std::function<Vertex(int f, int i)> vertexAt = [](int f, int i) { return Vertex{f, i, i + 1}; };
 
     Bytes Build() const;
-    // As large as the game allows.
+    // The largest model that the game allows.
     static Bytes Largest();
 
 private:
     void PutFrame(Bytes& bytes, std::uint32_t number) const;
 };
 
-// Makes studio models (".mdl"): a header of zeros, the texture table, then each texture's indices i % 256 and
-// its palette, whose colour k is (k, 2k, 3k), modulo 256.
+// Builds studio models (".mdl"): a header of zeros, the texture table, then each texture's palette indices
+// i % 256 and its palette, whose color k is (k, 2k, 3k), modulo 256.
 struct MdlBuilder {
     static constexpr std::size_t textureCount = 180, tableOffset = 184, headerSize = 244, recordSize = 80;
     // Offsets of a record's fields.

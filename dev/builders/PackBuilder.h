@@ -10,16 +10,16 @@
 using Bytes = std::vector<std::byte>;
 
 Bytes ToBytes(std::string_view text);
-// Little-endian u32s, one after another.
+// The numbers as consecutive little-endian u32s.
 Bytes Words(std::initializer_list<std::uint32_t> numbers);
-// The first bytes.
+// The first `length` bytes.
 Bytes CutTo(const Bytes& bytes, std::size_t length);
 // Overwrites or appends a little-endian u32.
 void PutU32(Bytes& bytes, std::size_t offset, std::uint32_t value);
 void WriteFile(const std::string& path, const Bytes& bytes);
 Bytes ReadFile(const std::string& path);
 
-// Makes packs (".pak"): the header, the files' bytes, the directory.
+// Builds packs (".pak"): the header, the files' bytes, the directory.
 class PackBuilder {
 public:
     void Add(std::string_view name, const Bytes& bytes);

@@ -2,7 +2,7 @@
 
 namespace {
 
-// The name's field, then the sides.
+// The name field, then the sides.
 Bytes BeginHeader(std::string_view name, std::size_t nameSize, std::uint32_t width, std::uint32_t height) {
     Bytes header = ToBytes(name);
     header.resize(nameSize);

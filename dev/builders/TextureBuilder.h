@@ -2,11 +2,11 @@
 
 #include "builders/PackBuilder.h"
 
-// In both files every index of the largest level is (x + y) % 256, those of the others are 0.
+// In both files, every index of mip level 0 is (x + y) % 256; those of the other levels are 0.
 
-// The file of a WAL texture.
+// Builds a WAL texture.
 Bytes MakeWal(std::uint32_t width, std::uint32_t height, std::string_view name = "test");
 
-// A texture lump as WAD3 files hold it: its palette, whose colour i is (i, i, i), follows the levels, and two
-// bytes follow that. WAD2 files hold the same without all that.
+// Builds a texture lump of a WAD3 file: the mip levels, then a palette, whose color i is (i, i, i), then two
+// bytes. WAD2 files contain only the mip levels.
 Bytes MakeMip(std::string_view name, std::uint32_t width, std::uint32_t height, bool withPalette);

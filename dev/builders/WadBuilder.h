@@ -2,7 +2,7 @@
 
 #include "builders/PackBuilder.h"
 
-// Makes WAD files (".wad"): the header, the lumps' bytes, the directory.
+// Builds WAD files (".wad"): the header, the lumps' bytes, the directory.
 class WadBuilder {
 public:
     static constexpr std::uint8_t paletteType = 64, wad3TextureType = 67, wad2TextureType = 68;
@@ -11,7 +11,7 @@ public:
 
     explicit WadBuilder(std::string_view fourCharacters = "WAD3") : identification(fourCharacters) {}
 
-    // `garbage` stands behind the name's NUL.
+    // `garbage` follows the name's NUL.
     void Add(std::string_view name, std::uint8_t type, const Bytes& bytes, std::string_view garbage = {});
     enum class Directory { first, last };
     Bytes Build(Directory place = Directory::last) const;

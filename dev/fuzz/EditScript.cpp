@@ -17,7 +17,7 @@ std::size_t StateOf(const TavloDocument& document) {
     return digest.Get();
 }
 
-// The states that undoing and redoing must lead through.
+// The states that undo and redo must go through.
 class Expected {
 public:
     explicit Expected(std::size_t first) : states{first} {}
@@ -62,7 +62,7 @@ private:
         const std::size_t before = StateOf(document);
         Edit(kind);
         const std::size_t after = StateOf(document);
-        if (kind == 2 || after != before) expected.Record(after); // a paste is recorded in any case
+        if (kind == 2 || after != before) expected.Record(after); // a paste is always recorded
     }
 
     void Move(int step) {
@@ -110,7 +110,7 @@ std::optional<std::size_t> RunEditScript(std::span<const std::byte> script, Buff
     });
 }
 
-// Every edit, then all the way back and forth.
+// Every edit, then undo and redo of all.
 Bytes MakeEditScript() {
     using namespace std::literals;
     return ToBytes("\2\4\4\1\3\7\2\4\2a\5\1b\2c\6\1\7\2\x08\3"

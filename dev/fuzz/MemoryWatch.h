@@ -2,9 +2,9 @@
 
 #include <cstddef>
 
-// The program's memory while a reader is at work. New memory is filled with a byte of the caller's choice, so
-// that a reader that uses what it has not written gives two results for two fills.
+// Watches the program's memory while a reader works. Fills new memory with the byte, so that a reader of
+// uninitialized memory returns different results for different fills.
 void BeginMemoryWatch(unsigned char fill);
 
-// The most bytes that were in use at a time since then, beyond those in use before.
+// The peak of the bytes in use since BeginMemoryWatch, beyond those in use then.
 std::size_t EndMemoryWatch();

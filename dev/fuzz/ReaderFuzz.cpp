@@ -14,7 +14,7 @@ const Reader& TheReader() {
     return reader;
 }
 
-// A reader may use 16 MiB and 128 bytes for each of the file's.
+// A reader may use 16 MiB plus 128 bytes for each byte of the file.
 constexpr std::size_t freeMemory = std::size_t{16} << 20;
 constexpr std::size_t memoryPerByte = 128;
 
@@ -38,7 +38,7 @@ std::optional<std::size_t> ReadWatched(std::span<const std::byte> bytes, Bufferi
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
     const Bytes seed = TheReader().makeSeed();
     TheReader().read(seed,
-                     Buffering::whole); // built-in palettes are loaded once, outside of what is measured
+                     Buffering::whole); // loads the built-in palettes once, before the measurement
     return 0;
 }
 
@@ -56,7 +56,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
 extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, std::size_t limit);
 
-// Half of the mutations are the toolkit's own, half know the header.
+// Half of the mutations come from libFuzzer, half from MutateFile.
 extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size, std::size_t limit,
                                                unsigned seed) {
     if (seed % 2 == 0) return LLVMFuzzerMutate(data, size, limit);

@@ -52,7 +52,7 @@ void Add(Digest& digest, const MDLDocument& model) {
     for (const Image& texture : model.GetTextures()) digest.Add(texture);
 }
 
-// Opens every entry by its path as well.
+// Also opens every entry by its path.
 void Add(Digest& digest, FolderDocument& document, const std::string& folder) {
     FolderListing listing;
     document.ListFolder(folder, listing);
@@ -60,7 +60,7 @@ void Add(Digest& digest, FolderDocument& document, const std::string& folder) {
     for (const std::string& name : listing.names) {
         digest.Add(name);
         const std::string path = JoinPath(folder, name);
-        if (left == 0 || path.size() > 4096 || name.empty()) continue; // no name: the folder's own path
+        if (left == 0 || path.size() > 4096 || name.empty()) continue; // no name: the folder itself
         --left;
         if (const auto file = document.OpenEntry(path, CFile::modeRead, nullptr))
             digest.Add(file->GetLength());
@@ -90,7 +90,7 @@ Outcome ReadClipboardBitmap(ByteSpan bytes, Buffering buffering) {
     });
 }
 
-// A path, a NUL and a pack: what the path leads to in it.
+// Input: a path, a NUL and a pack. Opens the path in the pack.
 Outcome ResolvePath(ByteSpan bytes, Buffering buffering) {
     const auto end = std::find(bytes.begin(), bytes.end(), std::byte{0});
     const auto length = static_cast<std::size_t>(end - bytes.begin());

@@ -14,20 +14,20 @@ struct HeaderField {
     std::size_t width; // bytes
 };
 
-// Whether the reader goes through the archive's buffer, or asks the file for every single value.
+// Whether the reader uses the buffer of CArchive or reads every single value from the file.
 enum class Buffering { whole, none };
 
-// One reader of files, for fuzzing and for mutated files in the tests.
+// A reader of files, for the fuzz targets and for MutatedFilesTest.
 struct Reader {
     const char* name;
-    // A digest of what was read; nothing when the file was refused with one of the program's own exceptions.
-    // Any other exception passes through.
+    // Returns a digest of what was read, or nothing if the file was refused with one of the program's own
+    // exceptions. Other exceptions pass through.
     std::optional<std::size_t> (*read)(std::span<const std::byte> bytes, Buffering buffering);
-    Bytes (*makeSeed)(); // a small file that is read without a failure
+    Bytes (*makeSeed)(); // builds a small valid file
     std::vector<HeaderField> fields;
     std::vector<Bytes> (*makeMoreSeeds)() = nullptr;
 
-    // All of them.
+    // All seeds.
     std::vector<Bytes> MakeSeeds() const;
 };
 
@@ -35,6 +35,6 @@ struct Reader {
 std::span<const Reader> Readers();
 const Reader& FindReader(std::string_view name);
 
-// Changes a file as somebody would who knows its header: half of the changes set a field to a boundary value
-// or to another field, give or take one; the others change, insert, remove or repeat bytes.
+// Mutates a file. Half of the changes set a header field to a boundary value or to another field, plus or
+// minus one; the others change, insert, remove or repeat bytes.
 void MutateFile(Bytes& bytes, std::span<const HeaderField> fields, std::mt19937& random);

@@ -11,7 +11,7 @@
 using Outcome = std::optional<std::size_t>;
 using ByteSpan = std::span<const std::byte>;
 
-// What was read, in one number.
+// A hash of everything that was read.
 class Digest {
 public:
     void Add(std::size_t value) { state = (state ^ value) * 0x100000001B3 + 0x9E3779B9; }
@@ -21,7 +21,7 @@ public:
         Add(static_cast<std::size_t>(picture.GetHeight()));
         const std::span<const Color> pixels = picture.Pixels();
         Add(std::hash<std::string_view>()({reinterpret_cast<const char*>(pixels.data()),
-                                           pixels.size_bytes()})); // for there may be millions
+                                           pixels.size_bytes()})); // fast, because there may be millions
     }
     void Add(const Texture& texture) {
         Add(static_cast<const Image&>(texture));
@@ -39,16 +39,16 @@ private:
     std::size_t state = 0xCBF29CE484222325;
 };
 
-// Makes the application through whose documents the built-in palettes come.
+// Creates the application, whose documents provide the built-in palettes.
 void NeedApplication();
 
-// The bytes of the picture in the format of a document class.
+// Encodes the picture in the format of a document class.
 Bytes EncodePicture(std::string_view documentClass, const Texture& texture);
 
-// A small picture of many colours.
+// A small picture of many colors.
 Texture MakePicture();
 
-// Hands the bytes, in a buffer of exactly their size, to the action as a stream.
+// Copies the bytes into a buffer of exactly their size and runs the action on a stream of it.
 template <class Action>
 Outcome WithStream(ByteSpan bytes, Buffering buffering, Action action) {
     NeedApplication();

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::string_view formats[] = {"MIPDocument", "BMPDocument", "PCXDocument", "TGADocument",
                                         "WALDocument"};
-constexpr std::size_t largestPicture = 65536; // pixels; larger ones cost more than they can show
+constexpr std::size_t largestPicture = 65536; // pixels; larger ones take too long
 constexpr std::size_t fullPalette = 256;
 
 Texture Decode(const Codec& codec, InputStream& in) {
@@ -31,7 +31,7 @@ Texture DecodeOwn(const Codec& codec, Bytes bytes) {
     }
 }
 
-// Nothing when the format cannot take what it gave.
+// Returns nothing if the format cannot write what it read.
 Bytes EncodeAgain(const Codec& codec, const Texture& texture) {
     try {
         return EncodePicture(codec.documentClass, texture);
@@ -64,7 +64,7 @@ std::optional<std::size_t> RecodePicture(std::span<const std::byte> bytes, Buffe
     return WithStream(bytes.subspan(1), buffering, [&](InputStream& in, Digest& digest) {
         const Texture texture = Decode(codec, in);
         digest.Add(texture);
-        // A shorter palette is written as it is, and files that end in one are not known by it.
+        // A shorter palette is written unchanged, and readers cannot recognize it at the end of a file.
         const bool shortPalette = texture.palette && texture.palette->GetCount() < fullPalette;
         if (!shortPalette && texture.Pixels().size() <= largestPicture) CheckOnceMore(codec, texture);
     });

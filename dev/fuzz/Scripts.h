@@ -2,15 +2,14 @@
 
 #include "Readers.h"
 
-// Readers with a state: they do something with what they read, and check that it comes out as promised. A
-// broken promise is a std::logic_error.
+// Readers that also use what they read and check the result. They throw std::logic_error if it is wrong.
 
-// A script of edits, undos and redos on a document, each compared with what the history must lead to.
+// Runs a script of edits, undos and redos on a document and compares each result with the expected state.
 std::optional<std::size_t> RunEditScript(std::span<const std::byte> script, Buffering buffering);
 Bytes MakeEditScript();
 
-// The first byte picks a format; the rest is a file of it, which is read, written and read again.
+// The first byte selects a format; the rest is a file of that format, which is read, written and read again.
 std::optional<std::size_t> RecodePicture(std::span<const std::byte> bytes, Buffering buffering);
 Bytes MakePictureToRecode();
-// One of each other format.
+// One picture of each other format.
 std::vector<Bytes> MakeMorePicturesToRecode();

@@ -1,4 +1,4 @@
-// Writes the C++ source with the files that the program carries: MakeBuiltInFiles PALETTE_FOLDER OUTPUT.cpp
+// MakeBuiltInFiles PALETTE_FOLDER OUTPUT.cpp: writes the C++ source of the built-in files.
 
 #include <cstdint>
 #include <fstream>
@@ -20,8 +20,8 @@ void PutU32(Bytes& bytes, std::uint32_t value) {
     for (int shift = 0; shift < 32; shift += 8) bytes.push_back(static_cast<std::uint8_t>(value >> shift));
 }
 
-// A palette table has a line "index red green blue" for each of the 256 entries; the lump is the 768 channel
-// bytes.
+// Reads a palette table, which has a line "index red green blue" for each of the 256 entries. Returns the
+// lump of 768 channel bytes.
 Bytes PaletteLump(const std::string& path) {
     std::ifstream in(path);
     Bytes bytes;
@@ -40,7 +40,8 @@ Bytes ColorTable(unsigned count, const std::function<std::uint32_t(std::uint32_t
     return bytes;
 }
 
-// The tagged format: magic, type and chunk count, then the kind and the title, padded with NULs.
+// Builds a file in the tagged format: magic, type and chunk count, then the kind and the title, padded with
+// NULs.
 Bytes TaggedFile(const std::string& type, std::uint32_t kind, const std::string& title,
                  std::uint32_t titleSize) {
     Bytes bytes;

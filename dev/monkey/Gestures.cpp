@@ -18,7 +18,7 @@ namespace {
 void AddItems(const QList<QAction*>& actions, QList<QAction*>& items) {
     for (QAction* action : actions) {
         if (QMenu* menu = action->menu()) {
-            // Menus bring themselves up to date when they are about to be shown.
+            // Menus update themselves just before they are shown.
             QMetaObject::invokeMethod(menu, "aboutToShow");
             AddItems(menu->actions(), items);
         } else if (action->isEnabled() && !action->isSeparator() && action->text() != "E&xit") {

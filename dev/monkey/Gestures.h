@@ -9,8 +9,8 @@ class QMainWindow;
 class QString;
 class QWidget;
 
-// What a person does with hands: somewhere, anything, as the random numbers have it. Each gesture is sent to
-// the widgets as the toolkit itself sends it, and any of them may be gone after it.
+// Random gestures of the mouse and keyboard. They reach the widgets as Qt's own events do; any widget may be
+// gone afterwards.
 class Gestures {
 public:
     explicit Gestures(unsigned seed) : random(seed) {}
@@ -25,7 +25,7 @@ public:
     // A press, a drag and a release in any widget of the window.
     void Click(const QMainWindow& window);
     void TurnWheel(const QMainWindow& window);
-    // Any item of the menu bar that is enabled, but for the one that ends the program.
+    // Chooses any enabled item of the menu bar except the one that ends the program.
     void ChooseFromMenu(const QMainWindow& window);
     static void Drop(QWidget& window, const QString& path);
 

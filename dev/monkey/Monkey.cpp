@@ -18,7 +18,7 @@ namespace {
 
 constexpr qint64 longestEvent = 10'000; // milliseconds
 constexpr qsizetype mostWindows = 12;
-constexpr int patienceWithADialog = 12; // things done to it before it is sent away
+constexpr int patienceWithADialog = 12; // steps before the dialog is closed
 
 [[noreturn]] void Fail(int event, const std::string& text) {
     std::fprintf(stderr, "monkey: event %d: %s\n", event, text.c_str());
@@ -61,7 +61,7 @@ void Monkey::StepAgain() {
     QTimer::singleShot(1, this, &Monkey::Step);
 }
 
-// Dialogs and menus run loops of their own, so the next step is called for before this one acts.
+// Dialogs and menus run their own event loops, so this schedules the next step before it acts.
 void Monkey::Step() {
     if (eventsDone > 0) CheckLastEvent();
     ++eventsDone;

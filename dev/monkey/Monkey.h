@@ -12,12 +12,11 @@
 class QDialog;
 class QMainWindow;
 
-// Does things to the program that a person might do, in an order that no person would choose, then closes it.
-// Ends the process with exit code 1 when the program hangs, when the toolkit complains, or when a kind of
-// dialog never came.
+// Uses the program at random, then closes it. Ends the process with exit code 1 if the program hangs, Qt
+// prints a warning, or a kind of dialog never appears.
 class Monkey : public QObject {
 public:
-    // Touches files of the current folder only.
+    // Uses only files in the current folder.
     Monkey(int events, unsigned seed);
     ~Monkey() override;
 
@@ -35,7 +34,7 @@ private:
     int eventsDone = 0;
     QElapsedTimer sinceLastEvent;
     QStringList paths;
-    const QDialog* lastDialog = nullptr; // only compared
+    const QDialog* lastDialog = nullptr; // compared, never dereferenced
     int patience = 0;
-    std::map<std::string, int> dialogs; // how often each kind was seen
+    std::map<std::string, int> dialogs; // how often each kind appeared
 };

@@ -2,7 +2,7 @@
 
 #include <QGenericPlugin>
 
-// The toolkit loads this into the program as it is when QT_QPA_GENERIC_PLUGINS names it: monkey:EVENTS:SEED.
+// Qt loads this into the unchanged program if QT_QPA_GENERIC_PLUGINS is monkey:EVENTS:SEED.
 class MonkeyPlugin : public QGenericPlugin {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "monkey.json")

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-// What the toolkit complains of while it lives.
+// Collects Qt's warnings while it lives.
 class ToolkitComplaints {
 public:
     ToolkitComplaints() : previous(qInstallMessageHandler(&Note)) { texts.clear(); }
@@ -15,7 +15,7 @@ public:
 
 private:
     static void Note(QtMsgType type, const QMessageLogContext&, const QString& text) {
-        // The offscreen platform cannot raise windows and says so.
+        // The offscreen platform warns that it cannot raise windows.
         if (type != QtDebugMsg && type != QtInfoMsg && !text.contains("plugin does not support"))
             texts.push_back(text.toStdString());
     }

@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr int width = 32; // texels of a brick with its joint
+constexpr int width = 32; // texels, of a brick with its joint
 constexpr int height = 16;
 constexpr double halfJoint = 1.1;
 constexpr double edgeWidth = 1.3;
@@ -17,7 +17,7 @@ constexpr double burntShare = 0.16;
 
 } // namespace
 
-// Where a texel lies within its brick.
+// The position of a texel within its brick.
 struct BrickWall::Place {
     Place(int x, int y)
         : row(y / height), column((x + row % 2 * width / 2) % side / width),
@@ -50,7 +50,7 @@ Color BrickWall::At(int x, int y) const {
     return isBurnt ? paint(burnt, brightness - 0.12, grain) : paint(fired, brightness, grain);
 }
 
-// The brick above throws its shadow on the joint.
+// The brick above casts a shadow on the joint.
 Color BrickWall::JointAt(int y, double roughness, double grain) const {
     const double shadow = y % height < 2 ? 0.2 : 0;
     return paint(mortar, 0.46 + 0.5 * roughness - shadow, grain);

@@ -3,7 +3,7 @@
 #include "Paint.h"
 #include "TileNoise.h"
 
-// A wall of bricks in stretcher bond, lit from above; tiles.
+// A brick wall in stretcher bond, lit from above, that tiles.
 class BrickWall {
 public:
     static constexpr int side = 128; // texels

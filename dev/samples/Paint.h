@@ -8,12 +8,12 @@ struct Ramp {
     int count;
 };
 
-// Takes colours out of a palette by how bright they are to be.
+// Selects colors of a palette by brightness.
 class Paint {
 public:
     explicit Paint(const ColorList& paletteOfTexture) : palette(paletteOfTexture) {}
 
-    // Brightness 1 is the ramp's first colour, 0 its last. A grain of 0 to 1 decides between two neighbours.
+    // Brightness 1 is the ramp's first color, 0 its last. A grain of 0 to 1 decides between two neighbors.
     Color operator()(const Ramp& ramp, double brightness, double grain) const;
 
 private:

@@ -39,7 +39,7 @@ Texture DrawStone(const Paint& paint) {
         const double u = (x + 0.5) / side;
         const double v = (y + 0.5) / side;
         const double brightness = 0.5 + 0.9 * (noise.At(u, v, 6, 6, 4) - 0.5);
-        // Cracks run where another noise crosses its middle.
+        // Cracks appear where another noise crosses its middle.
         const double crack = std::abs(noise.At(v, u, 3, 3, 3) - 0.5);
         return paint(stone, crack < 0.012 ? brightness - 0.35 : brightness, noise.AtCell(x, y));
     });
@@ -55,7 +55,7 @@ Texture DrawFloor(const Paint& paint) {
         const double v = (y + 0.5) / side;
         const int buttJoint = static_cast<int>(noise.AtCell(column, 99) * side);
         if (x % plank == 0 || y == buttJoint) return paint(wood, 0.05, noise.AtCell(x, y));
-        // The grain: long along the plank, bent by slow waves, another in each plank.
+        // The grain runs along the plank, bent by slow waves, and differs in each plank.
         const double bend = 0.04 * std::sin(fullTurn * (v + noise.AtCell(column, 77)));
         const double fibres = noise.At(static_cast<double>(x) / side + bend, v, 32, 2, 3);
         const double edge = x % plank == 1 ? 0.15 : x % plank == plank - 1 ? -0.2 : 0;
@@ -64,7 +64,7 @@ Texture DrawFloor(const Paint& paint) {
     });
 }
 
-// Brighter from left to right and from top to bottom, so that its borders show when it is tiled.
+// Brighter from left to right and from top to bottom, so that tiling shows its borders.
 Texture DrawSeam(const Paint& paint) {
     constexpr int side = 64;
     constexpr Ramp metal{32, 14};
@@ -76,7 +76,7 @@ Texture DrawSeam(const Paint& paint) {
     });
 }
 
-// Crusts that drift over the glow; each frame moves them a quarter of the way round.
+// Crusts that drift over the glow; each frame moves them by a quarter of the texture.
 Texture DrawLava(const Paint& paint, int frame, int frameCount) {
     constexpr int side = 64;
     constexpr Ramp fire{221, 17};
@@ -98,7 +98,7 @@ Texture DrawLava(const Paint& paint, int frame, int frameCount) {
     return lava;
 }
 
-// Stripes of warning; every surface flag is set, so that each of its check boxes can be seen.
+// Warning stripes. Every surface flag is set, so that each check box can be tried.
 Texture DrawFlags(const Paint& paint) {
     constexpr int side = 64;
     constexpr Ramp yellow{56, 8};

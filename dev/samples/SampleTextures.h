@@ -6,8 +6,8 @@
 
 class ColorList;
 
-// What the Quake II name of every texture starts with.
+// The prefix of every texture's Quake II name.
 constexpr char nameFolder[] = "sample/";
 
-// Textures with their Quake II properties, drawn in colours of the Quake II palette.
+// Textures with their Quake II properties, drawn in colors of the Quake II palette.
 std::vector<Texture> DrawSampleTextures(const ColorList& palette);

@@ -8,7 +8,7 @@ int Wrapped(int cell, int cells) {
     return (cell % cells + cells) % cells;
 }
 
-// Flat at both ends, so that no cell's border shows.
+// Flat at both ends, so that cell borders do not show.
 double Eased(double part) {
     return part * part * (3 - 2 * part);
 }

@@ -2,15 +2,15 @@
 
 #include <cstdint>
 
-// Smooth random values over a square that tiles: what leaves it on one side comes in on the other.
+// Smooth random values over a square that tiles.
 class TileNoise {
 public:
     explicit TileNoise(std::uint32_t seedOfPattern) : seed(seedOfPattern) {}
 
-    // A value of 0 to 1 that belongs to the cell, the same at each call.
+    // The cell's value, from 0 to 1, the same for each call.
     double AtCell(int x, int y) const;
-    // A value of 0 to 1 at a place of 0 to 1; the square has columns x rows cells, and each further octave
-    // twice as many, at half the weight.
+    // The value, from 0 to 1, at a position of 0 to 1. The square has columns x rows cells; each further
+    // octave has twice as many in each direction, with half the weight.
     double At(double x, double y, int columns, int rows, int octaves) const;
 
 private:

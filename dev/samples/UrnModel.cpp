@@ -9,13 +9,13 @@
 
 namespace {
 
-// A ring round the axis: its radius and height in units of the game, and the row of the skin that lies on it.
+// A ring around the axis: radius and height in units of the game, and the row of the skin on it.
 struct Ring {
     double radius, height;
     int t;
 };
 
-// From within the neck over the lip and down to the middle of the foot.
+// From inside the neck over the lip and down to the middle of the foot.
 constexpr Ring rings[] = {
     {0, 50, 10},   {8, 52, 8},   {9, 60, 4},   {12, 63, 0},  {12.5, 61, 5}, {9, 57, 12},
     {8.5, 51, 24}, {13, 46, 36}, {18, 39, 50}, {20, 31, 64}, {19, 22, 78},  {15, 12, 92},
@@ -37,7 +37,7 @@ int ToByte(double units) {
     return static_cast<int>(std::lround(units / unitsPerStep));
 }
 
-// The seam of the skin lies at the back, and the skin runs to the right as it is seen from outside.
+// The seam of the skin is at the back. The skin runs to the right as seen from outside.
 Md2Builder::Vertex VertexAt(int frame, int i) {
     const Ring& ring = rings[i / sectors];
     const double angle = Turn(i % sectors, sectors) + std::numbers::pi / 2;
@@ -62,7 +62,7 @@ void AddTriangle(Md2Builder& model, Corner a, Corner b, Corner c) {
     model.triangles.push_back({a.Vertex(), b.Vertex(), c.Vertex(), a.TexCoord(), b.TexCoord(), c.TexCoord()});
 }
 
-// Counter-clockwise as seen from outside. Where a ring is a point, one of the two triangles is none.
+// Counterclockwise as seen from outside. A ring that is a point has one triangle instead of two.
 void AddBand(Md2Builder& model, int upper) {
     const int lower = upper + 1;
     for (int left = 0; left < sectors; ++left) {
@@ -84,7 +84,7 @@ Bytes BuildUrnModel() {
     model.vertices = ringCount * sectors;
     model.vertexAt = VertexAt;
     model.scale.fill(unitsPerStep);
-    // Far enough before the camera to be seen as a whole at once.
+    // Far enough from the camera that all of it is visible.
     model.translate = {-static_cast<float>(middle), 60, -static_cast<float>(middle)};
     return model.Build();
 }

@@ -2,5 +2,5 @@
 
 #include "builders/PackBuilder.h"
 
-// A Quake II model of an urn that rocks, turned on a lathe: 560 triangles, eight frames.
+// Builds a Quake II model of a rocking urn, a solid of revolution with 560 triangles and eight frames.
 Bytes BuildUrnModel();

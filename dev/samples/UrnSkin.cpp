@@ -50,7 +50,7 @@ constexpr std::string_view fish[] = {
     "................................", //
 };
 
-// Whether the texel is painted where the rows are laid side by side, each texel of them `scale` texels wide.
+// Whether the texel is painted if the rows repeat side by side, enlarged `scale` times.
 bool IsInTiles(Rows rows, int scale, int x, int y) {
     const auto row = static_cast<std::size_t>(y / scale);
     return y >= 0 && row < rows.size() &&
@@ -62,7 +62,7 @@ bool IsWave(int x, int y) {
     return std::abs(y - crest) < 1.5;
 }
 
-// Rays that stand on the foot, narrower upwards.
+// Rays on the foot, narrower toward the top.
 bool IsRay(int x, int y, int length) {
     constexpr int pitch = 16;
     return std::abs(x % pitch - pitch / 2) * length < y * pitch / 2;
@@ -90,7 +90,7 @@ Texture UrnSkin::Draw(const ColorList& palette) {
         for (int x = 0; x < width; ++x) {
             const double u = (x + 0.5) / width;
             const double rough = noise.At(u, (y + 0.5) / height, 32, 16, 3) - 0.5;
-            // Lighter on one side, as if a lamp stood there.
+            // Lighter on one side, as if lit by a lamp.
             const double light = 0.1 * std::cos(2 * std::numbers::pi * (u - 0.4));
             const bool glazed = IsGlazed(x, y);
             skin.SetPixel(x, y,

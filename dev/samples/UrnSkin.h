@@ -4,7 +4,7 @@
 
 class ColorList;
 
-// The skin of the urn: black figures on fired clay, in bands that run round it.
+// The skin of the urn: black figures on fired clay, in bands around it.
 struct UrnSkin {
     static constexpr int width = 256; // texels
     static constexpr int height = 128;

@@ -23,7 +23,7 @@ Bytes Encode(const Texture& texture, std::string_view documentClass) {
 
 Bytes BuildPack() {
     PackBuilder pack;
-    PackBuilder inner; // an archive within the archive, with the still textures once more
+    PackBuilder inner; // an archive within the archive, with the still textures again
     for (const Texture& texture : DrawSampleTextures(GetQuakeIIPalette())) {
         const Bytes bytes = Encode(texture, "WALDocument");
         const std::string name = texture.quake2.name.substr(std::string_view(nameFolder).size()) + ".wal";

@@ -9,7 +9,7 @@
 
 namespace {
 
-// As it lies in the file; little-endian.
+// The layout in the file, little-endian.
 struct Header {
     char identifier[4];
     std::int32_t version;
@@ -46,13 +46,13 @@ struct Section {
     std::size_t recordSize; // bytes
 };
 
-// Before room is made for what the file claims.
+// Checks that all sections are inside the file, before memory is allocated for them.
 void CheckSections(const InputStream& in, std::initializer_list<Section> sections) {
     const std::uint64_t length = in.GetLength();
     for (const Section& section : sections) {
         if (section.count == 0) continue;
         const std::uint64_t size = static_cast<std::uint64_t>(section.count) * section.recordSize;
-        // A negative offset is a very large one.
+        // A negative offset becomes a very large one.
         const auto offset = static_cast<std::uint32_t>(section.offset);
         if (offset + size > length) in.Fail(StreamError::endOfFile);
     }
@@ -67,7 +67,7 @@ std::vector<Record> ReadRecords(InputStream& in, std::int32_t offset, std::int32
     return records;
 }
 
-// All bytes of the field but its NULs, what stands behind the first of them too.
+// The field without its NULs, including what follows the first.
 std::string SkinName(const std::array<char, skinSize>& field) {
     std::string name;
     std::ranges::copy_if(field, std::back_inserter(name), [](char c) { return c != '\0'; });

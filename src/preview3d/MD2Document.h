@@ -11,7 +11,7 @@
 // A Quake II model (".md2").
 class MD2Document final : public Dynamic<"MD2Document", MD2Document, ModelDocument> {
 public:
-    // The records as they lie in the file; little-endian.
+    // The records of the file, little-endian.
     struct TexCoord {
         std::int16_t s, t; // pixels of the skin
     };
@@ -26,23 +26,23 @@ public:
     struct FrameHeader {
         float scale[3];     // x, y, z
         float translate[3]; // x, y, z
-        char name[16];      // not always ended by a NUL
+        char name[16];      // not always NUL-terminated
     };
     struct Frame : FrameHeader {
-        std::span<const Vertex> vertices; // the document's
+        std::span<const Vertex> vertices; // owned by the document
     };
 
-    // badClass without "IDP2", badSchema for a version other than 8, badIndex for counts that are negative or
-    // beyond the game's limits, endOfFile for parts that do not lie in the file.
+    // Throws badClass without "IDP2", badSchema for a version other than 8, badIndex for counts that are
+    // negative or beyond the game's limits, endOfFile for parts outside the file.
     void ReadContents(InputStream& in) override;
 
     const std::vector<std::string>& GetSkins() const { return skins; }
     const std::vector<TexCoord>& GetTexCoords() const { return texCoords; }
-    // As the file has them: some may name vertices or coordinates that do not exist.
+    // Unchecked: some may refer to vertices or coordinates that do not exist.
     const std::vector<Triangle>& GetTriangles() const { return triangles; }
-    // All have the same number of vertices.
+    // All frames have the same number of vertices.
     const std::vector<Frame>& GetFrames() const { return frames; }
-    // Whether all that the triangle names exists; one that is not is not drawn.
+    // Whether everything that the triangle refers to exists. Views skip other triangles.
     bool IsDrawable(const Triangle& triangle) const;
 
 protected:
@@ -54,7 +54,7 @@ private:
     std::vector<std::string> skins; // names of picture files
     std::vector<TexCoord> texCoords;
     std::vector<Triangle> triangles;
-    // The frames as the file has them, one after the other: a model of the largest size is read in one go.
+    // The frames in the layout of the file, so that even the largest model is read at once.
     std::unique_ptr<Vertex[]> frameData;
     std::vector<Frame> frames;
 };

@@ -11,7 +11,7 @@ namespace {
 
 using FileBytes = std::span<const std::byte>;
 
-// Where the file tells of its textures; little-endian.
+// The header fields that locate the textures, little-endian.
 constexpr std::uint64_t placeOfTable = 180;
 struct TextureTable {
     std::int32_t count;
@@ -24,7 +24,7 @@ struct TextureRecord {
     std::int32_t flags;       // not used
     std::int32_t width;       // pixels
     std::int32_t height;      // pixels
-    std::uint32_t dataOffset; // of width x height indices, rows top first; 256 colours follow
+    std::uint32_t dataOffset; // of width x height palette indices, top row first; 256 colors follow
 
     std::uint64_t PixelCount() const {
         return static_cast<std::uint64_t>(width) * static_cast<std::uint64_t>(height);
@@ -49,7 +49,7 @@ bool IsReadable(FileBytes file, const TextureRecord& record) {
            Contains(file, record.dataOffset, record.PixelCount() + paletteSize);
 }
 
-// The records, when all of them and what they point to can be read.
+// Returns the records; fails if one of them, or what it points to, is outside the file.
 std::vector<TextureRecord> ReadRecords(const InputStream& in, FileBytes file) {
     if (!Contains(file, placeOfTable, sizeof(TextureTable))) in.Fail(StreamError::badIndex);
     TextureTable table;
@@ -59,7 +59,7 @@ std::vector<TextureRecord> ReadRecords(const InputStream& in, FileBytes file) {
     if (table.count < 0 || !Contains(file, table.offset, size)) in.Fail(StreamError::badIndex);
     std::vector<TextureRecord> records(static_cast<std::size_t>(table.count));
     std::memcpy(records.data(), &file[table.offset], size);
-    // Textures may share bytes, but a small file must not become a thousand large pictures by that.
+    // Textures may share bytes, but a small file must not turn into a thousand large pictures.
     std::uint64_t pixels = 0;
     for (const TextureRecord& record : records) {
         if (!IsReadable(file, record)) in.Fail(StreamError::badIndex);

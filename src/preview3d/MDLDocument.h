@@ -6,12 +6,12 @@
 #include <cstddef>
 #include <vector>
 
-// A Quake model (".mdl"), read for the textures that studio models carry: a table of pictures, each of
-// palette indices with a palette of its own behind them. Any file is read as that; nothing identifies it.
+// A Quake model (".mdl"), read for the textures of studio models: a table of pictures, each with palette
+// indices and then its own palette. Nothing identifies such a file, so any file is read as one.
 class MDLDocument final : public Dynamic<"MDLDocument", MDLDocument, ModelDocument> {
 public:
-    // badIndex for a file in which something lies outside it or is negative, and for textures that take more
-    // than the file or are too large for a picture.
+    // Throws badIndex if anything is negative or outside the file, and if textures are larger than the file
+    // or than a picture may be.
     void ReadContents(InputStream& in) override;
 
     // The whole file; empty before the first read.

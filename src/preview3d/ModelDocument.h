@@ -2,9 +2,9 @@
 
 #include "resources/BaseDocument.h"
 
-// Base of the documents that are shown in space.
+// Base of the documents that are shown in 3D.
 class ThreeDimensionalDocument
     : public Dynamic<"ThreeDimensionalDocument", ThreeDimensionalDocument, BaseDocument> {};
 
-// Base of the models of the games. They cannot be saved.
+// Base of the games' models, which cannot be saved.
 class ModelDocument : public Dynamic<"ModelDocument", ModelDocument, ThreeDimensionalDocument> {};

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr Color midGrey = 0xFF808080;
+constexpr Color midGray = 0xFF808080;
 
 int TextureSide(int side) {
     const auto fitting =
@@ -19,10 +19,10 @@ int TextureSide(int side) {
 } // namespace
 
 TextureBuffer::TextureBuffer() : Image(minimumSide, minimumSide) {
-    std::ranges::fill(Pixels(), midGrey);
+    std::ranges::fill(Pixels(), midGray);
 }
 
-// Only what is used is copied: pictures may be far larger than textures.
+// Copies only what fits, because pictures may be far larger than textures.
 void TextureBuffer::TakePicture(const Image& picture) {
     SetTextureSize(std::min(picture.GetWidth(), maximumSide), std::min(picture.GetHeight(), maximumSide));
     for (int y = 0; y < GetHeight(); ++y)

@@ -2,25 +2,24 @@
 
 #include "image/picture/Image.h"
 
-// A picture that the 3D view can draw with: its sides are powers of two from 16 to 256. It keeps its own
-// pixels, whatever happens to the picture that they were taken from.
+// A picture for the 3D view, whose sides are powers of two from 16 to 256. It has its own copy of the pixels.
 class TextureBuffer : public Image {
 public:
     static constexpr int minimumSide = 16; // pixels
     static constexpr int maximumSide = 256;
 
-    // The smallest size, all pixels opaque mid-grey.
+    // A picture of the smallest size, in opaque mid-gray.
     TextureBuffer();
 
-    // Makes room for cx x cy pixels, in no useful order.
+    // Allocates cx x cy pixels of undefined content.
     void SetTextureSize(int cx, int cy) { SetSizeUncleared(cx, cy); }
-    // Takes the picture's pixels, one to one from the top left corner: what lies beyond the largest size is
-    // left out, and the last row and column are repeated up to the next power of two.
+    // Copies the picture from its top left corner, cropped to the largest size. Repeats the last row and
+    // column up to the next power of two.
     void TakePicture(const Image& picture);
-    // Width x height x 4 bytes: blue, green, red, alpha; rows top first.
+    // Width x height x 4 bytes: blue, green, red, alpha; top row first.
     const Color* GetBytes() const { return Pixels().data(); }
 };
 
-// The picture of the image document that comes last among the open ones, by type and then in the order of
-// opening; a plain grey one when none is open.
+// Copies the picture of the last open image document, by type and then in the order of opening. Returns a
+// plain gray one if none is open.
 TextureBuffer TakeLastPicture();

@@ -2,7 +2,7 @@
 
 #include "framework/core/StandardIds.h"
 
-// The program's own command ids; the framework's lie from 57344 up.
+// The program's own command ids; the framework's begin at 57344.
 enum ProgramCommand : CommandId {
     ID_FILE_PROPERTIES = 32771,
     ID_SELECT_NONE = 32772,
@@ -13,8 +13,8 @@ enum ProgramCommand : CommandId {
     ID_ZOOM_1600 = 32779,
     ID_FORMAT_COLOR = 32783,
     ID_VIEW_REFRESH = 32784,
-    ID_PALETTE_TABLES = 32789, // placeholder of the run of colour tables
-    ID_BRUSHES = 32790,        // placeholder of the run of brushes
+    ID_PALETTE_TABLES = 32789, // placeholder for the color tables
+    ID_BRUSHES = 32790,        // placeholder for the brushes
     ID_FILTER_NEAREST = 32791,
     ID_FILTER_DITHER = 32792,
     ID_BRUSH_NONE = 32793,
@@ -24,12 +24,12 @@ enum ProgramCommand : CommandId {
     ID_FORMAT_NEAREST = 32799,
     ID_FORMAT_DITHER = 32800,
     ID_TOOLS_OPTIONS = 32802,
-    ID_PALETTE_SPACES = 32810, // placeholder of the run of colour spaces
+    ID_PALETTE_SPACES = 32810, // placeholder for the color spaces
     ID_3D_SOLID = 32813,
     ID_3D_TEXTURED = 32814,
     ID_3D_WIREFRAME = 32815,
     ID_EDIT_PROPERTIES = 32839,
-    // The runs of items that change: one id for each entry.
+    // Menu sections that change: one id for each entry.
     ID_BAR_FIRST = 49152,
     ID_BAR_LAST = 49407,
     ID_BRUSH_FIRST = 50432,
@@ -38,7 +38,7 @@ enum ProgramCommand : CommandId {
     ID_COLOR_TABLE_LAST = 50943,
     ID_COLOR_SPACE_FIRST = 50944,
     ID_COLOR_SPACE_LAST = 51199,
-    // The bars beside the standard toolbar, which is ID_VIEW_TOOLBAR.
+    // The bars besides the standard toolbar, which is ID_VIEW_TOOLBAR.
     ID_FILTER_BAR = 59398,
     ID_PALETTE_BAR = 59401
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-// Controls of the dialogs and pages.
+// Controls of the dialogs and property pages.
 enum ControlId : unsigned {
     IDC_GAMMA_SETTINGS = 1008,
     IDC_WEBSITE = 1010,
@@ -23,5 +23,5 @@ enum ControlId : unsigned {
     IDC_NEXT_FRAME_NAME = 1087,
     IDC_VALUE = 1096,
     IDC_VALUE_SPIN = 1097,
-    IDC_FIRST_FLAG = 2816 // and the 31 behind it
+    IDC_FIRST_FLAG = 2816 // and the next 31 ids
 };

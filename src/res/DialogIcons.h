@@ -2,7 +2,7 @@
 
 #include "framework/core/ToolBarTable.h"
 
-// Small pictures of the dialogs.
+// Small pictures for the dialogs.
 PixelArt GammaIcon();
 PixelArt RedIcon();
 PixelArt GreenIcon();

@@ -3,11 +3,11 @@
 #include "framework/core/MenuTable.h"
 
 constexpr unsigned IDR_MAINFRAME = 128; // shown without a document
-constexpr unsigned IDR_DOCUMENT = 129;  // shown while a document is in front
+constexpr unsigned IDR_DOCUMENT = 129;  // shown while a document is active
 
-// The menu bar of that number; empty when there is none.
+// The rows of a menu bar; empty if there is none with this number.
 std::span<const MenuRow> MenuBarRows(unsigned menuId);
-// The menu that a view of an image document opens at the pointer: its first popup.
+// The context menu of an image view: the first popup of these rows.
 std::span<const MenuRow> ImageContextMenuRows();
-// The keys of the main window, whatever its menu.
+// The keys of the main window, the same for all menu bars.
 std::span<const AcceleratorRow> AcceleratorRows();

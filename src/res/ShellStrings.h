@@ -2,7 +2,7 @@
 
 #include "framework/core/StringTable.h"
 
-// Strings of the program's windows beside the framework's own.
+// Strings of the program's windows, in addition to the framework's.
 enum ShellStringId : unsigned {
     IDS_OPEN_FILTERS = 256,
     IDS_SAVE_FILTERS = 257,
@@ -39,5 +39,5 @@ enum ShellStringId : unsigned {
     IDS_NO_OPENGL = 2400
 };
 
-// Those strings, the framework's, and one for each command: the prompt, then the tool tip.
+// These strings, the framework's, and one for each command: the prompt, then the tool tip.
 std::span<const StringRow> ShellStrings();

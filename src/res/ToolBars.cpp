@@ -140,7 +140,7 @@ constexpr std::string_view redoIcon[] = {
     "....nnn.........", //
     "................", //
 };
-// A sun of which one half is in the dark.
+// A sun, half of it dark.
 constexpr std::string_view halfIcon[] = {
     ".......yg.......", //
     ".......yg.......", //
@@ -158,7 +158,7 @@ constexpr std::string_view halfIcon[] = {
     "..y....yg....g..", //
     ".......yg.......", //
 };
-// Bands of the same colour with sharp edges.
+// Bands of flat color with sharp edges.
 constexpr std::string_view nearestIcon[] = {
     "................", //
     ".##############.", //

@@ -2,9 +2,9 @@
 
 #include "framework/core/ToolBarTable.h"
 
-// The toolbars by number: what their buttons do and look like.
+// The toolbars' numbers.
 constexpr unsigned IDR_STANDARD_BAR = 128;
 constexpr unsigned IDR_FILTER_BAR = 166;
 
-// Empty when there is no such toolbar.
+// The commands and pictures of a toolbar's buttons; empty if there is none with this number.
 std::span<const ToolBarRow> ToolBarRows(unsigned toolBarId);

@@ -42,7 +42,7 @@ std::uint16_t RingIndex(int i, int k) {
     return static_cast<std::uint16_t>(i % around * across + k % across);
 }
 
-// A ring with as many triangles, vertices and frames as the game allows.
+// A ring with the largest numbers of triangles, vertices and frames that the game allows.
 Md2Builder MakeRing() {
     Md2Builder ring;
     ring.vertices = ring.texCoords = around * across;
@@ -108,7 +108,7 @@ void SetUp() {
     gluLookAt(0, -4, 0, 0, 0, 0, 0, 0, 1);
 }
 
-// What the calls get, worked out beforehand.
+// The arguments of the calls, computed in advance.
 struct BareCorner {
     float s, t, x, y, z;
 };
@@ -129,7 +129,7 @@ std::vector<BareCorner> WorkOutCorners() {
     return corners;
 }
 
-// The same calls of OpenGL on the same surface, and nothing else.
+// The same OpenGL calls on the same surface, and nothing else.
 void DrawModelBare(benchmark::State& state) {
     const Files files;
     const TextureBuffer texture = TakeLastPicture();

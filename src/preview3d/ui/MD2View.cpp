@@ -7,7 +7,7 @@
 
 namespace {
 
-// Turns a model's records into corners for OpenGL.
+// Converts a model's records into vertices for OpenGL.
 class CornerWriter {
 public:
     CornerWriter(const MD2Document& shown, const TextureBuffer* usedTexture)
@@ -37,7 +37,7 @@ private:
 
     const MD2Document& model;
     const MD2Document::Frame& frame;
-    const TextureBuffer* texture; // null: without
+    const TextureBuffer* texture; // null: draw without a texture
 };
 
 } // namespace
@@ -52,7 +52,7 @@ void MD2View::DrawScene() {
         if (model->IsDrawable(triangle)) writer.Write(triangle);
 }
 
-// The texture's colours as they are.
+// The texture's own colors, without shading.
 void MD2View::PutOnTexture() const {
     const TextureBuffer& texture = GetTexture();
     glTexImage2D(GL_TEXTURE_2D, 0, 4, texture.GetWidth(), texture.GetHeight(), 0, GL_BGRA, GL_UNSIGNED_BYTE,

@@ -2,5 +2,5 @@
 
 #include "preview3d/ui/ThreeDimensionalView.h"
 
-// The view of models that nothing is drawn of.
+// The view of models that are not drawn.
 class ModelView : public Dynamic<"ModelView", ModelView, ThreeDimensionalView> {};

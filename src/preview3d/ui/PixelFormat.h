@@ -1,6 +1,6 @@
 #pragma once
 
-// What a surface to draw on is asked to offer. The nearest that the system has is taken.
+// The requested format of a drawing surface. The system's nearest format is used.
 struct PixelFormat {
     int colorBits = 24; // red, green and blue together
     int depthBits = 32;

@@ -11,8 +11,8 @@
 
 namespace {
 
-// A display that draws without a screen; where the system knows none, that of the screen. It stays open until
-// the program ends: contexts come and go.
+// A display that draws without a screen, or else that of the screen. It stays open until the program ends,
+// because contexts come and go.
 EGLDisplay OpenDisplay() {
     EGLDisplay display = eglGetPlatformDisplay(EGL_PLATFORM_SURFACELESS_MESA, nullptr, nullptr);
     if (display && eglInitialize(display, nullptr, nullptr)) return display;
@@ -42,7 +42,7 @@ std::vector<EGLConfig> FindConfigs(EGLDisplay display, int depthBits) {
     return configs;
 }
 
-// The one with the fewest bits that are enough, so that none are lost and none are converted for nothing.
+// The configuration with the fewest sufficient bits, so that no bits are lost and none are wasted.
 EGLConfig ChooseConfig(EGLDisplay display, const PixelFormat& format) {
     for (int depthBits = format.depthBits; depthBits > 0; depthBits -= 8) {
         EGLConfig best = nullptr;
@@ -58,7 +58,7 @@ EGLConfig ChooseConfig(EGLDisplay display, const PixelFormat& format) {
     return nullptr;
 }
 
-// Of the profile that still has the calls of OpenGL 1.
+// In the profile that still has the calls of OpenGL 1.
 EGLContext CreateNativeContext(EGLDisplay display, EGLConfig config) {
     constexpr std::array attributes{EGL_CONTEXT_OPENGL_PROFILE_MASK,
                                     EGL_CONTEXT_OPENGL_COMPATIBILITY_PROFILE_BIT, EGL_NONE};

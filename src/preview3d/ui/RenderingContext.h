@@ -11,17 +11,17 @@ struct PixelFormat;
 // The state of one OpenGL scene. It draws on off-screen surfaces and needs no screen.
 class RenderingContext {
 public:
-    // Null when the system offers no OpenGL, or nothing near the format.
+    // Returns null if the system has no OpenGL or no similar format.
     static std::unique_ptr<RenderingContext> Create(const PixelFormat& format);
     RenderingContext(const RenderingContext&) = delete;
     RenderingContext& operator=(const RenderingContext&) = delete;
     ~RenderingContext();
 
-    // A surface for this context, of at least one pixel; null when there is no room for it.
+    // Creates a surface for this context, of at least one pixel; null if there is no room for it.
     std::unique_ptr<OffScreenSurface> CreateSurface(QSize size) const;
-    // From now on the OpenGL calls of this thread go to the context and the surface. False when they do not.
+    // Directs the OpenGL calls of this thread to the context and the surface. Returns false on failure.
     bool MakeCurrent(const OffScreenSurface& surface) const;
-    // From now on they go nowhere.
+    // Disconnects this thread from its context.
     static void MakeNoneCurrent();
 
 private:
@@ -33,5 +33,5 @@ private:
     void* context;
 };
 
-// What draws, and its OpenGL version, for people to read; empty when the system offers no OpenGL.
+// The renderer and its OpenGL version for display; empty if the system has no OpenGL.
 std::string DescribeOpenGL();

@@ -3,13 +3,13 @@
 #include "preview3d/ui/OpenGLView.h"
 #include "preview3d/ui/ThreeDimensionalCtrl.h"
 
-// Shows a model in space: sets the scene up, moves it by the keyboard and keeps a texture to draw it with,
-// taken from an open image when the view is made.
+// Shows a model in 3D: sets up the scene, moves it by the keyboard and draws it with a copy of an open image,
+// taken when the view is created.
 class ThreeDimensionalView : public Dynamic<"ThreeDimensionalView", ThreeDimensionalView, OpenGLView> {
 public:
     ThreeDimensionalView() : control(*this) { Host(control); }
 
-    // The steps of the control that stand for its own; see OpenGLCtrl.
+    // These replace the steps of the control; see OpenGLCtrl.
     virtual void InitGL();
     virtual void SetProjection(double aspect);
     virtual void SetCamera();
