@@ -8,8 +8,8 @@ endif()
 include("${TABLE}")
 
 set(rightColumn "(^|/)ui$")
-# A left layer links only Qt6::Core, so the compiler does not find most of these headers there. Two cases compile anyway:
-# a left header that only the right column includes, and a spelling with the library's folder.
+# A left layer links only Qt6::Core, so the compiler does not find most of these headers there. Two cases compile
+# anyway: a left header that only the right column includes, and a spelling with the library's folder.
 string(CONCAT windowHeaders "^(Qt(Gui|Widgets|OpenGL|OpenGLWidgets|PrintSupport|Svg)(/.*)?|(GL|EGL|X11)/.*"
     "|Q[A-Za-z]*(Application|Widget|Window|Dialog|Action|Menu|Bar|Button|Box|Label|View|Layout|Painter|Clipboard|Cursor"
     "|Image|Pixmap|Bitmap|Icon|Color|Font|Palette|Pen|Brush|KeyEvent|MouseEvent))$")
