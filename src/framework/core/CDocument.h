@@ -42,7 +42,8 @@ public:
     void AddView(DocumentView& view);
     void RemoveView(DocumentView& view);
     const std::vector<DocumentView*>& GetViews() const { return views; }
-    // Tells every view but the sender.
+    // Tells every view but the sender. A view that lacks the memory to follow does so when it is painted
+    // next: the document has changed already, and the other views must know.
     void UpdateAllViews(DocumentView* sender, std::intptr_t hint = 0, CObject* hintObject = nullptr);
     // The first view's frame; null for a document without windows.
     DocumentFrame* GetFrame() const;
