@@ -33,7 +33,8 @@ enum ShellStringId : unsigned {
     IDS_NO_PREVIEW = 1411,
     IDS_NOT_IMPLEMENTED_TITLE = 1412,
     IDS_NOT_IMPLEMENTED = 1413,
-    IDS_NO_OPENGL = 2400
+    IDS_NO_OPENGL = 2400,
+    IDS_NO_MEMORY_TO_PAINT = 2401
 };
 
 // Those strings, the framework's, and one for each command: the prompt, then the tool tip.

@@ -26,7 +26,7 @@ std::size_t CountFiles(const std::string& where) {
 
 struct Attempt {
     bool succeeded = false;
-    bool ranOutOfMemory = false; // which may leave no memory for a message
+    bool ranOutOfMemory = false; // and did not tell, but throw
     bool wasHit = false;
 };
 
@@ -65,6 +65,7 @@ protected:
     template <class Action>
     Attempt Try(Step step, unsigned first, bool lasting, Action action) {
         Attempt attempt;
+        messageCount = 0;
         {
             const Fault fault(step, first, lasting);
             try {
@@ -74,7 +75,7 @@ protected:
             }
             attempt.wasHit = fault.HasHit();
         }
-        EXPECT_TRUE(attempt.succeeded || !messages.empty() || attempt.ranOutOfMemory);
+        EXPECT_TRUE(attempt.succeeded || messageCount > 0 || attempt.ranOutOfMemory);
         std::vector<std::string>().swap(messages);
         return attempt;
     }
@@ -102,6 +103,7 @@ protected:
         const Texture before = document.GetTexture();
         const Attempt attempt = Try(step, first, lasting, [&] { return document.OnSaveDocument(target); });
         EXPECT_EQ(document.IsModified(), !attempt.succeeded);
+        EXPECT_TRUE(!attempt.ranOutOfMemory || first == 1) << "a save that has begun tells of its failure";
         // A size that was made to fit stays, as a change that can be undone.
         if (document.GetHistory().CanUndo()) document.GetHistory().Undo();
         EXPECT_TRUE(Same(document.GetTexture(), before));

@@ -2,6 +2,7 @@
 
 #include "builders/ModelBuilder.h"
 #include "builders/TextureBuilder.h"
+#include "support/Fault.h"
 #include "support/FolderTest.h"
 
 #include <filesystem>
@@ -75,6 +76,23 @@ TEST_F(ToolTest, ConvertsOnePictureWithoutOverwriting) {
     EXPECT_EQ(Run({"convert", floor, PathTo("new/floor.wal")}), 1);
     EXPECT_THAT(err, HasSubstr("--force"));
     EXPECT_EQ(Run({"convert", "--force", floor, PathTo("new/floor.wal")}), 0);
+}
+
+TEST_F(ToolTest, SaysWhenMemoryRunsOut) {
+    if (!allocationsCanFail) GTEST_SKIP();
+    bool hit = true;
+    for (unsigned first = 1; hit && !HasFailure(); ++first) {
+        SCOPED_TRACE(first);
+        std::ostringstream output, errors(std::string(1000, ' ')); // which takes no more memory
+        Tool tool(output, errors, false);
+        const std::vector<std::string> arguments{"convert", "--force", floor, PathTo("new.tga")};
+        const Fault fault(Step::allocation, first, false);
+        const int code = tool.Run(arguments);
+        hit = fault.HasHit();
+        EXPECT_TRUE(code == 0 || errors.str().find("not enough room in memory.") != std::string::npos)
+            << errors.str();
+        EXPECT_LE(code, 1);
+    }
 }
 
 TEST_F(ToolTest, ConvertsTreesAndNamesWhatWasLeftOut) {

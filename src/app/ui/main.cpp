@@ -1,10 +1,13 @@
 #include "app/ui/CKelTavloApp.h"
 #include "app/ui/CommandLine.h"
+#include "framework/core/Exceptions.h"
+#include "framework/core/MemoryReserve.h"
+#include "framework/ui/GuardedApplication.h"
 
-#include <QApplication>
 #include <QIcon>
 
 #include <cstdio>
+#include <new>
 
 namespace {
 
@@ -44,10 +47,14 @@ int RunProgram(const CommandLine& line) {
 
 } // namespace
 
-int main(int argc, char** argv) {
+int main(int argc, char** argv) try {
+    KeepMemoryReserve();
     NameApplication();
     if (AnswerOnConsole(argc, argv)) return 0;
-    const QApplication windows(argc, argv);
+    const GuardedApplication windows(argc, argv);
     NameWindows();
     return RunProgram(ParseCommandLine(QCoreApplication::arguments()));
+} catch (const std::bad_alloc& failure) { // no event was under way
+    std::fprintf(stderr, "keltavlo: %s\n", SentenceOf(failure));
+    return 1;
 }

@@ -10,7 +10,11 @@
 namespace {
 
 void Report(Direction direction, const std::string& path, const std::exception& failure) {
-    UserInterface::Get().ShowMessage(DescribeFailure(direction, path, failure));
+    try {
+        UserInterface::Get().ShowMessage(DescribeFailure(direction, path, failure));
+    } catch (const std::bad_alloc&) {
+        UserInterface::Get().ReportMemoryShortage();
+    }
 }
 
 void TryUpdate(DocumentView& view, DocumentView* sender, std::intptr_t hint, CObject* hintObject) {

@@ -66,6 +66,9 @@ public:
     CMemoryException();
 };
 
+// The sentence about any failure for the user. Takes no memory.
+const char* SentenceOf(const std::exception& failure);
+
 enum class Direction { opening, saving };
 
 // The sentence shown when opening or saving `path` fails: names the path, says what went wrong. Any
