@@ -17,7 +17,7 @@ constexpr StringRow rows[] = {
     {AFX_IDS_NEW_LABEL, "&New document of type:"},
     {AFX_IDS_FILE_EXISTS, "%s already exists.\nDo you want to replace it?"},
     {AFX_IDS_FILE_MISSING, "%s\nThere is no such file."},
-    {AFX_IDP_FAILED_MEMORY_ALLOC, "There is not enough memory for this. Your documents are as they were."},
+    {AFX_IDP_FAILED_MEMORY_ALLOC, "There is not enough memory for this.\nYour documents are as they were."},
     {AFX_IDP_PARSE_INT_RANGE, "Enter a whole number between %d and %d."},
     {AFX_IDP_PARSE_STRING_SIZE, "Enter no more than %u characters. Letters beyond ASCII count as several."},
     {AFX_IDS_PATH_MISSING, "%s\nThere is no such folder."},
