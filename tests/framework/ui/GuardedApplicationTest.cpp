@@ -22,7 +22,6 @@ protected:
 
 class GuardedApplicationTest : public WindowFixture {
 protected:
-    GuardedApplicationTest() { widget.show(); }
     bool Fails(QEvent&& event) {
         widget.failing = event.type();
         return !QCoreApplication::sendEvent(&widget, &event) && !event.isAccepted();
@@ -34,6 +33,7 @@ protected:
 } // namespace
 
 TEST_F(GuardedApplicationTest, EventsWithoutMemoryAreIgnoredAndToldOfInOneBox) {
+    widget.show();
     const DialogAnswer answer(Press(QDialogButtonBox::Ok));
     const QMimeData data;
     EXPECT_TRUE(Fails(QKeyEvent(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier)));
@@ -44,11 +44,8 @@ TEST_F(GuardedApplicationTest, EventsWithoutMemoryAreIgnoredAndToldOfInOneBox) {
     EXPECT_FALSE(widget.close()) << "what was not saved would be lost";
     EXPECT_TRUE(widget.isVisible());
     QTest::qWait(200);
-}
-
-TEST_F(GuardedApplicationTest, PaintsWithoutMemoryOpenNoBox) {
     widget.failing = QEvent::Paint;
     widget.repaint();
     QTest::qWait(50);
-    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "a view says itself what it cannot paint";
 }
