@@ -2,6 +2,7 @@
 
 #include "app/Workshop.h"
 #include "framework/core/CWinApp.h"
+#include "framework/core/Exceptions.h"
 #include "framework/core/UserInterface.h"
 
 #include <functional>
@@ -14,6 +15,7 @@ public:
     ~HeadlessApplication() override;
 
     void ShowMessage(const std::string& text) override { showMessage(text); }
+    void ReportMemoryShortage() noexcept override;
     SaveAnswer AskToSave(const std::string&) override { return saveAnswer; }
     std::optional<std::string> PromptFileName(const FileNameQuestion&) override { return fileName; }
     const CDocTemplate* PromptNewType() override { return newType; }
@@ -30,5 +32,6 @@ public:
 
 private:
     std::function<void(const std::string&)> showMessage;
+    const std::string memoryMessage = CMemoryException().what(); // made while there is memory
     Workshop workshop;
 };

@@ -30,6 +30,7 @@ public:
 private:
     void Prepare(PictureConversion newConversion, const ColorList& list);
     void Convert(std::span<Color> pixels, std::size_t width);
+    void Forget();
 
     PictureConversion conversion = PictureConversion::none;
     ColorList colors; // a copy: the list's document may close

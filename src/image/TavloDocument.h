@@ -58,6 +58,8 @@ public:
     // that lists no colours.
     const ColorList* GetPaletteColors() const;
 
+    // Replaces the texture as an undoable change of that name.
+    void ReplaceTexture(unsigned nameId, Texture&& replacement);
     // Marks the document modified; a changed picture must be told to the views as well.
     void SetModifiedAndUpdate(bool updateViews);
     const std::vector<BaseDocument*>& GetReferences() const { return references; }

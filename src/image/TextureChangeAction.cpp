@@ -5,8 +5,8 @@
 
 #include <utility>
 
-TextureChangeAction::TextureChangeAction(unsigned nameId, TavloDocument& document)
-    : EditAction(LoadString(nameId)), snapshot(document.GetTexture()) {}
+TextureChangeAction::TextureChangeAction(unsigned nameId, Texture&& replacement)
+    : EditAction(LoadString(nameId)), snapshot(std::move(replacement)) {}
 
 void TextureChangeAction::Undo(TavloDocument& document) {
     std::swap(snapshot, document.GetTexture());

@@ -8,7 +8,7 @@ class TavloDocument;
 struct Quake2Names;
 
 // The undoable changes of a texture that a person asks for with a value. One that changes nothing records
-// nothing.
+// nothing, and one that memory is too small for changes nothing.
 
 // Crops the picture or repeats its edges.
 void ResizePicture(TavloDocument& document, int width, int height);

@@ -18,6 +18,7 @@ constexpr StringRow rows[] = {
     {AFX_IDS_NEW_LABEL, "&New document of type:"},
     {AFX_IDS_FILE_EXISTS, "%s already exists.\nDo you want to replace it?"},
     {AFX_IDS_FILE_MISSING, "%s\nThere is no such file."},
+    {AFX_IDP_FAILED_MEMORY_ALLOC, "There is not enough memory for this.\nYour documents are as they were."},
     {AFX_IDP_PARSE_INT_RANGE, "Enter a whole number between %d and %d."},
     {AFX_IDP_PARSE_STRING_SIZE, "Enter no more than %u characters. Letters beyond ASCII count as several."},
     {AFX_IDS_SAVE_IN, "Save in:"},
@@ -73,6 +74,7 @@ constexpr StringRow rows[] = {
     {IDS_NOT_IMPLEMENTED, "%s is not implemented.\nKelTavlo is not fully implemented yet. Sorry.\n\n"
                           "keltavlo@example.org\nwww.example.org/keltavlo\n"},
     {IDS_NO_OPENGL, "Models cannot be shown: this system offers no OpenGL to draw them with."},
+    {IDS_NO_MEMORY_TO_PAINT, "There is not enough memory to show this."},
 
     {ID_FILE_NEW, "Create a new texture\nNew"},
     {ID_FILE_OPEN, "Open a file, also one inside an archive\nOpen"},

@@ -36,7 +36,8 @@ enum ShellStringId : unsigned {
     IDS_NO_PICTURE = 1414,
     IDS_CONTENTS_OF = 1415,
     IDS_UNKNOWN_FORMAT = 1416,
-    IDS_NO_OPENGL = 2400
+    IDS_NO_OPENGL = 2400,
+    IDS_NO_MEMORY_TO_PAINT = 2401
 };
 
 // Those strings, the framework's, and one for each command: the prompt, then the tool tip.

@@ -44,6 +44,10 @@ protected:
     std::string TextOf(const std::string& path);
 
     std::vector<std::string> messages;
+    int messageCount = 0; // those included that memory was too small to keep
     int fileCount = 0;
-    HeadlessApplication application{[this](const std::string& text) { messages.push_back(text); }};
+    HeadlessApplication application{[this](const std::string& text) {
+        ++messageCount;
+        messages.push_back(text);
+    }};
 };

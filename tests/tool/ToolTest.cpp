@@ -2,6 +2,7 @@
 
 #include "builders/ModelBuilder.h"
 #include "builders/TextureBuilder.h"
+#include "support/Fault.h"
 #include "support/FolderTest.h"
 
 #include <filesystem>
@@ -136,6 +137,23 @@ TEST_F(ToolTest, FilesWithTheNameOfAFolderAreAllWritten) {
         EXPECT_EQ(ReadFile(PathTo("out/" + std::string(file))), ToBytes(text)) << file;
     EXPECT_EQ(Run({"extract", twins + "/a/", PathTo("one")}), 0);
     EXPECT_EQ(ReadFile(PathTo("one/b")), ToBytes("a/b"));
+}
+
+TEST_F(ToolTest, SaysWhenMemoryRunsOut) {
+    if (!allocationsCanFail) GTEST_SKIP();
+    bool hit = true;
+    for (unsigned first = 1; hit && !HasFailure(); ++first) {
+        SCOPED_TRACE(first);
+        std::ostringstream output, errors(std::string(1000, ' ')); // which takes no more memory
+        Tool tool(output, errors, false);
+        const std::vector<std::string> arguments{"convert", "--force", floor, PathTo("new.tga")};
+        const Fault fault(Step::allocation, first, false);
+        const int code = tool.Run(arguments);
+        hit = fault.HasHit();
+        EXPECT_TRUE(code == 0 || errors.str().find("not enough room in memory.") != std::string::npos)
+            << errors.str();
+        EXPECT_LE(code, 1);
+    }
 }
 
 TEST_F(ToolTest, ConvertsTreesAndNamesWhatWasLeftOut) {

@@ -46,6 +46,7 @@ protected:
 
 private:
     void RegisterWindowClasses();
+    bool TryOpen(const std::string& path);
     bool CarryOut(const std::vector<std::string>& paths);
     void OnCommandNew() { OnFileNew(); }
     void OnFileOpen();

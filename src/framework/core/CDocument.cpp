@@ -11,7 +11,18 @@
 namespace {
 
 void Report(Direction direction, const std::string& path, const std::exception& failure) {
-    UserInterface::Get().ShowMessage(DescribeFailure(direction, path, failure));
+    try {
+        UserInterface::Get().ShowMessage(DescribeFailure(direction, path, failure));
+    } catch (const std::bad_alloc&) {
+        UserInterface::Get().ReportMemoryShortage();
+    }
+}
+
+void TryUpdate(DocumentView& view, DocumentView* sender, std::intptr_t hint, CObject* hintObject) {
+    try {
+        view.OnUpdate(sender, hint, hintObject);
+    } catch (const std::bad_alloc&) {
+    }
 }
 
 } // namespace
@@ -114,9 +125,11 @@ void CDocument::RemoveView(DocumentView& view) {
 }
 
 void CDocument::UpdateAllViews(DocumentView* sender, std::intptr_t hint, CObject* hintObject) {
-    const std::vector<DocumentView*> told = views; // an update may add or remove views
-    for (DocumentView* view : told)
-        if (view != sender) view->OnUpdate(sender, hint, hintObject);
+    for (std::size_t i = 0; i < views.size();) {
+        DocumentView* const view = views[i];
+        if (view != sender) TryUpdate(*view, sender, hint, hintObject);
+        if (i < views.size() && views[i] == view) ++i; // an update may remove the view
+    }
 }
 
 DocumentFrame* CDocument::GetFrame() const {

@@ -68,6 +68,9 @@ public:
     explicit CMemoryException(std::string text) : CException(std::move(text)) {}
 };
 
+// The sentence about any failure for the user. Takes no memory.
+const char* SentenceOf(const std::exception& failure);
+
 enum class Direction { opening, saving };
 
 // The sentence shown when opening or saving `path` fails: names the path, says what went wrong. Any

@@ -55,6 +55,7 @@ enum StandardString : unsigned {
     AFX_IDS_PATH_MISSING = 61482,
     AFX_IDS_NEW_LABEL = 61483,
     AFX_IDS_SAVE_IN = 61484,
+    AFX_IDP_FAILED_MEMORY_ALLOC = 61703,
     AFX_IDP_PARSE_INT_RANGE = 61714, // a value of a dialog is refused
     AFX_IDP_PARSE_STRING_SIZE = 61716
 };

@@ -46,7 +46,7 @@ public:
     CMenu& GetCurrentMenu() { return *currentMenu; }
     CStatusBar& GetStatusBar() { return *statusBarWindow; }
     // Brings what people see of the commands' states up to date; runs by itself before the program waits.
-    void OnIdle();
+    void OnIdle() noexcept;
     bool OnCmdMsg(CommandId id, CCmdUI* state) override;
 
     // Docks a bar, which is a child of this window: at the top behind the others, or at a side.

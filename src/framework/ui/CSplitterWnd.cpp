@@ -122,6 +122,7 @@ void CSplitterWnd::RemovePart(Direction direction, int part) {
 void CSplitterWnd::RemovePane(CView* view) {
     CMDIChildWnd* frame = view->GetParentFrame();
     if (frame && frame->GetActiveView() == view) frame->SetActiveView(panes[0][0]);
+    view->Detach();
     delete view;
 }
 

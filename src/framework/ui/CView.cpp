@@ -11,7 +11,7 @@ CView::CView() {
 }
 
 CView::~CView() {
-    Detach();
+    LeaveDocument();
 }
 
 CMDIChildWnd* CView::GetParentFrame() const {
@@ -51,6 +51,11 @@ void CView::Attach(CDocument& shown, CSplitterWnd* pane) {
 }
 
 void CView::Detach() {
+    if (attachedDocument) OnDestroy();
+    LeaveDocument();
+}
+
+void CView::LeaveDocument() {
     if (CDocument* left = std::exchange(attachedDocument, nullptr)) left->RemoveView(*this);
 }
 

@@ -26,6 +26,9 @@ public:
 
     // Called once, when the view stands in its pane and has its document, which may still be empty.
     virtual void OnCreate() {}
+    // Called once, before the view leaves its document and ends, while every class that it derives from is
+    // there.
+    virtual void OnDestroy() {}
     // Called once, when the document is filled, before the view is first seen. Here: OnUpdate with no sender.
     virtual void OnInitialUpdate();
     // Here: repaints everything.
@@ -38,13 +41,16 @@ public:
 
     // Ties the new view to its document and pane (null: no splitter). For those who make views.
     void Attach(CDocument& shown, CSplitterWnd* pane);
-    // Unties the view from its document, which may end by it.
+    // Unties the view from its document, which may end by it. Call it before the view is deleted: its
+    // destructor can no longer reach OnDestroy.
     void Detach();
 
 protected:
     void focusInEvent(QFocusEvent* event) override;
 
 private:
+    void LeaveDocument();
+
     CDocument* attachedDocument = nullptr;
     CSplitterWnd* paneSplitter = nullptr;
 };

@@ -2,11 +2,13 @@
 
 #include "framework/core/UserInterface.h"
 #include "framework/ui/MDIFrameFactory.h"
+#include "framework/ui/MemoryWarning.h"
 
 // The person at the program, met through dialogs over its windows.
 class WindowedUserInterface : public UserInterface {
 public:
     void ShowMessage(const std::string& text) override;
+    void ReportMemoryShortage() noexcept override { memoryWarning.Raise(); }
     SaveAnswer AskToSave(const std::string& name) override;
     const CDocTemplate* PromptNewType() override;
     void BeginWaitCursor() override;
@@ -15,4 +17,5 @@ public:
 
 private:
     MDIFrameFactory frameFactory;
+    MemoryWarning memoryWarning;
 };

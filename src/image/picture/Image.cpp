@@ -65,7 +65,7 @@ void Image::SetSizeUncleared(int newWidth, int newHeight) {
     height = newHeight;
 }
 
-void Image::Resize(int newWidth, int newHeight) {
+Image Image::ResizedPicture(int newWidth, int newHeight) const {
     Image resized(newWidth, newHeight);
     if (!pixels.empty() && newWidth > 0) {
         const auto keptWidth = std::min(width, newWidth);
@@ -75,7 +75,7 @@ void Image::Resize(int newWidth, int newHeight) {
             std::fill(edge, resized.Row(y).end(), source.back());
         }
     }
-    Image::operator=(std::move(resized));
+    return resized;
 }
 
 void Image::MakeHalfSize(Image& output) const {

@@ -17,6 +17,8 @@ public:
     Texture& operator=(Texture&& other) noexcept;
     ~Texture() override;
 
+    // A copy with the picture cropped or its edges repeated, as Image::Resize does it.
+    Texture Resized(int newWidth, int newHeight) const;
     // Replaces the palette by a copy of the list.
     void SetPalette(const ColorList& list);
 

@@ -117,11 +117,7 @@ QStringList PictureFormats(const QStringList& offered) {
 } // namespace
 
 std::unique_ptr<QMimeData> MakeClipboardPicture(const Image& picture) {
-    try {
-        return picture.Pixels().empty() ? nullptr : std::make_unique<PictureData>(picture);
-    } catch (const std::bad_alloc&) {
-        return nullptr;
-    }
+    return picture.Pixels().empty() ? nullptr : std::make_unique<PictureData>(picture);
 }
 
 bool OffersPicture(const QStringList& formats) {

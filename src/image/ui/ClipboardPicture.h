@@ -11,8 +11,7 @@ class QMimeData;
 
 // Pictures on the clipboard: as a bitmap of 32 bits with alpha, as PNG and as the toolkit's own.
 
-// The picture as it is now, put into each form when somebody asks for it. Null for a picture without pixels
-// or one that memory does not hold twice.
+// The picture as it is now, put into each form when somebody asks for it. Null for a picture without pixels.
 std::unique_ptr<QMimeData> MakeClipboardPicture(const Image& picture);
 
 // Whether one of these forms is a picture's.

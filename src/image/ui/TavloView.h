@@ -44,6 +44,7 @@ private:
     TileViewport GetViewport() const;
     PictureConversion GetConversion() const;
 
+    void PaintRegion(const QRegion& region);
     void PaintArea(const Image& picture, const std::uint32_t* table, const QRect& area);
     QRegion FindTexels(const TexelRun& run) const;
     // What shows a texel that changed.

@@ -15,7 +15,7 @@ public:
     void* GetHandle() const { return handle; }
     QSize GetSize() const { return size; } // pixels
     // Copies what was drawn, top row first. The surface must be current. `picture` becomes RGB32 of the
-    // surface's size; its memory is used again when it fits.
+    // surface's size; its memory is used again when it fits. Throws std::bad_alloc.
     void CopyTo(QImage& picture) const;
 
 private:

@@ -7,6 +7,11 @@ void OpenGLView::OnCreate() {
     control->Create(rect(), *this);
 }
 
+void OpenGLView::OnDestroy() {
+    control->Destroy();
+    CView::OnDestroy();
+}
+
 void OpenGLView::OnUpdate(DocumentView* sender, std::intptr_t hint, CObject* hintObject) {
     CView::OnUpdate(sender, hint, hintObject);
     control->update();

@@ -8,6 +8,7 @@ class OpenGLCtrl;
 class OpenGLView : public Dynamic<"OpenGLView", OpenGLView, CView> {
 public:
     void OnCreate() override;
+    void OnDestroy() override;
     void OnUpdate(DocumentView* sender, std::intptr_t hint, CObject* hintObject) override;
     bool OnCmdMsg(CommandId id, CCmdUI* state) override;
 

@@ -6,11 +6,6 @@
 ThreeDimensionalCtrl::ThreeDimensionalCtrl(ThreeDimensionalView& owner)
     : view(&owner), texture(TakeLastPicture()) {}
 
-// While it still leads to the view's resources.
-ThreeDimensionalCtrl::~ThreeDimensionalCtrl() {
-    DestroyContext();
-}
-
 void ThreeDimensionalCtrl::MoveBy(const QString& characters, bool smallSteps) {
     const double step = smallSteps ? 1 : 16;
     if (characters == u"d")

@@ -14,7 +14,6 @@ public:
 
     // Takes the picture of an open image document for its texture.
     explicit ThreeDimensionalCtrl(ThreeDimensionalView& owner);
-    ~ThreeDimensionalCtrl() override;
 
     // By how much the model is moved, in its own units.
     const Offset& GetOffset() const { return offset; }
