@@ -12,6 +12,8 @@
 #include <random>
 #include <vector>
 
+namespace keltavlo {
+
 // Every search is new: its tables are part of the time. "Plain" is the scan of the list with its cache. The
 // arguments are the picture's side and its number of colours, 0 for as many as it has pixels.
 
@@ -150,3 +152,5 @@ BENCHMARK(NearestDiffusion<DiffuseFast>)->Name("NearestDiffusion")->Apply(Distin
 BENCHMARK_CAPTURE(NearestWrite, WAL, "WALDocument")->Apply(SmallPicture);
 BENCHMARK_CAPTURE(NearestWrite, MIP, "MIPDocument")->Apply(SmallPicture);
 BENCHMARK_CAPTURE(NearestWrite, PCX, "PCXDocument")->Apply(SmallPicture);
+
+} // namespace keltavlo

@@ -15,6 +15,8 @@
 #include <cstdlib>
 #include <random>
 
+namespace keltavlo {
+
 // Files become new pictures in memory; the page cache is warm. The files stay in the folder that the variable
 // BENCH_FILES names, for other programs to read.
 
@@ -139,3 +141,5 @@ void ReadWAL(benchmark::State& state) {
 BENCHMARK(ReadWAL)->Unit(benchmark::kMicrosecond);
 
 } // namespace
+
+} // namespace keltavlo

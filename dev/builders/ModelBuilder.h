@@ -5,6 +5,8 @@
 #include <array>
 #include <functional>
 
+namespace keltavlo {
+
 // Makes Quake II models (".md2"): the header, the skins, texture coordinates, triangles and frames in this
 // order. Frame f has the name "frame" and f. Unless the rules are replaced, texture coordinate i is (i, -i)
 // and vertex i of frame f is (f, i, i + 1), modulo 256.
@@ -50,3 +52,5 @@ struct MdlBuilder {
 
     Bytes Build() const;
 };
+
+} // namespace keltavlo

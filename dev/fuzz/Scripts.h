@@ -2,6 +2,8 @@
 
 #include "Readers.h"
 
+namespace keltavlo {
+
 // Readers with a state: they do something with what they read, and check that it comes out as promised. A
 // broken promise is a std::logic_error.
 
@@ -14,3 +16,5 @@ std::optional<std::size_t> RecodePicture(std::span<const std::byte> bytes, Buffe
 Bytes MakePictureToRecode();
 // One of each other format.
 std::vector<Bytes> MakeMorePicturesToRecode();
+
+} // namespace keltavlo

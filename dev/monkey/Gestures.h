@@ -9,6 +9,8 @@ class QMainWindow;
 class QString;
 class QWidget;
 
+namespace keltavlo {
+
 // What a person does with hands: somewhere, anything, as the random numbers have it. Each gesture is sent to
 // the widgets as the toolkit itself sends it, and any of them may be gone after it.
 class Gestures {
@@ -34,3 +36,5 @@ private:
 
     std::mt19937 random;
 };
+
+} // namespace keltavlo

@@ -12,6 +12,8 @@
 class QDialog;
 class QMainWindow;
 
+namespace keltavlo {
+
 // Does things to the program that a person might do, in an order that no person would choose, then closes it.
 // Ends the process with exit code 1 when the program hangs, when the toolkit complains, or when a kind of
 // dialog never came.
@@ -39,3 +41,5 @@ private:
     int patience = 0;
     std::map<std::string, int> dialogs; // how often each kind was seen
 };
+
+} // namespace keltavlo

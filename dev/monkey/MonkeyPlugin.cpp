@@ -2,6 +2,8 @@
 
 #include <QGenericPlugin>
 
+namespace keltavlo {
+
 // The toolkit loads this into the program as it is when QT_QPA_GENERIC_PLUGINS names it: monkey:EVENTS:SEED.
 class MonkeyPlugin : public QGenericPlugin {
     Q_OBJECT
@@ -13,5 +15,7 @@ public:
         return new Monkey(numbers.value(0).toInt(), numbers.value(1).toUInt());
     }
 };
+
+} // namespace keltavlo
 
 #include "MonkeyPlugin.moc"

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+namespace keltavlo {
+
 // What the toolkit complains of while it lives.
 class ToolkitComplaints {
 public:
@@ -21,3 +23,5 @@ private:
     }
     QtMessageHandler previous;
 };
+
+} // namespace keltavlo

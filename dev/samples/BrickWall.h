@@ -3,6 +3,8 @@
 #include "Paint.h"
 #include "TileNoise.h"
 
+namespace keltavlo {
+
 // A wall of bricks in stretcher bond, lit from above; tiles.
 class BrickWall {
 public:
@@ -22,3 +24,5 @@ private:
     TileNoise surface{11};
     TileNoise grains{12};
 };
+
+} // namespace keltavlo

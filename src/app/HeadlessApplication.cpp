@@ -1,5 +1,7 @@
 #include "app/HeadlessApplication.h"
 
+namespace keltavlo {
+
 HeadlessApplication::HeadlessApplication(std::function<void(const std::string&)> show)
     : CWinApp(nullptr), showMessage(std::move(show)), workshop(*this) {}
 
@@ -14,3 +16,5 @@ void HeadlessApplication::ReportMemoryShortage() noexcept {
 HeadlessApplication::~HeadlessApplication() {
     CloseAllDocuments();
 }
+
+} // namespace keltavlo

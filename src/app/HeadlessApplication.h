@@ -7,6 +7,8 @@
 
 #include <functional>
 
+namespace keltavlo {
+
 // The application without windows: messages go where the caller says, and every question gets a fixed answer.
 class HeadlessApplication : public CWinApp, public UserInterface {
 public:
@@ -35,3 +37,5 @@ private:
     const std::string memoryMessage = CMemoryException().what(); // made while there is memory
     Workshop workshop;
 };
+
+} // namespace keltavlo

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace keltavlo {
+
 ConvertedPicture::ConvertedPicture() = default;
 ConvertedPicture::~ConvertedPicture() = default;
 
@@ -58,3 +60,5 @@ TexelRun ConvertedPicture::UpdateTexel(const Image& picture, int x, int y) {
     Convert(target, count);
     return {y, x, wholeRow ? picture.GetWidth() - x : 1};
 }
+
+} // namespace keltavlo

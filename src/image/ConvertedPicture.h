@@ -7,6 +7,8 @@
 #include <memory>
 #include <optional>
 
+namespace keltavlo {
+
 class NearestSearch;
 
 // The ways in which a picture is brought to the colours of a list.
@@ -37,3 +39,5 @@ private:
     std::unique_ptr<NearestSearch> search;
     std::optional<Image> converted;
 };
+
+} // namespace keltavlo

@@ -3,6 +3,8 @@
 #include "framework/core/StringTable.h"
 #include "image/TavloDocument.h"
 
+namespace keltavlo {
+
 // A change of one property of the texture, which the document's pair of accessors names: keeps the property's
 // value of the other state, which is the new one at first.
 template <auto get, auto set>
@@ -23,3 +25,5 @@ public:
 private:
     Value stored;
 };
+
+} // namespace keltavlo

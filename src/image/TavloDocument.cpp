@@ -10,6 +10,8 @@
 #include "resources/DocTemplateRegistry.h"
 #include "resources/streams/OutputStream.h"
 
+namespace keltavlo {
+
 namespace {
 
 constexpr BuiltInFile builtInReferences[] = {
@@ -116,3 +118,5 @@ void TavloDocument::ReformatForSave() {
     if (width == texture.GetWidth() && height == texture.GetHeight()) return;
     ReplaceTexture(IDS_ACTION_REFORMAT, texture.Resized(width, height));
 }
+
+} // namespace keltavlo

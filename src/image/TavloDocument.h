@@ -4,6 +4,8 @@
 #include "image/picture/Texture.h"
 #include "resources/BaseDocument.h"
 
+namespace keltavlo {
+
 class BrushDocument;
 class ColorList;
 class PaletteDocument;
@@ -104,3 +106,5 @@ private:
     PaletteDocument* currentPalette = nullptr;
     UndoHistory history{*this, historyCapacity};
 };
+
+} // namespace keltavlo

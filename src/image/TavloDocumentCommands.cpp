@@ -11,6 +11,8 @@
 
 #include <algorithm>
 
+namespace keltavlo {
+
 namespace {
 
 void UpdateHistoryItem(CCmdUI& state, const std::string* name, unsigned namedText, unsigned plainText,
@@ -110,3 +112,5 @@ void TavloDocument::ConvertPicture(unsigned nameId, void (Image::*convert)(const
     if (!std::ranges::equal(converted.Pixels(), texture.Pixels()))
         ReplaceTexture(nameId, std::move(converted));
 }
+
+} // namespace keltavlo

@@ -5,6 +5,8 @@
 
 #include <utility>
 
+namespace keltavlo {
+
 TextureChangeAction::TextureChangeAction(unsigned nameId, Texture&& replacement)
     : EditAction(LoadString(nameId)), snapshot(std::move(replacement)) {}
 
@@ -12,3 +14,5 @@ void TextureChangeAction::Undo(TavloDocument& document) {
     std::swap(snapshot, document.GetTexture());
     document.SetModifiedAndUpdate(true);
 }
+
+} // namespace keltavlo

@@ -3,6 +3,8 @@
 #include "image/EditAction.h"
 #include "image/picture/Texture.h"
 
+namespace keltavlo {
+
 // A change of the picture: keeps the whole texture of the other state, which is the new one at first.
 class TextureChangeAction final : public EditAction {
 public:
@@ -13,3 +15,5 @@ public:
 private:
     Texture snapshot;
 };
+
+} // namespace keltavlo

@@ -3,6 +3,8 @@
 #include "image/PropertyChangeAction.h"
 #include "res/StringIds.h"
 
+namespace keltavlo {
+
 namespace {
 
 template <auto get, auto set, class Value>
@@ -48,3 +50,5 @@ void PastePicture(TavloDocument& document, Image&& picture) {
     static_cast<Image&>(pasted) = std::move(picture);
     document.ReplaceTexture(IDS_ACTION_PASTE, std::move(pasted));
 }
+
+} // namespace keltavlo

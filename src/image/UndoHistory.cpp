@@ -2,6 +2,8 @@
 
 #include <utility>
 
+namespace keltavlo {
+
 namespace {
 
 // The other stack has room reserved.
@@ -34,3 +36,5 @@ void UndoHistory::Redo() {
     redoStack.back()->Redo(document);
     MoveTop(redoStack, undoStack);
 }
+
+} // namespace keltavlo

@@ -4,6 +4,8 @@
 
 #include <vector>
 
+namespace keltavlo {
+
 // The recorded changes of one document, and those that were undone.
 class UndoHistory {
 public:
@@ -29,3 +31,5 @@ private:
     Stack undoStack;
     Stack redoStack;
 };
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <vector>
 
+namespace keltavlo {
+
 // A Quake model (".mdl"), read for the textures that studio models carry: a table of pictures, each of
 // palette indices with a palette of its own behind them. Any file is read as that; nothing identifies it.
 class MDLDocument final : public Dynamic<"MDLDocument", MDLDocument, ModelDocument> {
@@ -22,3 +24,5 @@ private:
     std::vector<std::byte> fileData;
     std::vector<Image> textures;
 };
+
+} // namespace keltavlo

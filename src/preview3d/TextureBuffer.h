@@ -2,6 +2,8 @@
 
 #include "image/picture/Image.h"
 
+namespace keltavlo {
+
 // A picture that the 3D view can draw with: its sides are powers of two from 16 to 256. It keeps its own
 // pixels, whatever happens to the picture that they were taken from.
 class TextureBuffer : public Image {
@@ -24,3 +26,5 @@ public:
 // The picture of the image document that comes last among the open ones, by type and then in the order of
 // opening; a plain grey one when none is open.
 TextureBuffer TakeLastPicture();
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include "res/CommandIds.h"
 
+namespace keltavlo {
+
 namespace {
 
 constexpr StringRow rows[] = {
@@ -140,3 +142,5 @@ constexpr StringRow rows[] = {
 std::span<const StringRow> ShellStrings() {
     return rows;
 }
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include "framework/core/StringTable.h"
 
+namespace keltavlo {
+
 // Strings of the program's windows beside the framework's own.
 enum ShellStringId : unsigned {
     IDS_OPEN_FILTERS = 256,
@@ -42,3 +44,5 @@ enum ShellStringId : unsigned {
 
 // Those strings, the framework's, and one for each command: the prompt, then the tool tip.
 std::span<const StringRow> ShellStrings();
+
+} // namespace keltavlo

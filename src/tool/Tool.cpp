@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <ostream>
 
+namespace keltavlo {
+
 namespace {
 
 struct CommandRow {
@@ -97,3 +99,5 @@ void Tool::ShowProgress(const std::string& name) {
     constexpr const char* clearLine = "\r\x1B[K";
     if (isTerminal) errors << clearLine << ToUtf8(name) << std::flush;
 }
+
+} // namespace keltavlo

@@ -9,6 +9,8 @@
 #include <new>
 #include <unistd.h>
 
+using namespace keltavlo;
+
 int main(int argc, char** argv) try {
     KeepMemoryReserve();
     const QCoreApplication core(argc, argv);

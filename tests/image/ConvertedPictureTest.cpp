@@ -3,6 +3,8 @@
 #include "formats/CodecHarness.h"
 #include "support/Fault.h"
 
+namespace keltavlo {
+
 namespace {
 
 constexpr int width = 7, height = 5;
@@ -74,3 +76,5 @@ INSTANTIATE_TEST_SUITE_P(Conversions, ConvertedPictureTest,
                          testing::Values(PictureConversion::nearest, PictureConversion::errorDiffusion));
 
 } // namespace
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 #include "support/Fault.h"
 #include "support/TestApplication.h"
 
+namespace keltavlo {
+
 namespace {
 
 struct Edit {
@@ -115,3 +117,5 @@ TEST_P(EditFaults, AnEditIsMadeWholeOrNotAtAll) {
 
 INSTANTIATE_TEST_SUITE_P(Edits, EditFaults, testing::ValuesIn(edits),
                          [](const auto& edit) { return std::string(edit.param.name); });
+
+} // namespace keltavlo

@@ -11,6 +11,8 @@
 #include <thread>
 #include <unistd.h>
 
+namespace keltavlo {
+
 // Every read, write, flush, rename and allocation of an open and of a save fails once, and from then on; and
 // whole processes that are killed and places that cannot be written.
 
@@ -216,3 +218,5 @@ TEST_F(SaveFaults, PlacesThatCannotBeWrittenStayAsTheyWere) {
     EXPECT_EQ(CountFiles(locked), 2U);
     chmod(locked.c_str(), 0755);
 }
+
+} // namespace keltavlo

@@ -7,6 +7,8 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
+namespace keltavlo {
+
 std::atomic<std::ptrdiff_t> liveAllocations = 0;
 
 bool Fault::Hits(Step step) noexcept {
@@ -14,6 +16,10 @@ bool Fault::Hits(Step step) noexcept {
     ++current->count;
     return current->lasting ? current->HasHit() : current->count == current->first;
 }
+
+} // namespace keltavlo
+
+using namespace keltavlo;
 
 namespace {
 

@@ -3,6 +3,8 @@
 #include <atomic>
 #include <cstddef>
 
+namespace keltavlo {
+
 // Steps of the operating system and of the memory. A large allocation takes 64 KiB or more.
 enum class Step { read, write, shortWrite, flush, rename, allocation, largeAllocation };
 
@@ -34,3 +36,5 @@ inline constexpr bool allocationsCanFail = true;
 #endif
 
 extern std::atomic<std::ptrdiff_t> liveAllocations;
+
+} // namespace keltavlo

@@ -5,6 +5,8 @@
 #include "resources/BuiltInPath.h"
 #include "support/FolderTest.h"
 
+namespace keltavlo {
+
 // What the sentences for files that cannot be opened say.
 inline constexpr const char* badFormat = "expected format";
 inline constexpr const char* badVersion = "version";
@@ -51,3 +53,5 @@ protected:
         messages.push_back(text);
     }};
 };
+
+} // namespace keltavlo

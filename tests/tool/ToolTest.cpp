@@ -8,6 +8,8 @@
 #include <filesystem>
 #include <sstream>
 
+namespace keltavlo {
+
 namespace fs = std::filesystem;
 using testing::HasSubstr;
 
@@ -196,3 +198,5 @@ TEST_F(ToolTest, DescribesModelsAndWritesTheirTextures) {
     EXPECT_EQ(Run({"extract", PathTo("out/player.mdl"), PathTo("again")}), 0);
     EXPECT_FALSE(fs::exists(PathTo("again/player.mdl"))) << "it lies on the disk already";
 }
+
+} // namespace keltavlo

@@ -30,6 +30,8 @@
 #include "res/ShellStrings.h"
 #include "resources/DocTemplateRegistry.h"
 
+namespace keltavlo {
+
 namespace {
 
 std::unique_ptr<ProfileStore> OfThisVersion(std::unique_ptr<ProfileStore> settings) {
@@ -209,3 +211,5 @@ void CKelTavloApp::ShowHelp(const char* page) {
     if (!help) help = std::make_unique<HelpWindow>();
     help->ShowPage(QString::fromLatin1(page));
 }
+
+} // namespace keltavlo

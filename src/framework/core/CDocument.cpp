@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace keltavlo {
+
 namespace {
 
 void Report(Direction direction, const std::string& path, const std::exception& failure) {
@@ -135,3 +137,5 @@ void CDocument::UpdateAllViews(DocumentView* sender, std::intptr_t hint, CObject
 DocumentFrame* CDocument::GetFrame() const {
     return views.empty() ? nullptr : views.front()->GetFrame();
 }
+
+} // namespace keltavlo

@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+namespace keltavlo {
+
 class CDocTemplate;
 
 // A file's contents in memory, with a title, a path, a modified mark and the views that show it.
@@ -64,3 +66,5 @@ private:
     CDocTemplate* docTemplate = nullptr;
     std::vector<DocumentView*> views;
 };
+
+} // namespace keltavlo

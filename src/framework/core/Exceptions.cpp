@@ -6,6 +6,8 @@
 #include <cerrno>
 #include <new>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr const char* memorySentence = "There is not enough room in memory.";
@@ -107,3 +109,5 @@ std::string DescribeFailure(Direction direction, const std::string& path, const 
     const char* verb = direction == Direction::opening ? "open" : "save";
     return "Cannot " + std::string(verb) + " \"" + ToDisplayPath(path) + "\".\n" + SentenceOf(failure);
 }
+
+} // namespace keltavlo

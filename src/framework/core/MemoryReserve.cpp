@@ -4,6 +4,8 @@
 #include <new>
 #include <sys/mman.h>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr std::size_t reserveSize = 16 << 20; // bytes
@@ -27,3 +29,5 @@ void KeepMemoryReserve() noexcept {
         mmap(nullptr, reserveSize, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
     if (memory != MAP_FAILED) reserve = memory;
 }
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include "framework/core/CCmdUI.h"
 
+namespace keltavlo {
+
 // Ids that the framework gives a meaning: commands from 57600, strings from 57344.
 enum StandardCommand : CommandId {
     ID_FILE_NEW = 57600,
@@ -59,3 +61,5 @@ enum StandardString : unsigned {
     AFX_IDP_PARSE_INT_RANGE = 61714, // a value of a dialog is refused
     AFX_IDP_PARSE_STRING_SIZE = 61716
 };
+
+} // namespace keltavlo

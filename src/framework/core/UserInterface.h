@@ -5,6 +5,8 @@
 #include <optional>
 #include <string>
 
+namespace keltavlo {
+
 class CDocTemplate;
 class FrameFactory;
 
@@ -46,3 +48,5 @@ public:
     CWaitCursor(const CWaitCursor&) = delete;
     CWaitCursor& operator=(const CWaitCursor&) = delete;
 };
+
+} // namespace keltavlo

@@ -16,6 +16,8 @@
 
 #include <utility>
 
+namespace keltavlo {
+
 namespace {
 
 // Strings whose widths the panes take: a zoom, a position, a colour.
@@ -96,3 +98,5 @@ void CMDIFrameWnd::OnIdle() noexcept try {
 void CMDIFrameWnd::OnInitMenuPopup(CMenu& menu) {
     UpdateWindowList(menu);
 }
+
+} // namespace keltavlo

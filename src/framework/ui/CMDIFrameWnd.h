@@ -10,6 +10,8 @@
 #include <memory>
 #include <vector>
 
+namespace keltavlo {
+
 class CControlBar;
 class CDialogBar;
 class CMDIChildWnd;
@@ -109,3 +111,5 @@ private:
     std::map<unsigned, std::unique_ptr<CMenu>> menus;
     CMenu* currentMenu = nullptr;
 };
+
+} // namespace keltavlo

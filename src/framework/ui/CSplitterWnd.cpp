@@ -12,6 +12,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr CSplitterWnd::Direction Across(CSplitterWnd::Direction direction) {
@@ -137,3 +139,5 @@ CView* CSplitterWnd::GetNextPane(const CView* active, bool previous) const {
 void CSplitterWnd::DoKeyboardSplit() {
     tracker->BeginByKeyboard();
 }
+
+} // namespace keltavlo

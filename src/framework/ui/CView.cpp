@@ -6,6 +6,8 @@
 
 #include <utility>
 
+namespace keltavlo {
+
 CView::CView() {
     setFocusPolicy(Qt::StrongFocus);
 }
@@ -63,3 +65,5 @@ void CView::focusInEvent(QFocusEvent* event) {
     QWidget::focusInEvent(event);
     if (CMDIChildWnd* frame = GetParentFrame(); frame && attachedDocument) frame->SetActiveView(this);
 }
+
+} // namespace keltavlo

@@ -5,10 +5,13 @@
 
 #include <QWidget>
 
+class QScrollBar;
+
+namespace keltavlo {
+
 class CDocument;
 class CMDIChildWnd;
 class CSplitterWnd;
-class QScrollBar;
 
 // A window that shows a document, in a pane of a frame. Painting and input are the toolkit's events.
 class CView : public QWidget, public Dynamic<"CView", CView, CCmdTarget>, public DocumentView {
@@ -54,3 +57,5 @@ private:
     CDocument* attachedDocument = nullptr;
     CSplitterWnd* paneSplitter = nullptr;
 };
+
+} // namespace keltavlo

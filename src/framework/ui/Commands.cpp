@@ -5,6 +5,8 @@
 #include "framework/core/Text.h"
 #include "framework/core/UserInterface.h"
 
+namespace keltavlo {
+
 CCmdUI AskCommand(CCmdTarget& target, CommandId id) {
     CCmdUI state(id);
     target.OnCmdMsg(id, &state);
@@ -26,3 +28,5 @@ std::string CommandPrompt(CommandId id) {
 std::string CommandToolTip(CommandId id) {
     return std::string(Field(LoadString(id), '\n', 1));
 }
+
+} // namespace keltavlo

@@ -4,6 +4,8 @@
 
 #include <string>
 
+namespace keltavlo {
+
 class CCmdTarget;
 
 // How the command stands for the target and those behind it; disabled when nobody handles it.
@@ -14,3 +16,5 @@ bool SendCommand(CCmdTarget& target, CommandId id);
 // What the command's string says to a person: the prompt stands before a line break, the tool tip behind it.
 std::string CommandPrompt(CommandId id);
 std::string CommandToolTip(CommandId id);
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 
 #include <new>
 
+namespace keltavlo {
+
 namespace {
 
 bool IsPaint(const QEvent& event) {
@@ -22,3 +24,5 @@ bool GuardedApplication::notify(QObject* receiver, QEvent* event) try {
     if (UserInterface* user = UserInterface::Find(); user && !IsPaint(*event)) user->ReportMemoryShortage();
     return false;
 }
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include <QApplication>
 
+namespace keltavlo {
+
 // The toolkit's application, and the door that no lack of memory passes: an event whose handling runs out of
 // memory counts as ignored, and the user is told. Paints do not tell: a view says so where its picture would
 // be.
@@ -11,3 +13,5 @@ public:
 
     bool notify(QObject* receiver, QEvent* event) override;
 };
+
+} // namespace keltavlo

@@ -9,6 +9,8 @@
 
 #include <cstdio>
 
+namespace keltavlo {
+
 MemoryWarning::MemoryWarning() {
     timer.setSingleShot(true);
     QObject::connect(&timer, &QTimer::timeout, &timer, [this] { Show(); });
@@ -47,3 +49,5 @@ void MemoryWarning::Show() noexcept {
     }
     shown = false;
 }
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include <QTimer>
 
+namespace keltavlo {
+
 // Tells the user that memory ran out, in a message box that opens once the event under way is over.
 // Everything that fails until then, or while the box is open, shares the one box.
 class MemoryWarning {
@@ -18,3 +20,5 @@ private:
     bool raised = false;
     bool shown = false;
 };
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <QWidget>
 
+namespace keltavlo {
+
 void PaintSentence(QWidget& window, unsigned stringId) {
     constexpr int margin = 8;
     QPainter painter(&window);
@@ -14,3 +16,5 @@ void PaintSentence(QWidget& window, unsigned stringId) {
     painter.drawText(window.rect().marginsRemoved({margin, margin, margin, margin}),
                      Qt::AlignCenter | Qt::TextWordWrap, ToQString(LoadString(stringId)));
 }
+
+} // namespace keltavlo

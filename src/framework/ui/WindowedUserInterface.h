@@ -4,6 +4,8 @@
 #include "framework/ui/MDIFrameFactory.h"
 #include "framework/ui/MemoryWarning.h"
 
+namespace keltavlo {
+
 // The person at the program, met through dialogs over its windows.
 class WindowedUserInterface : public UserInterface {
 public:
@@ -19,3 +21,5 @@ private:
     MDIFrameFactory frameFactory;
     MemoryWarning memoryWarning;
 };
+
+} // namespace keltavlo

@@ -9,6 +9,8 @@
 #include <string>
 #include <utility>
 
+namespace keltavlo {
+
 namespace {
 
 std::size_t CheckedPixelCount(int width, int height) {
@@ -116,3 +118,5 @@ void Image::CopyBytesTo(std::uint8_t* destination) const {
     // An empty array may have no address, which memcpy must not be given.
     if (!pixels.empty()) std::memcpy(destination, pixels.data(), pixels.size() * sizeof(Color));
 }
+
+} // namespace keltavlo

@@ -8,6 +8,8 @@
 #include <span>
 #include <stdexcept>
 
+namespace keltavlo {
+
 class ColorList;
 class DibSection;
 
@@ -96,3 +98,5 @@ private:
     int width = 1;
     int height = 1;
 };
+
+} // namespace keltavlo

@@ -4,6 +4,8 @@
 
 #include <utility>
 
+namespace keltavlo {
+
 namespace {
 
 std::unique_ptr<ColorList> CopyOf(const std::unique_ptr<ColorList>& list) {
@@ -38,3 +40,5 @@ Texture Texture::Resized(int newWidth, int newHeight) const {
 void Texture::SetPalette(const ColorList& list) {
     palette = std::make_unique<ColorList>(list);
 }
+
+} // namespace keltavlo

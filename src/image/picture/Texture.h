@@ -6,6 +6,8 @@
 #include <memory>
 #include <string>
 
+namespace keltavlo {
+
 // A picture with what the game formats store beside it. Copies are deep.
 class Texture : public Image {
 public:
@@ -28,3 +30,5 @@ public:
     std::string quakeName;
     Quake2Properties quake2;
 };
+
+} // namespace keltavlo

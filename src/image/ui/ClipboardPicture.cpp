@@ -15,6 +15,8 @@
 #include <algorithm>
 #include <cstring>
 
+namespace keltavlo {
+
 namespace {
 
 const QString bitmapFormat = QStringLiteral("image/bmp");
@@ -137,3 +139,5 @@ std::optional<Image> ReadClipboardPicture(const CClipboard& clipboard) {
     }
     return std::nullopt;
 }
+
+} // namespace keltavlo

@@ -5,9 +5,12 @@
 #include <memory>
 #include <optional>
 
+class QMimeData;
+
+namespace keltavlo {
+
 class CClipboard;
 class Image;
-class QMimeData;
 
 // Pictures on the clipboard: as a bitmap of 32 bits with alpha, as PNG and as the toolkit's own.
 
@@ -19,3 +22,5 @@ bool OffersPicture(const QStringList& formats);
 // The picture that the clipboard offers, all opaque; none where there is none that can be read. Waits no
 // longer than six seconds for the clipboard's owner.
 std::optional<Image> ReadClipboardPicture(const CClipboard& clipboard);
+
+} // namespace keltavlo

@@ -16,6 +16,8 @@
 #include <cmath>
 #include <new>
 
+namespace keltavlo {
+
 namespace {
 
 // The whole screen pixels that a rectangle of the widget touches.
@@ -168,3 +170,5 @@ PictureConversion TavloView::GetConversion() const {
     if (ditherFilter) return PictureConversion::errorDiffusion;
     return nearestFilter ? PictureConversion::nearest : PictureConversion::none;
 }
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 
 #include <QImage>
 
+namespace keltavlo {
+
 class TavloDocument;
 class TavloViewFrame;
 struct TileViewport;
@@ -77,3 +79,5 @@ private:
     int wheelRemainder = 0;   // wheel movement that was not enough for a zoom step yet
     QPoint scrollRemainder{}; // and for scrolling by a texel, in 1/120 of a screen pixel
 };
+
+} // namespace keltavlo

@@ -9,6 +9,8 @@
 
 #include <QMimeData>
 
+namespace keltavlo {
+
 void TavloViewFrame::SetZoom(int newZoom) {
     if (newZoom == zoom) return;
     zoom = newZoom;
@@ -61,3 +63,5 @@ void TavloViewFrame::OnEditPaste() {
 void TavloViewFrame::OnUpdateEditPaste(CCmdUI& state) const {
     state.Enable(OffersPicture(CClipboard::Get().GetFormats()));
 }
+
+} // namespace keltavlo

@@ -5,6 +5,8 @@
 #include <GL/glext.h>
 #include <new>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr QRgb opaque = 0xFF000000;
@@ -34,3 +36,5 @@ void OffScreenSurface::CopyTo(QImage& picture) const {
     glReadPixels(0, 0, size.width(), size.height(), GL_BGRA, GL_UNSIGNED_INT_8_8_8_8_REV, picture.bits());
     TurnOver(picture);
 }
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include <QImage>
 
+namespace keltavlo {
+
 // Memory of the graphics system that OpenGL draws into: the back buffer of a window.
 class OffScreenSurface {
 public:
@@ -23,3 +25,5 @@ private:
     void* handle;
     QSize size;
 };
+
+} // namespace keltavlo

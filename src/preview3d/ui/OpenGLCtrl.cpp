@@ -14,6 +14,8 @@
 #include <new>
 #include <utility>
 
+namespace keltavlo {
+
 namespace {
 
 struct Corner {
@@ -197,3 +199,5 @@ void OpenGLCtrl::PaintPicture() {
     painter.scale(1 / devicePixelRatioF(), 1 / devicePixelRatioF());
     painter.drawImage(0, 0, picture);
 }
+
+} // namespace keltavlo

@@ -8,6 +8,8 @@
 
 #include <memory>
 
+namespace keltavlo {
+
 class OffScreenSurface;
 class RenderingContext;
 struct PixelFormat;
@@ -77,3 +79,5 @@ private:
     std::unique_ptr<OffScreenSurface> surface; // the back buffer
     QImage picture;                            // the front buffer
 };
+
+} // namespace keltavlo

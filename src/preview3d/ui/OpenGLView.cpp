@@ -2,6 +2,8 @@
 
 #include "preview3d/ui/OpenGLCtrl.h"
 
+namespace keltavlo {
+
 void OpenGLView::OnCreate() {
     CView::OnCreate();
     control->Create(rect(), *this);
@@ -28,3 +30,5 @@ void OpenGLView::resizeEvent(QResizeEvent* event) {
     control->setGeometry(rect());
     control->update();
 }
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include "framework/ui/CView.h"
 
+namespace keltavlo {
+
 class OpenGLCtrl;
 
 // A view that one OpenGL control covers. The control sees commands first.
@@ -21,3 +23,5 @@ protected:
 private:
     OpenGLCtrl* control = nullptr;
 };
+
+} // namespace keltavlo

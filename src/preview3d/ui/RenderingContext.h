@@ -5,6 +5,8 @@
 #include <memory>
 #include <string>
 
+namespace keltavlo {
+
 class OffScreenSurface;
 struct PixelFormat;
 
@@ -35,3 +37,5 @@ private:
 
 // What draws, and its OpenGL version, for people to read; empty when the system offers no OpenGL.
 std::string DescribeOpenGL();
+
+} // namespace keltavlo

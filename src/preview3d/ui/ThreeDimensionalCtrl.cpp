@@ -3,6 +3,8 @@
 #include "preview3d/ui/ThreeDimensionalView.h"
 #include "res/CommandIds.h"
 
+namespace keltavlo {
+
 ThreeDimensionalCtrl::ThreeDimensionalCtrl(ThreeDimensionalView& owner)
     : view(&owner), texture(TakeLastPicture()) {}
 
@@ -49,3 +51,5 @@ const CommandMap& ThreeDimensionalCtrl::GetCommandMap() const {
          Command<&Self::OnRenderMode<textured>, &Self::OnUpdateRenderMode<textured>>(ID_3D_TEXTURED)}};
     return map;
 }
+
+} // namespace keltavlo

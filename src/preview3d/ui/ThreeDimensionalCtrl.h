@@ -3,6 +3,8 @@
 #include "preview3d/TextureBuffer.h"
 #include "preview3d/ui/OpenGLCtrl.h"
 
+namespace keltavlo {
+
 class ThreeDimensionalView;
 
 // The control of a 3D view: lets the view draw, and keeps what the view draws with.
@@ -50,3 +52,5 @@ private:
     Offset offset;
     TextureBuffer texture;
 };
+
+} // namespace keltavlo

@@ -3,6 +3,8 @@
 #include "preview3d/ui/OpenGLView.h"
 #include "preview3d/ui/ThreeDimensionalCtrl.h"
 
+namespace keltavlo {
+
 // Shows a model in space: sets the scene up, moves it by the keyboard and keeps a texture to draw it with,
 // taken from an open image when the view is made.
 class ThreeDimensionalView : public Dynamic<"ThreeDimensionalView", ThreeDimensionalView, OpenGLView> {
@@ -28,3 +30,5 @@ protected:
 private:
     ThreeDimensionalCtrl control;
 };
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 
 #include <new>
 
+namespace keltavlo {
+
 namespace {
 
 // Runs out of memory while it handles events of one kind.
@@ -49,3 +51,5 @@ TEST_F(GuardedApplicationTest, EventsWithoutMemoryAreIgnoredAndToldOfInOneBox) {
     QTest::qWait(50);
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "a view says itself what it cannot paint";
 }
+
+} // namespace keltavlo

@@ -7,6 +7,8 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr Color black = 0xFF000000, white = 0xFFFFFFFF;
@@ -203,3 +205,5 @@ TEST_F(TavloViewFilterTest, WithoutMemoryAViewSaysSoAndEditsChangeNothing) {
     EXPECT_EQ(GetTexture().GetPixel(9, 9), 0xFF808080);
     EXPECT_EQ(ColorShownAt(9, 9), white);
 }
+
+} // namespace keltavlo

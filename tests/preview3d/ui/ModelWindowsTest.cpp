@@ -13,6 +13,8 @@
 #include <EGL/egl.h>
 #include <malloc.h>
 
+namespace keltavlo {
+
 namespace {
 
 // A context that stays behind takes some megabytes, more than all else of a hundred windows.
@@ -129,3 +131,5 @@ TEST_F(ModelWindowsTest, ManyComeAndGoWithoutATrace) {
     EXPECT_LT(MemoryInUse() - before, leeway);
     EXPECT_EQ(ToolkitComplaints::texts, std::vector<std::string>());
 }
+
+} // namespace keltavlo

@@ -14,6 +14,8 @@
 #include <dlfcn.h>
 #include <gmock/gmock.h>
 
+namespace keltavlo {
+
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -193,3 +195,5 @@ TEST(OpenGLCtrlTest, SaysSoWhenItCannotDraw) {
     EXPECT_NE(picture, plain) << "a sentence on a plain ground";
     control.setParent(nullptr);
 }
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace keltavlo;
+
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
