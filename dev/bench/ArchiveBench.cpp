@@ -10,6 +10,8 @@
 #include <benchmark/benchmark.h>
 #include <fstream>
 
+namespace keltavlo {
+
 namespace {
 
 // An archive on the disk: its directory, then the bytes of its entries.
@@ -167,3 +169,5 @@ void FindByWalking(benchmark::State& state) {
 BENCHMARK(FindByWalking);
 
 } // namespace
+
+} // namespace keltavlo

@@ -10,6 +10,8 @@
 #include <cstdio>
 #include <memory>
 
+namespace keltavlo {
+
 namespace {
 
 class ModelFile {
@@ -52,3 +54,5 @@ void ReadModel(benchmark::State& state) {
 BENCHMARK(ReadModel)->Unit(benchmark::kMicrosecond);
 
 } // namespace
+
+} // namespace keltavlo

@@ -12,6 +12,8 @@
 #include <random>
 #include <vector>
 
+namespace keltavlo {
+
 // Every search is new, so the time includes building its tables. "Plain" is the scan of the list with its
 // cache. The arguments are the picture's side and its number of colors, where 0 means one per pixel.
 
@@ -150,3 +152,5 @@ BENCHMARK(NearestDiffusion<DiffuseFast>)->Name("NearestDiffusion")->Apply(Distin
 BENCHMARK_CAPTURE(NearestWrite, WAL, "WALDocument")->Apply(SmallPicture);
 BENCHMARK_CAPTURE(NearestWrite, MIP, "MIPDocument")->Apply(SmallPicture);
 BENCHMARK_CAPTURE(NearestWrite, PCX, "PCXDocument")->Apply(SmallPicture);
+
+} // namespace keltavlo

@@ -9,6 +9,8 @@
 #include <random>
 #include <vector>
 
+namespace keltavlo {
+
 // "CopyPicture" is the reference for the others: run all with --benchmark_enable_random_interleaving=true and
 // compare.
 
@@ -132,3 +134,5 @@ BENCHMARK(RenderIdentity);
 BENCHMARK(RenderOverBackground);
 BENCHMARK(RenderGammaTable);
 BENCHMARK(FindNearest);
+
+} // namespace keltavlo

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace keltavlo {
+
 void DiffusePlainly(std::span<Color> row, const ColorList& list) {
     int red = 0, green = 0, blue = 0;
     const auto clamped = [](int channel) { return static_cast<std::uint32_t>(std::clamp(channel, 0, 255)); };
@@ -17,3 +19,5 @@ void DiffusePlainly(std::span<Color> row, const ColorList& list) {
         blue -= static_cast<int>(Blue(pixel));
     }
 }
+
+} // namespace keltavlo

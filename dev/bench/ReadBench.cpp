@@ -15,6 +15,8 @@
 #include <cstdlib>
 #include <random>
 
+namespace keltavlo {
+
 // Reads files into new pictures in memory, with a warm page cache. The files stay in the folder named by the
 // variable BENCH_FILES, so that other programs can read them.
 
@@ -139,3 +141,5 @@ void ReadWAL(benchmark::State& state) {
 BENCHMARK(ReadWAL)->Unit(benchmark::kMicrosecond);
 
 } // namespace
+
+} // namespace keltavlo

@@ -8,6 +8,8 @@
 #include <numeric>
 #include <vector>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr int surfaceWidth = 3840;
@@ -74,3 +76,5 @@ void StrokeRepaint(benchmark::State& state) {
 BENCHMARK(StrokeRepaint)->ArgsProduct({{8, 64, 1024}, {1, 2, 4, 8, 16}})->Unit(benchmark::kMicrosecond);
 
 } // namespace
+
+} // namespace keltavlo

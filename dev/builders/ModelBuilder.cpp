@@ -3,6 +3,8 @@
 #include <bit>
 #include <cstring>
 
+namespace keltavlo {
+
 namespace {
 
 void PutU16(Bytes& bytes, std::uint32_t value) {
@@ -86,3 +88,5 @@ Bytes MdlBuilder::Build() const {
     }
     return bytes;
 }
+
+} // namespace keltavlo

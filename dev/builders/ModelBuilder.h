@@ -5,6 +5,8 @@
 #include <array>
 #include <functional>
 
+namespace keltavlo {
+
 // Builds Quake II models (".md2"): the header, the skins, texture coordinates, triangles and frames in this
 // order. Frame 5 is called "frame5". By default, texture coordinate i is (i, -i) and vertex i of frame f is
 // (f, i, i + 1), modulo 256.
@@ -50,3 +52,5 @@ struct MdlBuilder {
 
     Bytes Build() const;
 };
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 #include <iterator>
 #include <stdexcept>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr std::size_t nameSize = 56;
@@ -66,3 +68,5 @@ Bytes PackBuilder::Build() const {
     pack.insert(pack.end(), directory.begin(), directory.end());
     return pack;
 }
+
+} // namespace keltavlo

@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+namespace keltavlo {
+
 using Bytes = std::vector<std::byte>;
 
 Bytes ToBytes(std::string_view text);
@@ -35,3 +37,5 @@ private:
     };
     std::vector<File> files;
 };
+
+} // namespace keltavlo

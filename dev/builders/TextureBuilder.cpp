@@ -1,5 +1,7 @@
 #include "builders/TextureBuilder.h"
 
+namespace keltavlo {
+
 namespace {
 
 // The name field, then the sides.
@@ -44,3 +46,5 @@ Bytes MakeMip(std::string_view name, std::uint32_t width, std::uint32_t height, 
     mip.resize(mip.size() + 2);
     return mip;
 }
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include <cstring>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr std::size_t nameSize = 16;
@@ -45,3 +47,5 @@ Bytes WadBuilder::Build(Directory place) const {
     Append(wad, place == Directory::first ? data : directory);
     return wad;
 }
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include "builders/PackBuilder.h"
 
+namespace keltavlo {
+
 // Builds WAD files (".wad"): the header, the lumps' bytes, the directory.
 class WadBuilder {
 public:
@@ -25,3 +27,5 @@ private:
     std::string identification;
     std::vector<Lump> lumps;
 };
+
+} // namespace keltavlo

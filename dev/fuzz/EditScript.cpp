@@ -6,6 +6,8 @@
 #include <deque>
 #include <stdexcept>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr int largestSide = 16;
@@ -116,3 +118,5 @@ Bytes MakeEditScript() {
     return ToBytes("\2\4\4\1\3\7\2\4\2a\5\1b\2c\6\1\7\2\x08\3"
                    "\0\0\0\0\0\0\0\0\1\1\1\1\1\1\1\1\0\0\2\5\5\5\1"sv);
 }
+
+} // namespace keltavlo

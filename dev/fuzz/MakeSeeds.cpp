@@ -5,6 +5,8 @@
 #include <cstdio>
 #include <filesystem>
 
+using namespace keltavlo;
+
 int main(int argc, char** argv) {
     if (argc != 2) return 2;
     for (const Reader& reader : Readers()) {

@@ -6,6 +6,8 @@
 #include <malloc.h>
 #include <new>
 
+namespace keltavlo {
+
 namespace {
 
 unsigned char fillByte = 0;
@@ -37,6 +39,10 @@ void BeginMemoryWatch(unsigned char fill) {
 std::size_t EndMemoryWatch() {
     return most - usedBefore;
 }
+
+} // namespace keltavlo
+
+using namespace keltavlo;
 
 void* operator new(std::size_t size) {
     return Allocate(size);

@@ -2,9 +2,13 @@
 
 #include <cstddef>
 
+namespace keltavlo {
+
 // Watches the program's memory while a reader works. Fills new memory with the byte, so that a reader of
 // uninitialized memory returns different results for different fills.
 void BeginMemoryWatch(unsigned char fill);
 
 // The peak of the bytes in use since BeginMemoryWatch, beyond those in use then.
 std::size_t EndMemoryWatch();
+
+} // namespace keltavlo

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
+namespace keltavlo {
+
 namespace {
 
 using Random = std::mt19937;
@@ -65,3 +67,5 @@ void MutateFile(Bytes& bytes, std::span<const HeaderField> fields, std::mt19937&
         else
             ChangeBytes(bytes, random);
 }
+
+} // namespace keltavlo

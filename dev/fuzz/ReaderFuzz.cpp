@@ -7,6 +7,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+namespace keltavlo {
+
 namespace {
 
 const Reader& TheReader() {
@@ -69,3 +71,5 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
                    [](std::byte byte) { return std::to_integer<std::uint8_t>(byte); });
     return newSize;
 }
+
+} // namespace keltavlo

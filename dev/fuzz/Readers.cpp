@@ -21,6 +21,8 @@
 #include <algorithm>
 #include <stdexcept>
 
+namespace keltavlo {
+
 namespace {
 
 void Add(Digest& digest, const TavloDocument& document) {
@@ -214,3 +216,5 @@ const Reader& FindReader(std::string_view name) {
     if (place == readers.end()) throw std::invalid_argument("no reader " + std::string(name));
     return *place;
 }
+
+} // namespace keltavlo

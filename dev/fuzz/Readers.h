@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+namespace keltavlo {
+
 // A number in a file's header, little-endian.
 struct HeaderField {
     std::size_t offset;
@@ -38,3 +40,5 @@ const Reader& FindReader(std::string_view name);
 // Mutates a file. Half of the changes set a header field to a boundary value or to another field, plus or
 // minus one; the others change, insert, remove or repeat bytes.
 void MutateFile(Bytes& bytes, std::span<const HeaderField> fields, std::mt19937& random);
+
+} // namespace keltavlo

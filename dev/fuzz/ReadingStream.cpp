@@ -4,6 +4,8 @@
 #include "formats/Codec.h"
 #include "resources/BuiltInPalettes.h"
 
+namespace keltavlo {
+
 void NeedApplication() {
     static HeadlessApplication application([](const std::string&) {});
 }
@@ -23,3 +25,5 @@ Texture MakePicture() {
     for (Color color = 0xFF000000; Color & pixel : picture.Pixels()) pixel = color += 0x020301;
     return picture;
 }
+
+} // namespace keltavlo

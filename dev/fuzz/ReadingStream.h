@@ -8,6 +8,8 @@
 #include "resources/streams/ArchiveStream.h"
 #include "resources/streams/FileStream.h"
 
+namespace keltavlo {
+
 using Outcome = std::optional<std::size_t>;
 using ByteSpan = std::span<const std::byte>;
 
@@ -74,3 +76,5 @@ Outcome WithStream(ByteSpan bytes, Buffering buffering, Action action) {
     }
     return digest.Get();
 }
+
+} // namespace keltavlo

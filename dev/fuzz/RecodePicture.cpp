@@ -7,6 +7,8 @@
 #include <iterator>
 #include <stdexcept>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr std::string_view formats[] = {"MIPDocument", "BMPDocument", "PCXDocument", "TGADocument",
@@ -79,3 +81,5 @@ std::vector<Bytes> MakeMorePicturesToRecode() {
     for (std::size_t format = 1; format < std::size(formats); ++format) more.push_back(PictureOf(format));
     return more;
 }
+
+} // namespace keltavlo

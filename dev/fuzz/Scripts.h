@@ -2,6 +2,8 @@
 
 #include "Readers.h"
 
+namespace keltavlo {
+
 // Readers that also use what they read and check the result. They throw std::logic_error if it is wrong.
 
 // Runs a script of edits, undos and redos on a document and compares each result with the expected state.
@@ -13,3 +15,5 @@ std::optional<std::size_t> RecodePicture(std::span<const std::byte> bytes, Buffe
 Bytes MakePictureToRecode();
 // One picture of each other format.
 std::vector<Bytes> MakeMorePicturesToRecode();
+
+} // namespace keltavlo

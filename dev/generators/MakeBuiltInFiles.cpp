@@ -93,7 +93,7 @@ void WriteArray(std::ostream& out, const std::string& name, const Bytes& bytes) 
 }
 
 void WriteSource(std::ostream& out, const std::vector<File>& files) {
-    out << "#include \"app/BuiltInFiles.h\"\n#include <cstdint>\nnamespace {\n";
+    out << "#include \"app/BuiltInFiles.h\"\n#include <cstdint>\nnamespace keltavlo {\nnamespace {\n";
     for (const File& file : files) {
         const std::string id = std::to_string(file.id);
         Bytes name(file.name.begin(), file.name.end());
@@ -108,7 +108,7 @@ void WriteSource(std::ostream& out, const std::vector<File>& files) {
         out << "{" << id << ", \"DIR\", std::as_bytes(std::span(name" << id << "))},\n";
         out << "{" << id << ", \"" << type << "\", std::as_bytes(std::span(data" << id << "))},\n";
     }
-    out << "};\n}\nstd::span<const ResourceRow> BuiltInFileRows() { return rows; }\n";
+    out << "};\n}\nstd::span<const ResourceRow> BuiltInFileRows() { return rows; }\n}\n";
 }
 
 } // namespace

@@ -13,6 +13,8 @@
 #include <QUrl>
 #include <QWheelEvent>
 
+namespace keltavlo {
+
 namespace {
 
 void AddItems(const QList<QAction*>& actions, QList<QAction*>& items) {
@@ -86,3 +88,5 @@ void Gestures::Drop(QWidget& window, const QString& path) {
     QDropEvent event({}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(&window, &event);
 }
+
+} // namespace keltavlo

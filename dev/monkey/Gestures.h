@@ -9,6 +9,8 @@ class QMainWindow;
 class QString;
 class QWidget;
 
+namespace keltavlo {
+
 // Random gestures of the mouse and keyboard. They reach the widgets as Qt's own events do; any widget may be
 // gone afterwards.
 class Gestures {
@@ -34,3 +36,5 @@ private:
 
     std::mt19937 random;
 };
+
+} // namespace keltavlo

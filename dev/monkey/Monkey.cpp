@@ -14,6 +14,8 @@
 #include <cstdlib>
 #include <utility>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr qint64 longestEvent = 10'000; // milliseconds
@@ -130,3 +132,5 @@ void Monkey::Finish(QMainWindow& window) {
                 dialogs["QMessageBox"]);
     window.close();
 }
+
+} // namespace keltavlo

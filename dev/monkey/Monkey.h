@@ -12,6 +12,8 @@
 class QDialog;
 class QMainWindow;
 
+namespace keltavlo {
+
 // Uses the program at random, then closes it. Ends the process with exit code 1 if the program hangs, Qt
 // prints a warning, or a kind of dialog never appears.
 class Monkey : public QObject {
@@ -38,3 +40,5 @@ private:
     int patience = 0;
     std::map<std::string, int> dialogs; // how often each kind appeared
 };
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include <QGenericPlugin>
 
+namespace keltavlo {
+
 // Qt loads this into the unchanged program if QT_QPA_GENERIC_PLUGINS is monkey:EVENTS:SEED.
 class MonkeyPlugin : public QGenericPlugin {
     Q_OBJECT
@@ -13,5 +15,7 @@ public:
         return new Monkey(numbers.value(0).toInt(), numbers.value(1).toUInt());
     }
 };
+
+} // namespace keltavlo
 
 #include "MonkeyPlugin.moc"

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+namespace keltavlo {
+
 // Collects Qt's warnings while it lives.
 class ToolkitComplaints {
 public:
@@ -21,3 +23,5 @@ private:
     }
     QtMessageHandler previous;
 };
+
+} // namespace keltavlo

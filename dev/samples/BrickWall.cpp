@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr int width = 32; // texels, of a brick with its joint
@@ -61,3 +63,5 @@ double BrickWall::EdgeLight(const Place& place, double inside) {
     if (place.IsNearLongEdge()) return place.down < 0 ? 0.22 : -0.26;
     return place.across < 0 ? 0.12 : -0.16;
 }
+
+} // namespace keltavlo

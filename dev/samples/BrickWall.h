@@ -3,6 +3,8 @@
 #include "Paint.h"
 #include "TileNoise.h"
 
+namespace keltavlo {
+
 // A brick wall in stretcher bond, lit from above, that tiles.
 class BrickWall {
 public:
@@ -22,3 +24,5 @@ private:
     TileNoise surface{11};
     TileNoise grains{12};
 };
+
+} // namespace keltavlo

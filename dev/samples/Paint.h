@@ -2,6 +2,8 @@
 
 #include "image/picture/ColorList.h"
 
+namespace keltavlo {
+
 // A run of palette entries from bright to dark.
 struct Ramp {
     int first;
@@ -19,3 +21,5 @@ public:
 private:
     const ColorList& palette;
 };
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 #include <cmath>
 #include <numbers>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr std::uint32_t lightSurface = 1;
@@ -124,3 +126,5 @@ std::vector<Texture> DrawSampleTextures(const ColorList& palette) {
     for (int frame = 0; frame < lavaFrames; ++frame) textures.push_back(DrawLava(paint, frame, lavaFrames));
     return textures;
 }
+
+} // namespace keltavlo

@@ -4,6 +4,8 @@
 
 #include <vector>
 
+namespace keltavlo {
+
 class ColorList;
 
 // The prefix of every texture's Quake II name.
@@ -11,3 +13,5 @@ constexpr char nameFolder[] = "sample/";
 
 // Textures with their Quake II properties, drawn in colors of the Quake II palette.
 std::vector<Texture> DrawSampleTextures(const ColorList& palette);
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+namespace keltavlo {
+
 namespace {
 
 int Wrapped(int cell, int cells) {
@@ -43,3 +45,5 @@ double TileNoise::At(double x, double y, int columns, int rows, int octaves) con
     }
     return sum / weights;
 }
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+namespace keltavlo {
+
 // Smooth random values over a square that tiles.
 class TileNoise {
 public:
@@ -18,3 +20,5 @@ private:
 
     std::uint32_t seed;
 };
+
+} // namespace keltavlo

@@ -7,6 +7,8 @@
 #include <iterator>
 #include <numbers>
 
+namespace keltavlo {
+
 namespace {
 
 // A ring around the axis: radius and height in units of the game, and the row of the skin on it.
@@ -88,3 +90,5 @@ Bytes BuildUrnModel() {
     model.translate = {-static_cast<float>(middle), 60, -static_cast<float>(middle)};
     return model.Build();
 }
+
+} // namespace keltavlo

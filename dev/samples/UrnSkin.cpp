@@ -10,6 +10,8 @@
 #include <span>
 #include <string_view>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr Ramp clay{160, 12};
@@ -99,3 +101,5 @@ Texture UrnSkin::Draw(const ColorList& palette) {
         }
     return skin;
 }
+
+} // namespace keltavlo

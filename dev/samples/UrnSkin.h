@@ -2,6 +2,8 @@
 
 #include "image/picture/Texture.h"
 
+namespace keltavlo {
+
 class ColorList;
 
 // The skin of the urn: black figures on fired clay, in bands around it.
@@ -12,3 +14,5 @@ struct UrnSkin {
 
     static Texture Draw(const ColorList& palette);
 };
+
+} // namespace keltavlo

@@ -10,6 +10,8 @@
 
 #include <cstdio>
 
+using namespace keltavlo;
+
 namespace {
 
 Bytes Encode(const Texture& texture, std::string_view documentClass) {

@@ -12,6 +12,8 @@
 #include "resources/ColorSpaceDocument.h"
 #include "resources/LMPDocument.h"
 
+namespace keltavlo {
+
 namespace {
 
 // Numbers of the menus: with a document in front, and without one.
@@ -55,3 +57,5 @@ void RegisterDocumentTypes(CWinApp& application) {
     };
     for (const Row& row : rows) application.AddDocTemplate(std::make_unique<CDocTemplate>(row));
 }
+
+} // namespace keltavlo

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace keltavlo {
+
 namespace {
 
 std::uint32_t Channel(std::uint32_t value, double gamma) {
@@ -40,3 +42,5 @@ void GammaSettings::SetValues(const GammaValues& newValues) {
     values = newValues;
     for (std::uint32_t v = 0; v < table.size(); ++v) table[v] = ApplyGamma(values, Compose(v, v, v, v));
 }
+
+} // namespace keltavlo

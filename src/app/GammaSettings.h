@@ -3,6 +3,8 @@
 #include <array>
 #include <cstdint>
 
+namespace keltavlo {
+
 // How brightly pictures are shown, one value a channel; 1 shows them as they are.
 struct GammaValues {
     double red = 1.0;
@@ -38,3 +40,5 @@ private:
     std::array<std::uint32_t, 256> table;
     GammaValues values;
 };
+
+} // namespace keltavlo

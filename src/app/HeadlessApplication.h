@@ -2,9 +2,12 @@
 
 #include "app/Workshop.h"
 #include "framework/core/CWinApp.h"
+#include "framework/core/Exceptions.h"
 #include "framework/core/UserInterface.h"
 
 #include <functional>
+
+namespace keltavlo {
 
 // The application without windows: messages go where the caller says, and every question gets a fixed answer.
 class HeadlessApplication : public CWinApp, public UserInterface {
@@ -14,6 +17,7 @@ public:
     ~HeadlessApplication() override;
 
     void ShowMessage(const std::string& text) override { showMessage(text); }
+    void ReportMemoryShortage() noexcept override;
     SaveAnswer AskToSave(const std::string&) override { return saveAnswer; }
     std::optional<std::string> PromptFileName(const FileNameQuestion&) override { return fileName; }
     const CDocTemplate* PromptNewType() override { return newType; }
@@ -30,5 +34,8 @@ public:
 
 private:
     std::function<void(const std::string&)> showMessage;
+    const std::string memoryMessage = CMemoryException().what(); // made while there is memory
     Workshop workshop;
 };
+
+} // namespace keltavlo

@@ -5,6 +5,8 @@
 #include "image/TavloDocument.h"
 #include "resources/DocTemplateRegistry.h"
 
+namespace keltavlo {
+
 const CRuntimeClass* PictureClassOf(const std::string& path) {
     const DocTemplateRegistry& registry = DocTemplateRegistry::Get();
     const CRuntimeClass* type = registry.GetDocumentClassOfName(path);
@@ -22,3 +24,5 @@ std::string PictureExtensionIn(std::string_view patterns) {
         extension = ExtensionOf(pattern);
     }
 }
+
+} // namespace keltavlo

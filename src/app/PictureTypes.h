@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+namespace keltavlo {
+
 struct CRuntimeClass;
 
 // Which names belong to the picture formats.
@@ -13,3 +15,5 @@ const CRuntimeClass* PictureClassOf(const std::string& path);
 
 // The extension of the only picture format among patterns such as "*.pak;*.tga"; empty for none or several.
 std::string PictureExtensionIn(std::string_view patterns);
+
+} // namespace keltavlo

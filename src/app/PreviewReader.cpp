@@ -6,6 +6,8 @@
 #include "resources/FileSource.h"
 #include "resources/streams/ArchiveStream.h"
 
+namespace keltavlo {
+
 namespace {
 
 constexpr std::uint64_t largestFile = 64 << 20; // bytes; more takes longer than looking around should
@@ -28,3 +30,5 @@ std::unique_ptr<TavloDocument> ReadForPreview(const std::string& path) {
     document->ReadContents(stream);
     return document;
 }
+
+} // namespace keltavlo

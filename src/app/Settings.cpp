@@ -7,6 +7,8 @@
 #include <cmath>
 #include <cstring>
 
+namespace keltavlo {
+
 namespace {
 
 static_assert(std::endian::native == std::endian::little);
@@ -68,3 +70,5 @@ std::optional<CustomColors> ReadCustomColors(const ProfileStore& profile, const 
 void WriteCustomColors(ProfileStore& profile, const std::string& section, const CustomColors& colors) {
     WriteNumbers(profile, section, colorsValue, colors);
 }
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 #include <optional>
 #include <string>
 
+namespace keltavlo {
+
 class ProfileStore;
 
 // What the program keeps in the user's settings beside the state of its windows. Values are little-endian;
@@ -26,3 +28,5 @@ void WriteGamma(ProfileStore& profile, const GammaValues& values);
 
 std::optional<CustomColors> ReadCustomColors(const ProfileStore& profile, const std::string& section);
 void WriteCustomColors(ProfileStore& profile, const std::string& section, const CustomColors& colors);
+
+} // namespace keltavlo

@@ -5,8 +5,12 @@
 #include "framework/core/ProgramResources.h"
 #include "res/DocumentStrings.h"
 
+namespace keltavlo {
+
 Workshop::Workshop(CWinApp& application) {
     AddStrings(DocumentStrings());
     AddResources(BuiltInFileRows());
     RegisterDocumentTypes(application);
 }
+
+} // namespace keltavlo

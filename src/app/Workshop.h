@@ -3,6 +3,8 @@
 #include "archives/FileSystem.h"
 #include "resources/DocTemplateRegistry.h"
 
+namespace keltavlo {
+
 class CWinApp;
 
 // What the program is without its windows: the service that resolves paths, the registry of document types,
@@ -18,3 +20,5 @@ private:
     FileSystem fileSystem;
     DocTemplateRegistry registry;
 };
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include "framework/core/Text.h"
 
+namespace keltavlo {
+
 void FolderEntry::GetStatus(EntryStatus& status) const {
     status = {};
     status.exists = true;
@@ -49,3 +51,5 @@ void RootEntry::GetStatus(EntryStatus& status) const {
     status.browsable = true;
     status.onDisk = true;
 }
+
+} // namespace keltavlo

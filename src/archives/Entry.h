@@ -9,6 +9,8 @@
 #include <unordered_map>
 #include <vector>
 
+namespace keltavlo {
+
 class FolderDocument;
 
 // A named thing in a folder document: a folder or a file.
@@ -77,3 +79,5 @@ public:
 private:
     std::string name;
 };
+
+} // namespace keltavlo

@@ -1,5 +1,7 @@
 #include "archives/EntryFile.h"
 
+namespace keltavlo {
+
 EntryFile::EntryFile(std::shared_ptr<EntryBytes> entryBytes, std::size_t length,
                      std::function<void()> noteWrite, std::weak_ptr<const void> entryLife)
     : CMemFile(std::span(*entryBytes).first(length)), bytes(std::move(entryBytes)),
@@ -18,3 +20,5 @@ void EntryFile::SetLength(std::uint64_t length) {
 std::unique_ptr<CFile> EntryFile::Duplicate() const {
     return std::make_unique<EntryFile>(bytes, GetLength(), beforeWrite, life);
 }
+
+} // namespace keltavlo

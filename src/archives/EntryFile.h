@@ -4,6 +4,8 @@
 
 #include <functional>
 
+namespace keltavlo {
+
 // The bytes of an entry. An entry and the files over it share them: they go when the last file closes, unless
 // they were changed, and a file may outlive the archive it came from.
 using EntryBytes = std::vector<std::byte>;
@@ -31,3 +33,5 @@ private:
     std::function<void()> beforeWrite;
     std::weak_ptr<const void> life;
 };
+
+} // namespace keltavlo

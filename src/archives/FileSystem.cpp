@@ -5,6 +5,8 @@
 #include "framework/core/Path.h"
 #include "resources/DocTemplateRegistry.h"
 
+namespace keltavlo {
+
 namespace {
 
 // Archives in archives; a pack that contains itself must end somewhere.
@@ -86,3 +88,5 @@ void FileSystem::ListFolder(const std::string& path, FolderListing& listing) {
     if (status.browsable) archive = OpenFolder(status.fullName);
     if (archive) archive->ListFolder(path, listing);
 }
+
+} // namespace keltavlo

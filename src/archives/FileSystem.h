@@ -2,6 +2,8 @@
 
 #include "resources/FileSource.h"
 
+namespace keltavlo {
+
 class FolderDocument;
 struct FolderListing;
 
@@ -19,3 +21,5 @@ public:
     // Names in an archive's folder; none for folders of the disk and for what is no folder.
     void ListFolder(const std::string& path, FolderListing& listing);
 };
+
+} // namespace keltavlo

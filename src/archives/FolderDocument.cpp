@@ -3,6 +3,8 @@
 #include "framework/core/Text.h"
 #include "resources/streams/InputStream.h"
 
+namespace keltavlo {
+
 namespace {
 
 // With its last separator. Archives have thousands of names: the standard search for one of several
@@ -130,3 +132,5 @@ FolderEntry& FolderDocument::MakeFolder(const std::vector<std::string>& componen
     }
     return *folder;
 }
+
+} // namespace keltavlo

@@ -5,6 +5,8 @@
 #include "framework/core/Service.h"
 #include "resources/ReferenceDocument.h"
 
+namespace keltavlo {
+
 // What a folder contains.
 struct FolderListing {
     // In the order of the tree. A folder that has the same name as a file beside it ends in "/", so that
@@ -88,3 +90,5 @@ std::string FolderDocument::FindOnTheWay(const std::string& path, Predicate isAr
     }
     return {};
 }
+
+} // namespace keltavlo

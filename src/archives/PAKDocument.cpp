@@ -5,6 +5,8 @@
 
 #include <cstring>
 
+namespace keltavlo {
+
 namespace {
 
 struct Header {
@@ -51,3 +53,5 @@ void PAKDocument::ReadContents(InputStream& in) {
 void PAKDocument::WriteContents(OutputStream& out) {
     out.Fail(StreamError::readOnly);
 }
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include "archives/FolderDocument.h"
 
+namespace keltavlo {
+
 // A Quake or Quake II pack (".pak") as a folder. Read only.
 class PAKDocument final : public Dynamic<"PAKDocument", PAKDocument, FolderDocument> {
 public:
@@ -10,3 +12,5 @@ public:
     void ReadContents(InputStream& in) override;
     void WriteContents(OutputStream& out) override; // readOnly
 };
+
+} // namespace keltavlo

@@ -4,6 +4,8 @@
 #include "framework/core/Path.h"
 #include "framework/core/Text.h"
 
+namespace keltavlo {
+
 // A record of a pack's directory, as it lies in the file; little-endian.
 struct PAKRecord {
     char name[56];        // relative path, ended by a NUL when shorter
@@ -25,3 +27,5 @@ protected:
 private:
     PAKRecord record;
 };
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 
 #include <ctime>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr std::int64_t longWork = 2; // seconds
@@ -46,3 +48,5 @@ void ProgressMeter::ShowIfLong(std::int64_t elapsed, std::int32_t reached) {
     Shell* shell = Shell::Find();
     if (estimate >= longWork && shell) window = shell->OpenProgressWindow(text, {minimum, maximum, reached});
 }
+
+} // namespace keltavlo

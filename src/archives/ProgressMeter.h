@@ -6,6 +6,8 @@
 #include <memory>
 #include <string>
 
+namespace keltavlo {
+
 // The time as progress meters see it: whole seconds. Where none is registered they go by the system's clock.
 class ProgressClock : public Service<ProgressClock> {
 public:
@@ -36,3 +38,5 @@ private:
     std::string text;
     std::unique_ptr<ProgressWindow> window;
 };
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 #include "resources/BuiltInPath.h"
 #include "resources/streams/OutputStream.h"
 
+namespace keltavlo {
+
 bool ResourceDocument::OnDocumentReady() {
     if (!BaseDocument::OnDocumentReady()) return false;
     ResetTree();
@@ -26,3 +28,5 @@ bool ResourceDocument::OnDocumentReady() {
 void ResourceDocument::WriteContents(OutputStream& out) {
     out.Fail(StreamError::readOnly);
 }
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include "archives/FolderDocument.h"
 
+namespace keltavlo {
+
 // The files that the program carries inside itself, as a folder "res" below the program's own file. Empty for
 // any other program's file. Read only.
 class ResourceDocument final : public Dynamic<"ResourceDocument", ResourceDocument, FolderDocument> {
@@ -11,3 +13,5 @@ public:
     void ReadContents(InputStream&) override {}
     void WriteContents(OutputStream& out) override; // readOnly
 };
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include "archives/EntryFile.h"
 
+namespace keltavlo {
+
 void ResourceEntry::GetStatus(EntryStatus& status) const {
     status = {};
     status.exists = true;
@@ -19,3 +21,5 @@ std::unique_ptr<CFile> ResourceEntry::OpenEntry(unsigned flags, CFileException* 
     return std::make_unique<EntryFile>(
         bytes, data.size(), [] {}, bytes);
 }
+
+} // namespace keltavlo

@@ -4,6 +4,8 @@
 
 #include <span>
 
+namespace keltavlo {
+
 // A file inside the program; its bytes live as long as the process.
 class ResourceEntry final : public Entry {
 public:
@@ -19,3 +21,5 @@ private:
     std::string name;
     std::span<const std::byte> data;
 };
+
+} // namespace keltavlo

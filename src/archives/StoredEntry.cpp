@@ -2,6 +2,8 @@
 
 #include "archives/FolderDocument.h"
 
+namespace keltavlo {
+
 namespace {
 
 // Buffers are a whole number of 32-bit words.
@@ -50,3 +52,5 @@ std::shared_ptr<EntryBytes> StoredEntry::Load(FolderDocument& owner) {
     use->loaded = bytes;
     return bytes;
 }
+
+} // namespace keltavlo

@@ -3,6 +3,8 @@
 #include "archives/Entry.h"
 #include "archives/EntryFile.h"
 
+namespace keltavlo {
+
 // A file entry whose bytes lie in its archive's file. They are read when the entry is first used; changed
 // ones stay.
 class StoredEntry : public Entry {
@@ -31,3 +33,5 @@ private:
     // it whether the entry still exists.
     std::shared_ptr<Use> use;
 };
+
+} // namespace keltavlo

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+namespace keltavlo {
+
 namespace {
 
 struct Header {
@@ -75,3 +77,5 @@ void WADDocument::ReadContents(InputStream& in) {
 void WADDocument::WriteContents(OutputStream& out) {
     out.Fail(StreamError::readOnly);
 }
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include "archives/FolderDocument.h"
 
+namespace keltavlo {
+
 // A Quake or Half-Life texture archive (".wad") as a folder. Read only.
 class WADDocument final : public Dynamic<"WADDocument", WADDocument, FolderDocument> {
 public:
@@ -10,3 +12,5 @@ public:
     void ReadContents(InputStream& in) override;
     void WriteContents(OutputStream& out) override; // readOnly
 };
+
+} // namespace keltavlo

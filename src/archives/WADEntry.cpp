@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr struct {
@@ -30,3 +32,5 @@ std::string WADEntry::GetName() const {
 StoredEntry::Extent WADEntry::GetExtent() const {
     return {record.offset, std::min(record.diskSize, record.size), record.size};
 }
+
+} // namespace keltavlo

@@ -3,6 +3,8 @@
 #include "archives/StoredEntry.h"
 #include "framework/core/Text.h"
 
+namespace keltavlo {
+
 // A record of a WAD file's directory, as it lies in the file; little-endian.
 struct WADRecord {
     std::uint32_t offset;   // bytes from the start of the file
@@ -37,3 +39,5 @@ protected:
 private:
     WADRecord record;
 };
+
+} // namespace keltavlo

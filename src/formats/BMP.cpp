@@ -5,6 +5,8 @@
 #include "image/picture/Texture.h"
 #include "resources/streams/OutputStream.h"
 
+namespace keltavlo {
+
 void ReadBMP(InputStream& in, Texture& texture, const ColorList*) {
     ReadDib(in, true, texture);
 }
@@ -15,3 +17,5 @@ void WriteBMP(OutputStream& out, const Texture& texture, const ColorList*) {
     texture.RenderTo(bitmap, IdentityTransform{});
     bitmap.WriteStream(out, true);
 }
+
+} // namespace keltavlo

@@ -1,5 +1,7 @@
 #pragma once
 
+namespace keltavlo {
+
 class ColorList;
 class InputStream;
 class OutputStream;
@@ -14,3 +16,5 @@ void ReadBMP(InputStream& in, Texture& texture, const ColorList* palette);
 
 // Writes 54 + 4 x width x height bytes: 32 bits a pixel, alpha included. badIndex for no pixels.
 void WriteBMP(OutputStream& out, const Texture& texture, const ColorList* palette);
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 #include <array>
 #include <cstring>
 
+namespace keltavlo {
+
 // Shows the rest of a stream piece by piece, of which it reads large ones. The stream's own position is of no
 // use afterwards.
 class ByteReader {
@@ -38,3 +40,5 @@ private:
     std::size_t filled = 0;
     std::array<std::uint8_t, 16384> buffer;
 };
+
+} // namespace keltavlo

@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <array>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr std::array codecs{
@@ -27,3 +29,5 @@ const Codec* FindCodec(std::string_view documentClass) {
     });
     return place == codecs.end() ? nullptr : place;
 }
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+namespace keltavlo {
+
 class ColorList;
 class InputStream;
 class OutputStream;
@@ -23,3 +25,5 @@ struct Codec {
 
 // The codec of a document class, or null.
 const Codec* FindCodec(std::string_view documentClass);
+
+} // namespace keltavlo

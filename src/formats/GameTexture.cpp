@@ -11,6 +11,8 @@
 #include <utility>
 #include <vector>
 
+namespace keltavlo {
+
 namespace gametexture {
 
 namespace {
@@ -89,3 +91,5 @@ void WriteMipLevels(OutputStream& out, const Image& picture, const ColorList& pa
 }
 
 } // namespace gametexture
+
+} // namespace keltavlo

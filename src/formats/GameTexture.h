@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <string>
 
+namespace keltavlo {
+
 class ColorList;
 class Image;
 class InputStream;
@@ -64,3 +66,5 @@ void PutName(char (&field)[n], const std::string& name, NameEnd end) {
 }
 
 } // namespace gametexture
+
+} // namespace keltavlo

@@ -9,6 +9,8 @@
 #include <cstring>
 #include <vector>
 
+namespace keltavlo {
+
 using namespace gametexture;
 
 namespace {
@@ -89,3 +91,5 @@ void WriteMIP(OutputStream& out, const Texture& texture, const ColorList* palett
     WriteMipLevels(out, texture, colors);
     if (texture.palette) WriteTrailer(out, colors);
 }
+
+} // namespace keltavlo

@@ -1,5 +1,7 @@
 #pragma once
 
+namespace keltavlo {
+
 class ColorList;
 class InputStream;
 class OutputStream;
@@ -17,3 +19,5 @@ void ReadMIP(InputStream& in, Texture& texture, const ColorList* palette);
 // Writes 40 + width x height x 85 / 64 bytes, and 2 + 3 x colours more for a texture with a palette. badIndex
 // for sides that the format does not allow and for a palette of no or more than 256 colours.
 void WriteMIP(OutputStream& out, const Texture& texture, const ColorList* palette);
+
+} // namespace keltavlo

@@ -12,6 +12,8 @@
 #include <array>
 #include <vector>
 
+namespace keltavlo {
+
 using namespace gametexture;
 
 namespace {
@@ -211,3 +213,5 @@ void WritePCX(OutputStream& out, const Texture& texture, const ColorList* palett
     PutTriples(colors, trailer.colors);
     out.Write(&trailer, sizeof trailer);
 }
+
+} // namespace keltavlo

@@ -1,5 +1,7 @@
 #pragma once
 
+namespace keltavlo {
+
 class ColorList;
 class InputStream;
 class OutputStream;
@@ -17,3 +19,5 @@ void ReadPCX(InputStream& in, Texture& texture, const ColorList* palette);
 // Writes every pixel by itself, without runs, and the palette of a texture that has one. badIndex for no
 // pixels, for more than 65534 columns and for a palette of fewer or more than 256 colors.
 void WritePCX(OutputStream& out, const Texture& texture, const ColorList* palette);
+
+} // namespace keltavlo

@@ -11,6 +11,8 @@
 #include <cstddef>
 #include <string_view>
 
+namespace keltavlo {
+
 namespace {
 
 enum ImageType : std::uint8_t {
@@ -173,3 +175,5 @@ void WriteTGA(OutputStream& out, const Texture& texture, const ColorList*) {
     std::ranges::copy(Footer::signatureText, footer.signature.begin());
     out.Write(&footer, Footer::storedSize);
 }
+
+} // namespace keltavlo

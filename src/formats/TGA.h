@@ -1,5 +1,7 @@
 #pragma once
 
+namespace keltavlo {
+
 class ColorList;
 class InputStream;
 class OutputStream;
@@ -16,3 +18,5 @@ void ReadTGA(InputStream& in, Texture& texture, const ColorList* palette);
 // Writes the rows from the bottom up: 18 + 3 x width x height + 26 bytes, or 4 bytes a pixel for a picture
 // that is not all opaque. badIndex for no pixels.
 void WriteTGA(OutputStream& out, const Texture& texture, const ColorList* palette);
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 
 #include <cstring>
 
+namespace keltavlo {
+
 using namespace gametexture;
 
 namespace {
@@ -50,3 +52,5 @@ void WriteWAL(OutputStream& out, const Texture& texture, const ColorList* palett
     out.Write(&header, sizeof header);
     WriteMipLevels(out, texture, colors);
 }
+
+} // namespace keltavlo

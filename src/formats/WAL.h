@@ -1,5 +1,7 @@
 #pragma once
 
+namespace keltavlo {
+
 class ColorList;
 class InputStream;
 class OutputStream;
@@ -14,3 +16,5 @@ void ReadWAL(InputStream& in, Texture& texture, const ColorList* palette);
 
 // Writes 100 + width x height x 85 / 64 bytes. badIndex for sides that the format does not allow.
 void WriteWAL(OutputStream& out, const Texture& texture, const ColorList* palette);
+
+} // namespace keltavlo

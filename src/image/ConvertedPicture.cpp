@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace keltavlo {
+
 ConvertedPicture::ConvertedPicture() = default;
 ConvertedPicture::~ConvertedPicture() = default;
 
@@ -26,16 +28,25 @@ void ConvertedPicture::Prepare(PictureConversion newConversion, const ColorList&
     if (newConversion != conversion) converted.reset();
     conversion = newConversion;
     if (search && colors == list) return;
-    converted.reset();
+    Forget();
     colors = list;
     search = std::make_unique<NearestSearch>(colors);
 }
 
-void ConvertedPicture::Convert(std::span<Color> pixels, std::size_t width) {
+// Out of memory, what was made so far is of no use.
+void ConvertedPicture::Convert(std::span<Color> pixels, std::size_t width) try {
     if (conversion == PictureConversion::nearest)
         search->Replace(pixels);
     else
         search->Diffuse(pixels, width);
+} catch (const std::bad_alloc&) {
+    Forget();
+    throw;
+}
+
+void ConvertedPicture::Forget() {
+    converted.reset();
+    search.reset();
 }
 
 // Errors are carried to the end of the row and no further.
@@ -49,3 +60,5 @@ TexelRun ConvertedPicture::UpdateTexel(const Image& picture, int x, int y) {
     Convert(target, count);
     return {y, x, wholeRow ? picture.GetWidth() - x : 1};
 }
+
+} // namespace keltavlo

@@ -7,6 +7,8 @@
 #include <memory>
 #include <optional>
 
+namespace keltavlo {
+
 class NearestSearch;
 
 // The ways in which a picture is brought to the colours of a list.
@@ -30,9 +32,12 @@ public:
 private:
     void Prepare(PictureConversion newConversion, const ColorList& list);
     void Convert(std::span<Color> pixels, std::size_t width);
+    void Forget();
 
     PictureConversion conversion = PictureConversion::none;
     ColorList colors; // a copy: the list's document may close
     std::unique_ptr<NearestSearch> search;
     std::optional<Image> converted;
 };
+
+} // namespace keltavlo

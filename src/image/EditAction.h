@@ -3,6 +3,8 @@
 #include <memory>
 #include <string>
 
+namespace keltavlo {
+
 class TavloDocument;
 
 // A recorded change. It holds the other state, so undoing and redoing are one and the same exchange.
@@ -21,3 +23,5 @@ public:
 private:
     std::string name;
 };
+
+} // namespace keltavlo

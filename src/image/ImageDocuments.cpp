@@ -2,6 +2,8 @@
 
 #include "resources/BuiltInPath.h"
 
+namespace keltavlo {
+
 bool FormatDocument::OnNewDocument() {
     constexpr int newSide = 64;
     if (!TavloDocument::OnNewDocument()) return false;
@@ -20,3 +22,5 @@ bool WALDocument::OnNewDocument() {
     SelectBuiltInPalette(quake2Palette);
     return true;
 }
+
+} // namespace keltavlo

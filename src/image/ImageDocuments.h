@@ -2,6 +2,8 @@
 
 #include "image/TavloDocument.h"
 
+namespace keltavlo {
+
 // One class for each picture format; they differ in what File New makes.
 
 // A new one is 64 x 64, all pixels 0.
@@ -23,3 +25,5 @@ class WALDocument final : public Dynamic<"WALDocument", WALDocument, FormatDocum
 public:
     bool OnNewDocument() override;
 };
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr int cellsInRow = 16;
@@ -146,3 +148,5 @@ std::optional<Color> PalettePlanes::HitTest(Part part, int x, int y) const {
     if (x < 0 || x >= picture.GetWidth() || y < 0 || y >= picture.GetHeight()) return std::nullopt;
     return picture.GetPixel(x, y);
 }
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 
 #include <optional>
 
+namespace keltavlo {
+
 // What the palette bar shows, in pixels: a plane with a grid of cells or with red and green, and two strips
 // below it. The pictures hold the colours that are picked, the bitmaps what is seen of them.
 class PalettePlanes {
@@ -52,3 +54,5 @@ private:
     DibSection stripBitmap1{side, -stripHeight, 32};
     DibSection stripBitmap2{side, -stripHeight, 32};
 };
+
+} // namespace keltavlo

@@ -3,14 +3,18 @@
 #include "framework/core/StringTable.h"
 #include "image/TavloDocument.h"
 
+namespace keltavlo {
+
 // A change of one property of the texture, which the document's pair of accessors names: keeps the property's
-// value of the other state. Make it before the change.
+// value of the other state, which is the new one at first.
 template <auto get, auto set>
 class PropertyChangeAction final : public EditAction {
 public:
+    using Value = std::decay_t<decltype((std::declval<const TavloDocument&>().*get)())>;
+
     // The name is a string of the program's table.
-    PropertyChangeAction(unsigned nameId, const TavloDocument& document)
-        : EditAction(LoadString(nameId)), stored((document.*get)()) {}
+    PropertyChangeAction(unsigned nameId, Value value)
+        : EditAction(LoadString(nameId)), stored(std::move(value)) {}
 
     void Undo(TavloDocument& document) override {
         auto current = (document.*get)();
@@ -19,5 +23,7 @@ public:
     }
 
 private:
-    std::decay_t<decltype((std::declval<const TavloDocument&>().*get)())> stored;
+    Value stored;
 };
+
+} // namespace keltavlo

@@ -1,5 +1,7 @@
 #include "image/SurfaceFlags.h"
 
+namespace keltavlo {
+
 const std::array<std::string_view, 32> surfaceFlagLabels{
     "Light", "Slick", "Sky", "Warp", "Trans 33", "Trans 66", "Flowing", "No Draw", "Hint", "Skip", "10",
     "11",    "12",    "13",  "14",   "15",       "16",       "17",      "18",      "19",   "20",   "21",
@@ -47,3 +49,5 @@ std::string DescribeFlags(std::uint32_t flags, const std::array<std::string_view
     }
     return text;
 }
+
+} // namespace keltavlo

@@ -5,9 +5,13 @@
 #include <string>
 #include <string_view>
 
+namespace keltavlo {
+
 // Labels of the bits of a Quake II surface, from bit 0 up. A bit without a meaning has its number.
 extern const std::array<std::string_view, 32> surfaceFlagLabels;
 extern const std::array<std::string_view, 32> contentsFlagLabels;
 
 // The labels of the set bits, from bit 0 up, with ", " between them; empty for 0.
 std::string DescribeFlags(std::uint32_t flags, const std::array<std::string_view, 32>& labels);
+
+} // namespace keltavlo

@@ -10,6 +10,8 @@
 #include "resources/DocTemplateRegistry.h"
 #include "resources/streams/OutputStream.h"
 
+namespace keltavlo {
+
 namespace {
 
 constexpr BuiltInFile builtInReferences[] = {
@@ -83,6 +85,10 @@ const ColorList* TavloDocument::GetPaletteColors() const {
     return table && table->GetColorCount() > 0 ? &table->GetColors() : nullptr;
 }
 
+void TavloDocument::ReplaceTexture(unsigned nameId, Texture&& replacement) {
+    history.Do(std::make_unique<TextureChangeAction>(nameId, std::move(replacement)));
+}
+
 void TavloDocument::SetModifiedAndUpdate(bool updateViews) {
     SetModifiedFlag();
     if (updateViews) UpdateAllViews(nullptr);
@@ -110,8 +116,7 @@ void TavloDocument::ReformatForSave() {
     const int width = gametexture::FittingSide(texture.GetWidth());
     const int height = gametexture::FittingSide(texture.GetHeight());
     if (width == texture.GetWidth() && height == texture.GetHeight()) return;
-    auto action = std::make_unique<TextureChangeAction>(IDS_ACTION_REFORMAT, *this);
-    texture.Resize(width, height);
-    SetModifiedAndUpdate(true);
-    history.Add(std::move(action));
+    ReplaceTexture(IDS_ACTION_REFORMAT, texture.Resized(width, height));
 }
+
+} // namespace keltavlo

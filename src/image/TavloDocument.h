@@ -4,6 +4,8 @@
 #include "image/picture/Texture.h"
 #include "resources/BaseDocument.h"
 
+namespace keltavlo {
+
 class BrushDocument;
 class ColorList;
 class PaletteDocument;
@@ -58,6 +60,8 @@ public:
     // that lists no colours.
     const ColorList* GetPaletteColors() const;
 
+    // Replaces the texture as an undoable change of that name.
+    void ReplaceTexture(unsigned nameId, Texture&& replacement);
     // Marks the document modified; a changed picture must be told to the views as well.
     void SetModifiedAndUpdate(bool updateViews);
     const std::vector<BaseDocument*>& GetReferences() const { return references; }
@@ -102,3 +106,5 @@ private:
     PaletteDocument* currentPalette = nullptr;
     UndoHistory history{*this, historyCapacity};
 };
+
+} // namespace keltavlo

@@ -2,7 +2,6 @@
 #include "framework/core/MenuItems.h"
 #include "framework/core/StringTable.h"
 #include "image/TavloDocument.h"
-#include "image/TextureChangeAction.h"
 #include "res/CommandIds.h"
 #include "res/StringIds.h"
 #include "resources/BrushDocument.h"
@@ -11,6 +10,8 @@
 #include "resources/Shell.h"
 
 #include <algorithm>
+
+namespace keltavlo {
 
 namespace {
 
@@ -108,9 +109,8 @@ void TavloDocument::ConvertPicture(unsigned nameId, void (Image::*convert)(const
     if (!colors) return;
     Texture converted = texture;
     (converted.*convert)(*colors);
-    if (std::ranges::equal(converted.Pixels(), texture.Pixels())) return;
-    auto action = std::make_unique<TextureChangeAction>(nameId, *this);
-    texture = std::move(converted);
-    SetModifiedAndUpdate(true);
-    history.Add(std::move(action));
+    if (!std::ranges::equal(converted.Pixels(), texture.Pixels()))
+        ReplaceTexture(nameId, std::move(converted));
 }
+
+} // namespace keltavlo

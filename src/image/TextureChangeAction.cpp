@@ -5,10 +5,14 @@
 
 #include <utility>
 
-TextureChangeAction::TextureChangeAction(unsigned nameId, TavloDocument& document)
-    : EditAction(LoadString(nameId)), snapshot(document.GetTexture()) {}
+namespace keltavlo {
+
+TextureChangeAction::TextureChangeAction(unsigned nameId, Texture&& replacement)
+    : EditAction(LoadString(nameId)), snapshot(std::move(replacement)) {}
 
 void TextureChangeAction::Undo(TavloDocument& document) {
     std::swap(snapshot, document.GetTexture());
     document.SetModifiedAndUpdate(true);
 }
+
+} // namespace keltavlo

@@ -3,13 +3,17 @@
 #include "image/EditAction.h"
 #include "image/picture/Texture.h"
 
-// A change of the picture: keeps the whole texture of the other state. Make it before the change.
+namespace keltavlo {
+
+// A change of the picture: keeps the whole texture of the other state, which is the new one at first.
 class TextureChangeAction final : public EditAction {
 public:
     // The name is a string of the program's table.
-    TextureChangeAction(unsigned nameId, TavloDocument& document);
+    TextureChangeAction(unsigned nameId, Texture&& replacement);
     void Undo(TavloDocument& document) override;
 
 private:
     Texture snapshot;
 };
+
+} // namespace keltavlo

@@ -1,18 +1,16 @@
 #include "image/TextureEdits.h"
 
 #include "image/PropertyChangeAction.h"
-#include "image/TextureChangeAction.h"
 #include "res/StringIds.h"
+
+namespace keltavlo {
 
 namespace {
 
 template <auto get, auto set, class Value>
 void Change(TavloDocument& document, unsigned nameId, const Value& value) {
     if ((document.*get)() == value) return;
-    auto action = std::make_unique<PropertyChangeAction<get, set>>(nameId, document);
-    (document.*set)(value);
-    document.SetModifiedAndUpdate(false);
-    document.GetHistory().Add(std::move(action));
+    document.GetHistory().Do(std::make_unique<PropertyChangeAction<get, set>>(nameId, value));
 }
 
 } // namespace
@@ -20,12 +18,9 @@ void Change(TavloDocument& document, unsigned nameId, const Value& value) {
 using Document = TavloDocument;
 
 void ResizePicture(TavloDocument& document, int width, int height) {
-    Texture& texture = document.GetTexture();
+    const Texture& texture = document.GetTexture();
     if (texture.GetWidth() == width && texture.GetHeight() == height) return;
-    auto action = std::make_unique<TextureChangeAction>(IDS_ACTION_RESIZE, document);
-    texture.Resize(width, height);
-    document.SetModifiedAndUpdate(true);
-    document.GetHistory().Add(std::move(action));
+    document.ReplaceTexture(IDS_ACTION_RESIZE, texture.Resized(width, height));
     document.UpdateAllViews(nullptr);
 }
 
@@ -50,12 +45,10 @@ void ChangeValue(TavloDocument& document, std::uint32_t value) {
     Change<&Document::GetValue, &Document::SetValue>(document, IDS_ACTION_QUAKE2_VALUE, value);
 }
 
-// All memory is taken before anything changes.
 void PastePicture(TavloDocument& document, Image&& picture) {
-    auto action = std::make_unique<TextureChangeAction>(IDS_ACTION_PASTE, document);
     Texture pasted;
     static_cast<Image&>(pasted) = std::move(picture);
-    document.GetTexture() = std::move(pasted);
-    document.SetModifiedAndUpdate(true);
-    document.GetHistory().Add(std::move(action));
+    document.ReplaceTexture(IDS_ACTION_PASTE, std::move(pasted));
 }
+
+} // namespace keltavlo

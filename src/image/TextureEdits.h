@@ -3,12 +3,15 @@
 #include <cstdint>
 #include <string>
 
-class Image;
-class TavloDocument;
 struct Quake2Names;
 
+namespace keltavlo {
+
+class Image;
+class TavloDocument;
+
 // The undoable changes of a texture that a person asks for with a value. One that changes nothing records
-// nothing.
+// nothing, and one that memory is too small for changes nothing.
 
 // Crops the picture or repeats its edges.
 void ResizePicture(TavloDocument& document, int width, int height);
@@ -19,3 +22,5 @@ void ChangeContents(TavloDocument& document, std::uint32_t contents);
 void ChangeValue(TavloDocument& document, std::uint32_t value);
 // Replaces the picture by another one, without palette, names and properties. Recorded in any case.
 void PastePicture(TavloDocument& document, Image&& picture);
+
+} // namespace keltavlo

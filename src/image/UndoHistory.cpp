@@ -2,13 +2,15 @@
 
 #include <utility>
 
+namespace keltavlo {
+
 namespace {
 
+// The other stack has room reserved.
 template <class Stack>
-auto Pop(Stack& stack) {
-    auto action = std::move(stack.back());
-    stack.pop_back();
-    return action;
+void MoveTop(Stack& from, Stack& to) {
+    to.push_back(std::move(from.back()));
+    from.pop_back();
 }
 
 } // namespace
@@ -18,20 +20,21 @@ UndoHistory::UndoHistory(TavloDocument& owner, std::size_t limit) : document(own
     redoStack.reserve(limit);
 }
 
-void UndoHistory::Add(std::unique_ptr<EditAction> action) {
+void UndoHistory::Do(std::unique_ptr<EditAction> action) {
+    action->Redo(document);
     redoStack.clear();
     if (undoStack.size() == capacity) undoStack.erase(undoStack.begin());
     undoStack.push_back(std::move(action));
 }
 
 void UndoHistory::Undo() {
-    auto action = Pop(undoStack);
-    action->Undo(document);
-    redoStack.push_back(std::move(action));
+    undoStack.back()->Undo(document);
+    MoveTop(undoStack, redoStack);
 }
 
 void UndoHistory::Redo() {
-    auto action = Pop(redoStack);
-    action->Redo(document);
-    undoStack.push_back(std::move(action));
+    redoStack.back()->Redo(document);
+    MoveTop(redoStack, undoStack);
 }
+
+} // namespace keltavlo

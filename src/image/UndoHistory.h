@@ -4,15 +4,17 @@
 
 #include <vector>
 
+namespace keltavlo {
+
 // The recorded changes of one document, and those that were undone.
 class UndoHistory {
 public:
     // Keeps at most `limit` changes; the oldest goes first.
     UndoHistory(TavloDocument& owner, std::size_t limit);
 
-    // Records a change that was just made, which takes no memory: it always succeeds. What was undone before
-    // can no longer be redone.
-    void Add(std::unique_ptr<EditAction> action);
+    // Makes the change and records it. What was undone before can no longer be redone. When memory runs out,
+    // as in Undo and Redo, document and history stay as they were.
+    void Do(std::unique_ptr<EditAction> action);
     bool CanUndo() const { return !undoStack.empty(); }
     bool CanRedo() const { return !redoStack.empty(); }
     // Only while there is one.
@@ -29,3 +31,5 @@ private:
     Stack undoStack;
     Stack redoStack;
 };
+
+} // namespace keltavlo

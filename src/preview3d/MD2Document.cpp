@@ -7,6 +7,8 @@
 #include <cstring>
 #include <iterator>
 
+namespace keltavlo {
+
 namespace {
 
 // The layout in the file, little-endian.
@@ -127,3 +129,5 @@ void MD2Document::DeleteContents() {
     skins.clear();
     ModelDocument::DeleteContents();
 }
+
+} // namespace keltavlo

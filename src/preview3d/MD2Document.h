@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+namespace keltavlo {
+
 // A Quake II model (".md2").
 class MD2Document final : public Dynamic<"MD2Document", MD2Document, ModelDocument> {
 public:
@@ -58,3 +60,5 @@ private:
     std::unique_ptr<Vertex[]> frameData;
     std::vector<Frame> frames;
 };
+
+} // namespace keltavlo

@@ -7,6 +7,8 @@
 #include <cstring>
 #include <span>
 
+namespace keltavlo {
+
 namespace {
 
 using FileBytes = std::span<const std::byte>;
@@ -92,3 +94,5 @@ void MDLDocument::ReadContents(InputStream& in) {
     for (const TextureRecord& record : ReadRecords(in, fileData))
         textures.push_back(Decode(fileData, record));
 }
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <vector>
 
+namespace keltavlo {
+
 // A Quake model (".mdl"), read for the textures of studio models: a table of pictures, each with palette
 // indices and then its own palette. Nothing identifies such a file, so any file is read as one.
 class MDLDocument final : public Dynamic<"MDLDocument", MDLDocument, ModelDocument> {
@@ -22,3 +24,5 @@ private:
     std::vector<std::byte> fileData;
     std::vector<Image> textures;
 };
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <bit>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr Color midGray = 0xFF808080;
@@ -38,3 +40,5 @@ TextureBuffer TakeLastPicture() {
     if (last) texture.TakePicture(last->GetTexture());
     return texture;
 }
+
+} // namespace keltavlo

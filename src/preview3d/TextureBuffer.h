@@ -2,6 +2,8 @@
 
 #include "image/picture/Image.h"
 
+namespace keltavlo {
+
 // A picture for the 3D view, whose sides are powers of two from 16 to 256. It has its own copy of the pixels.
 class TextureBuffer : public Image {
 public:
@@ -23,3 +25,5 @@ public:
 // Copies the picture of the last open image document, by type and then in the order of opening. Returns a
 // plain gray one if none is open.
 TextureBuffer TakeLastPicture();
+
+} // namespace keltavlo

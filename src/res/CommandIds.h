@@ -2,6 +2,8 @@
 
 #include "framework/core/StandardIds.h"
 
+namespace keltavlo {
+
 // The program's own command ids; the framework's begin at 57344.
 enum ProgramCommand : CommandId {
     ID_FILE_PROPERTIES = 32771,
@@ -42,3 +44,5 @@ enum ProgramCommand : CommandId {
     ID_FILTER_BAR = 59398,
     ID_PALETTE_BAR = 59401
 };
+
+} // namespace keltavlo

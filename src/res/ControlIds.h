@@ -1,5 +1,7 @@
 #pragma once
 
+namespace keltavlo {
+
 // Controls of the dialogs and property pages.
 enum ControlId : unsigned {
     IDC_GAMMA_SETTINGS = 1008,
@@ -25,3 +27,5 @@ enum ControlId : unsigned {
     IDC_VALUE_SPIN = 1097,
     IDC_FIRST_FLAG = 2816 // and the next 31 ids
 };
+
+} // namespace keltavlo

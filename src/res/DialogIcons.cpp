@@ -1,5 +1,7 @@
 #include "res/DialogIcons.h"
 
+namespace keltavlo {
+
 namespace {
 
 constexpr std::string_view gammaIcon[] = {
@@ -92,3 +94,5 @@ PixelArt GreenIcon() {
 PixelArt BlueIcon() {
     return blueIcon;
 }
+
+} // namespace keltavlo

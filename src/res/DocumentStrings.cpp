@@ -2,6 +2,8 @@
 
 #include "res/StringIds.h"
 
+namespace keltavlo {
+
 namespace {
 
 constexpr StringRow rows[] = {
@@ -49,3 +51,5 @@ constexpr StringRow rows[] = {
 std::span<const StringRow> DocumentStrings() {
     return rows;
 }
+
+} // namespace keltavlo

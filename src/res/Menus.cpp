@@ -2,6 +2,8 @@
 
 #include "res/CommandIds.h"
 
+namespace keltavlo {
+
 namespace {
 
 constexpr MenuRow separator{};
@@ -177,3 +179,5 @@ std::span<const MenuRow> ImageContextMenuRows() {
 std::span<const AcceleratorRow> AcceleratorRows() {
     return accelerators;
 }
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include "framework/core/MenuTable.h"
 
+namespace keltavlo {
+
 constexpr unsigned IDR_MAINFRAME = 128; // shown without a document
 constexpr unsigned IDR_DOCUMENT = 129;  // shown while a document is active
 
@@ -11,3 +13,5 @@ std::span<const MenuRow> MenuBarRows(unsigned menuId);
 std::span<const MenuRow> ImageContextMenuRows();
 // The keys of the main window, the same for all menu bars.
 std::span<const AcceleratorRow> AcceleratorRows();
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include "res/CommandIds.h"
 
+namespace keltavlo {
+
 namespace {
 
 constexpr StringRow rows[] = {
@@ -18,6 +20,7 @@ constexpr StringRow rows[] = {
     {AFX_IDS_NEW_LABEL, "&New document of type:"},
     {AFX_IDS_FILE_EXISTS, "%s already exists.\nDo you want to replace it?"},
     {AFX_IDS_FILE_MISSING, "%s\nThis file does not exist."},
+    {AFX_IDP_FAILED_MEMORY_ALLOC, "There is not enough memory for this.\nYour documents have not changed."},
     {AFX_IDP_PARSE_INT_RANGE, "Enter a whole number between %d and %d."},
     {AFX_IDP_PARSE_STRING_SIZE, "Enter no more than %u characters. Non-ASCII letters count as several."},
     {AFX_IDS_SAVE_IN, "Save in:"},
@@ -73,6 +76,7 @@ constexpr StringRow rows[] = {
     {IDS_NOT_IMPLEMENTED, "%s is not implemented.\nKelTavlo is not fully implemented yet. Sorry.\n\n"
                           "keltavlo@example.org\nwww.example.org/keltavlo\n"},
     {IDS_NO_OPENGL, "Models cannot be shown because this system has no OpenGL."},
+    {IDS_NO_MEMORY_TO_PAINT, "There is not enough memory to show this."},
 
     {ID_FILE_NEW, "Create a new texture\nNew"},
     {ID_FILE_OPEN, "Open a file, even one inside an archive\nOpen"},
@@ -138,3 +142,5 @@ constexpr StringRow rows[] = {
 std::span<const StringRow> ShellStrings() {
     return rows;
 }
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include "framework/core/StringTable.h"
 
+namespace keltavlo {
+
 // Strings of the program's windows, in addition to the framework's.
 enum ShellStringId : unsigned {
     IDS_OPEN_FILTERS = 256,
@@ -36,8 +38,11 @@ enum ShellStringId : unsigned {
     IDS_NO_PICTURE = 1414,
     IDS_CONTENTS_OF = 1415,
     IDS_UNKNOWN_FORMAT = 1416,
-    IDS_NO_OPENGL = 2400
+    IDS_NO_OPENGL = 2400,
+    IDS_NO_MEMORY_TO_PAINT = 2401
 };
 
 // These strings, the framework's, and one for each command: the prompt, then the tool tip.
 std::span<const StringRow> ShellStrings();
+
+} // namespace keltavlo

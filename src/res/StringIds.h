@@ -1,5 +1,7 @@
 #pragma once
 
+namespace keltavlo {
+
 // Strings that the documents use.
 enum DocumentStringId : unsigned {
     IDS_UNDO_NAMED = 768,
@@ -43,3 +45,5 @@ enum DocumentTypeId : unsigned {
     IDR_RESOURCES = 153,
     IDR_COLOR_TABLE = 154
 };
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include "res/CommandIds.h"
 
+namespace keltavlo {
+
 namespace {
 
 constexpr std::string_view newIcon[] = {
@@ -221,3 +223,5 @@ std::span<const ToolBarRow> ToolBarRows(unsigned toolBarId) {
         return {};
     }
 }
+
+} // namespace keltavlo

@@ -9,6 +9,8 @@
 #include "resources/Shell.h"
 #include "resources/streams/ArchiveStream.h"
 
+namespace keltavlo {
+
 namespace {
 
 // Sets a path for as long as it lives.
@@ -126,3 +128,5 @@ std::string BaseDocument::ProposeFileName() const {
     const std::string name = GetTitle().substr(0, GetTitle().find_first_of(" #%;/\\"));
     return name + GetDocTemplate()->GetDocString(CDocTemplate::filterExt);
 }
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include "framework/core/CDocument.h"
 
+namespace keltavlo {
+
 class InputStream;
 class OutputStream;
 
@@ -45,3 +47,5 @@ private:
 
     std::string transferPath;
 };
+
+} // namespace keltavlo

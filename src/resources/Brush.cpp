@@ -2,6 +2,8 @@
 
 #include "resources/Shell.h"
 
+namespace keltavlo {
+
 namespace {
 
 constexpr unsigned paintCursor = 146;
@@ -41,3 +43,5 @@ std::unique_ptr<Brush> Brush::Make(std::uint32_t kind) {
         return nullptr;
     }
 }
+
+} // namespace keltavlo

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <memory>
 
+namespace keltavlo {
+
 // A point of a picture in texels, from its top left corner; any point will do, for pictures tile without end.
 struct TexelPoint {
     double x = 0;
@@ -46,3 +48,5 @@ protected:
 private:
     unsigned cursor;
 };
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include "resources/streams/TaggedFile.h"
 
+namespace keltavlo {
+
 void BrushDocument::Apply(BrushTarget& target, TexelPoint point, int strength, TexelPoint second) {
     if (brush) brush->Apply(target, point, strength, second);
 }
@@ -16,3 +18,5 @@ void BrushDocument::ReadContents(InputStream& in) {
 void BrushDocument::WriteContents(OutputStream&) {
     throw CArchiveException(CArchiveException::generic);
 }
+
+} // namespace keltavlo

@@ -3,6 +3,8 @@
 #include "resources/Brush.h"
 #include "resources/ReferenceDocument.h"
 
+namespace keltavlo {
+
 // A brush file (".kelbrush"): a tagged file that names a kind of brush and its title. Read only.
 class BrushDocument final : public Dynamic<"BrushDocument", BrushDocument, ReferenceDocument> {
 public:
@@ -19,3 +21,5 @@ public:
 private:
     std::unique_ptr<Brush> brush;
 };
+
+} // namespace keltavlo

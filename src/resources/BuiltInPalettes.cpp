@@ -4,6 +4,8 @@
 #include "resources/ColorTableDocument.h"
 #include "resources/DocTemplateRegistry.h"
 
+namespace keltavlo {
+
 namespace {
 
 const ColorList& FilledOnce(ColorList& list, BuiltInFile file) {
@@ -28,3 +30,5 @@ const ColorList& GetQuakeIIPalette() {
     static ColorList list;
     return FilledOnce(list, quake2Palette);
 }
+
+} // namespace keltavlo

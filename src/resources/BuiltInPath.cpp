@@ -7,6 +7,8 @@
 
 #include <QString>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr char16_t wideMarker = 0xFFFE; // stands before a name in UTF-16
@@ -31,3 +33,5 @@ std::string GetBuiltInName(unsigned id) {
 std::string GetBuiltInPath(unsigned id) {
     return JoinPath(JoinPath(GetModulePath(), builtInFolder), GetBuiltInName(id));
 }
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include <string>
 
+namespace keltavlo {
+
 // Numbers of the files that the program carries inside itself.
 enum BuiltInFile : unsigned {
     quakePalette = 139,
@@ -25,3 +27,5 @@ std::string GetBuiltInName(unsigned id);
 
 // The path of the built-in file: the program's own path, "res", the name.
 std::string GetBuiltInPath(unsigned id);
+
+} // namespace keltavlo

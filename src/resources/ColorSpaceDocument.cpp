@@ -2,6 +2,8 @@
 
 #include "resources/streams/TaggedFile.h"
 
+namespace keltavlo {
+
 void ColorSpaceDocument::ReadContents(InputStream& in) {
     fixedTitle = ReadTaggedContents(in, tagged::colorSpaceType, tagged::Tag("RGBA")).title;
 }
@@ -9,3 +11,5 @@ void ColorSpaceDocument::ReadContents(InputStream& in) {
 void ColorSpaceDocument::WriteContents(OutputStream&) {
     throw CArchiveException(CArchiveException::readOnly);
 }
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include "resources/PaletteDocument.h"
 
+namespace keltavlo {
+
 // A colour space (".kelcolorspace"): a tagged file that names a whole space of colours; RGBA is the only one.
 // Read only.
 class ColorSpaceDocument final : public Dynamic<"ColorSpaceDocument", ColorSpaceDocument, PaletteDocument> {
@@ -13,3 +15,5 @@ public:
     void ReadContents(InputStream& in) override;
     void WriteContents(OutputStream& out) override; // readOnly
 };
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include "resources/streams/OutputStream.h"
 
+namespace keltavlo {
+
 void ColorTableDocument::ReadContents(InputStream& in) {
     const std::uint64_t length = in.GetLength();
     if (length % sizeof(Color) != 0) in.Fail(StreamError::badIndex);
@@ -13,3 +15,5 @@ void ColorTableDocument::ReadContents(InputStream& in) {
 void ColorTableDocument::WriteContents(OutputStream& out) {
     out.Fail(StreamError::generic);
 }
+
+} // namespace keltavlo

@@ -3,6 +3,8 @@
 #include "image/picture/ColorList.h"
 #include "resources/PaletteDocument.h"
 
+namespace keltavlo {
+
 // A colour table (".kelcolors"): 4-byte entries without a header, each 0xAARRGGBB, little-endian. Read only.
 class ColorTableDocument : public Dynamic<"ColorTableDocument", ColorTableDocument, PaletteDocument> {
 public:
@@ -20,3 +22,5 @@ protected:
 
     ColorList colors;
 };
+
+} // namespace keltavlo

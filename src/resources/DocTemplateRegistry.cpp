@@ -10,6 +10,8 @@
 
 #include <algorithm>
 
+namespace keltavlo {
+
 CDocTemplate* DocTemplateRegistry::FindTemplate(const CRuntimeClass& documentClass) const {
     const std::vector<CDocTemplate*> types = CWinApp::Get().GetTemplates();
     const auto place = std::find_if(types.begin(), types.end(), [&](const CDocTemplate* type) {
@@ -58,3 +60,5 @@ std::string CannotBeWritten(const CRuntimeClass& documentClass) {
     const std::string files(type ? type->GetDocString(CDocTemplate::filterName) : documentClass.name);
     return FormatString(IDS_CANNOT_BE_WRITTEN, files.c_str());
 }
+
+} // namespace keltavlo

@@ -4,6 +4,8 @@
 
 #include <string>
 
+namespace keltavlo {
+
 class BaseDocument;
 class CDocTemplate;
 struct CRuntimeClass;
@@ -30,3 +32,5 @@ public:
 
 // The sentence that says that files of the class's type cannot be written.
 std::string CannotBeWritten(const CRuntimeClass& documentClass);
+
+} // namespace keltavlo

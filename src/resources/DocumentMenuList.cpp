@@ -3,6 +3,8 @@
 #include "framework/core/CWinApp.h"
 #include "framework/core/MenuItems.h"
 
+namespace keltavlo {
+
 void DocumentMenuList::Update(MenuItems& menu, BaseDocument* activeDocument) {
     SetCount(0);
     std::size_t count = 0;
@@ -15,3 +17,5 @@ std::string DocumentMenuList::GetItemText(CommandId id) const {
     const auto* document = dynamic_cast<const CDocument*>(GetItem(id));
     return document ? MenuText(document->GetTitle()) : std::string();
 }
+
+} // namespace keltavlo

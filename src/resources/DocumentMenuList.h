@@ -2,6 +2,8 @@
 
 #include "resources/MenuItemList.h"
 
+namespace keltavlo {
+
 struct CRuntimeClass;
 
 // The open documents of a class and of those derived from it, by their titles.
@@ -15,3 +17,5 @@ public:
 private:
     const CRuntimeClass& documentClass;
 };
+
+} // namespace keltavlo

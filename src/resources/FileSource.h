@@ -7,6 +7,8 @@
 #include <memory>
 #include <string>
 
+namespace keltavlo {
+
 // What is known of a path, which may lead into an archive.
 struct EntryStatus {
     bool exists = false;
@@ -27,3 +29,5 @@ public:
     virtual std::unique_ptr<CFile> OpenFile(const std::string& path, unsigned flags,
                                             CFileException* failure) = 0;
 };
+
+} // namespace keltavlo

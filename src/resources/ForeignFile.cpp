@@ -5,6 +5,8 @@
 #include <array>
 #include <string_view>
 
+namespace keltavlo {
+
 namespace {
 
 using namespace std::string_view_literals;
@@ -31,3 +33,5 @@ std::string DescribeForeignFile(InputStream& in) {
         if (std::string_view(start.data(), start.size()) == kind.start) return kind.refusal;
     return {};
 }
+
+} // namespace keltavlo

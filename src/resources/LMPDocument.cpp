@@ -5,8 +5,12 @@
 
 #include <array>
 
+namespace keltavlo {
+
 void LMPDocument::ReadContents(InputStream& in) {
     std::array<std::uint8_t, 256 * rgbTripleSize> bytes;
     in.Read(std::span<std::uint8_t>(bytes));
     colors = ColorsFromTriples(bytes);
 }
+
+} // namespace keltavlo

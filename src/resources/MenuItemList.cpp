@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+namespace keltavlo {
+
 namespace {
 
 std::vector<MenuItemList*>& Registry() {
@@ -84,3 +86,5 @@ void MenuItemList::SetTexts(MenuItems& menu) const {
 std::string MenuItemList::GetMessageString(CommandId) const {
     return std::string(Field(LoadString(placeholderId), '\n', 0));
 }
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+namespace keltavlo {
+
 class BaseDocument;
 class CObject;
 class MenuItems;
@@ -54,3 +56,5 @@ private:
     CommandId limitId = 0;
     std::vector<CObject*> items; // entry i has the id firstId + i
 };
+
+} // namespace keltavlo

@@ -3,6 +3,8 @@
 #include "image/picture/Color.h"
 #include "resources/ReferenceDocument.h"
 
+namespace keltavlo {
+
 // A document that an image can take its colours from: a list of colours or a whole colour space.
 class PaletteDocument : public Dynamic<"PaletteDocument", PaletteDocument, ReferenceDocument> {
 public:
@@ -12,3 +14,5 @@ public:
     // The colour at the index; std::out_of_range past the end of a list.
     virtual Color GetColor(std::size_t index) const = 0;
 };
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+namespace keltavlo {
+
 // A window that shows how far a long piece of work is; it goes with the object.
 class ProgressWindow {
 public:
@@ -15,3 +17,5 @@ struct Progress {
     std::int32_t maximum = 0;
     std::int32_t position = 0;
 };
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include "resources/BaseDocument.h"
 
+namespace keltavlo {
+
 // Base of the documents that others refer to. It never enters the recent files, and its file can carry its
 // title.
 class ReferenceDocument : public Dynamic<"ReferenceDocument", ReferenceDocument, BaseDocument> {
@@ -11,3 +13,5 @@ public:
 protected:
     std::string fixedTitle; // shown instead of the file name unless empty
 };
+
+} // namespace keltavlo

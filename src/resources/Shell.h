@@ -7,6 +7,8 @@
 #include <memory>
 #include <string>
 
+namespace keltavlo {
+
 class BaseDocument;
 
 // The main window as documents, brushes and views see it.
@@ -38,3 +40,5 @@ public:
         return nullptr;
     }
 };
+
+} // namespace keltavlo

@@ -8,6 +8,8 @@
 #include "tool/ToolCommands.h"
 #include "tool/TreeWalk.h"
 
+namespace keltavlo {
+
 namespace {
 
 // The picture format of a name; null for any other type, and for extensions that no type has.
@@ -78,3 +80,5 @@ void Convert(Tool& tool, const ToolArguments& arguments) {
         ConvertPicture(tool, from, to, outputs);
     }
 }
+
+} // namespace keltavlo

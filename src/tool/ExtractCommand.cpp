@@ -10,6 +10,8 @@
 #include "tool/ToolCommands.h"
 #include "tool/TreeWalk.h"
 
+namespace keltavlo {
+
 namespace {
 
 std::vector<std::byte> ReadAll(Tool& tool, const std::string& path) {
@@ -83,3 +85,5 @@ void Extract(Tool& tool, const ToolArguments& arguments) {
         ExtractFile(tool, file, JoinPath(folder, name), outputs);
     }
 }
+
+} // namespace keltavlo

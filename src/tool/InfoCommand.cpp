@@ -13,6 +13,8 @@
 
 #include <ostream>
 
+namespace keltavlo {
+
 namespace {
 
 // "label: value", nothing for an empty value.
@@ -87,3 +89,5 @@ void ShowInfo(Tool& tool, const ToolArguments& arguments) {
     Put(tool.Output(), "bytes", std::to_string(status.size));
     DescribeDocument(tool.Output(), *document);
 }
+
+} // namespace keltavlo

@@ -7,6 +7,8 @@
 
 #include <ostream>
 
+namespace keltavlo {
+
 void ListFolder(Tool& tool, const ToolArguments& arguments) {
     FileSystem& files = tool.GetApplication().GetFileSystem();
     const std::string folder = TreePath(arguments.paths.front());
@@ -25,3 +27,5 @@ void ListFolder(Tool& tool, const ToolArguments& arguments) {
                                 type.c_str(), ToUtf8(name).c_str());
     }
 }
+
+} // namespace keltavlo

@@ -8,6 +8,8 @@
 #include <optional>
 #include <sys/stat.h>
 
+namespace keltavlo {
+
 namespace {
 
 std::optional<std::pair<std::uint64_t, std::uint64_t>> IdentityOf(const std::string& path) {
@@ -65,3 +67,5 @@ void OutputPlace::Write(const std::string& path, std::span<const std::byte> byte
         tool.Fail(DescribeFailure(Direction::saving, path, failure));
     }
 }
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 #include <string>
 #include <utility>
 
+namespace keltavlo {
+
 class Tool;
 
 // The files that one run of the tool writes. It refuses to overwrite what the run reads or has written,
@@ -34,3 +36,5 @@ private:
     bool overwrites;
     std::set<Identity> inputs, outputs;
 };
+
+} // namespace keltavlo

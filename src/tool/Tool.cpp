@@ -1,10 +1,13 @@
 #include "tool/Tool.h"
 
+#include "framework/core/Exceptions.h"
 #include "framework/core/Text.h"
 #include "tool/ToolCommands.h"
 
 #include <algorithm>
 #include <ostream>
+
+namespace keltavlo {
 
 namespace {
 
@@ -55,6 +58,7 @@ const CommandRow& FindCommand(const ToolArguments& arguments) {
 Tool::Tool(std::ostream& outputStream, std::ostream& errorStream, bool showProgress)
     : output(outputStream), errors(errorStream), isTerminal(showProgress),
       application([this](const std::string& text) {
+          failed = true; // also when there is no memory to say so
           std::string sentence = text;
           std::replace(sentence.begin(), sentence.end(), '\n', ' ');
           Fail(sentence);
@@ -73,7 +77,7 @@ int Tool::Run(const std::vector<std::string>& arguments) {
         Fail(error.what());
         return 2;
     } catch (const std::exception& failure) {
-        Fail(failure.what());
+        Fail(SentenceOf(failure));
     }
     ShowProgress({});
     output.flush();
@@ -95,3 +99,5 @@ void Tool::ShowProgress(const std::string& name) {
     constexpr const char* clearLine = "\r\x1B[K";
     if (isTerminal) errors << clearLine << ToUtf8(name) << std::flush;
 }
+
+} // namespace keltavlo

@@ -5,6 +5,8 @@
 
 #include <iosfwd>
 
+namespace keltavlo {
+
 // The command-line companion: a thin face over the documents. Texts are UTF-8; results go to `output`,
 // failures, one sentence each, to `errors`.
 class Tool {
@@ -31,3 +33,5 @@ private:
     bool failed = false;
     HeadlessApplication application;
 };
+
+} // namespace keltavlo

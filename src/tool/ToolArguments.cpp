@@ -1,5 +1,7 @@
 #include "tool/ToolArguments.h"
 
+namespace keltavlo {
+
 namespace {
 
 // Takes one option; `next` is the argument behind it, or null. True when that one belongs to the option.
@@ -39,3 +41,5 @@ ToolArguments ParseToolArguments(const std::vector<std::string>& arguments) {
     }
     return taken;
 }
+
+} // namespace keltavlo

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+namespace keltavlo {
+
 // What the command line asks for.
 struct ToolArguments {
     std::string command;
@@ -22,3 +24,5 @@ public:
 
 // Options may stand anywhere; behind "--" everything is a path.
 ToolArguments ParseToolArguments(const std::vector<std::string>& arguments);
+
+} // namespace keltavlo

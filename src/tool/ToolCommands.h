@@ -1,5 +1,7 @@
 #pragma once
 
+namespace keltavlo {
+
 class Tool;
 struct ToolArguments;
 
@@ -8,3 +10,5 @@ void ListFolder(Tool& tool, const ToolArguments& arguments);
 void ShowInfo(Tool& tool, const ToolArguments& arguments);
 void Convert(Tool& tool, const ToolArguments& arguments);
 void Extract(Tool& tool, const ToolArguments& arguments);
+
+} // namespace keltavlo

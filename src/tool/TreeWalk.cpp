@@ -13,6 +13,8 @@
 #include <filesystem>
 #include <set>
 
+namespace keltavlo {
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -137,3 +139,5 @@ std::string TypeNameOf(const std::string& path) {
     return EqualNoCase(extension, TypeExtensionOf(path)) ? type->GetDocString(CDocTemplate::filterName)
                                                          : "unknown";
 }
+
+} // namespace keltavlo

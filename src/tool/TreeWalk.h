@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+namespace keltavlo {
+
 class OutputPlace;
 class Tool;
 
@@ -29,3 +31,5 @@ std::vector<TreeFile> ListTree(Tool& tool, const std::string& tree, OutputPlace&
 
 // What people call the type that the path would open as, such as "Quake II Texture Files (*.wal)".
 std::string TypeNameOf(const std::string& path);
+
+} // namespace keltavlo

@@ -1,12 +1,22 @@
+#include "framework/core/Exceptions.h"
+#include "framework/core/MemoryReserve.h"
 #include "tool/Tool.h"
 
 #include <QCoreApplication>
 
+#include <cstdio>
 #include <iostream>
+#include <new>
 #include <unistd.h>
 
-int main(int argc, char** argv) {
+using namespace keltavlo;
+
+int main(int argc, char** argv) try {
+    KeepMemoryReserve();
     const QCoreApplication core(argc, argv);
     Tool tool(std::cout, std::cerr, isatty(STDERR_FILENO) != 0);
     return tool.Run({argv + 1, argv + argc}); // the arguments' bytes, whatever their encoding
+} catch (const std::bad_alloc& failure) {
+    std::fprintf(stderr, "keltavlo-tool: %s\n", SentenceOf(failure));
+    return 1;
 }

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+namespace keltavlo {
+
 namespace {
 
 class MutatedFiles : public testing::TestWithParam<Reader> {};
@@ -24,3 +26,5 @@ TEST_P(MutatedFiles, AreReadOrRefused) {
 
 INSTANTIATE_TEST_SUITE_P(EveryReader, MutatedFiles, testing::ValuesIn(Readers().begin(), Readers().end()),
                          [](const auto& reader) { return std::string(reader.param.name); });
+
+} // namespace keltavlo

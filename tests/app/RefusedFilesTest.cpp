@@ -3,6 +3,8 @@
 
 #include <cstring>
 
+namespace keltavlo {
+
 // What a damaged file's sentence says, and that only pictures are saved.
 
 namespace {
@@ -156,3 +158,5 @@ TEST_F(RefusedFiles, ThatAreNoPicturesAreNotSaved) {
     }
     EXPECT_TRUE(NamesIn(PathTo("copy")).empty());
 }
+
+} // namespace keltavlo

@@ -3,6 +3,8 @@
 #include "framework/core/ProfileStore.h"
 #include "support/FolderTest.h"
 
+namespace keltavlo {
+
 namespace {
 
 class SettingsTest : public FolderTest {
@@ -54,3 +56,5 @@ TEST(GammaSettingsTest, MapsChannelsThroughGamma) {
 }
 
 } // namespace
+
+} // namespace keltavlo

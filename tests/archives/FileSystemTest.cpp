@@ -9,6 +9,8 @@
 
 #include <filesystem>
 
+namespace keltavlo {
+
 using testing::ElementsAre;
 using testing::HasSubstr;
 
@@ -180,3 +182,5 @@ TEST_F(FileSystemTest, BuiltInFilesLieBelowTheProgram) {
         EXPECT_TRUE(StatusOf(link + "/res/Quake.lmp").exists) << name;
     }
 }
+
+} // namespace keltavlo

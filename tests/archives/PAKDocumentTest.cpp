@@ -2,6 +2,8 @@
 
 #include "support/TestApplication.h"
 
+namespace keltavlo {
+
 using testing::HasSubstr;
 
 namespace {
@@ -38,3 +40,5 @@ TEST_F(PAKDocumentTest, OverlappingEntriesCostNothingUntilUsed) {
     }
     EXPECT_EQ(OpenPack(pack), "");
 }
+
+} // namespace keltavlo

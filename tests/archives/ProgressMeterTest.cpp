@@ -6,6 +6,8 @@
 #include <gmock/gmock.h>
 #include <limits>
 
+namespace keltavlo {
+
 namespace {
 
 struct Look {
@@ -48,3 +50,5 @@ TEST_F(ProgressMeterTest, CountsFromItsMinimumWithoutOverflow) {
            {{1, Limits::min(), {}},
             {3, Limits::max(), {"open Working... -2147483648..2147483647 at 2147483647"}}});
 }
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 #include "support/FakeProgress.h"
 #include "support/TestApplication.h"
 
+namespace keltavlo {
+
 using testing::ElementsAre;
 using testing::HasSubstr;
 
@@ -95,3 +97,5 @@ TEST_F(WADDocumentTest, ShowsHowFarALongReadIs) {
     EXPECT_THAT(OpenWad(wad), HasSubstr(tooShort));
     EXPECT_EQ(shell.log.back(), "close");
 }
+
+} // namespace keltavlo

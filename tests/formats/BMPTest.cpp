@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+namespace keltavlo {
+
 namespace {
 
 // Offsets of the fields.
@@ -144,3 +146,5 @@ TEST_F(BMPTest, NamesTheCompressionThatItCannotRead) {
                     testing::ThrowsMessage<CArchiveException>(testing::HasSubstr(word)));
     }
 }
+
+} // namespace keltavlo

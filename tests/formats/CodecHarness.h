@@ -12,6 +12,8 @@
 #include <gtest/gtest.h>
 #include <random>
 
+namespace keltavlo {
+
 // Reading and writing pictures of one format in memory, with a palette of 256 different colours as the
 // format's default one.
 class CodecHarness {
@@ -89,3 +91,5 @@ inline Texture RandomTexture(int width, int height, const ColorList& colors = Co
     for (Color& pixel : texture.Pixels()) pixel = colors[random() % colors.GetCount()];
     return texture;
 }
+
+} // namespace keltavlo

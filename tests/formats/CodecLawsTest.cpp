@@ -1,5 +1,7 @@
 #include "formats/CodecHarness.h"
 
+namespace keltavlo {
+
 // What every format promises.
 
 namespace {
@@ -33,3 +35,5 @@ INSTANTIATE_TEST_SUITE_P(AllFormats, CodecLaws,
                          testing::Values("BMPDocument", "MIPDocument", "PCXDocument", "TGADocument",
                                          "WALDocument"),
                          [](const auto& format) { return std::string(format.param, 3); });
+
+} // namespace keltavlo

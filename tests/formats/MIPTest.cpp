@@ -1,5 +1,7 @@
 #include "formats/CodecHarness.h"
 
+namespace keltavlo {
+
 namespace {
 
 constexpr std::size_t offsetsOffset = 24, endOfLevels = 40 + 64 * 64 * 85 / 64;
@@ -79,3 +81,5 @@ TEST_F(MIPTest, LevelsMayLieAnywhere) {
     EXPECT_EQ(read.palette, nullptr);
     EXPECT_TRUE(SamePixels(read, texture));
 }
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+namespace keltavlo {
+
 using testing::ElementsAre;
 
 namespace {
@@ -97,3 +99,5 @@ TEST_F(PCXTest, WritesPalettesOf256ColorsOnly) {
     }
     EXPECT_EQ(pcx.WriteFailure(Texture(65535, 1)), CArchiveException::badIndex) << "no even number of bytes";
 }
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr std::size_t headerSize = 18, footerSize = 26;
@@ -83,3 +85,5 @@ TEST_F(TGATest, APictureWithoutPixelsIsTransparent) {
     Put<std::uint16_t>(bytes, 14, 2049);
     EXPECT_EQ(tga.ReadFailure(bytes), CArchiveException::badIndex);
 }
+
+} // namespace keltavlo

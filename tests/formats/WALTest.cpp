@@ -1,5 +1,7 @@
 #include "formats/CodecHarness.h"
 
+namespace keltavlo {
+
 namespace {
 
 constexpr std::size_t offsetsOffset = 40, nextFrameOffset = 56;
@@ -47,3 +49,5 @@ TEST_F(WALTest, IndicesBelongToThePaletteOfTheTexture) {
     other.palette->SetCount(255);
     EXPECT_EQ(wal.ReadFailure(wal.Write(texture), other), CArchiveException::badIndex);
 }
+
+} // namespace keltavlo

@@ -1,6 +1,9 @@
 #include "image/ConvertedPicture.h"
 
 #include "formats/CodecHarness.h"
+#include "support/Fault.h"
+
+namespace keltavlo {
 
 namespace {
 
@@ -49,7 +52,29 @@ TEST_P(ConvertedPictureTest, StrokesConvertOnlyWhatTheyMust) {
     }
 }
 
+// Neither half a picture nor tables of another palette.
+TEST_P(ConvertedPictureTest, LacksOfMemoryLeaveNothingBehind) {
+    if (!allocationsCanFail) GTEST_SKIP();
+    const ColorList other{0xFF102030, 0xFFFFFF00};
+    bool hit = true;
+    for (unsigned first = 1; hit && !HasFailure(); ++first) {
+        SCOPED_TRACE(first);
+        converted.Get(picture, GetParam(), &other);
+        {
+            const Fault fault(Step::allocation, first, false);
+            try {
+                converted.Get(picture, GetParam(), &list);
+            } catch (const std::bad_alloc&) {
+            }
+            hit = fault.HasHit();
+        }
+        EXPECT_TRUE(SamePixels(converted.Get(picture, GetParam(), &list), ConvertAnew()));
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(Conversions, ConvertedPictureTest,
                          testing::Values(PictureConversion::nearest, PictureConversion::errorDiffusion));
 
 } // namespace
+
+} // namespace keltavlo

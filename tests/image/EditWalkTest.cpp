@@ -9,6 +9,8 @@
 
 #include <deque>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr int steps = 20000, largestSide = 6;
@@ -129,3 +131,5 @@ TEST_P(EditWalkTest, AlwaysEqualsThePlainModel) {
 INSTANTIATE_TEST_SUITE_P(Seeds, EditWalkTest, testing::Range(1U, 11U));
 
 } // namespace
+
+} // namespace keltavlo

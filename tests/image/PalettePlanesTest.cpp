@@ -3,6 +3,8 @@
 #include <array>
 #include <gtest/gtest.h>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr auto plane = PalettePlanes::plane;
@@ -88,3 +90,5 @@ TEST_F(PalettePlanesTest, OutsideNothingIsHit) {
 }
 
 } // namespace
+
+} // namespace keltavlo

@@ -7,6 +7,8 @@
 #include "resources/DocumentMenuList.h"
 #include "support/TestApplication.h"
 
+namespace keltavlo {
+
 namespace {
 
 // A texture of 16 x 8 with two of the menus' lists.
@@ -75,3 +77,5 @@ TEST_F(TavloDocumentCommandsTest, RecordsNoConversionThatChangesNothing) {
 }
 
 } // namespace
+
+} // namespace keltavlo

@@ -8,6 +8,8 @@
 
 #include <sys/stat.h>
 
+namespace keltavlo {
+
 using testing::HasSubstr;
 
 namespace {
@@ -146,3 +148,5 @@ TEST_F(TavloDocumentTest, RecentFilesThatFailLeaveTheList) {
     TakeMessage();
     EXPECT_EQ(application.GetRecentFiles().GetPaths().size(), 1U);
 }
+
+} // namespace keltavlo

@@ -5,6 +5,8 @@
 
 #include <cstring>
 
+namespace keltavlo {
+
 using testing::ElementsAre;
 
 namespace {
@@ -60,3 +62,5 @@ TEST_F(MD2DocumentTest, PartsMayBeMissingOrAsLargeAsTheGameAllows) {
     EXPECT_EQ(OpenModel(poses.Build()), "");
     EXPECT_EQ(OpenModel(Md2Builder::Largest()), "");
 }
+
+} // namespace keltavlo

@@ -3,6 +3,8 @@
 #include "builders/ModelBuilder.h"
 #include "support/TestApplication.h"
 
+namespace keltavlo {
+
 using testing::HasSubstr;
 
 namespace {
@@ -59,3 +61,5 @@ TEST_F(MDLDocumentTest, TexturesThatShareBytesTakeNoMoreThanTheFile) {
     EXPECT_EQ(openShared(8), "");
     EXPECT_THAT(openShared(100), HasSubstr(badIndex));
 }
+
+} // namespace keltavlo

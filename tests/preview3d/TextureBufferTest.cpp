@@ -4,6 +4,8 @@
 #include "image/ImageDocuments.h"
 #include "support/TestApplication.h"
 
+namespace keltavlo {
+
 namespace {
 
 class TextureBufferTest : public WorkshopTest {
@@ -51,3 +53,5 @@ TEST_F(TextureBufferTest, TakesTheLastPictureByTypeAndThenByTime) {
     first.OnCloseDocument();
     EXPECT_EQ(LastColor(), 0U) << "of the new BMP";
 }
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr CommandId placeholder = 7, first = 100, limit = 110;
@@ -102,3 +104,5 @@ TEST_F(MenuItemListTest, DocumentsAreListedWithThoseOfDerivedClasses) {
     EXPECT_EQ(menu.Run(), "[R&&B][Quake]");
     EXPECT_EQ(dynamic_cast<CDocument*>(documents.GetItem(limit + 1))->GetTitle(), "Quake");
 }
+
+} // namespace keltavlo

@@ -4,6 +4,8 @@
 #include "resources/LMPDocument.h"
 #include "support/TestApplication.h"
 
+namespace keltavlo {
+
 using namespace std::literals;
 using testing::HasSubstr;
 
@@ -61,3 +63,5 @@ TEST_F(ReferenceDocumentsTest, BrushAndSpaceFilesThatAreNone) {
     EXPECT_THAT(Try<BrushDocument>(third, ".kelbrush"), HasSubstr(badVersion));
     EXPECT_NE(Try<ColorSpaceDocument>(rgb, ".kelcolorspace"), "");
 }
+
+} // namespace keltavlo

@@ -1,5 +1,7 @@
 #pragma once
 
+namespace keltavlo {
+
 // Why the action fails with an exception of the class; -1 when it does not fail.
 template <class Exception, class Action>
 int CauseOf(Action action) {
@@ -10,3 +12,5 @@ int CauseOf(Action action) {
     }
     return -1;
 }
+
+} // namespace keltavlo

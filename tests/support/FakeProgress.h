@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+namespace keltavlo {
+
 // A clock that stands until the test moves it, or runs by itself.
 class FakeClock final : public ProgressClock {
 public:
@@ -38,3 +40,5 @@ private:
         std::vector<std::string>& log;
     };
 };
+
+} // namespace keltavlo

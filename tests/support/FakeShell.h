@@ -2,6 +2,8 @@
 
 #include "resources/Shell.h"
 
+namespace keltavlo {
+
 // A main window that only keeps the current colour.
 struct FakeShell : Shell {
     void UpdateMenus(BaseDocument*) override {}
@@ -14,3 +16,5 @@ struct FakeShell : Shell {
 
     std::uint32_t color = 0;
 };
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 
 #include <gmock/gmock.h>
 
+namespace keltavlo {
+
 // A folder for files, made afresh for each test.
 class FolderTest : public testing::Test {
 protected:
@@ -19,3 +21,5 @@ protected:
 
     QTemporaryDir folder;
 };
+
+} // namespace keltavlo

@@ -4,6 +4,8 @@
 
 #include <utility>
 
+namespace keltavlo {
+
 std::string WorkshopTest::TakeMessage() {
     EXPECT_EQ(messages.size(), 1U);
     const std::vector<std::string> taken = std::exchange(messages, {});
@@ -23,3 +25,5 @@ std::string WorkshopTest::TextOf(const std::string& path) {
     file->Read(text.data(), text.size());
     return text;
 }
+
+} // namespace keltavlo

@@ -5,6 +5,8 @@
 #include "resources/BuiltInPath.h"
 #include "support/FolderTest.h"
 
+namespace keltavlo {
+
 // What the sentences for files that cannot be opened say.
 inline constexpr const char* badFormat = "expected format";
 inline constexpr const char* badVersion = "version";
@@ -44,6 +46,12 @@ protected:
     std::string TextOf(const std::string& path);
 
     std::vector<std::string> messages;
+    int messageCount = 0; // those included that memory was too small to keep
     int fileCount = 0;
-    HeadlessApplication application{[this](const std::string& text) { messages.push_back(text); }};
+    HeadlessApplication application{[this](const std::string& text) {
+        ++messageCount;
+        messages.push_back(text);
+    }};
 };
+
+} // namespace keltavlo

@@ -2,10 +2,13 @@
 
 #include "builders/ModelBuilder.h"
 #include "builders/TextureBuilder.h"
+#include "support/Fault.h"
 #include "support/FolderTest.h"
 
 #include <filesystem>
 #include <sstream>
+
+namespace keltavlo {
 
 namespace fs = std::filesystem;
 using testing::HasSubstr;
@@ -138,6 +141,23 @@ TEST_F(ToolTest, FilesWithTheNameOfAFolderAreAllWritten) {
     EXPECT_EQ(ReadFile(PathTo("one/b")), ToBytes("a/b"));
 }
 
+TEST_F(ToolTest, SaysWhenMemoryRunsOut) {
+    if (!allocationsCanFail) GTEST_SKIP();
+    bool hit = true;
+    for (unsigned first = 1; hit && !HasFailure(); ++first) {
+        SCOPED_TRACE(first);
+        std::ostringstream output, errors(std::string(1000, ' ')); // which takes no more memory
+        Tool tool(output, errors, false);
+        const std::vector<std::string> arguments{"convert", "--force", floor, PathTo("new.tga")};
+        const Fault fault(Step::allocation, first, false);
+        const int code = tool.Run(arguments);
+        hit = fault.HasHit();
+        EXPECT_TRUE(code == 0 || errors.str().find("not enough memory.") != std::string::npos)
+            << errors.str();
+        EXPECT_LE(code, 1);
+    }
+}
+
 TEST_F(ToolTest, ConvertsTreesAndNamesWhatWasLeftOut) {
     EXPECT_EQ(Run({"convert", pack, PathTo("out"), "--to", "tga"}), 1);
     EXPECT_FALSE(fs::exists(PathTo("out/textures/broken.tga")));
@@ -178,3 +198,5 @@ TEST_F(ToolTest, DescribesModelsAndWritesTheirTextures) {
     EXPECT_EQ(Run({"extract", PathTo("out/player.mdl"), PathTo("again")}), 0);
     EXPECT_FALSE(fs::exists(PathTo("again/player.mdl"))) << "it lies on the disk already";
 }
+
+} // namespace keltavlo

@@ -21,6 +21,8 @@
 #include <span>
 #include <vector>
 
+using namespace keltavlo;
+
 namespace {
 
 constexpr QSize size(800, 600);

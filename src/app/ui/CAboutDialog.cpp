@@ -12,6 +12,8 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 
+namespace keltavlo {
+
 namespace {
 
 // Room for long lines, which are broken.
@@ -80,3 +82,5 @@ CAboutDialog::CAboutDialog(QWidget* owner, const std::string& settingsPath) : CD
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     buttons->button(QDialogButtonBox::Ok)->setFocus();
 }
+
+} // namespace keltavlo

@@ -16,6 +16,8 @@
 #include <QSignalBlocker>
 #include <QSlider>
 
+namespace keltavlo {
+
 namespace {
 
 struct Channel {
@@ -141,3 +143,5 @@ void CGammaSettingsDialog::accept() {
     gammaValues = ReadSliders();
     CDialog::accept();
 }
+
+} // namespace keltavlo

@@ -7,11 +7,14 @@
 
 #include <array>
 
-class CGammaSettingsDialogButton;
 class QCheckBox;
 class QGridLayout;
 class QLabel;
 class QSlider;
+
+namespace keltavlo {
+
+class CGammaSettingsDialogButton;
 
 // Chooses gamma values by sliders, with samples that show what they do.
 class CGammaSettingsDialog : public CDialog {
@@ -38,3 +41,5 @@ private:
     QCheckBox* linkControls = nullptr;
     QLabel* valueText = nullptr;
 };
+
+} // namespace keltavlo

@@ -3,6 +3,8 @@
 #include <QImage>
 #include <QPainter>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr QRect pictureArea(0, 0, 32, 32);
@@ -33,3 +35,5 @@ void CGammaSettingsDialogButton::paintEvent(QPaintEvent*) {
     painter.drawImage(pictureArea, *bitmap);
     painter.fillRect(colorArea, QColor::fromRgb(ApplyGamma(gammaValues, color)));
 }
+
+} // namespace keltavlo

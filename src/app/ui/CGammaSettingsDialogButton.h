@@ -6,6 +6,8 @@
 
 class QImage;
 
+namespace keltavlo {
+
 // A sample of what gamma values do: a picture as it is stored, and beside it a colour seen through the
 // values.
 class CGammaSettingsDialogButton : public QAbstractButton {
@@ -25,3 +27,5 @@ private:
     std::uint32_t color = 0;
     const QImage* bitmap = nullptr;
 };
+
+} // namespace keltavlo

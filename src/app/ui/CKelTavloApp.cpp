@@ -30,6 +30,8 @@
 #include "res/ShellStrings.h"
 #include "resources/DocTemplateRegistry.h"
 
+namespace keltavlo {
+
 namespace {
 
 std::unique_ptr<ProfileStore> OfThisVersion(std::unique_ptr<ProfileStore> settings) {
@@ -60,7 +62,10 @@ CKelTavloApp::CKelTavloApp(std::unique_ptr<ProfileStore> settings)
 CKelTavloApp::~CKelTavloApp() {
     CloseAllDocuments();
     GetFrameFactory()->SetMainFrame(nullptr);
-    WriteCustomColors(*GetProfile(), applicationSection, GetCustomColors());
+    try {
+        WriteCustomColors(*GetProfile(), applicationSection, GetCustomColors());
+    } catch (const std::bad_alloc&) { // the old ones stay
+    }
 }
 
 // Classes that a document type names and that are not here leave its documents without a window.
@@ -86,8 +91,16 @@ bool CKelTavloApp::InitInstance(const std::vector<std::string>& paths) {
 bool CKelTavloApp::CarryOut(const std::vector<std::string>& paths) {
     if (paths.empty()) OnFileNew();
     bool opened = paths.empty();
-    for (const std::string& path : paths) opened = OpenDocumentFile(path) || opened;
+    for (const std::string& path : paths) opened = TryOpen(path) || opened;
     return opened;
+}
+
+// No event is under way that would catch a lack of memory. The program stays to tell of it.
+bool CKelTavloApp::TryOpen(const std::string& path) try {
+    return OpenDocumentFile(path) != nullptr;
+} catch (const std::bad_alloc&) {
+    ReportMemoryShortage();
+    return true;
 }
 
 std::optional<std::string> CKelTavloApp::PromptFileName(const FileNameQuestion& question) {
@@ -198,3 +211,5 @@ void CKelTavloApp::ShowHelp(const char* page) {
     if (!help) help = std::make_unique<HelpWindow>();
     help->ShowPage(QString::fromLatin1(page));
 }
+
+} // namespace keltavlo

@@ -7,6 +7,8 @@
 #include "framework/ui/WindowedUserInterface.h"
 #include "resources/Shell.h"
 
+namespace keltavlo {
+
 class ContextHelp;
 class HelpWindow;
 class MainFrame;
@@ -46,6 +48,7 @@ protected:
 
 private:
     void RegisterWindowClasses();
+    bool TryOpen(const std::string& path);
     bool CarryOut(const std::vector<std::string>& paths);
     void OnCommandNew() { OnFileNew(); }
     void OnFileOpen();
@@ -66,3 +69,5 @@ private:
     std::unique_ptr<ContextHelp> contextHelp;
     std::uint32_t currentColor = 0; // 0xAARRGGBB; of the brushes of all documents
 };
+
+} // namespace keltavlo

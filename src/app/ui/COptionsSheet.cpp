@@ -12,6 +12,8 @@
 
 #include <QPushButton>
 
+namespace keltavlo {
+
 CGeneralOptionsPage::CGeneralOptionsPage() : CPropertyPage(QStringLiteral("General")) {}
 
 CViewOptionsPage::CViewOptionsPage(MainFrame& mainFrame)
@@ -46,3 +48,5 @@ COptionsSheet::COptionsSheet(MainFrame& mainFrame)
     AddPage(generalPage);
     AddPage(viewPage);
 }
+
+} // namespace keltavlo

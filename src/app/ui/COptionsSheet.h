@@ -4,6 +4,8 @@
 #include "framework/ui/CPropertyPage.h"
 #include "framework/ui/CPropertySheet.h"
 
+namespace keltavlo {
+
 class MainFrame;
 
 // There are no general options yet.
@@ -36,3 +38,5 @@ private:
     CGeneralOptionsPage generalPage;
     CViewOptionsPage viewPage;
 };
+
+} // namespace keltavlo

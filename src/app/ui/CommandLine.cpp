@@ -5,6 +5,8 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
+namespace keltavlo {
+
 namespace {
 
 struct Parser : QCommandLineParser {
@@ -53,3 +55,5 @@ std::string VersionText() {
     return FromQString(QCoreApplication::applicationName() + ' ' + QCoreApplication::applicationVersion() +
                        '\n');
 }
+
+} // namespace keltavlo

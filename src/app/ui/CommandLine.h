@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+namespace keltavlo {
+
 // What the program was started with.
 struct CommandLine {
     std::vector<std::string> paths; // to open, byte for byte; relative ones lie below the current folder
@@ -16,3 +18,5 @@ CommandLine ParseCommandLine(const std::vector<std::string>& arguments);
 // What --help and --version print. Needs a QCoreApplication.
 std::string HelpText();
 std::string VersionText();
+
+} // namespace keltavlo

@@ -3,6 +3,8 @@
 #include "framework/core/MenuItems.h"
 #include "framework/ui/CControlBar.h"
 
+namespace keltavlo {
+
 void ControlBarMenuList::Update(MenuItems& menu, BaseDocument* activeDocument) {
     SetCount(bars.size());
     for (std::size_t i = 0; i < bars.size(); ++i) SetItem(i, bars[i]);
@@ -17,3 +19,5 @@ std::string ControlBarMenuList::GetItemText(CommandId id) const {
 CControlBar* ControlBarMenuList::GetBar(CommandId id) const {
     return dynamic_cast<CControlBar*>(GetItem(id));
 }
+
+} // namespace keltavlo

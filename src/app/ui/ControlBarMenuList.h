@@ -2,6 +2,8 @@
 
 #include "resources/MenuItemList.h"
 
+namespace keltavlo {
+
 class CControlBar;
 
 // The main window's bars, by their titles.
@@ -18,3 +20,5 @@ public:
 private:
     const std::vector<CControlBar*>& bars;
 };
+
+} // namespace keltavlo

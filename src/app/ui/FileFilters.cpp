@@ -7,6 +7,8 @@
 #include "framework/core/Text.h"
 #include "res/ShellStrings.h"
 
+namespace keltavlo {
+
 namespace {
 
 void AddFilter(std::vector<FileFilter>& filters, std::string_view label, std::string_view patterns) {
@@ -31,3 +33,5 @@ std::vector<FileFilter> BuildFileFilters(const FileNameQuestion& question) {
     AddFilter(filters, LoadString(AFX_IDS_ALLFILTER), "*.*");
     return filters;
 }
+
+} // namespace keltavlo

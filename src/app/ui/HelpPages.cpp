@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <iterator>
 
+namespace keltavlo {
+
 namespace {
 
 struct Row {
@@ -53,3 +55,5 @@ const char* HelpPageFor(CommandId id) {
         std::ranges::find_if(rows, [id](const Row& each) { return each.first <= id && id <= each.last; });
     return row == std::end(rows) ? nullptr : row->page;
 }
+
+} // namespace keltavlo

@@ -13,6 +13,8 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+namespace keltavlo {
+
 namespace {
 
 // In the order in which they are best read.
@@ -93,3 +95,5 @@ void HelpWindow::keyPressEvent(QKeyEvent* event) {
     else
         QWidget::keyPressEvent(event);
 }
+
+} // namespace keltavlo

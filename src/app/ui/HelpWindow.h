@@ -5,6 +5,8 @@
 class QListWidget;
 class QTextBrowser;
 
+namespace keltavlo {
+
 // The help: the pages that the program carries, with a list of them. It stays open beside the main window and
 // does not keep the program running.
 class HelpWindow final : public QWidget {
@@ -24,3 +26,5 @@ private:
     QListWidget* topics;
     QTextBrowser* browser;
 };
+
+} // namespace keltavlo

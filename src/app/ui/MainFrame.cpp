@@ -15,6 +15,8 @@
 
 #include <QScreen>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr std::size_t positionPane = 2;
@@ -78,3 +80,5 @@ void MainFrame::OnInitMenuPopup(CMenu& menu) {
     MenuItemList::UpdateAll(menu, nullptr);
     UpdateRecentFileMenu(menu, CWinApp::Get().GetRecentFiles().GetPaths());
 }
+
+} // namespace keltavlo

@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <string>
 
+namespace keltavlo {
+
 class BaseDocument;
 class CKelTavloToolBar;
 class DocumentView;
@@ -57,3 +59,5 @@ private:
     std::vector<CControlBar*> controlBars; // children of this window, in the order of the menu
     MenuRuns menuRuns{controlBars};
 };
+
+} // namespace keltavlo

@@ -9,6 +9,8 @@
 #include "resources/BaseDocument.h"
 #include "resources/Shell.h"
 
+namespace keltavlo {
+
 const CommandMap& MainFrame::GetCommandMap() const {
     using Self = MainFrame;
     static const CommandMap map{
@@ -52,3 +54,5 @@ void MainFrame::OnFormatColor() {
     shell.SetCurrentColor(*chosen | alpha);
     shell.UpdatePaletteBar(Shell::colorChanged);
 }
+
+} // namespace keltavlo

@@ -9,6 +9,8 @@
 #include <QThread>
 #include <QWindow>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr const char* placementValue = "WindowPlacement";
@@ -59,3 +61,5 @@ void MainFrame::ShowAsLeft() {
     } while (!isMinimized() && !windowHandle()->isExposed() && !clock.hasExpired(paintPatience));
     LiftFloatingBars();
 }
+
+} // namespace keltavlo

@@ -5,6 +5,8 @@
 #include "resources/ColorSpaceDocument.h"
 #include "resources/ColorTableDocument.h"
 
+namespace keltavlo {
+
 MenuRuns::MenuRuns(const std::vector<CControlBar*>& bars)
     : toolbarMenu(bars), brushMenu(BrushDocument::runtimeClass),
       colorTableMenu(ColorTableDocument::runtimeClass), colorSpaceMenu(ColorSpaceDocument::runtimeClass) {
@@ -13,3 +15,5 @@ MenuRuns::MenuRuns(const std::vector<CControlBar*>& bars)
     colorTableMenu.Init(ID_PALETTE_TABLES, ID_COLOR_TABLE_FIRST, ID_COLOR_TABLE_LAST + 1);
     colorSpaceMenu.Init(ID_PALETTE_SPACES, ID_COLOR_SPACE_FIRST, ID_COLOR_SPACE_LAST + 1);
 }
+
+} // namespace keltavlo

@@ -3,6 +3,8 @@
 #include "app/ui/ControlBarMenuList.h"
 #include "resources/DocumentMenuList.h"
 
+namespace keltavlo {
+
 // The runs of the main window's menus that change while the program runs.
 struct MenuRuns {
     explicit MenuRuns(const std::vector<CControlBar*>& bars);
@@ -12,3 +14,5 @@ struct MenuRuns {
     DocumentMenuList colorTableMenu;
     DocumentMenuList colorSpaceMenu;
 };
+
+} // namespace keltavlo

@@ -8,6 +8,8 @@
 #include "res/ShellStrings.h"
 #include "resources/Shell.h"
 
+namespace keltavlo {
+
 namespace {
 
 QImage ToImage(const Image& picture) {
@@ -32,3 +34,5 @@ Preview ReadPicturePreview(const std::string& path) {
         return {{}, ToQString(LoadString(IDS_NO_PREVIEW))};
     }
 }
+
+} // namespace keltavlo

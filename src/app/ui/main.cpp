@@ -1,12 +1,17 @@
 #include "app/ui/CKelTavloApp.h"
 #include "app/ui/CommandLine.h"
+#include "framework/core/Exceptions.h"
+#include "framework/core/MemoryReserve.h"
+#include "framework/ui/GuardedApplication.h"
 
-#include <QApplication>
 #include <QIcon>
 
 #include <cstdio>
+#include <new>
 #include <string_view>
 #include <unistd.h>
+
+using namespace keltavlo;
 
 namespace {
 
@@ -61,11 +66,15 @@ int RunProgram(const CommandLine& line) {
 
 } // namespace
 
-int main(int argc, char** argv) {
+int main(int argc, char** argv) try {
+    KeepMemoryReserve();
     NameApplication();
     if (AnswerOnConsole(argc, argv)) return 0;
     toolkitHandler = qInstallMessageHandler(&HandleMessage);
-    const QApplication windows(argc, argv); // which takes its own options out of the arguments
+    const GuardedApplication windows(argc, argv); // which takes its own options out of the arguments
     NameWindows();
     return RunProgram(ParseCommandLine({argv, argv + argc}));
+} catch (const std::bad_alloc& failure) { // no event was under way
+    std::fprintf(stderr, "keltavlo: %s\n", SentenceOf(failure));
+    return 1;
 }

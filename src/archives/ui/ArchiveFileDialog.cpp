@@ -18,6 +18,8 @@
 
 #include <ctime>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr const char* profileSection = "FileDialog";
@@ -221,3 +223,5 @@ EntryStatus ArchiveFileDialog::StatusOf(const std::string& path) const {
 bool ArchiveFileDialog::CanBeResolved(const std::string& path) const {
     return !LeadsThroughFile(path) || services.fileSystem.FindArchive(path);
 }
+
+} // namespace keltavlo

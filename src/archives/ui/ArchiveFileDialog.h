@@ -7,6 +7,8 @@
 
 #include <functional>
 
+namespace keltavlo {
+
 class ArchivePanel;
 class FileSystem;
 class PreviewPanel;
@@ -67,3 +69,5 @@ private:
     ArchivePanel* panel;
     PreviewPanel* preview;
 };
+
+} // namespace keltavlo

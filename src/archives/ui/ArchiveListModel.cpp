@@ -9,6 +9,8 @@
 
 #include <algorithm>
 
+namespace keltavlo {
+
 namespace {
 
 struct Column {
@@ -80,3 +82,5 @@ QVariant ArchiveListModel::headerData(int column, Qt::Orientation orientation, i
     if (role == Qt::TextAlignmentRole) return QVariant::fromValue(columns[column].alignment);
     return role == Qt::DisplayRole ? ToQString(LoadString(columns[column].title)) : QVariant();
 }
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 #include <functional>
 #include <vector>
 
+namespace keltavlo {
+
 // A line of the lower list.
 struct ArchiveListItem {
     QString name;         // as people read it, like the other texts
@@ -40,3 +42,5 @@ private:
     Describer describe;
     QIcon fileIcon, folderIcon;
 };
+
+} // namespace keltavlo

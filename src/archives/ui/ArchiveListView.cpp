@@ -10,6 +10,8 @@
 
 #include <algorithm>
 
+namespace keltavlo {
+
 // Gives every line of the list the size of the one with the longest name: the list, which takes all lines to
 // be alike so that long listings are quick, measures a single one.
 class ArchiveNameDelegate final : public QStyledItemDelegate {
@@ -114,3 +116,5 @@ bool ArchiveListView::eventFilter(QObject* view, QEvent* event) {
     onOpen(item);
     return true;
 }
+
+} // namespace keltavlo

@@ -6,10 +6,13 @@
 
 #include <functional>
 
-class ArchiveNameDelegate;
 class QAbstractItemView;
 class QListView;
 class QTreeView;
+
+namespace keltavlo {
+
+class ArchiveNameDelegate;
 
 // The lower list: the same lines as a list of names that runs on in further columns, or with their details.
 class ArchiveListView final : public QStackedWidget {
@@ -37,3 +40,5 @@ private:
     QTreeView* details;
     ArchiveNameDelegate* names;
 };
+
+} // namespace keltavlo

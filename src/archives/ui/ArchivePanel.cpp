@@ -9,6 +9,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+namespace keltavlo {
+
 ArchivePanel::ArchivePanel(QWidget* parent)
     : QWidget(parent), titleLabel(new QLabel(this)), list(new ArchiveListView(this)),
       nameBox(new QLineEdit(this)) {
@@ -79,3 +81,5 @@ void ArchivePanel::SetStyle(ArchiveListView::Style newStyle) {
     listButton->setChecked(newStyle == ArchiveListView::Style::list);
     detailsButton->setChecked(newStyle == ArchiveListView::Style::details);
 }
+
+} // namespace keltavlo

@@ -10,6 +10,8 @@ class QLabel;
 class QLineEdit;
 class QToolButton;
 
+namespace keltavlo {
+
 // The lower part of the file dialog: the list of what an archive holds, the name of the chosen file, and
 // three buttons.
 class ArchivePanel final : public QWidget {
@@ -40,3 +42,5 @@ private:
     QToolButton* listButton;
     QToolButton* detailsButton;
 };
+
+} // namespace keltavlo

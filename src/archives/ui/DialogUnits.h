@@ -3,8 +3,12 @@
 #include <QFontMetrics>
 #include <QWidget>
 
+namespace keltavlo {
+
 // Pixels of a size in dialog units: quarters of a character's average width, eighths of its height.
 inline QSize FromDialogUnits(const QWidget& widget, const QSize& units) {
     const QFontMetrics metrics = widget.fontMetrics();
     return {units.width() * metrics.averageCharWidth() / 4, units.height() * metrics.height() / 8};
 }
+
+} // namespace keltavlo

@@ -8,6 +8,8 @@
 #include <QFileInfo>
 #include <QMimeDatabase>
 
+namespace keltavlo {
+
 FileTypeProvider::FileTypeProvider()
     : fileIcon(icon(File)), folderIcon(icon(Folder)), folderType(TypeNameOfFolder()) {
     for (const CDocTemplate* document : CWinApp::Get().GetTemplates()) {
@@ -27,3 +29,5 @@ QString FileTypeProvider::type(const QFileInfo& file) const {
     const QMimeDatabase database;
     return database.mimeTypeForFile(file.fileName(), QMimeDatabase::MatchExtension).comment();
 }
+
+} // namespace keltavlo

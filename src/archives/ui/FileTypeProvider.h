@@ -3,6 +3,8 @@
 #include <QFileIconProvider>
 #include <QHash>
 
+namespace keltavlo {
+
 // Icons and type names of the standard part's lines, by their names alone: the toolkit's own provider looks
 // into every file, which keeps the window waiting for seconds in a large folder. Called from the thread that
 // lists folders.
@@ -19,3 +21,5 @@ private:
     QString folderType;
     QHash<QString, QString> types; // of the program's documents, by the extension in lower case
 };
+
+} // namespace keltavlo

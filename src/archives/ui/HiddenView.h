@@ -2,5 +2,9 @@
 
 #include "framework/ui/CView.h"
 
+namespace keltavlo {
+
 // The view of a document that is never shown: shows nothing.
 class HiddenView : public Dynamic<"HiddenView", HiddenView, CView> {};
+
+} // namespace keltavlo

@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+namespace keltavlo {
+
 // The text shows where there is no picture.
 class PreviewPanel::Area final : public QLabel {
 public:
@@ -85,3 +87,5 @@ void PreviewPanel::Show() {
     area->setText(isPicture ? QString() : preview.text);
     text->setText(isPicture ? preview.text : QString());
 }
+
+} // namespace keltavlo

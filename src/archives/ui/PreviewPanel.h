@@ -8,6 +8,8 @@
 class QCheckBox;
 class QLabel;
 
+namespace keltavlo {
+
 // A picture for the preview, or the reason why there is none.
 struct Preview {
     QImage picture; // null when there is none
@@ -38,3 +40,5 @@ private:
     QLabel* text;
     QCheckBox* enable;
 };
+
+} // namespace keltavlo

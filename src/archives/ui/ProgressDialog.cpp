@@ -10,6 +10,8 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr QSize sizeInUnits(212, 38);
@@ -65,3 +67,5 @@ void ProgressDialog::WaitUntilDrawn() {
     while (!windowHandle()->isExposed() && !deadline.hasExpired());
     HandleSystemEvents();
 }
+
+} // namespace keltavlo

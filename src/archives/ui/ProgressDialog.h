@@ -6,6 +6,8 @@
 
 class QProgressBar;
 
+namespace keltavlo {
+
 // The modeless window of a progress meter: a text above a bar. While it is there the program does what the
 // system asks of its windows, such as drawing them, and nothing that a person asks of it: the work goes on in
 // the middle of something.
@@ -24,3 +26,5 @@ private:
 
     QProgressBar* bar; // child of this window
 };
+
+} // namespace keltavlo

@@ -8,6 +8,8 @@
 
 #include <QMimeDatabase>
 
+namespace keltavlo {
+
 namespace {
 
 const CDocTemplate* FindType(const std::string& extension) {
@@ -40,3 +42,5 @@ QString TypeNameOfFile(const std::string& name) {
 QString TypeNameOfFolder() {
     return QMimeDatabase().mimeTypeForName(QStringLiteral("inode/directory")).comment();
 }
+
+} // namespace keltavlo

@@ -2,6 +2,10 @@
 
 #include "formats/ui/EditPropertySheet.h"
 
+namespace keltavlo {
+
 TavloDocument& EditPropertyPage::GetDocument() const {
     return dynamic_cast<EditPropertySheet&>(*GetSheet()).GetDocument();
 }
+
+} // namespace keltavlo

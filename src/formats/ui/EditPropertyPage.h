@@ -2,6 +2,8 @@
 
 #include "framework/ui/CPropertyPage.h"
 
+namespace keltavlo {
+
 class TavloDocument;
 
 // A page of the sheet that edits a texture's properties.
@@ -12,3 +14,5 @@ public:
     // The document of the sheet that holds the page.
     TavloDocument& GetDocument() const;
 };
+
+} // namespace keltavlo

@@ -4,9 +4,13 @@
 #include "framework/core/Text.h"
 #include "res/ShellStrings.h"
 
+namespace keltavlo {
+
 EditPropertySheet::EditPropertySheet(QWidget* dialogOwner, TavloDocument& edited)
     : CPropertySheet(ToQString(LoadString(IDS_EDIT_PROPERTIES_TITLE)), dialogOwner), document(edited) {
     AddPage(generalPage);
     AddPage(quakePage);
     AddPage(quake2Page);
 }
+
+} // namespace keltavlo

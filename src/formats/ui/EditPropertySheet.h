@@ -5,6 +5,8 @@
 #include "formats/ui/QuakeEditPropertyPage.h"
 #include "framework/ui/CPropertySheet.h"
 
+namespace keltavlo {
+
 // Edits what the game formats store with a texture besides its pixels. Each group of values that the person
 // changed becomes one undoable change when the sheet is confirmed.
 class EditPropertySheet : public CPropertySheet {
@@ -19,3 +21,5 @@ private:
     QuakeEditPropertyPage quakePage;
     Quake2EditPropertyPage quake2Page;
 };
+
+} // namespace keltavlo

@@ -7,6 +7,8 @@
 #include "image/TextureEdits.h"
 #include "res/ControlIds.h"
 
+namespace keltavlo {
+
 namespace {
 
 constexpr CDataExchange::Range sides{1, 1024};
@@ -37,3 +39,5 @@ bool GeneralEditPropertyPage::OnApply() {
     ResizePicture(GetDocument(), static_cast<int>(width), static_cast<int>(height));
     return EditPropertyPage::OnApply();
 }
+
+} // namespace keltavlo

@@ -4,6 +4,8 @@
 
 #include <cstdint>
 
+namespace keltavlo {
+
 // The picture's size.
 class GeneralEditPropertyPage : public EditPropertyPage {
 public:
@@ -19,3 +21,5 @@ private:
     std::uint32_t width = 256; // texels
     std::uint32_t height = 256;
 };
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include <QVBoxLayout>
 
+namespace keltavlo {
+
 Quake2EditPropertyPage::Quake2EditPropertyPage() : EditPropertyPage(QStringLiteral("Quake II")) {
     innerSheet.AddPage(generalPage);
     innerSheet.AddPage(surfacePage);
@@ -21,3 +23,5 @@ bool Quake2EditPropertyPage::OnApply() {
 TavloDocument& GetInnerPageDocument(const CPropertyPage& page) {
     return dynamic_cast<const EditPropertyPage&>(*page.GetSheet()->parentWidget()).GetDocument();
 }
+
+} // namespace keltavlo

@@ -5,6 +5,8 @@
 #include "formats/ui/Quake2GeneralEditPropertyPage.h"
 #include "framework/ui/CPropertySheet.h"
 
+namespace keltavlo {
+
 // What a Quake II texture stores, in a sheet inside the page.
 class Quake2EditPropertyPage : public EditPropertyPage {
 public:
@@ -23,3 +25,5 @@ private:
 
 // The document behind a page of the inner sheet.
 TavloDocument& GetInnerPageDocument(const CPropertyPage& page);
+
+} // namespace keltavlo

@@ -8,6 +8,8 @@
 #include "image/TextureEdits.h"
 #include "res/ControlIds.h"
 
+namespace keltavlo {
+
 namespace {
 
 constexpr int bitsPerColumn = 8;
@@ -66,3 +68,5 @@ std::uint32_t Quake2ContentsEditPropertyPage::GetStored(const TavloDocument& doc
 void Quake2ContentsEditPropertyPage::Store(TavloDocument& document, std::uint32_t newFlags) const {
     ChangeContents(document, newFlags);
 }
+
+} // namespace keltavlo

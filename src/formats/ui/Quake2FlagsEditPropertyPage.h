@@ -7,6 +7,8 @@
 #include <span>
 #include <string_view>
 
+namespace keltavlo {
+
 class TavloDocument;
 
 // A set of flags, one check box a bit.
@@ -49,3 +51,5 @@ protected:
     std::uint32_t GetStored(const TavloDocument& document) const override;
     void Store(TavloDocument& document, std::uint32_t newFlags) const override;
 };
+
+} // namespace keltavlo

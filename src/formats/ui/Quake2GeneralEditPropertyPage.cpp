@@ -8,6 +8,8 @@
 #include "image/TextureEdits.h"
 #include "res/ControlIds.h"
 
+namespace keltavlo {
+
 namespace {
 
 constexpr std::size_t longestName = 31;
@@ -45,3 +47,5 @@ bool Quake2GeneralEditPropertyPage::OnApply() {
     ChangeValue(document, static_cast<std::uint32_t>(value));
     return CPropertyPage::OnApply();
 }
+
+} // namespace keltavlo

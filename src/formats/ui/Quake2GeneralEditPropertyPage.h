@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string>
 
+namespace keltavlo {
+
 // The names and the value that a Quake II texture stores.
 class Quake2GeneralEditPropertyPage : public CPropertyPage {
 public:
@@ -21,3 +23,5 @@ private:
     std::string nextFrameName;
     std::int32_t value = 0;
 };
+
+} // namespace keltavlo

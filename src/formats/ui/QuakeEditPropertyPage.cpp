@@ -6,6 +6,8 @@
 #include "image/TextureEdits.h"
 #include "res/ControlIds.h"
 
+namespace keltavlo {
+
 namespace {
 
 constexpr std::size_t longestName = 15;
@@ -30,3 +32,5 @@ bool QuakeEditPropertyPage::OnApply() {
     ChangeQuakeName(GetDocument(), name);
     return EditPropertyPage::OnApply();
 }
+
+} // namespace keltavlo

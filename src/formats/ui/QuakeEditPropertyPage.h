@@ -4,6 +4,8 @@
 
 #include <string>
 
+namespace keltavlo {
+
 // The name that a Quake texture stores.
 class QuakeEditPropertyPage : public EditPropertyPage {
 public:
@@ -18,3 +20,5 @@ protected:
 private:
     std::string name; // as stored, in bytes of any kind
 };
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+namespace keltavlo {
+
 void CArchive::Flush() {
     if (IsStoring()) {
         const std::size_t count = std::exchange(used, 0);
@@ -35,3 +37,5 @@ void CArchive::WriteThrough(const void* source, std::size_t count) {
         used = count;
     }
 }
+
+} // namespace keltavlo

@@ -5,6 +5,8 @@
 #include <array>
 #include <cstring>
 
+namespace keltavlo {
+
 // A buffered, one-way run of bytes over a file: loading or storing.
 class CArchive {
 public:
@@ -50,3 +52,5 @@ private:
     std::size_t filled = 0; // loading only: bytes in the buffer
     std::array<std::byte, 16384> buffer;
 };
+
+} // namespace keltavlo

@@ -1,5 +1,7 @@
 #include "framework/core/CCmdTarget.h"
 
+namespace keltavlo {
+
 bool CCmdTarget::OnCmdMsg(CommandId id, CCmdUI* state) {
     const CommandRow* row = GetCommandMap().Find(id);
     if (!row) return false;
@@ -16,3 +18,5 @@ const CommandMap& CCmdTarget::GetCommandMap() const {
     static const CommandMap map;
     return map;
 }
+
+} // namespace keltavlo

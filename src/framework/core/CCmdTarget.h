@@ -3,6 +3,8 @@
 #include "framework/core/CommandMap.h"
 #include "framework/core/RuntimeClass.h"
 
+namespace keltavlo {
+
 // Something that commands are offered to: a view, a document, a frame, the application.
 class CCmdTarget : public Dynamic<"CCmdTarget", CCmdTarget, CObject> {
 public:
@@ -15,3 +17,5 @@ protected:
     //     const CommandMap& GetCommandMap() const override;
     virtual const CommandMap& GetCommandMap() const;
 };
+
+} // namespace keltavlo

@@ -4,6 +4,8 @@
 #include <optional>
 #include <string>
 
+namespace keltavlo {
+
 using CommandId = std::uint32_t;
 
 // How a command stands: filled by the handler's class, shown by menus, tool buttons and accelerators.
@@ -26,3 +28,5 @@ public:
     bool radio = false;
     std::optional<std::string> text; // none: the item keeps its own
 };
+
+} // namespace keltavlo

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 
+namespace keltavlo {
+
 CDocTemplate::~CDocTemplate() = default;
 
 std::string CDocTemplate::GetDocString(DocString field) const {
@@ -85,3 +87,5 @@ void CDocTemplate::RemoveDocument(CDocument& document) {
     const std::unique_ptr<CDocument> ending = std::move(*place); // deleted when the list no longer shows it
     documents.erase(place);
 }
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include "framework/core/CDocument.h"
 
+namespace keltavlo {
+
 // One document type: its classes, its names and its open documents.
 class CDocTemplate : public Dynamic<"CDocTemplate", CDocTemplate, CCmdTarget> {
 public:
@@ -61,3 +63,5 @@ private:
     std::vector<std::unique_ptr<CDocument>> documents; // in the order of opening
     unsigned untitledCount = 0;
 };
+
+} // namespace keltavlo

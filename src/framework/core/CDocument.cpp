@@ -8,10 +8,23 @@
 #include <algorithm>
 #include <utility>
 
+namespace keltavlo {
+
 namespace {
 
 void Report(Direction direction, const std::string& path, const std::exception& failure) {
-    UserInterface::Get().ShowMessage(DescribeFailure(direction, path, failure));
+    try {
+        UserInterface::Get().ShowMessage(DescribeFailure(direction, path, failure));
+    } catch (const std::bad_alloc&) {
+        UserInterface::Get().ReportMemoryShortage();
+    }
+}
+
+void TryUpdate(DocumentView& view, DocumentView* sender, std::intptr_t hint, CObject* hintObject) {
+    try {
+        view.OnUpdate(sender, hint, hintObject);
+    } catch (const std::bad_alloc&) {
+    }
 }
 
 } // namespace
@@ -114,11 +127,15 @@ void CDocument::RemoveView(DocumentView& view) {
 }
 
 void CDocument::UpdateAllViews(DocumentView* sender, std::intptr_t hint, CObject* hintObject) {
-    const std::vector<DocumentView*> told = views; // an update may add or remove views
-    for (DocumentView* view : told)
-        if (view != sender) view->OnUpdate(sender, hint, hintObject);
+    for (std::size_t i = 0; i < views.size();) {
+        DocumentView* const view = views[i];
+        if (view != sender) TryUpdate(*view, sender, hint, hintObject);
+        if (i < views.size() && views[i] == view) ++i; // an update may remove the view
+    }
 }
 
 DocumentFrame* CDocument::GetFrame() const {
     return views.empty() ? nullptr : views.front()->GetFrame();
 }
+
+} // namespace keltavlo

@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+namespace keltavlo {
+
 class CDocTemplate;
 
 // A file's contents in memory, with a title, a path, a modified mark and the views that show it.
@@ -23,8 +25,9 @@ public:
     void SetModifiedFlag(bool on = true);
     CDocTemplate* GetDocTemplate() const { return docTemplate; }
 
-    // Make the document new, or read or write its file. A failure is told to the user, who sees a sentence
-    // with the path; then the answer is false, and after OnSaveDocument the document is as it was.
+    // Make the document new, or read or write its file. On failure they show the user a sentence with the
+    // path and return false. A document that could not be read is empty. One that could not be saved keeps
+    // its contents and its modified mark; a change that the file's format called for stays.
     virtual bool OnNewDocument();
     virtual bool OnOpenDocument(const std::string& path);
     virtual bool OnSaveDocument(const std::string& path);
@@ -42,7 +45,8 @@ public:
     void AddView(DocumentView& view);
     void RemoveView(DocumentView& view);
     const std::vector<DocumentView*>& GetViews() const { return views; }
-    // Tells every view but the sender.
+    // Tells every view but the sender. A view that lacks the memory to follow does so when it is painted
+    // next: the document has changed already, and the other views must know.
     void UpdateAllViews(DocumentView* sender, std::intptr_t hint = 0, CObject* hintObject = nullptr);
     // The first view's frame; null for a document without windows.
     DocumentFrame* GetFrame() const;
@@ -62,3 +66,5 @@ private:
     CDocTemplate* docTemplate = nullptr;
     std::vector<DocumentView*> views;
 };
+
+} // namespace keltavlo

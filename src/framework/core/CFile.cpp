@@ -8,6 +8,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+namespace keltavlo {
+
 namespace {
 
 CTime ToTime(const timespec& time) {
@@ -58,3 +60,5 @@ std::uint64_t SeekTarget(const CFile& file, std::int64_t offset, CFile::From fro
         throw CFileException(CFileException::badSeek, CFileException::noOsError, file.GetFilePath());
     return static_cast<std::uint64_t>(target);
 }
+
+} // namespace keltavlo

@@ -9,6 +9,8 @@
 #include <optional>
 #include <string>
 
+namespace keltavlo {
+
 // A point in time, or none when it is not known.
 using CTime = std::optional<std::chrono::system_clock::time_point>;
 
@@ -79,3 +81,5 @@ std::unique_ptr<CFile> OpenDiskFile(const std::string& path, unsigned flags, CFi
 
 // Where a seek of this file leads; badSeek before the start or past the largest position.
 std::uint64_t SeekTarget(const CFile& file, std::int64_t offset, CFile::From from);
+
+} // namespace keltavlo

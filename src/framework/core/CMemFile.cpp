@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
+namespace keltavlo {
+
 std::size_t CMemFile::Read(void* buffer, std::size_t count) {
     const std::span<const std::byte> bytes = Bytes();
     if (position >= bytes.size() || count == 0) return 0;
@@ -41,3 +43,5 @@ std::unique_ptr<CFile> CMemFile::Duplicate() const {
     copy->own = own;
     return copy;
 }
+
+} // namespace keltavlo

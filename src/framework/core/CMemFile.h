@@ -5,6 +5,8 @@
 #include <span>
 #include <vector>
 
+namespace keltavlo {
+
 // A file in memory: either over a buffer of the caller's, whose length is then fixed, or over one of its own
 // that grows.
 class CMemFile : public CFile {
@@ -38,3 +40,5 @@ private:
     bool fixed = false;
     std::uint64_t position = 0;
 };
+
+} // namespace keltavlo

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+namespace keltavlo {
+
 CWinApp::CWinApp(std::unique_ptr<ProfileStore> settings)
     : profile(std::move(settings)), recentFiles(profile.get()) {}
 
@@ -80,3 +82,5 @@ bool CWinApp::SaveAllModified() {
 void CWinApp::CloseAllDocuments() {
     for (const auto& type : templates) type->CloseAllDocuments();
 }
+
+} // namespace keltavlo

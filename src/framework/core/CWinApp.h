@@ -5,6 +5,8 @@
 #include "framework/core/RecentFileList.h"
 #include "framework/core/Service.h"
 
+namespace keltavlo {
+
 // The application without its windows: the document types, their open documents, the settings and the recent
 // files.
 class CWinApp : public Dynamic<"CWinApp", CWinApp, CCmdTarget>, public Service<CWinApp> {
@@ -42,3 +44,5 @@ private:
     RecentFileList recentFiles;
     std::vector<std::unique_ptr<CDocTemplate>> templates;
 };
+
+} // namespace keltavlo

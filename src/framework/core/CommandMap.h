@@ -5,6 +5,8 @@
 #include <initializer_list>
 #include <vector>
 
+namespace keltavlo {
+
 class CCmdTarget;
 
 // One row of a class's command table: an id or a range of ids, what carries the command out, and what tells
@@ -77,3 +79,5 @@ template <auto handler, auto update>
 CommandRow CommandRange(CommandId first, CommandId last) {
     return {first, last, &command_detail::Bound<handler>::Execute, &command_detail::Bound<update>::Update};
 }
+
+} // namespace keltavlo

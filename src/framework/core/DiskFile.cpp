@@ -8,6 +8,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+namespace keltavlo {
+
 namespace {
 
 int NativeFlags(unsigned flags) {
@@ -102,3 +104,5 @@ DiskFile::Fingerprint DiskFile::FingerprintOf(const struct stat& info) {
 void DiskFile::ThrowErrno() const {
     throw CFileException::FromErrno(errno, filePath);
 }
+
+} // namespace keltavlo

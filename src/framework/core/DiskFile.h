@@ -6,6 +6,8 @@
 
 struct stat;
 
+namespace keltavlo {
+
 // Whether this user may write the file with that status; errno says why not. A file without any write bit is
 // read-only even for root.
 bool MayWrite(const std::string& path, const struct stat& info);
@@ -66,3 +68,5 @@ private:
     Fingerprint fingerprint;    // when it was opened
     std::uint64_t position = 0; // ours, not the descriptor's, so that duplicates do not disturb each other
 };
+
+} // namespace keltavlo

@@ -4,6 +4,8 @@
 
 #include <cstdint>
 
+namespace keltavlo {
+
 class CDocument;
 
 // The window round a document's views, as the document sees it.
@@ -40,3 +42,5 @@ public:
     // A frame for the document, with a view attached to it; null when the type's classes are not known.
     virtual DocumentFrame* CreateFrame(const CDocTemplate& type, CDocument& document) = 0;
 };
+
+} // namespace keltavlo

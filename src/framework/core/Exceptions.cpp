@@ -6,7 +6,11 @@
 #include <cerrno>
 #include <new>
 
+namespace keltavlo {
+
 namespace {
+
+constexpr const char* memorySentence = "There is not enough memory.";
 
 std::string ArchiveSentence(CArchiveException::Cause cause) {
     static constexpr std::array sentences{
@@ -94,12 +98,16 @@ CFileException CFileException::FromErrno(int error, std::string file) {
     return CFileException(CauseOfErrno(error), error, std::move(file));
 }
 
-CMemoryException::CMemoryException() : CException("There is not enough memory.") {}
+CMemoryException::CMemoryException() : CException(memorySentence) {}
+
+// The standard library's own texts are not sentences for people.
+const char* SentenceOf(const std::exception& failure) {
+    return dynamic_cast<const std::bad_alloc*>(&failure) ? memorySentence : failure.what();
+}
 
 std::string DescribeFailure(Direction direction, const std::string& path, const std::exception& failure) {
     const char* verb = direction == Direction::opening ? "open" : "save";
-    // The standard library's own texts are not sentences for people.
-    const bool outOfMemory = dynamic_cast<const std::bad_alloc*>(&failure) != nullptr;
-    const std::string reason = outOfMemory ? CMemoryException().what() : failure.what();
-    return "Cannot " + std::string(verb) + " \"" + ToDisplayPath(path) + "\".\n" + reason;
+    return "Cannot " + std::string(verb) + " \"" + ToDisplayPath(path) + "\".\n" + SentenceOf(failure);
 }
+
+} // namespace keltavlo

@@ -3,6 +3,8 @@
 #include <exception>
 #include <string>
 
+namespace keltavlo {
+
 // Base of the failures that a document's open and save steps catch. what() is a sentence for the user without
 // the file's name; DescribeFailure adds the name.
 class CException : public std::exception {
@@ -68,8 +70,13 @@ public:
     explicit CMemoryException(std::string text) : CException(std::move(text)) {}
 };
 
+// The sentence about any failure for the user. Takes no memory.
+const char* SentenceOf(const std::exception& failure);
+
 enum class Direction { opening, saving };
 
 // The sentence shown when opening or saving `path` fails: names the path, says what went wrong. Any
 // std::exception will do.
 std::string DescribeFailure(Direction direction, const std::string& path, const std::exception& failure);
+
+} // namespace keltavlo

@@ -1,5 +1,7 @@
 #include "framework/core/MenuItems.h"
 
+namespace keltavlo {
+
 std::string MenuText(std::string_view text) {
     std::string shown;
     for (const char c : text) {
@@ -8,3 +10,5 @@ std::string MenuText(std::string_view text) {
     }
     return shown;
 }
+
+} // namespace keltavlo

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+namespace keltavlo {
+
 // A menu whose items are known by their command ids, wherever in it they stand; the first item of an id is
 // meant. What changes an item that is not there does nothing.
 class MenuItems {
@@ -22,3 +24,5 @@ public:
 
 // A text as a menu item's: shown as it stands, "&" and tabs too.
 std::string MenuText(std::string_view text);
+
+} // namespace keltavlo

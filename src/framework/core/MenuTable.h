@@ -4,6 +4,8 @@
 
 #include <span>
 
+namespace keltavlo {
+
 // Menus and accelerators as data. A row with items is a popup, one without text is a separator, any other a
 // command.
 struct MenuRow {
@@ -16,3 +18,5 @@ struct AcceleratorRow {
     const char* keys; // portable text, such as "Ctrl+Shift+S"
     CommandId id;
 };
+
+} // namespace keltavlo

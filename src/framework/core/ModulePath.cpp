@@ -6,6 +6,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+namespace keltavlo {
+
 namespace {
 
 struct Module {
@@ -43,3 +45,5 @@ bool IsModulePath(std::string_view path) {
 std::string TypeExtensionOf(std::string_view path) {
     return IsModulePath(path) ? ".exe" : std::string(ExtensionOf(path));
 }
+
+} // namespace keltavlo

@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+namespace keltavlo {
+
 // The full path of the running program's file, as it was at the start.
 const std::string& GetModulePath();
 
@@ -13,3 +15,5 @@ bool IsModulePath(std::string_view path);
 // The extension that picks a path's document type: ".exe" for the running program's file, whatever it is
 // called, and the path's own for every other. Does not ask the disk about a relative path.
 std::string TypeExtensionOf(std::string_view path);
+
+} // namespace keltavlo

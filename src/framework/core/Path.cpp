@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <filesystem>
 
+namespace keltavlo {
+
 namespace {
 
 std::vector<std::string> Components(std::string_view text) {
@@ -134,3 +136,5 @@ bool SamePath(const std::string& a, const std::string& b) {
     const std::size_t length = DiskLength(first);
     return length < first.size() && first.compare(0, length, second, 0, length) == 0;
 }
+
+} // namespace keltavlo

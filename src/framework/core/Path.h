@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+namespace keltavlo {
+
 // Paths as the program's people write them: "\" and "/" both separate, runs of separators count as one, and
 // an archive is a folder. Nothing here asks the disk, save SamePath.
 
@@ -48,3 +50,5 @@ std::string FullPath(std::string_view path);
 // One rule for "is this the same file": the part on the disk as the disk compares it, the part inside an
 // archive without regard to case, both kinds of separator alike.
 bool SamePath(const std::string& a, const std::string& b);
+
+} // namespace keltavlo

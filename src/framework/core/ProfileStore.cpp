@@ -11,6 +11,8 @@
 #include <string_view>
 #include <utility>
 
+namespace keltavlo {
+
 namespace {
 
 using Bytes = ProfileStore::Bytes;
@@ -127,3 +129,5 @@ bool ProfileStore::WriteSection(const std::string& section, const Section& value
 bool ProfileStore::DeleteSubKeys() {
     return Store(path, {});
 }
+
+} // namespace keltavlo

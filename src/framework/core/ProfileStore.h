@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+namespace keltavlo {
+
 // The user's settings: sections of named binary values, in a file. Nothing here fails loudly: a setting that
 // cannot be read is absent, one that cannot be written is lost. The file is asked each time, so that programs
 // that run at once do not undo each other's settings.
@@ -33,3 +35,5 @@ public:
 private:
     std::string path;
 };
+
+} // namespace keltavlo

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace keltavlo {
+
 namespace {
 
 std::vector<ResourceRow>& Table() {
@@ -35,3 +37,5 @@ const ResourceRow* FindResource(unsigned id, std::string_view type) {
         if (row.id == id && EqualNoCase(row.type, type)) return &row;
     return nullptr;
 }
+
+} // namespace keltavlo

@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+namespace keltavlo {
+
 // A file that the program carries inside itself: known by a number and a type.
 struct ResourceRow {
     unsigned id;
@@ -20,3 +22,5 @@ std::vector<unsigned> EnumResources(std::string_view type);
 
 // The resource's bytes; the row is null when there is no such resource.
 const ResourceRow* FindResource(unsigned id, std::string_view type);
+
+} // namespace keltavlo

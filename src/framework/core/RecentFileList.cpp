@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <iterator>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr const char* section = "Recent File List";
@@ -50,3 +52,5 @@ void RecentFileList::Write() {
     for (std::size_t n = 0; n < paths.size(); ++n) values[ValueName(n)] = ToBytes(paths[n]);
     profile->WriteSection(section, values);
 }
+
+} // namespace keltavlo

@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+namespace keltavlo {
+
 class ProfileStore;
 
 // The files opened or saved last, newest first; kept in the user's settings where there are some.
@@ -22,3 +24,5 @@ private:
     ProfileStore* profile; // may be null
     std::vector<std::string> paths;
 };
+
+} // namespace keltavlo

@@ -11,6 +11,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+namespace keltavlo {
+
 namespace {
 
 [[noreturn]] void ThrowErrno(const std::string& path) {
@@ -108,3 +110,5 @@ void ReplacingFile::Close() {
     temporary.RenameTo(target);
     FlushFolder(ParentOf(target));
 }
+
+} // namespace keltavlo

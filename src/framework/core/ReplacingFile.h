@@ -2,6 +2,8 @@
 
 #include "framework/core/CMemFile.h"
 
+namespace keltavlo {
+
 // A file that is being written anew. What is written gathers in memory; Close puts it in the target's place
 // in one step: a temporary file beside the target, written and flushed whole, then renamed over it. A save
 // that fails or is killed leaves the old file as it was. A link is followed and stays a link. Where the
@@ -23,3 +25,5 @@ private:
 // Removes the temporary files that killed saves of this user left; running saves keep theirs. Call once at
 // start.
 void RemoveAbandonedSaves();
+
+} // namespace keltavlo

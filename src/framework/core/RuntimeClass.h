@@ -6,6 +6,8 @@
 #include <string_view>
 #include <type_traits>
 
+namespace keltavlo {
+
 class CObject;
 
 // What a class tells about itself while the program runs: its name, its base and how to make one.
@@ -65,3 +67,5 @@ private:
 public:
     static inline const CRuntimeClass runtimeClass{className.View(), &Base::runtimeClass, &Create};
 };
+
+} // namespace keltavlo

@@ -16,6 +16,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+namespace keltavlo {
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -95,3 +97,5 @@ void RemoveAbandonedSaves() {
         unlink(entry.path().c_str());
     }
 }
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include "framework/core/DiskFile.h"
 
+namespace keltavlo {
+
 // A temporary file beside a file that is being saved. While it exists a record in the user's state folder
 // names it, so that the next start can remove it if this process is killed; a lock on the record tells that
 // the save still runs.
@@ -22,3 +24,5 @@ private:
     std::string recordPath;
     Descriptor record; // not open when the state folder cannot be written
 };
+
+} // namespace keltavlo

@@ -3,6 +3,8 @@
 #include <QCryptographicHash>
 #include <QtEndian>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr qsizetype versionSize = sizeof(std::uint32_t);
@@ -32,3 +34,5 @@ QByteArray UnsealState(std::uint32_t version, const std::vector<std::byte>& seal
     if (qFromLittleEndian<std::uint32_t>(content.constData()) != version) return {};
     return content.mid(versionSize);
 }
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include <cassert>
 
+namespace keltavlo {
+
 // A base for the few objects of which the process has one. The object registers itself when it is made and
 // gives the place back to its forerunner when it goes, so a test puts a fake in front of the real thing for
 // as long as it lives.
@@ -28,3 +30,5 @@ private:
     static inline Service* current = nullptr;
     Service* previous;
 };
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include "framework/core/CCmdUI.h"
 
+namespace keltavlo {
+
 // Ids that the framework gives a meaning: commands from 57600, strings from 57344.
 enum StandardCommand : CommandId {
     ID_FILE_NEW = 57600,
@@ -55,6 +57,9 @@ enum StandardString : unsigned {
     AFX_IDS_PATH_MISSING = 61482,
     AFX_IDS_NEW_LABEL = 61483,
     AFX_IDS_SAVE_IN = 61484,
+    AFX_IDP_FAILED_MEMORY_ALLOC = 61703,
     AFX_IDP_PARSE_INT_RANGE = 61714, // a value of a dialog is refused
     AFX_IDP_PARSE_STRING_SIZE = 61716
 };
+
+} // namespace keltavlo

@@ -7,6 +7,8 @@
 #include <cstdarg>
 #include <map>
 
+namespace keltavlo {
+
 namespace {
 
 std::map<unsigned, const char*>& Table() {
@@ -33,3 +35,5 @@ std::string FormatString(unsigned id, ...) {
     va_end(arguments);
     return FromQString(text);
 }
+
+} // namespace keltavlo

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+namespace keltavlo {
+
 struct StringRow {
     unsigned id;
     const char* text; // UTF-8
@@ -18,3 +20,5 @@ std::string LoadString(unsigned id);
 
 // The string of that id as a printf format, which fits the arguments. %s takes UTF-8.
 std::string FormatString(unsigned id, ...);
+
+} // namespace keltavlo

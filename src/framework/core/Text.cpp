@@ -5,6 +5,8 @@
 #include <array>
 #include <cstdarg>
 
+namespace keltavlo {
+
 namespace {
 
 // Windows-1252 differs from Latin-1 only here. The five unused codes keep their Latin-1 control characters.
@@ -87,3 +89,5 @@ std::string_view Field(std::string_view text, char separator, std::size_t n) {
     }
     return text.substr(0, text.find(separator));
 }
+
+} // namespace keltavlo

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+namespace keltavlo {
+
 // Text in files is 8-bit: UTF-8 where it is valid, else Windows-1252. A std::string keeps the bytes as they
 // came; these functions look at them without changing them.
 
@@ -28,3 +30,5 @@ std::string_view UpToNul(std::string_view field);
 
 // The n-th of the parts between separators; empty when there are fewer.
 std::string_view Field(std::string_view text, char separator, std::size_t n);
+
+} // namespace keltavlo

@@ -5,6 +5,8 @@
 #include <span>
 #include <string_view>
 
+namespace keltavlo {
+
 // A picture as rows of letters, one a pixel: "#" is the colour of texts, "w" that of paper, "g" lies between
 // text and ground, "b", "y", "r" and "n" are blue, yellow, red and green, anything else is see-through.
 using PixelArt = std::span<const std::string_view>;
@@ -14,3 +16,5 @@ struct ToolBarRow {
     CommandId id = 0;
     PixelArt icon = {};
 };
+
+} // namespace keltavlo

@@ -5,6 +5,8 @@
 #include <optional>
 #include <string>
 
+namespace keltavlo {
+
 class CDocTemplate;
 class FrameFactory;
 
@@ -23,6 +25,8 @@ struct FileNameQuestion {
 class UserInterface : public Service<UserInterface> {
 public:
     virtual void ShowMessage(const std::string& text) = 0;
+    // Says, now or soon, that memory ran out; for where there may be none for a text of one's own.
+    virtual void ReportMemoryShortage() noexcept = 0;
     // "Save changes to NAME?"
     virtual SaveAnswer AskToSave(const std::string& name) = 0;
     // The path chosen, or nothing when the person cancelled.
@@ -44,3 +48,5 @@ public:
     CWaitCursor(const CWaitCursor&) = delete;
     CWaitCursor& operator=(const CWaitCursor&) = delete;
 };
+
+} // namespace keltavlo

@@ -4,6 +4,8 @@
 #include <bit>
 #include <cstring>
 
+namespace keltavlo {
+
 namespace {
 
 using Words = std::array<std::uint32_t, 11>;
@@ -59,3 +61,5 @@ std::optional<WindowPlacement> WindowPlacement::FromBytes(const std::vector<std:
     if (words[0] != recordSize || !hasArea) return std::nullopt;
     return placement;
 }
+
+} // namespace keltavlo

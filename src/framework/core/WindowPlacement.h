@@ -5,6 +5,8 @@
 #include <optional>
 #include <vector>
 
+namespace keltavlo {
+
 // Where a window stands and how it is shown, as the settings keep it: 44 bytes, eleven little-endian 32-bit
 // words. Coordinates are pixels of the desktop.
 struct WindowPlacement {
@@ -32,3 +34,5 @@ struct WindowPlacement {
     // becomes `show`.
     static std::optional<WindowPlacement> FromBytes(const std::vector<std::byte>& bytes);
 };
+
+} // namespace keltavlo

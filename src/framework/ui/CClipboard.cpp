@@ -6,6 +6,8 @@
 #include <QTimer>
 #include <QVariant>
 
+namespace keltavlo {
+
 CClipboard::CClipboard() {
     QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, &receiver, [this] { Learn(); });
     QTimer::singleShot(0, &receiver, [this] { Learn(); });
@@ -25,3 +27,5 @@ QVariant CClipboard::GetData(const QString& format) const {
 void CClipboard::SetData(std::unique_ptr<QMimeData> data) {
     QGuiApplication::clipboard()->setMimeData(data.release()); // takes it over
 }
+
+} // namespace keltavlo

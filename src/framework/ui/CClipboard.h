@@ -9,6 +9,8 @@
 
 class QMimeData;
 
+namespace keltavlo {
+
 // The system's clipboard. What it offers is learnt when it changes: to ask takes seconds when the program
 // that owns it hangs, so nobody asks again.
 class CClipboard : public Service<CClipboard> {
@@ -28,3 +30,5 @@ private:
     QStringList formats;
     QObject receiver; // of the clipboard's signals
 };
+
+} // namespace keltavlo

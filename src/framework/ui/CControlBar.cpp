@@ -6,6 +6,8 @@
 #include <QEvent>
 #include <QWidget>
 
+namespace keltavlo {
+
 // The toolkit keeps the state of a bar under its object name.
 CControlBar::CControlBar(unsigned barId, QWidget& barWindow) : id(barId), window(barWindow) {
     window.setObjectName(QStringLiteral("bar%1").arg(barId));
@@ -28,3 +30,5 @@ bool CControlBar::ForwardPrompt(QEvent& event) {
     return event.type() == QEvent::StatusTip && window.isWindow() && window.parentWidget() &&
            QCoreApplication::sendEvent(window.parentWidget(), &event);
 }
+
+} // namespace keltavlo

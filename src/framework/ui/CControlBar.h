@@ -9,6 +9,8 @@
 class QEvent;
 class QWidget;
 
+namespace keltavlo {
+
 // A bar at the edge of the main window, which people move, hide and find again where they left it.
 class CControlBar : public Dynamic<"CControlBar", CControlBar, CCmdTarget> {
 public:
@@ -31,3 +33,5 @@ private:
     unsigned id;
     QWidget& window;
 };
+
+} // namespace keltavlo

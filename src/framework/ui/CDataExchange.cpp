@@ -9,6 +9,8 @@
 #include <QCheckBox>
 #include <QLineEdit>
 
+namespace keltavlo {
+
 QLineEdit& CDataExchange::GetEdit(unsigned id) const {
     return dynamic_cast<QLineEdit&>(controls.GetDlgItem(id));
 }
@@ -76,3 +78,5 @@ void CDataExchange::Check(unsigned id, bool& member) {
     else
         box.setChecked(member);
 }
+
+} // namespace keltavlo

@@ -6,9 +6,12 @@
 #include <optional>
 #include <string>
 
-class DialogControls;
 class QLineEdit;
 class QString;
+
+namespace keltavlo {
+
+class DialogControls;
 
 // One exchange between controls and members, in one of the two directions. Only edits whose text the person
 // changed are read and checked, so a value that no edit would take stays as it is when it is left alone.
@@ -48,3 +51,5 @@ private:
     QLineEdit* refusedEdit = nullptr;
     std::string refusal;
 };
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include "framework/ui/NormalCursor.h"
 
+namespace keltavlo {
+
 bool CDialog::DoModal() {
     const NormalCursor arrow;
     OnInitDialog();
@@ -11,3 +13,5 @@ bool CDialog::DoModal() {
 void CDialog::accept() {
     if (UpdateData(true)) QDialog::accept();
 }
+
+} // namespace keltavlo

@@ -4,6 +4,8 @@
 
 #include <QDialog>
 
+namespace keltavlo {
+
 // A dialog whose controls carry values.
 class CDialog : public QDialog, public DialogControls {
 public:
@@ -18,3 +20,5 @@ protected:
     // The dialog is about to be seen. Here: fills the controls.
     virtual void OnInitDialog() { UpdateData(false); }
 };
+
+} // namespace keltavlo

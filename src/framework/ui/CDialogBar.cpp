@@ -2,6 +2,8 @@
 
 #include "framework/core/Text.h"
 
+namespace keltavlo {
+
 CDialogBar::CDialogBar(unsigned barId, const std::string& title, QWidget* parent)
     : QDockWidget(ToQString(title), parent), Dynamic(barId, *this) {
     setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
@@ -10,3 +12,5 @@ CDialogBar::CDialogBar(unsigned barId, const std::string& title, QWidget* parent
 bool CDialogBar::event(QEvent* event) {
     return ForwardPrompt(*event) || QDockWidget::event(event);
 }
+
+} // namespace keltavlo

@@ -4,6 +4,8 @@
 
 #include <QDockWidget>
 
+namespace keltavlo {
+
 // A bar of controls that docks at the left or the right side of the main window, or floats. Commands are
 // offered to it like to any other window.
 class CDialogBar : public QDockWidget, public Dynamic<"CDialogBar", CDialogBar, CControlBar> {
@@ -13,3 +15,5 @@ public:
 protected:
     bool event(QEvent* event) override;
 };
+
+} // namespace keltavlo

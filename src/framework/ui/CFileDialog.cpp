@@ -19,6 +19,8 @@
 
 #include <algorithm>
 
+namespace keltavlo {
+
 namespace {
 
 bool IsFolder(const std::string& path) {
@@ -193,3 +195,5 @@ bool CFileDialog::LeadsThroughFile(const std::string& path) {
 QGridLayout& CFileDialog::GetGrid() const {
     return *qobject_cast<QGridLayout*>(layout());
 }
+
+} // namespace keltavlo

@@ -7,13 +7,15 @@
 #include <string>
 #include <vector>
 
+class QGridLayout;
+
+namespace keltavlo {
+
 struct FileFilter {
     std::string label;       // as it is shown
     std::string patterns;    // such as "*.pak;*.wal"
     std::string extension{}; // of the one format that files are saved in with this filter; empty for none
 };
-
-class QGridLayout;
 
 // Asks for a file name, to open or to save. A typed path may lead into an archive, where the disk knows
 // nothing. A derived dialog adds controls of its own and follows what the person selects.
@@ -62,3 +64,5 @@ private:
     bool mustExist;
     bool deciding = false; // about a name; the person may have been asked
 };
+
+} // namespace keltavlo

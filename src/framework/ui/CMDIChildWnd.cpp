@@ -16,6 +16,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace keltavlo {
+
 namespace {
 
 std::vector<CMDIChildWnd*> FramesOf(const CDocument& document) {
@@ -169,3 +171,5 @@ void CMDIChildWnd::OnFileClose() {
     CDocument* document = GetActiveDocument();
     if (document && document->SaveModified()) document->OnCloseDocument();
 }
+
+} // namespace keltavlo

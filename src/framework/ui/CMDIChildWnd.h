@@ -7,6 +7,8 @@
 
 #include <string>
 
+namespace keltavlo {
+
 class CDocument;
 class CMDIFrameWnd;
 class CView;
@@ -63,3 +65,5 @@ private:
     bool shown = false;
     bool ending = false;
 };
+
+} // namespace keltavlo

@@ -16,6 +16,8 @@
 
 #include <utility>
 
+namespace keltavlo {
+
 namespace {
 
 // Strings whose widths the panes take: a zoom, a position, a colour.
@@ -86,11 +88,15 @@ bool CMDIFrameWnd::OnCmdMsg(CommandId id, CCmdUI* state) {
     return application && application->OnCmdMsg(id, state);
 }
 
-void CMDIFrameWnd::OnIdle() {
+// Out of memory, items and tools stay as they are until the next idle moment.
+void CMDIFrameWnd::OnIdle() noexcept try {
     if (currentMenu) currentMenu->UpdateOpenPopups();
     for (CControlBar* bar : dockedBars) bar->OnUpdateCmdUI();
+} catch (const std::bad_alloc&) {
 }
 
 void CMDIFrameWnd::OnInitMenuPopup(CMenu& menu) {
     UpdateWindowList(menu);
 }
+
+} // namespace keltavlo

@@ -10,6 +10,8 @@
 #include <memory>
 #include <vector>
 
+namespace keltavlo {
+
 class CControlBar;
 class CDialogBar;
 class CMDIChildWnd;
@@ -46,7 +48,7 @@ public:
     CMenu& GetCurrentMenu() { return *currentMenu; }
     CStatusBar& GetStatusBar() { return *statusBarWindow; }
     // Brings what people see of the commands' states up to date; runs by itself before the program waits.
-    void OnIdle();
+    void OnIdle() noexcept;
     bool OnCmdMsg(CommandId id, CCmdUI* state) override;
 
     // Docks a bar, which is a child of this window: at the top behind the others, or at a side.
@@ -109,3 +111,5 @@ private:
     std::map<unsigned, std::unique_ptr<CMenu>> menus;
     CMenu* currentMenu = nullptr;
 };
+
+} // namespace keltavlo

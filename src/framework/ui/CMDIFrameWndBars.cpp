@@ -10,6 +10,8 @@
 
 #include <algorithm>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr std::uint32_t barStateVersion = 1; // raise it when the bars change
@@ -126,3 +128,5 @@ void CMDIFrameWnd::OnUpdateViewControlBar(CCmdUI& state) {
     state.Enable(bar != nullptr);
     state.SetCheck(bar && bar->IsVisible());
 }
+
+} // namespace keltavlo

@@ -12,6 +12,8 @@
 
 #include <algorithm>
 
+namespace keltavlo {
+
 std::vector<CMDIChildWnd*> CMDIFrameWnd::GetChildren() const {
     return clientArea->GetChildren();
 }
@@ -108,3 +110,5 @@ void CMDIFrameWnd::UpdateWindowList(CMenu& menu) {
     }
     for (; menu.FindItem(id); ++id) menu.RemoveItem(id);
 }
+
+} // namespace keltavlo

@@ -17,6 +17,8 @@
 
 #include <algorithm>
 
+namespace keltavlo {
+
 namespace {
 
 // The name's own bytes: QUrl::toLocalFile would replace those that are not UTF-8.
@@ -126,3 +128,5 @@ void CMDIFrameWnd::dropEvent(QDropEvent* event) {
     for (const QUrl& url : event->mimeData()->urls())
         if (url.isLocalFile()) CWinApp::Get().OpenDocumentFile(LocalPathOf(url));
 }
+
+} // namespace keltavlo

@@ -8,6 +8,8 @@
 #include <QCoreApplication>
 #include <QStatusTipEvent>
 
+namespace keltavlo {
+
 namespace {
 
 CommandId IdOf(const QAction& action) {
@@ -138,3 +140,5 @@ void CMenu::UpdateAll() {
     if (initPopup) initPopup(*this);
     for (QMenu* popup : allPopups) UpdatePopup(*popup);
 }
+
+} // namespace keltavlo

@@ -10,6 +10,8 @@
 #include <string>
 #include <vector>
 
+namespace keltavlo {
+
 class CCmdTarget;
 
 // The popups of a menu table. Items are known by their command ids: a chosen item sends its command to the
@@ -56,3 +58,5 @@ private:
     std::vector<std::unique_ptr<QMenu>> popups;
     std::vector<QMenu*> allPopups; // with the popups inside popups
 };
+
+} // namespace keltavlo

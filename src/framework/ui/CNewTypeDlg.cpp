@@ -10,6 +10,8 @@
 #include <QListWidget>
 #include <QVBoxLayout>
 
+namespace keltavlo {
+
 CNewTypeDlg::CNewTypeDlg(QWidget* owner, std::vector<const CDocTemplate*> choices)
     : QDialog(owner), types(std::move(choices)), list(new QListWidget(this)) {
     setWindowTitle(ToQString(LoadString(AFX_IDS_NEW_TITLE)));
@@ -32,3 +34,5 @@ const CDocTemplate* CNewTypeDlg::GetSelected() const {
     const int row = list->currentRow();
     return row < 0 ? nullptr : types[static_cast<std::size_t>(row)];
 }
+
+} // namespace keltavlo

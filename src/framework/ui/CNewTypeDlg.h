@@ -4,8 +4,11 @@
 
 #include <vector>
 
-class CDocTemplate;
 class QListWidget;
+
+namespace keltavlo {
+
+class CDocTemplate;
 
 // Asks which type a new document is to have.
 class CNewTypeDlg : public QDialog {
@@ -19,3 +22,5 @@ private:
     std::vector<const CDocTemplate*> types;
     QListWidget* list; // a child of this window
 };
+
+} // namespace keltavlo

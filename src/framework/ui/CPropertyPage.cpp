@@ -2,6 +2,8 @@
 
 #include "framework/ui/CPropertySheet.h"
 
+namespace keltavlo {
+
 CPropertyPage::CPropertyPage(const QString& title) {
     setWindowTitle(title);
 }
@@ -26,3 +28,5 @@ void CPropertyPage::SetModified(bool isModified) {
     modified = isModified;
     if (sheet) sheet->UpdateApplyButton();
 }
+
+} // namespace keltavlo

@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+namespace keltavlo {
+
 class CPropertySheet;
 
 // A page of a property sheet. A page that a person never looked at is neither filled nor applied.
@@ -38,3 +40,5 @@ private:
     bool shown = false;
     bool modified = false;
 };
+
+} // namespace keltavlo

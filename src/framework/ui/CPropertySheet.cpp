@@ -13,6 +13,8 @@
 
 #include <algorithm>
 
+namespace keltavlo {
+
 namespace {
 
 // The window round a sheet that runs on its own; the sheet is its guest, not its child for good.
@@ -126,3 +128,5 @@ void CPropertySheet::UpdateApplyButton() {
     if (applyButton)
         applyButton->setEnabled(std::ranges::any_of(pages, [](const auto* page) { return page->modified; }));
 }
+
+} // namespace keltavlo

@@ -4,9 +4,12 @@
 
 #include <vector>
 
-class CPropertyPage;
 class QPushButton;
 class QTabWidget;
+
+namespace keltavlo {
+
+class CPropertyPage;
 
 // Pages with tabs: in a dialog of their own (DoModal) or as a child of another window.
 class CPropertySheet : public QWidget {
@@ -42,3 +45,5 @@ private:
     std::vector<CPropertyPage*> pages;
     CPropertyPage* activePage = nullptr;
 };
+
+} // namespace keltavlo

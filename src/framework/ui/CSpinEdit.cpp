@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace keltavlo {
+
 CSpinEdit::CSpinEdit(QWidget* parent) : QAbstractSpinBox(parent) {
     setFocusPolicy(Qt::StrongFocus); // the wheel alone must not take the keys
 }
@@ -30,3 +32,5 @@ QSize CSpinEdit::sizeHint() const {
     const QString sample = QStringLiteral("-00000000");
     return QAbstractSpinBox::sizeHint() + QSize(fontMetrics().horizontalAdvance(sample), 0);
 }
+
+} // namespace keltavlo

@@ -4,6 +4,8 @@
 
 #include <cstdint>
 
+namespace keltavlo {
+
 // An edit for a whole number with a pair of spin buttons, which step it within a range, as Up and Down do.
 // Any text may be typed: it is checked when it is exchanged.
 class CSpinEdit : public QAbstractSpinBox {
@@ -24,3 +26,5 @@ private:
     std::int64_t minimum = 0;
     std::int64_t maximum = 0;
 };
+
+} // namespace keltavlo

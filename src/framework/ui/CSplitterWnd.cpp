@@ -12,6 +12,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr CSplitterWnd::Direction Across(CSplitterWnd::Direction direction) {
@@ -122,6 +124,7 @@ void CSplitterWnd::RemovePart(Direction direction, int part) {
 void CSplitterWnd::RemovePane(CView* view) {
     CMDIChildWnd* frame = view->GetParentFrame();
     if (frame && frame->GetActiveView() == view) frame->SetActiveView(panes[0][0]);
+    view->Detach();
     delete view;
 }
 
@@ -136,3 +139,5 @@ CView* CSplitterWnd::GetNextPane(const CView* active, bool previous) const {
 void CSplitterWnd::DoKeyboardSplit() {
     tracker->BeginByKeyboard();
 }
+
+} // namespace keltavlo

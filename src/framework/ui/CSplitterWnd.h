@@ -5,10 +5,13 @@
 #include <array>
 #include <vector>
 
+class QScrollBar;
+
+namespace keltavlo {
+
 class CDocument;
 struct CRuntimeClass;
 class CView;
-class QScrollBar;
 class SplitHandle;
 class SplitTracker;
 
@@ -75,3 +78,5 @@ private:
     std::array<Axis, 2> axes;                                           // by Direction
     SplitTracker* tracker;
 };
+
+} // namespace keltavlo

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 
+namespace keltavlo {
+
 namespace {
 
 int BarThickness(const QWidget& widget) {
@@ -72,3 +74,5 @@ void CSplitterWnd::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     RecalcLayout();
 }
+
+} // namespace keltavlo

@@ -10,6 +10,8 @@
 #include <QStyleOptionFocusRect>
 #include <QUrl>
 
+namespace keltavlo {
+
 CStaticLink::CStaticLink(const QString& text, std::string address) : QLabel(text), link(std::move(address)) {
     setTextFormat(Qt::PlainText);
     setFocusPolicy(Qt::TabFocus);
@@ -52,3 +54,5 @@ void CStaticLink::paintEvent(QPaintEvent* event) {
     option.initFrom(this);
     style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
 }
+
+} // namespace keltavlo

@@ -4,6 +4,8 @@
 
 #include <string>
 
+namespace keltavlo {
+
 // A text that opens an address in the browser or the mail program when it is clicked, or when Enter or Space
 // is pressed on it.
 class CStaticLink : public QLabel {
@@ -25,3 +27,5 @@ private:
 
     std::string link;
 };
+
+} // namespace keltavlo

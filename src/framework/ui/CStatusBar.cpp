@@ -5,6 +5,8 @@
 
 #include <QLabel>
 
+namespace keltavlo {
+
 CStatusBar::CStatusBar(std::span<const unsigned> sampleStringIds, QWidget* parent) : QStatusBar(parent) {
     AddPane({});
     for (const unsigned id : sampleStringIds) AddPane(LoadString(id));
@@ -43,3 +45,5 @@ void CStatusBar::ShowPrompt(const QString& text) {
     prompt = text;
     panes.front()->setText(prompt.isEmpty() ? ToQString(texts.front()) : prompt);
 }
+
+} // namespace keltavlo

@@ -8,6 +8,8 @@
 
 class QLabel;
 
+namespace keltavlo {
+
 // A status bar of text panes: pane 0 takes the room that the others leave, and shows the prompt of the
 // command that a person points at for as long as there is one.
 class CStatusBar : public QStatusBar {
@@ -30,3 +32,5 @@ private:
     std::vector<QLabel*> panes; // children of this window
     QString prompt;
 };
+
+} // namespace keltavlo

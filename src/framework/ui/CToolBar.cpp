@@ -6,6 +6,8 @@
 
 #include <QAction>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr QSize buttonPicture(16, 16);
@@ -63,3 +65,5 @@ void CToolBar::OnUpdateCmdUI() {
 bool CToolBar::event(QEvent* event) {
     return ForwardPrompt(*event) || QToolBar::event(event);
 }
+
+} // namespace keltavlo

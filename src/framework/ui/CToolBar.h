@@ -5,6 +5,8 @@
 
 #include <QToolBar>
 
+namespace keltavlo {
+
 // A toolbar from a table: its buttons know only command ids, send them to the target and show how they stand.
 // It may be docked at any side.
 class CToolBar : public QToolBar, public Dynamic<"CToolBar", CToolBar, CControlBar> {
@@ -22,3 +24,5 @@ private:
 
     CCmdTarget* target = nullptr;
 };
+
+} // namespace keltavlo

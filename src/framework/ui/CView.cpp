@@ -6,12 +6,14 @@
 
 #include <utility>
 
+namespace keltavlo {
+
 CView::CView() {
     setFocusPolicy(Qt::StrongFocus);
 }
 
 CView::~CView() {
-    Detach();
+    LeaveDocument();
 }
 
 CMDIChildWnd* CView::GetParentFrame() const {
@@ -51,6 +53,11 @@ void CView::Attach(CDocument& shown, CSplitterWnd* pane) {
 }
 
 void CView::Detach() {
+    if (attachedDocument) OnDestroy();
+    LeaveDocument();
+}
+
+void CView::LeaveDocument() {
     if (CDocument* left = std::exchange(attachedDocument, nullptr)) left->RemoveView(*this);
 }
 
@@ -58,3 +65,5 @@ void CView::focusInEvent(QFocusEvent* event) {
     QWidget::focusInEvent(event);
     if (CMDIChildWnd* frame = GetParentFrame(); frame && attachedDocument) frame->SetActiveView(this);
 }
+
+} // namespace keltavlo

@@ -5,10 +5,13 @@
 
 #include <QWidget>
 
+class QScrollBar;
+
+namespace keltavlo {
+
 class CDocument;
 class CMDIChildWnd;
 class CSplitterWnd;
-class QScrollBar;
 
 // A window that shows a document, in a pane of a frame. Painting and input are the toolkit's events.
 class CView : public QWidget, public Dynamic<"CView", CView, CCmdTarget>, public DocumentView {
@@ -26,6 +29,9 @@ public:
 
     // Called once, when the view stands in its pane and has its document, which may still be empty.
     virtual void OnCreate() {}
+    // Called once, before the view leaves its document and ends, while every class that it derives from is
+    // there.
+    virtual void OnDestroy() {}
     // Called once, when the document is filled, before the view is first seen. Here: OnUpdate with no sender.
     virtual void OnInitialUpdate();
     // Here: repaints everything.
@@ -38,13 +44,18 @@ public:
 
     // Ties the new view to its document and pane (null: no splitter). For those who make views.
     void Attach(CDocument& shown, CSplitterWnd* pane);
-    // Unties the view from its document, which may end by it.
+    // Unties the view from its document, which may end by it. Call it before the view is deleted: its
+    // destructor can no longer reach OnDestroy.
     void Detach();
 
 protected:
     void focusInEvent(QFocusEvent* event) override;
 
 private:
+    void LeaveDocument();
+
     CDocument* attachedDocument = nullptr;
     CSplitterWnd* paneSplitter = nullptr;
 };
+
+} // namespace keltavlo

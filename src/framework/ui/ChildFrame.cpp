@@ -3,6 +3,8 @@
 #include "framework/core/StandardIds.h"
 #include "framework/ui/CSplitterWnd.h"
 
+namespace keltavlo {
+
 CView& ChildFrame::CreateClient(CDocument& document, const CRuntimeClass& viewClass) {
     splitter = new CSplitterWnd(this);
     setWidget(splitter);
@@ -29,3 +31,5 @@ void ChildFrame::OnNextPane(CommandId id) {
 void ChildFrame::OnUpdateNextPane(CCmdUI& state) {
     state.Enable(splitter->GetCount(CSplitterWnd::rows) * splitter->GetCount(CSplitterWnd::columns) > 1);
 }
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include "framework/ui/CMDIChildWnd.h"
 
+namespace keltavlo {
+
 class CSplitterWnd;
 
 // A document window whose client area is a splitter.
@@ -20,3 +22,5 @@ private:
 
     CSplitterWnd* splitter = nullptr; // a child of this window
 };
+
+} // namespace keltavlo

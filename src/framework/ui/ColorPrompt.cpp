@@ -2,6 +2,8 @@
 
 #include <QColorDialog>
 
+namespace keltavlo {
+
 std::optional<std::uint32_t> PromptColor(QWidget* owner, std::uint32_t rgb) {
     constexpr std::uint32_t channels = 0xFFFFFF;
     const QColor chosen = QColorDialog::getColor(QColor(rgb & channels), owner);
@@ -27,3 +29,5 @@ void SetCustomColors(const std::array<std::uint32_t, 16>& colors) {
                                           static_cast<int>(color >> 16 & 0xFF)));
     }
 }
+
+} // namespace keltavlo

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+namespace keltavlo {
+
 ColumnSizer::ColumnSizer(QTreeView& sizedView, Widths widthsFor)
     : QObject(&sizedView), view(sizedView), widths(std::move(widthsFor)) {
     QHeaderView& header = *view.header();
@@ -41,3 +43,5 @@ int WidthOfContents(const QTreeView& view, int column) {
     const QAbstractItemView& lines = view; // which makes the hint public
     return std::max(lines.sizeHintForColumn(column), view.header()->sectionSizeHint(column));
 }
+
+} // namespace keltavlo

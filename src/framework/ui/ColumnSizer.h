@@ -8,6 +8,8 @@
 
 class QTreeView;
 
+namespace keltavlo {
+
 // Sizes the columns of a view when its width or its lines change, until the user drags one. The last column
 // takes what the others leave, so that the view scrolls sideways only where the others need more than there
 // is.
@@ -33,3 +35,5 @@ private:
 
 // What the column needs to show its title and the lines near the visible ones; 0 for a hidden one.
 int WidthOfContents(const QTreeView& view, int column);
+
+} // namespace keltavlo

@@ -3,6 +3,9 @@
 #include "framework/core/CCmdTarget.h"
 #include "framework/core/StringTable.h"
 #include "framework/core/Text.h"
+#include "framework/core/UserInterface.h"
+
+namespace keltavlo {
 
 CCmdUI AskCommand(CCmdTarget& target, CommandId id) {
     CCmdUI state(id);
@@ -10,8 +13,12 @@ CCmdUI AskCommand(CCmdTarget& target, CommandId id) {
     return state;
 }
 
-bool SendCommand(CCmdTarget& target, CommandId id) {
+// The toolkit's menus lose track of their state when an exception passes through them.
+bool SendCommand(CCmdTarget& target, CommandId id) try {
     return AskCommand(target, id).enabled && target.OnCmdMsg(id, nullptr);
+} catch (const std::bad_alloc&) {
+    UserInterface::Get().ReportMemoryShortage();
+    return false;
 }
 
 std::string CommandPrompt(CommandId id) {
@@ -21,3 +28,5 @@ std::string CommandPrompt(CommandId id) {
 std::string CommandToolTip(CommandId id) {
     return std::string(Field(LoadString(id), '\n', 1));
 }
+
+} // namespace keltavlo

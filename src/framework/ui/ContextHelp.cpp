@@ -13,6 +13,8 @@
 
 #include <utility>
 
+namespace keltavlo {
+
 namespace {
 
 // Floating bars and menus belong to the window, too.
@@ -99,3 +101,5 @@ bool ContextHelp::OnMouse(QWidget& hit, const QPoint& place, bool released) {
     answer(id);
     return true;
 }
+
+} // namespace keltavlo

@@ -10,6 +10,8 @@ class QEvent;
 class QPoint;
 class QWidget;
 
+namespace keltavlo {
+
 // A question about a part of a window: the pointer changes, and the next click answers with the menu item,
 // tool or bar that it hits, and does nothing else. Escape and every other key end the question without an
 // answer.
@@ -34,3 +36,5 @@ private:
     Answer answer;
     bool asking = false;
 };
+
+} // namespace keltavlo

@@ -5,6 +5,8 @@
 
 #include <QLineEdit>
 
+namespace keltavlo {
+
 DialogControls::~DialogControls() = default;
 
 bool DialogControls::UpdateData(bool saveAndValidate) {
@@ -16,3 +18,5 @@ bool DialogControls::UpdateData(bool saveAndValidate) {
     exchange.GetRefusedEdit().selectAll();
     return false;
 }
+
+} // namespace keltavlo

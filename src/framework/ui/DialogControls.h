@@ -4,8 +4,11 @@
 
 #include <map>
 
-class CDataExchange;
 class QWidget;
+
+namespace keltavlo {
+
+class CDataExchange;
 
 // The controls of a dialog or a page by their ids, and the exchange of their values with the members of the
 // class that has them.
@@ -31,3 +34,5 @@ private:
     std::map<unsigned, QWidget*> controls;
     std::map<unsigned, QString> exchangedTexts; // of the edits, when they last agreed with the members
 };
+
+} // namespace keltavlo

@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+namespace keltavlo {
+
 namespace {
 
 void Add(QGridLayout& grid, GridPlace place, QWidget& widget) {
@@ -95,3 +97,5 @@ QPushButton& AddButton(DialogControls& controls, QGridLayout& grid, GridPlace pl
                        unsigned id) {
     return AddControl<QPushButton>(controls, grid, place, label, id);
 }
+
+} // namespace keltavlo

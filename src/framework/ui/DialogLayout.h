@@ -2,13 +2,16 @@
 
 #include <QGridLayout>
 
-class CSpinEdit;
-class DialogControls;
 class QCheckBox;
 class QIcon;
 class QLabel;
 class QLineEdit;
 class QPushButton;
+
+namespace keltavlo {
+
+class CSpinEdit;
+class DialogControls;
 
 // Parts of dialogs, placed in grids, whose cells grow with the font.
 
@@ -36,3 +39,5 @@ QCheckBox& AddCheckBox(DialogControls& controls, QGridLayout& grid, GridPlace pl
                        unsigned id);
 QPushButton& AddButton(DialogControls& controls, QGridLayout& grid, GridPlace place, const char* label,
                        unsigned id);
+
+} // namespace keltavlo

@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace keltavlo {
+
 MDIClientArea::MDIClientArea(QWidget* parent) : QMdiArea(parent) {
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -73,3 +75,5 @@ void MDIClientArea::ArrangeIcons() {
         x += child->width();
     }
 }
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include <QMdiArea>
 
+namespace keltavlo {
+
 class CMDIChildWnd;
 
 // The part of the main frame in which the document windows lie.
@@ -28,3 +30,5 @@ private:
     // Gives the child its share of the width and the height.
     void PutTile(CMDIChildWnd& child, const Share& across, const Share& down) const;
 };
+
+} // namespace keltavlo

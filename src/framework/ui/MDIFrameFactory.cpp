@@ -3,6 +3,8 @@
 #include "framework/core/CDocTemplate.h"
 #include "framework/ui/CMDIChildWnd.h"
 
+namespace keltavlo {
+
 // The frame is its document's from now on: it ends with its views.
 DocumentFrame* MDIFrameFactory::CreateFrame(const CDocTemplate& type, CDocument& document) {
     const CDocTemplate::Row& row = type.GetRow();
@@ -13,3 +15,5 @@ DocumentFrame* MDIFrameFactory::CreateFrame(const CDocTemplate& type, CDocument&
     frame->Create(document, *viewClass, mainFrame);
     return frame;
 }
+
+} // namespace keltavlo

@@ -3,6 +3,8 @@
 #include "framework/core/DocumentView.h"
 #include "framework/ui/WindowClasses.h"
 
+namespace keltavlo {
+
 class CMDIFrameWnd;
 
 // Makes document windows from the class names that document types carry.
@@ -18,3 +20,5 @@ private:
     WindowClasses classes;
     CMDIFrameWnd* mainFrame = nullptr;
 };
+
+} // namespace keltavlo

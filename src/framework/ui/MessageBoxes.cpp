@@ -9,6 +9,8 @@
 #include <QApplication>
 #include <QMessageBox>
 
+namespace keltavlo {
+
 namespace {
 
 using Button = QMessageBox::StandardButton;
@@ -51,3 +53,5 @@ SaveAnswer AskSaveChanges(const std::string& name) {
         return SaveAnswer::cancel;
     }
 }
+
+} // namespace keltavlo

@@ -5,6 +5,8 @@
 
 class QWidget;
 
+namespace keltavlo {
+
 // Message boxes over the window in which a person works now. Texts show as they stand.
 void ShowMessageBox(const std::string& text, unsigned titleId = AFX_IDS_APP_TITLE);
 // Yes or No; No is the default.
@@ -13,3 +15,5 @@ SaveAnswer AskSaveChanges(const std::string& name);
 
 // The window over which a dialog opens: the uppermost dialog, else the main window; null without one.
 QWidget* GetDialogOwner();
+
+} // namespace keltavlo

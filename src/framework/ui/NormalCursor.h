@@ -5,6 +5,8 @@
 
 #include <vector>
 
+namespace keltavlo {
+
 // Lifts the wait cursor while a dialog waits for a person.
 class NormalCursor {
 public:
@@ -24,3 +26,5 @@ public:
 private:
     std::vector<QCursor> lifted;
 };
+
+} // namespace keltavlo

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr double disabledOpacity = 0.35;
@@ -87,3 +89,5 @@ private:
 QIcon MakePixelIcon(PixelArt art) {
     return QIcon(new PixelIconEngine(art));
 }
+
+} // namespace keltavlo

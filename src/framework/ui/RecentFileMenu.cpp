@@ -11,6 +11,8 @@
 
 #include <algorithm>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr int maximumWidth = 60; // average characters
@@ -39,3 +41,5 @@ void UpdateRecentFileMenu(CMenu& menu, const std::vector<std::string>& paths) {
         menu.ModifyItem(id, id, ItemText(paths, i));
     }
 }
+
+} // namespace keltavlo

@@ -3,8 +3,12 @@
 #include <string>
 #include <vector>
 
+namespace keltavlo {
+
 class CMenu;
 
 // Puts the recent files in the place of the menu's placeholder for them; where there are none the placeholder
 // is back.
 void UpdateRecentFileMenu(CMenu& menu, const std::vector<std::string>& paths);
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <QStyleOption>
 
+namespace keltavlo {
+
 SplitHandle::SplitHandle(CSplitterWnd& owner, CSplitterWnd::Direction dragged)
     : QWidget(&owner), splitter(owner), direction(dragged) {
     setCursor(direction == CSplitterWnd::rows ? Qt::SplitVCursor : Qt::SplitHCursor);
@@ -39,3 +41,5 @@ void SplitHandle::mouseDoubleClickEvent(QMouseEvent* event) {
     const bool split = splitter.GetCount(direction) > 1;
     splitter.SetSplit(direction, split ? splitter.GetExtent(direction) : splitter.GetExtent(direction) / 2);
 }
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include "framework/ui/CSplitterWnd.h"
 
+namespace keltavlo {
+
 // What people drag to split a window, or to move the line between its parts. A double click splits in the
 // middle, or takes the second part away.
 class SplitHandle final : public QWidget {
@@ -22,3 +24,5 @@ private:
     CSplitterWnd::Direction direction;
     QPoint grip; // where the mouse took hold of the handle
 };
+
+} // namespace keltavlo

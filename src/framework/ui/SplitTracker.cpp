@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr int keyStep = 10; // pixels
@@ -117,3 +119,5 @@ void SplitTracker::focusOutEvent(QFocusEvent* event) {
     QWidget::focusOutEvent(event);
     if (event->reason() != Qt::PopupFocusReason) End(false);
 }
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 
 #include <array>
 
+namespace keltavlo {
+
 // Shows over a splitter where its lines would come to lie while a person drags one, or places both with the
 // keyboard: arrow keys move (with Ctrl by a pixel), Enter or a click splits, Escape leaves things as they
 // were.
@@ -41,3 +43,5 @@ private:
     bool changed = false;
     QPointer<QWidget> focused; // before the keyboard came here
 };
+
+} // namespace keltavlo

@@ -3,6 +3,8 @@
 #include "framework/ui/CMDIChildWnd.h"
 #include "framework/ui/CView.h"
 
+namespace keltavlo {
+
 namespace {
 
 template <class Window>
@@ -29,3 +31,5 @@ std::unique_ptr<CMDIChildWnd> CreateFrameWindow(const CRuntimeClass& frameClass)
 std::unique_ptr<CView> CreateViewWindow(const CRuntimeClass& viewClass) {
     return CreateWindowOf<CView>(viewClass);
 }
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 #include <memory>
 #include <string>
 
+namespace keltavlo {
+
 class CMDIChildWnd;
 class CView;
 
@@ -24,3 +26,5 @@ private:
 // A new window of the class, which must be one of its kind and creatable.
 std::unique_ptr<CMDIChildWnd> CreateFrameWindow(const CRuntimeClass& frameClass);
 std::unique_ptr<CView> CreateViewWindow(const CRuntimeClass& viewClass);
+
+} // namespace keltavlo

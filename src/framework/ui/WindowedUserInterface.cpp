@@ -7,6 +7,8 @@
 
 #include <QGuiApplication>
 
+namespace keltavlo {
+
 void WindowedUserInterface::ShowMessage(const std::string& text) {
     ShowMessageBox(text);
 }
@@ -33,3 +35,5 @@ void WindowedUserInterface::BeginWaitCursor() {
 void WindowedUserInterface::EndWaitCursor() {
     QGuiApplication::restoreOverrideCursor();
 }
+
+} // namespace keltavlo

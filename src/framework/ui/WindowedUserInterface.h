@@ -2,11 +2,15 @@
 
 #include "framework/core/UserInterface.h"
 #include "framework/ui/MDIFrameFactory.h"
+#include "framework/ui/MemoryWarning.h"
+
+namespace keltavlo {
 
 // The person at the program, met through dialogs over its windows.
 class WindowedUserInterface : public UserInterface {
 public:
     void ShowMessage(const std::string& text) override;
+    void ReportMemoryShortage() noexcept override { memoryWarning.Raise(); }
     SaveAnswer AskToSave(const std::string& name) override;
     const CDocTemplate* PromptNewType() override;
     void BeginWaitCursor() override;
@@ -15,4 +19,7 @@ public:
 
 private:
     MDIFrameFactory frameFactory;
+    MemoryWarning memoryWarning;
 };
+
+} // namespace keltavlo

@@ -3,6 +3,8 @@
 #include <array>
 #include <cstring>
 
+namespace keltavlo {
+
 namespace {
 
 // Four pixels make three words, which are faster to take apart than twelve bytes.
@@ -42,3 +44,5 @@ void PackBgr(std::span<const Color> colors, std::span<std::uint8_t> stored) {
         PackGroup(colors.data() + i, bytes);
     for (; i < colors.size(); ++i, bytes += bgrPixelSize) std::memcpy(bytes, &colors[i], bgrPixelSize);
 }
+
+} // namespace keltavlo

@@ -4,6 +4,8 @@
 
 #include <span>
 
+namespace keltavlo {
+
 // Pixels stored as three bytes: blue, green, red.
 
 inline constexpr std::size_t bgrPixelSize = 3;
@@ -13,3 +15,5 @@ void ExpandBgr(std::span<const std::uint8_t> stored, std::span<Color> output);
 
 // Stores the colours without their alpha.
 void PackBgr(std::span<const Color> colors, std::span<std::uint8_t> stored);
+
+} // namespace keltavlo

@@ -4,6 +4,8 @@
 
 #include <bit>
 
+namespace keltavlo {
+
 // Where red, green and blue lie in a 16- or 32-bit pixel value; each mask is one run of bits, or 0 for no
 // channel.
 struct ChannelMasks {
@@ -43,3 +45,5 @@ private:
         return scaled << std::countr_zero(mask) & mask;
     }
 };
+
+} // namespace keltavlo

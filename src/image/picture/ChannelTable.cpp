@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+namespace keltavlo {
+
 namespace {
 
 void MapByLookups(const std::uint32_t* table256, std::span<const Color> input, std::span<Color> output) {
@@ -67,3 +69,5 @@ std::array<std::uint32_t, 256> HalveBrightness(const std::uint32_t* table256) {
         halved[v] = (table256[v / 2] & ~alphaMask) | (table256[v] & alphaMask);
     return halved;
 }
+
+} // namespace keltavlo

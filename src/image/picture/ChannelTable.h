@@ -6,6 +6,8 @@
 #include <span>
 #include <vector>
 
+namespace keltavlo {
+
 // The ways in which a channel table can be applied; all give the same pixels.
 enum class ChannelTableMethod {
     // Four lookups a pixel, on any processor.
@@ -50,3 +52,5 @@ private:
 
 // The table (256 entries) for red, green and blue that are halved first; alpha goes through it as it is.
 std::array<std::uint32_t, 256> HalveBrightness(const std::uint32_t* table256);
+
+} // namespace keltavlo

@@ -6,6 +6,12 @@
 
 #include <immintrin.h>
 
+#endif
+
+namespace keltavlo {
+
+#if defined(__x86_64__)
+
 namespace {
 
 constexpr std::size_t shuffledPixels = 32;
@@ -197,3 +203,5 @@ std::size_t ApplyByPermutes(const ChannelPlanes&, std::span<const Color>, std::s
 }
 
 #endif
+
+} // namespace keltavlo

@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <span>
 
+namespace keltavlo {
+
 struct ChannelPlanes;
 
 // The vector forms of the channel table, for ChannelTable only. They are compiled for processors beyond the
@@ -20,3 +22,5 @@ std::size_t ApplyByShuffles(const ChannelPlanes& channels, std::span<const Color
                             std::span<Color> output);
 std::size_t ApplyByPermutes(const ChannelPlanes& channels, std::span<const Color> input,
                             std::span<Color> output);
+
+} // namespace keltavlo

@@ -3,6 +3,8 @@
 #include <bit>
 #include <cstdint>
 
+namespace keltavlo {
+
 // A colour with alpha, 0xAARRGGBB. Every pixel, palette entry and colour-table entry is one.
 using Color = std::uint32_t;
 
@@ -48,3 +50,5 @@ constexpr Color ColorFromColorRef(std::uint32_t reference) {
 constexpr std::uint32_t ColorRefFromColor(Color color) {
     return ColorFromColorRef(color);
 }
+
+} // namespace keltavlo

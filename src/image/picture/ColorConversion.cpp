@@ -2,6 +2,8 @@
 #include "image/picture/Image.h"
 #include "image/picture/NearestSearch.h"
 
+namespace keltavlo {
+
 void Image::ConvertToNearest(const ColorList& list) {
     NearestSearch(list).Replace(pixels);
 }
@@ -9,3 +11,5 @@ void Image::ConvertToNearest(const ColorList& list) {
 void Image::ConvertByErrorDiffusion(const ColorList& list) {
     NearestSearch(list).Diffuse(pixels, Side(width));
 }
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 #include <stdexcept>
 #include <utility>
 
+namespace keltavlo {
+
 namespace {
 
 const Color* ScanForNearest(std::span<const Color> colors, Color color) {
@@ -74,3 +76,5 @@ const Color* ColorList::FindNearest(Color color) const {
 std::size_t ColorList::FindNearestIndex(Color color) const {
     return static_cast<std::size_t>(FindNearest(color) - colors.data());
 }
+
+} // namespace keltavlo

@@ -8,6 +8,8 @@
 #include <span>
 #include <vector>
 
+namespace keltavlo {
+
 class NearestColorCache;
 
 // A palette or colour table: entry i is the colour of index i. Copies take the colours only, never the
@@ -66,3 +68,5 @@ constexpr std::uint32_t ColorDistance(Color left, Color right) {
     const std::uint32_t blue = Blue(left) - Blue(right);
     return blue * blue + red * red + green * green + 3 * alpha * alpha;
 }
+
+} // namespace keltavlo

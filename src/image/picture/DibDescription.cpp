@@ -10,6 +10,8 @@
 #include <cstring>
 #include <iterator>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr std::uint32_t sizeFieldBytes = 4;
@@ -164,3 +166,5 @@ DibDescription ReadDibDescription(InputStream& in, bool withFileHeader) {
         in.Fail(StreamError::endOfFile);
     return description;
 }
+
+} // namespace keltavlo

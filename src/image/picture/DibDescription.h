@@ -4,6 +4,8 @@
 #include "image/picture/ColorList.h"
 #include "image/picture/DibHeader.h"
 
+namespace keltavlo {
+
 class InputStream;
 
 // What a stored bitmap says before its rows.
@@ -24,3 +26,5 @@ struct DibDescription {
 // form. Calls Fail with badClass for another kind of file, with badIndex for fields that make no bitmap and
 // for compressed bitmaps, with a sentence that says so, and with endOfFile for a stream that ends early.
 DibDescription ReadDibDescription(InputStream& in, bool withFileHeader);
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+namespace keltavlo {
+
 // The header that precedes a bitmap in a file of its own, in the order in which it is stored
 // (little-endian, without gaps).
 struct [[gnu::packed]] DibFileHeader {
@@ -14,3 +16,5 @@ struct [[gnu::packed]] DibFileHeader {
     std::uint32_t rowsOffset = 0;
 };
 static_assert(sizeof(DibFileHeader) == 14);
+
+} // namespace keltavlo

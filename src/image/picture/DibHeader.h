@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+namespace keltavlo {
+
 // The 40-byte information header of a device-independent bitmap, in the order in which it is stored
 // (little-endian).
 struct DibHeader {
@@ -36,3 +38,5 @@ struct DibHeader {
 constexpr std::int64_t DibStride(int bitCount, int width) {
     return (std::int64_t{bitCount} * width + 31) / 32 * 4;
 }
+
+} // namespace keltavlo

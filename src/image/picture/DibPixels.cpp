@@ -1,6 +1,8 @@
 // Pixel access of DibSection at every depth.
 #include "image/picture/DibSection.h"
 
+namespace keltavlo {
+
 namespace {
 
 constexpr Color outsideTable = Compose(0, 0, 0);
@@ -60,3 +62,5 @@ void DibSection::SetPixel(int x, int y, Color color) {
     const std::uint32_t value = HasColorRows() ? color : masks.FromColor(color);
     WriteValue(GetBits() + RowOffset(y) + column * pixelBytes, pixelBytes, value);
 }
+
+} // namespace keltavlo

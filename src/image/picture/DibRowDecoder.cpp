@@ -8,6 +8,8 @@
 #include <bit>
 #include <cstring>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr Color outsideTable = Compose(0, 0, 0);
@@ -78,3 +80,5 @@ void DibRowDecoder::DecodeChannels(const std::uint8_t* stored, std::span<Color> 
             color |= channel.parts[(value & channel.mask) >> channel.shift];
     }
 }
+
+} // namespace keltavlo

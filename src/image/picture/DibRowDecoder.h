@@ -5,6 +5,8 @@
 #include <array>
 #include <span>
 
+namespace keltavlo {
+
 struct DibDescription;
 struct ChannelMasks;
 
@@ -37,3 +39,5 @@ private:
     std::array<Color, 256> colors;
     std::array<Channel, 3> channels;
 };
+
+} // namespace keltavlo

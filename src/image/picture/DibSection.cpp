@@ -8,6 +8,8 @@
 #include <new>
 #include <string>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr std::uint64_t fileHeaderSize = 14;
@@ -133,3 +135,5 @@ void DibSection::SetColorTable(std::size_t first, std::span<const Color> entries
 void DibSection::Draw(DrawingSurface& surface, const QRect& destination) const {
     surface.StretchBits(*this, destination);
 }
+
+} // namespace keltavlo

@@ -9,10 +9,13 @@
 #include <span>
 #include <stdexcept>
 
+class QRect;
+
+namespace keltavlo {
+
 class DrawingSurface;
 class InputStream;
 class OutputStream;
-class QRect;
 
 // A bitmap could not be created; the text is a sentence for the user.
 class BitmapError : public std::runtime_error {
@@ -100,3 +103,5 @@ private:
     ColorList colorTable;
     ChannelMasks masks;
 };
+
+} // namespace keltavlo

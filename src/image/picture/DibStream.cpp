@@ -8,6 +8,8 @@
 #include "image/picture/StoredRows.h"
 #include "resources/streams/OutputStream.h"
 
+namespace keltavlo {
+
 namespace {
 
 void WriteTable(OutputStream& out, const DibSection& bitmap) {
@@ -51,3 +53,5 @@ void DibSection::WriteStream(OutputStream& out, bool withFileHeader) const {
     WriteTable(out, *this);
     out.Write(GetBits(), GetImageSize());
 }
+
+} // namespace keltavlo

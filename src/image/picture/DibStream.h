@@ -1,5 +1,7 @@
 #pragma once
 
+namespace keltavlo {
+
 class Image;
 class InputStream;
 
@@ -7,3 +9,5 @@ class InputStream;
 // DibSection::ReadStream and Image::FromBitmap, with the same pixels. Fails as ReadDibDescription does; a
 // picture beyond the limits is a PictureSizeError.
 void ReadDib(InputStream& in, bool withFileHeader, Image& picture);
+
+} // namespace keltavlo

@@ -4,6 +4,8 @@
 #include <immintrin.h>
 #endif
 
+namespace keltavlo {
+
 namespace {
 
 #if defined(__x86_64__)
@@ -123,3 +125,5 @@ void HalveRowPairsPlain(const RowPairs& rows, std::size_t firstColumn) {
 void HalveRowPairs(const RowPairs& rows) {
     HalveRowPairsPlain(rows, HalveByVectors(rows));
 }
+
+} // namespace keltavlo

@@ -4,6 +4,8 @@
 
 #include <cstddef>
 
+namespace keltavlo {
+
 // Averages are the floor of the mean in each of the four channels. Blue and red, and green and alpha, are
 // summed two at a time: shifting green and alpha first leaves room at the top for the carry and keeps their
 // fractions below.
@@ -44,3 +46,5 @@ void HalveRowPairs(const RowPairs& rows);
 
 // The same pixel by pixel, from the given output column on.
 void HalveRowPairsPlain(const RowPairs& rows, std::size_t firstColumn = 0);
+
+} // namespace keltavlo

@@ -9,6 +9,8 @@
 #include <string>
 #include <utility>
 
+namespace keltavlo {
+
 namespace {
 
 std::size_t CheckedPixelCount(int width, int height) {
@@ -65,7 +67,7 @@ void Image::SetSizeUncleared(int newWidth, int newHeight) {
     height = newHeight;
 }
 
-void Image::Resize(int newWidth, int newHeight) {
+Image Image::ResizedPicture(int newWidth, int newHeight) const {
     Image resized(newWidth, newHeight);
     if (!pixels.empty() && newWidth > 0) {
         const auto keptWidth = std::min(width, newWidth);
@@ -75,7 +77,7 @@ void Image::Resize(int newWidth, int newHeight) {
             std::fill(edge, resized.Row(y).end(), source.back());
         }
     }
-    Image::operator=(std::move(resized));
+    return resized;
 }
 
 void Image::MakeHalfSize(Image& output) const {
@@ -116,3 +118,5 @@ void Image::CopyBytesTo(std::uint8_t* destination) const {
     // An empty array may have no address, which memcpy must not be given.
     if (!pixels.empty()) std::memcpy(destination, pixels.data(), pixels.size() * sizeof(Color));
 }
+
+} // namespace keltavlo

@@ -8,6 +8,8 @@
 #include <span>
 #include <stdexcept>
 
+namespace keltavlo {
+
 class ColorList;
 class DibSection;
 
@@ -62,7 +64,9 @@ public:
     void SetSizeUncleared(int newWidth, int newHeight);
     // Crops to the top-left corner or repeats the right and bottom edges outward. A picture that had no
     // pixels becomes all 0. Throws as SetSize does.
-    void Resize(int newWidth, int newHeight);
+    void Resize(int newWidth, int newHeight) { Image::operator=(ResizedPicture(newWidth, newHeight)); }
+    // The picture that Resize would make of this one.
+    Image ResizedPicture(int newWidth, int newHeight) const;
     // Fills the output, another picture, with the averages of the 2 x 2 blocks; odd last rows and columns
     // are averaged along the edge.
     void MakeHalfSize(Image& output) const;
@@ -94,3 +98,5 @@ private:
     int width = 1;
     int height = 1;
 };
+
+} // namespace keltavlo

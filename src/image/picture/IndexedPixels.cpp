@@ -3,6 +3,8 @@
 #include <array>
 #include <cstring>
 
+namespace keltavlo {
+
 namespace {
 
 // Loads of a word and stores of eight colours leave the processor more room for the lookups.
@@ -25,3 +27,5 @@ void ExpandIndices(std::span<const std::uint8_t> indices, std::span<const Color>
         ExpandGroup(indices.data() + i, colors.data(), output.data() + i);
     for (; i < output.size(); ++i) output[i] = colors[indices[i]];
 }
+
+} // namespace keltavlo

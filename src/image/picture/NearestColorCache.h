@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <vector>
 
+namespace keltavlo {
+
 // Remembers which list entry colours were matched to: one colour per slot, the newest replacing what the
 // slot held. Valid only while the list's colours stay as they are.
 class NearestColorCache {
@@ -29,3 +31,5 @@ private:
 
     std::vector<Slot> slots;
 };
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <bit>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr std::size_t laneCount = NearestCandidates::laneCount;
@@ -182,3 +184,5 @@ void NearestGrid::StoreBlocks(std::size_t cell, const Box& box) {
     });
     blockCounts[cell] = writer.GetBlockCount();
 }
+
+} // namespace keltavlo

@@ -9,6 +9,8 @@
 #include <span>
 #include <vector>
 
+namespace keltavlo {
+
 struct NearestKernels;
 
 // Eight entries of a list that may be nearest somewhere in a box of the colour cube, in the list's order.
@@ -95,3 +97,5 @@ private:
     std::unique_ptr<NearestBlock[]> firstBlocks;
     std::vector<NearestBlock> furtherBlocks;
 };
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <span>
 
+namespace keltavlo {
+
 struct NearestCandidates;
 struct NearestTables;
 
@@ -32,3 +34,5 @@ struct NearestKernels {
 extern const NearestKernels portableNearestKernels;
 // With AVX2, or null where the processor has not got it.
 const NearestKernels* VectorNearestKernels();
+
+} // namespace keltavlo

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr std::size_t laneCount = NearestCandidates::laneCount;
@@ -131,3 +133,5 @@ void Diffuse(NearestTables& tables, std::span<Color> pixels, std::size_t width) 
 } // namespace
 
 const NearestKernels portableNearestKernels{Measure, TakeOutBeaten, FindIndex, FindIndices, Replace, Diffuse};
+
+} // namespace keltavlo

@@ -7,6 +7,8 @@
 #include <stdexcept>
 #include <vector>
 
+namespace keltavlo {
+
 namespace {
 
 const NearestKernels& FastestNearestKernels() {
@@ -57,3 +59,5 @@ void NearestSearch::Replace(std::span<Color> pixels) {
 void NearestSearch::Diffuse(std::span<Color> pixels, std::size_t width) {
     if (!pixels.empty()) kernels.diffuse(Tables(pixels), pixels, width);
 }
+
+} // namespace keltavlo

@@ -7,6 +7,8 @@
 #include <memory>
 #include <span>
 
+namespace keltavlo {
+
 class ColorList;
 struct NearestKernels;
 struct NearestTables;
@@ -37,3 +39,5 @@ private:
     // Made by the first search.
     std::unique_ptr<NearestTables> tables;
 };
+
+} // namespace keltavlo

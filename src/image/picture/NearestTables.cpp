@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <limits>
 
+namespace keltavlo {
+
 namespace {
 
 // Where the grid is too small for the list's indices, it serves no colour: no masked colour is this one.
@@ -48,3 +50,5 @@ NearestTables::NearestTables(const ColorList& searchedList, std::uint32_t usualA
       gridAlpha(FitsGrid(list) ? usualAlpha << 24 & gridMask : noAlpha),
       grid(list.Colors().first(std::min(list.GetCount(), NearestGrid::maximumColors)), usualAlpha, kernels),
       scanGroups(MakeScanGroups(list.Colors())) {}
+
+} // namespace keltavlo

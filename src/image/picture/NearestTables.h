@@ -3,6 +3,8 @@
 #include "image/picture/ColorList.h"
 #include "image/picture/NearestGrid.h"
 
+namespace keltavlo {
+
 // Eight entries of a list for the comparison with any colour: the products of the channels and their
 // coefficients, added to the base, are `scale` times the distance less what all entries share, plus the
 // entry's number in its run.
@@ -33,3 +35,5 @@ struct NearestTables {
     // The runs of `scale` entries one after another.
     std::vector<NearestScanGroup> scanGroups;
 };
+
+} // namespace keltavlo

@@ -8,6 +8,12 @@
 #include <immintrin.h>
 #include <limits>
 
+#endif
+
+namespace keltavlo {
+
+#if defined(__x86_64__)
+
 namespace {
 
 template <typename Lanes>
@@ -231,3 +237,5 @@ const NearestKernels* VectorNearestKernels() {
 }
 
 #endif
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace keltavlo {
+
 namespace {
 
 const std::uint32_t* TableOf(const PixelTransform& transform) {
@@ -49,3 +51,5 @@ PixelTransformer::PixelTransformer(const PixelTransform& pixelTransform) : trans
 void PixelTransformer::Apply(std::span<const Color> input, std::span<Color> output) const {
     std::visit(RowTransformer{table, input, output}, transform);
 }
+
+} // namespace keltavlo

@@ -7,6 +7,8 @@
 #include <span>
 #include <variant>
 
+namespace keltavlo {
+
 // The pixel over the background, weighted by its alpha in steps of 1/256. A visible, not opaque pixel over a
 // background that is not opaque gives 0.
 constexpr Color Composite(Color pixel, Color background) {
@@ -77,3 +79,5 @@ private:
     PixelTransform transform;
     std::optional<ChannelTable> table;
 };
+
+} // namespace keltavlo

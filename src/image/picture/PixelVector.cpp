@@ -2,6 +2,8 @@
 
 #include <sys/mman.h>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr std::size_t pageSize = 4096;
@@ -14,3 +16,5 @@ void PreferLargePages(void* memory, std::size_t bytes) noexcept {
     // No more than advice: a system that does not know it goes on as ever.
     static_cast<void>(madvise(memory, bytes, MADV_HUGEPAGE));
 }
+
+} // namespace keltavlo

@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+namespace keltavlo {
+
 // Asks the system to hand out the memory in large pages, if it is large itself. Pages of the ordinary size
 // are handed out and cleared one by one when they are first touched, which takes longer than decoding a
 // picture.
@@ -37,3 +39,5 @@ struct PixelAllocator : std::allocator<T> {
 };
 
 using PixelVector = std::vector<Color, PixelAllocator<Color>>;
+
+} // namespace keltavlo

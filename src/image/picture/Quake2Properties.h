@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string>
 
+namespace keltavlo {
+
 // What a Quake II WAL texture stores beside its picture.
 struct Quake2Properties {
     std::string name;
@@ -14,3 +16,5 @@ struct Quake2Properties {
 
     bool operator==(const Quake2Properties&) const = default;
 };
+
+} // namespace keltavlo

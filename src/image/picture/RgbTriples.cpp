@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace keltavlo {
+
 ColorList ColorsFromTriples(std::span<const std::uint8_t> bytes) {
     std::vector<Color> colors(bytes.size() / rgbTripleSize);
     const std::uint8_t* triple = bytes.data();
@@ -22,3 +24,5 @@ void PutTriples(const ColorList& list, std::span<std::uint8_t> bytes) {
         triple += rgbTripleSize;
     }
 }
+
+} // namespace keltavlo

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <span>
 
+namespace keltavlo {
+
 // Palettes as files of the games hold them: red, green and blue of each entry, one byte each.
 
 inline constexpr std::size_t rgbTripleSize = 3;
@@ -14,3 +16,5 @@ ColorList ColorsFromTriples(std::span<const std::uint8_t> bytes);
 
 // Fills the bytes from the list's first entry on; black where the list ends early.
 void PutTriples(const ColorList& list, std::span<std::uint8_t> bytes);
+
+} // namespace keltavlo

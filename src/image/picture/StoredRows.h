@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <vector>
 
+namespace keltavlo {
+
 // Reads the rows of a stored picture, all of the same length, and asks the stream for many at a time.
 class StoredRows {
 public:
@@ -37,3 +39,5 @@ private:
     std::vector<std::uint8_t> block;
     std::size_t used = 0;
 };
+
+} // namespace keltavlo

@@ -5,6 +5,12 @@
 #ifdef __SSE2__
 #include <emmintrin.h>
 
+#endif
+
+namespace keltavlo {
+
+#ifdef __SSE2__
+
 namespace {
 
 constexpr std::size_t vectorPixels = 4;
@@ -37,3 +43,5 @@ void StreamPixels(const Color* source, Color* target, std::size_t count) {
 }
 
 #endif
+
+} // namespace keltavlo

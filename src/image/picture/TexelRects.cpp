@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace keltavlo {
+
 namespace {
 
 struct Interval {
@@ -36,3 +38,5 @@ std::vector<ScreenRect> FindTexelRects(const TexelRun& run, PixelSize picture, c
         for (const Interval& x : columns) rects.push_back({x.start, y.start, x.length, y.length});
     return rects;
 }
+
+} // namespace keltavlo

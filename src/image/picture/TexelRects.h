@@ -4,6 +4,8 @@
 
 #include <vector>
 
+namespace keltavlo {
+
 // Texels of one row of a picture, from the first on; they do not reach over its right edge.
 struct TexelRun {
     int row = 0;
@@ -31,3 +33,5 @@ inline constexpr std::size_t mostTexelRects = 64;
 // where these would be more than `largestCount`.
 std::vector<ScreenRect> FindTexelRects(const TexelRun& run, PixelSize picture, const TileViewport& viewport,
                                        PixelSize view, std::size_t largestCount = mostTexelRects);
+
+} // namespace keltavlo

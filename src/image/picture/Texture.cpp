@@ -4,6 +4,8 @@
 
 #include <utility>
 
+namespace keltavlo {
+
 namespace {
 
 std::unique_ptr<ColorList> CopyOf(const std::unique_ptr<ColorList>& list) {
@@ -25,6 +27,18 @@ Texture& Texture::operator=(const Texture& other) {
     return *this = Texture(other);
 }
 
+// Never takes a second copy of the old pixels, which may be many.
+Texture Texture::Resized(int newWidth, int newHeight) const {
+    Texture copy(0, 0);
+    copy.palette = CopyOf(palette);
+    copy.quakeName = quakeName;
+    copy.quake2 = quake2;
+    static_cast<Image&>(copy) = ResizedPicture(newWidth, newHeight);
+    return copy;
+}
+
 void Texture::SetPalette(const ColorList& list) {
     palette = std::make_unique<ColorList>(list);
 }
+
+} // namespace keltavlo

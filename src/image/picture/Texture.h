@@ -6,6 +6,8 @@
 #include <memory>
 #include <string>
 
+namespace keltavlo {
+
 // A picture with what the game formats store beside it. Copies are deep.
 class Texture : public Image {
 public:
@@ -17,6 +19,8 @@ public:
     Texture& operator=(Texture&& other) noexcept;
     ~Texture() override;
 
+    // A copy with the picture cropped or its edges repeated, as Image::Resize does it.
+    Texture Resized(int newWidth, int newHeight) const;
     // Replaces the palette by a copy of the list.
     void SetPalette(const ColorList& list);
 
@@ -26,3 +30,5 @@ public:
     std::string quakeName;
     Quake2Properties quake2;
 };
+
+} // namespace keltavlo

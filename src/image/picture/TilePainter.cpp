@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <vector>
 
+namespace keltavlo {
+
 namespace {
 
 int Wrapped(std::int64_t position, int size) {
@@ -159,3 +161,5 @@ void PaintTiles(const Image& picture, const std::uint32_t* table256, const TileV
         start = end;
     }
 }
+
+} // namespace keltavlo

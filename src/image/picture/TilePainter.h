@@ -4,6 +4,8 @@
 
 #include <cstddef>
 
+namespace keltavlo {
+
 class Image;
 
 // Where a picture that tiles the plane without end is looked at: `zoom` screen pixels a texel, with the texel
@@ -28,3 +30,5 @@ struct TileTarget {
 // entries). Alpha is not composited. The picture must have at least one pixel.
 void PaintTiles(const Image& picture, const std::uint32_t* table256, const TileViewport& viewport,
                 const TileTarget& target);
+
+} // namespace keltavlo

@@ -7,6 +7,8 @@
 
 #include <cmath>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr unsigned pencilId = 146;
@@ -68,3 +70,5 @@ QCursor LoadBrushCursor(unsigned id, double ratio) {
     const QPointF hotSpot = tip * HotSpotScale(ratio);
     return QCursor(DrawTool(shape, ratio), static_cast<int>(hotSpot.x()), static_cast<int>(hotSpot.y()));
 }
+
+} // namespace keltavlo

@@ -15,6 +15,8 @@
 #include <algorithm>
 #include <cstring>
 
+namespace keltavlo {
+
 namespace {
 
 const QString bitmapFormat = QStringLiteral("image/bmp");
@@ -117,11 +119,7 @@ QStringList PictureFormats(const QStringList& offered) {
 } // namespace
 
 std::unique_ptr<QMimeData> MakeClipboardPicture(const Image& picture) {
-    try {
-        return picture.Pixels().empty() ? nullptr : std::make_unique<PictureData>(picture);
-    } catch (const std::bad_alloc&) {
-        return nullptr;
-    }
+    return picture.Pixels().empty() ? nullptr : std::make_unique<PictureData>(picture);
 }
 
 bool OffersPicture(const QStringList& formats) {
@@ -141,3 +139,5 @@ std::optional<Image> ReadClipboardPicture(const CClipboard& clipboard) {
     }
     return std::nullopt;
 }
+
+} // namespace keltavlo

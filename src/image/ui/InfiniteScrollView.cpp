@@ -3,6 +3,8 @@
 #include <QKeyEvent>
 #include <QScrollBar>
 
+namespace keltavlo {
+
 namespace {
 
 struct ScrollKey {
@@ -111,3 +113,5 @@ void InfiniteScrollView::SetRange(Axis& axis, int count) {
     }
     axis.range = count;
 }
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include "framework/ui/CView.h"
 
+namespace keltavlo {
+
 // A view over a plane that repeats without end: scrolling past one end of a bar comes round to the other.
 class InfiniteScrollView : public Dynamic<"InfiniteScrollView", InfiniteScrollView, CView> {
 public:
@@ -34,3 +36,5 @@ private:
     Axis horizontal{Qt::Horizontal};
     Axis vertical{Qt::Vertical};
 };
+
+} // namespace keltavlo

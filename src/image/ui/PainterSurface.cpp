@@ -5,6 +5,8 @@
 
 #include <QImage>
 
+namespace keltavlo {
+
 namespace {
 
 // The bitmap's own memory where the toolkit knows its layout.
@@ -26,3 +28,5 @@ void PainterSurface::StretchBits(const DibSection& bitmap, const QRect& destinat
     picture.FromBitmap(bitmap);
     painter.drawImage(destination, Share(picture));
 }
+
+} // namespace keltavlo

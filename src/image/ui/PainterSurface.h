@@ -4,6 +4,8 @@
 
 #include <QPainter>
 
+namespace keltavlo {
+
 // A widget's or an image's area, for as long as it is painted.
 class PainterSurface final : public DrawingSurface {
 public:
@@ -14,3 +16,5 @@ public:
 private:
     QPainter painter;
 };
+
+} // namespace keltavlo

@@ -12,6 +12,8 @@
 #include <QVBoxLayout>
 #include <QtMath>
 
+namespace keltavlo {
+
 namespace {
 
 // Shows a bitmap in its top left corner, a pixel of the bitmap for one of the widget.
@@ -153,3 +155,5 @@ void PaletteBar::changeEvent(QEvent* event) {
     CDialogBar::changeEvent(event);
     if (event->type() == QEvent::PaletteChange && widget()) Renew();
 }
+
+} // namespace keltavlo

@@ -5,6 +5,8 @@
 
 #include <array>
 
+namespace keltavlo {
+
 class CObject;
 class PaletteChooser;
 
@@ -42,3 +44,5 @@ private:
     PaletteChooser* chooser = nullptr; // children of the contents
     std::array<QWidget*, 3> parts{};
 };
+
+} // namespace keltavlo

@@ -8,6 +8,8 @@
 #include "res/StringIds.h"
 #include "resources/ColorTableDocument.h"
 
+namespace keltavlo {
+
 namespace {
 
 struct Entry {
@@ -76,3 +78,5 @@ void PaletteChooser::showPopup() {
     FillChooser();
     QComboBox::showPopup();
 }
+
+} // namespace keltavlo

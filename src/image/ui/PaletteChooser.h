@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <functional>
 
+namespace keltavlo {
+
 class ColorList;
 
 // The list of what the palette bar can show: three fixed modes, then every open colour table and every open
@@ -24,3 +26,5 @@ public:
 protected:
     void showPopup() override;
 };
+
+} // namespace keltavlo

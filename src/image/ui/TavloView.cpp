@@ -1,10 +1,12 @@
 #include "image/ui/TavloView.h"
 
+#include "framework/ui/PaintSentence.h"
 #include "image/TavloDocument.h"
 #include "image/picture/ChannelTable.h"
 #include "image/picture/TilePainter.h"
 #include "image/ui/TavloViewFrame.h"
 #include "res/CommandIds.h"
+#include "res/ShellStrings.h"
 #include "resources/Shell.h"
 
 #include <QPaintEvent>
@@ -12,6 +14,9 @@
 
 #include <array>
 #include <cmath>
+#include <new>
+
+namespace keltavlo {
 
 namespace {
 
@@ -51,15 +56,24 @@ void TavloView::OnActivateView(bool activate, CView* activated, CView* deactivat
     InfiniteScrollView::OnActivateView(activate, activated, deactivated);
 }
 
-// Conversion comes first, gamma last.
 void TavloView::paintEvent(QPaintEvent* event) {
+    try {
+        PaintRegion(event->region());
+    } catch (const std::bad_alloc&) {
+        PaintSentence(*this, IDS_NO_MEMORY_TO_PAINT);
+    }
+}
+
+// Conversion comes first, gamma last.
+void TavloView::PaintRegion(const QRegion& region) {
     const TavloDocument* shown = GetTavloDocument();
     if (!shown) return;
-    if (surface.size() != DeviceSize(*this)) surface = QImage(DeviceSize(*this), QImage::Format_RGB32);
+    const QSize size = DeviceSize(*this);
+    if (surface.size() != size) surface = QImage(size, QImage::Format_RGB32);
+    if (surface.isNull() && !size.isEmpty()) throw std::bad_alloc();
     const Image& picture = converted.Get(shown->GetTexture(), GetConversion(), shown->GetPaletteColors());
     const std::uint32_t* gamma = Shell::Get().GetGammaTable();
     const std::array<std::uint32_t, 256> halved = HalveBrightness(gamma);
-    const QRegion& region = event->region();
     const QRegion areas = region.rectCount() > int{mostTexelRects} ? QRegion(region.boundingRect()) : region;
     for (const QRect& area : areas)
         PaintArea(picture, halfFilter ? halved.data() : gamma,
@@ -156,3 +170,5 @@ PictureConversion TavloView::GetConversion() const {
     if (ditherFilter) return PictureConversion::errorDiffusion;
     return nearestFilter ? PictureConversion::nearest : PictureConversion::none;
 }
+
+} // namespace keltavlo

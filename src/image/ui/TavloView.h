@@ -6,6 +6,8 @@
 
 #include <QImage>
 
+namespace keltavlo {
+
 class TavloDocument;
 class TavloViewFrame;
 struct TileViewport;
@@ -44,6 +46,7 @@ private:
     TileViewport GetViewport() const;
     PictureConversion GetConversion() const;
 
+    void PaintRegion(const QRegion& region);
     void PaintArea(const Image& picture, const std::uint32_t* table, const QRect& area);
     QRegion FindTexels(const TexelRun& run) const;
     // What shows a texel that changed.
@@ -76,3 +79,5 @@ private:
     int wheelRemainder = 0;   // wheel movement that was not enough for a zoom step yet
     QPoint scrollRemainder{}; // and for scrolling by a texel, in 1/120 of a screen pixel
 };
+
+} // namespace keltavlo

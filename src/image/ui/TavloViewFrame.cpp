@@ -9,6 +9,8 @@
 
 #include <QMimeData>
 
+namespace keltavlo {
+
 void TavloViewFrame::SetZoom(int newZoom) {
     if (newZoom == zoom) return;
     zoom = newZoom;
@@ -48,20 +50,18 @@ void TavloViewFrame::OnEditCut() {
     OnEditClear();
 }
 
-// What cannot be pasted leaves the document as it is.
+// What is no picture leaves the document as it is.
 void TavloViewFrame::OnEditPaste() {
     const CWaitCursor wait;
     TavloDocument* document = GetDocument();
     if (!document) return;
-    try {
-        if (std::optional<Image> picture = ReadClipboardPicture(CClipboard::Get()))
-            PastePicture(*document, std::move(*picture));
-    } catch (const std::bad_alloc&) {
-        // The old picture and the new one are more than there is memory for.
-    }
+    if (std::optional<Image> picture = ReadClipboardPicture(CClipboard::Get()))
+        PastePicture(*document, std::move(*picture));
     document->UpdateAllViews(nullptr);
 }
 
 void TavloViewFrame::OnUpdateEditPaste(CCmdUI& state) const {
     state.Enable(OffersPicture(CClipboard::Get().GetFormats()));
 }
+
+} // namespace keltavlo

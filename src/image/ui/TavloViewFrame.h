@@ -2,6 +2,8 @@
 
 #include "framework/ui/ChildFrame.h"
 
+namespace keltavlo {
+
 class TavloDocument;
 
 // The window round an image document's views, which share its zoom. Its document's picture goes to the
@@ -39,3 +41,5 @@ private:
 
     int zoom = 1;
 };
+
+} // namespace keltavlo

@@ -17,6 +17,8 @@
 
 #include <cmath>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr int brushStrength = 255;
@@ -146,3 +148,5 @@ void TavloView::ScrollByWheel(const QPoint& delta, bool sideways) {
     if (whole.x() != 0) SetScrollX(GetScrollX() + whole.x());
     if (whole.y() != 0) SetScrollY(GetScrollY() + whole.y());
 }
+
+} // namespace keltavlo

@@ -5,6 +5,8 @@
 #include <GL/gl.h>
 #include <GL/glext.h>
 
+namespace keltavlo {
+
 namespace {
 
 // Converts a model's records into vertices for OpenGL.
@@ -65,3 +67,5 @@ void MD2View::PutOnColor() {
     glDisable(GL_TEXTURE_2D);
     glColor3f(1, 0, 0);
 }
+
+} // namespace keltavlo

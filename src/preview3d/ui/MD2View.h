@@ -2,6 +2,8 @@
 
 #include "preview3d/ui/ModelView.h"
 
+namespace keltavlo {
+
 // Draws the first frame of a Quake II model.
 class MD2View final : public Dynamic<"MD2View", MD2View, ModelView> {
 public:
@@ -11,3 +13,5 @@ private:
     void PutOnTexture() const;
     static void PutOnColor();
 };
+
+} // namespace keltavlo

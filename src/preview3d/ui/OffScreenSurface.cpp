@@ -3,6 +3,9 @@
 #include <EGL/egl.h>
 #include <GL/gl.h>
 #include <GL/glext.h>
+#include <new>
+
+namespace keltavlo {
 
 namespace {
 
@@ -29,7 +32,9 @@ OffScreenSurface::~OffScreenSurface() {
 
 void OffScreenSurface::CopyTo(QImage& picture) const {
     if (picture.size() != size) picture = QImage(size, QImage::Format_RGB32);
-    if (picture.isNull()) return;
+    if (picture.isNull()) throw std::bad_alloc();
     glReadPixels(0, 0, size.width(), size.height(), GL_BGRA, GL_UNSIGNED_INT_8_8_8_8_REV, picture.bits());
     TurnOver(picture);
 }
+
+} // namespace keltavlo

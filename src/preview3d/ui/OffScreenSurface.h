@@ -2,6 +2,8 @@
 
 #include <QImage>
 
+namespace keltavlo {
+
 // Memory of the graphics system that OpenGL draws into: the back buffer of a window.
 class OffScreenSurface {
 public:
@@ -15,7 +17,7 @@ public:
     void* GetHandle() const { return handle; }
     QSize GetSize() const { return size; } // pixels
     // Copies what was drawn, top row first. The surface must be current. `picture` becomes RGB32 of the
-    // surface's size; its memory is used again when it fits.
+    // surface's size; its memory is used again when it fits. Throws std::bad_alloc.
     void CopyTo(QImage& picture) const;
 
 private:
@@ -23,3 +25,5 @@ private:
     void* handle;
     QSize size;
 };
+
+} // namespace keltavlo

@@ -1,7 +1,6 @@
 #include "preview3d/ui/OpenGLCtrl.h"
 
-#include "framework/core/StringTable.h"
-#include "framework/core/Text.h"
+#include "framework/ui/PaintSentence.h"
 #include "preview3d/ui/OffScreenSurface.h"
 #include "preview3d/ui/PixelFormat.h"
 #include "preview3d/ui/RenderingContext.h"
@@ -12,7 +11,10 @@
 
 #include <GL/glu.h>
 #include <cmath>
+#include <new>
 #include <utility>
+
+namespace keltavlo {
 
 namespace {
 
@@ -29,13 +31,23 @@ constexpr Corner cube[][4] = {
 
 } // namespace
 
+// The context is current for as long as it lives.
+class OpenGLCtrl::CurrentScope {
+public:
+    explicit CurrentScope(OpenGLCtrl& owner) : control(owner) { control.MakeCurrent(); }
+    ~CurrentScope() { control.ReleaseCurrent(); }
+    CurrentScope(const CurrentScope&) = delete;
+    CurrentScope& operator=(const CurrentScope&) = delete;
+
+private:
+    OpenGLCtrl& control;
+};
+
 OpenGLCtrl::OpenGLCtrl() {
     setAttribute(Qt::WA_OpaquePaintEvent); // every paint covers the whole area
 }
 
-OpenGLCtrl::~OpenGLCtrl() {
-    OpenGLCtrl::DestroyContext();
-}
+OpenGLCtrl::~OpenGLCtrl() = default;
 
 void OpenGLCtrl::Create(const QRect& area, QWidget& parent) {
     setParent(&parent);
@@ -51,22 +63,18 @@ void OpenGLCtrl::CreateContext() {
     renderingContext = RenderingContext::Create(format);
     if (!renderingContext) return;
     ReplaceSurface(DeviceSize());
-    if (!surface || !renderingContext->MakeCurrent(*surface)) return;
-    deviceContext = surface.get();
-    InitGL();
-    RenderingContext::MakeNoneCurrent();
-    deviceContext = nullptr;
+    const CurrentScope current(*this);
 }
 
 void OpenGLCtrl::AdjustPixelFormat(PixelFormat&) {}
 
 void OpenGLCtrl::DestroyContext() {
-    if (renderingContext && surface && renderingContext->MakeCurrent(*surface)) {
-        deviceContext = surface.get();
-        ReleaseResources();
-        RenderingContext::MakeNoneCurrent();
+    if (prepared) {
+        if (!surface) ReplaceSurface({});
+        const CurrentScope current(*this);
+        if (deviceContext) ReleaseResources();
     }
-    deviceContext = nullptr;
+    prepared = false;
     surface.reset();
     renderingContext.reset();
 }
@@ -124,7 +132,13 @@ void OpenGLCtrl::ReleaseResources() {}
 
 void OpenGLCtrl::MakeCurrent() {
     if (++currentDepth > 1) return;
-    if (surface && renderingContext->MakeCurrent(*surface)) deviceContext = surface.get();
+    BindSurface();
+}
+
+void OpenGLCtrl::BindSurface() {
+    if (!surface || !renderingContext->MakeCurrent(*surface)) return;
+    deviceContext = surface.get();
+    if (!std::exchange(prepared, true)) InitGL();
 }
 
 void OpenGLCtrl::ReleaseCurrent() {
@@ -135,16 +149,25 @@ void OpenGLCtrl::ReleaseCurrent() {
 
 void OpenGLCtrl::paintEvent(QPaintEvent* event) {
     paintRect = event->rect();
-    if (!paintRect.isEmpty()) {
-        // A move to another screen changes the number of its pixels without a resize.
-        if (surface && surface->GetSize() != DeviceSize()) Fit(DeviceSize());
-        MakeCurrent();
-        const bool drawn = deviceContext != nullptr;
-        if (drawn) Render();
-        ReleaseCurrent();
-        drawn ? PaintPicture() : PaintExcuse();
-    }
+    if (!paintRect.isEmpty()) Paint();
     paintRect = QRect();
+}
+
+// A move to another screen changes the number of its pixels without a resize.
+void OpenGLCtrl::Paint() {
+    try {
+        if (!surface || surface->GetSize() != DeviceSize()) Fit(DeviceSize());
+        RenderIfPossible() ? PaintPicture() : PaintSentence(*this, IDS_NO_OPENGL);
+    } catch (const std::bad_alloc&) {
+        PaintSentence(*this, IDS_NO_MEMORY_TO_PAINT);
+    }
+}
+
+bool OpenGLCtrl::RenderIfPossible() {
+    const CurrentScope current(*this);
+    if (!deviceContext) return false;
+    Render();
+    return true;
 }
 
 void OpenGLCtrl::resizeEvent(QResizeEvent* event) {
@@ -159,18 +182,16 @@ QSize OpenGLCtrl::DeviceSize() const {
 
 // Surfaces cannot change their size, so another one takes the place.
 void OpenGLCtrl::ReplaceSurface(const QSize& size) {
-    std::unique_ptr<OffScreenSurface> fitting = renderingContext->CreateSurface(size.expandedTo({1, 1}));
-    if (currentDepth > 0)
-        deviceContext = fitting && renderingContext->MakeCurrent(*fitting) ? fitting.get() : nullptr;
-    surface = std::move(fitting);
+    const auto old = std::exchange(surface, renderingContext->CreateSurface(size.expandedTo({1, 1})));
+    deviceContext = nullptr;
+    if (currentDepth > 0) BindSurface();
 }
 
 void OpenGLCtrl::Fit(const QSize& size) {
     if (!renderingContext) return;
     if (!surface || surface->GetSize() != size) ReplaceSurface(size);
-    MakeCurrent();
+    const CurrentScope current(*this);
     ResizeView(size.width(), size.height());
-    ReleaseCurrent();
 }
 
 void OpenGLCtrl::PaintPicture() {
@@ -179,11 +200,4 @@ void OpenGLCtrl::PaintPicture() {
     painter.drawImage(0, 0, picture);
 }
 
-void OpenGLCtrl::PaintExcuse() {
-    constexpr int margin = 8;
-    QPainter painter(this);
-    painter.fillRect(rect(), palette().window());
-    painter.setPen(palette().windowText().color());
-    painter.drawText(rect().marginsRemoved({margin, margin, margin, margin}),
-                     Qt::AlignCenter | Qt::TextWordWrap, ToQString(LoadString(IDS_NO_OPENGL)));
-}
+} // namespace keltavlo

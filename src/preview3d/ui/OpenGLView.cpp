@@ -2,9 +2,16 @@
 
 #include "preview3d/ui/OpenGLCtrl.h"
 
+namespace keltavlo {
+
 void OpenGLView::OnCreate() {
     CView::OnCreate();
     control->Create(rect(), *this);
+}
+
+void OpenGLView::OnDestroy() {
+    control->Destroy();
+    CView::OnDestroy();
 }
 
 void OpenGLView::OnUpdate(DocumentView* sender, std::intptr_t hint, CObject* hintObject) {
@@ -23,3 +30,5 @@ void OpenGLView::resizeEvent(QResizeEvent* event) {
     control->setGeometry(rect());
     control->update();
 }
+
+} // namespace keltavlo

@@ -2,12 +2,15 @@
 
 #include "framework/ui/CView.h"
 
+namespace keltavlo {
+
 class OpenGLCtrl;
 
 // A view that one OpenGL control covers. The control sees commands first.
 class OpenGLView : public Dynamic<"OpenGLView", OpenGLView, CView> {
 public:
     void OnCreate() override;
+    void OnDestroy() override;
     void OnUpdate(DocumentView* sender, std::intptr_t hint, CObject* hintObject) override;
     bool OnCmdMsg(CommandId id, CCmdUI* state) override;
 
@@ -20,3 +23,5 @@ protected:
 private:
     OpenGLCtrl* control = nullptr;
 };
+
+} // namespace keltavlo

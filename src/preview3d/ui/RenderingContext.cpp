@@ -9,6 +9,8 @@
 #include <array>
 #include <vector>
 
+namespace keltavlo {
+
 namespace {
 
 // A display that draws without a screen, or else that of the screen. It stays open until the program ends,
@@ -110,3 +112,5 @@ std::string DescribeOpenGL() {
     RenderingContext::MakeNoneCurrent();
     return description;
 }
+
+} // namespace keltavlo

@@ -5,6 +5,8 @@
 #include <memory>
 #include <string>
 
+namespace keltavlo {
+
 class OffScreenSurface;
 struct PixelFormat;
 
@@ -35,3 +37,5 @@ private:
 
 // The renderer and its OpenGL version for display; empty if the system has no OpenGL.
 std::string DescribeOpenGL();
+
+} // namespace keltavlo

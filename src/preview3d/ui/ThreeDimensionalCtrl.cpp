@@ -3,13 +3,10 @@
 #include "preview3d/ui/ThreeDimensionalView.h"
 #include "res/CommandIds.h"
 
+namespace keltavlo {
+
 ThreeDimensionalCtrl::ThreeDimensionalCtrl(ThreeDimensionalView& owner)
     : view(&owner), texture(TakeLastPicture()) {}
-
-// While it still leads to the view's resources.
-ThreeDimensionalCtrl::~ThreeDimensionalCtrl() {
-    DestroyContext();
-}
 
 void ThreeDimensionalCtrl::MoveBy(const QString& characters, bool smallSteps) {
     const double step = smallSteps ? 1 : 16;
@@ -54,3 +51,5 @@ const CommandMap& ThreeDimensionalCtrl::GetCommandMap() const {
          Command<&Self::OnRenderMode<textured>, &Self::OnUpdateRenderMode<textured>>(ID_3D_TEXTURED)}};
     return map;
 }
+
+} // namespace keltavlo

@@ -3,6 +3,8 @@
 #include "preview3d/TextureBuffer.h"
 #include "preview3d/ui/OpenGLCtrl.h"
 
+namespace keltavlo {
+
 class ThreeDimensionalView;
 
 // The control of a 3D view: lets the view draw, and keeps what the view draws with.
@@ -14,7 +16,6 @@ public:
 
     // Takes the picture of an open image document for its texture.
     explicit ThreeDimensionalCtrl(ThreeDimensionalView& owner);
-    ~ThreeDimensionalCtrl() override;
 
     // By how much the model is moved, in its own units.
     const Offset& GetOffset() const { return offset; }
@@ -51,3 +52,5 @@ private:
     Offset offset;
     TextureBuffer texture;
 };
+
+} // namespace keltavlo

@@ -7,6 +7,8 @@
 
 #include <GL/glu.h>
 
+namespace keltavlo {
+
 // There is nothing to scroll.
 void ThreeDimensionalView::OnCreate() {
     OpenGLView::OnCreate();
@@ -41,3 +43,5 @@ void ThreeDimensionalView::keyPressEvent(QKeyEvent* event) {
         control.MoveBy(event->text(), keys.testFlag(Qt::ShiftModifier));
     OpenGLView::keyPressEvent(event);
 }
+
+} // namespace keltavlo

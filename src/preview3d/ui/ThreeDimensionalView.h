@@ -3,6 +3,8 @@
 #include "preview3d/ui/OpenGLView.h"
 #include "preview3d/ui/ThreeDimensionalCtrl.h"
 
+namespace keltavlo {
+
 // Shows a model in 3D: sets up the scene, moves it by the keyboard and draws it with a copy of an open image,
 // taken when the view is created.
 class ThreeDimensionalView : public Dynamic<"ThreeDimensionalView", ThreeDimensionalView, OpenGLView> {
@@ -28,3 +30,5 @@ protected:
 private:
     ThreeDimensionalCtrl control;
 };
+
+} // namespace keltavlo

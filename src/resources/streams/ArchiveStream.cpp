@@ -1,5 +1,7 @@
 #include "resources/streams/ArchiveStream.h"
 
+namespace keltavlo {
+
 namespace {
 
 CArchiveException::Cause CauseOf(StreamError error) {
@@ -52,3 +54,5 @@ CFile& ArchiveStream::FlushedFile() const {
     archive.Flush();
     return archive.GetFile();
 }
+
+} // namespace keltavlo

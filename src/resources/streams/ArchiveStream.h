@@ -3,6 +3,8 @@
 #include "framework/core/CArchive.h"
 #include "resources/streams/OutputStream.h"
 
+namespace keltavlo {
+
 // A stream over an archive: what a document's Serialize works with. Fails with CArchiveException.
 class ArchiveStream final : public InputStream, public OutputStream {
 public:
@@ -26,3 +28,5 @@ private:
 
     CArchive& archive;
 };
+
+} // namespace keltavlo

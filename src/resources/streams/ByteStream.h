@@ -7,6 +7,8 @@
 #include <memory>
 #include <string>
 
+namespace keltavlo {
+
 // What reading and writing streams share: the file they work on and the way they fail.
 class ByteStream {
 public:
@@ -25,3 +27,5 @@ public:
     // The same with a sentence that tells the user more than the error does.
     [[noreturn]] virtual void Fail(StreamError error, std::string sentence) const = 0;
 };
+
+} // namespace keltavlo

@@ -1,5 +1,7 @@
 #include "resources/streams/FileStream.h"
 
+namespace keltavlo {
+
 namespace {
 
 // File exceptions number their causes the same way, but have fewer of them.
@@ -21,3 +23,5 @@ void FileStream::Fail(StreamError error, std::string sentence) const {
 void FileStream::Read(void* buffer, std::size_t count) {
     if (file.Read(buffer, count) != count) throw CFileException(CFileException::endOfFile);
 }
+
+} // namespace keltavlo

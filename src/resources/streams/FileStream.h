@@ -2,6 +2,8 @@
 
 #include "resources/streams/OutputStream.h"
 
+namespace keltavlo {
+
 // A stream directly over a file: what clipboard data is read and written with. Fails with CFileException.
 class FileStream final : public InputStream, public OutputStream {
 public:
@@ -23,3 +25,5 @@ public:
 private:
     CFile& file;
 };
+
+} // namespace keltavlo

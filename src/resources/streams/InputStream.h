@@ -6,6 +6,8 @@
 #include <span>
 #include <type_traits>
 
+namespace keltavlo {
+
 // Numbers as files hold them: little-endian.
 template <class T>
 concept StreamNumber = std::is_arithmetic_v<T>;
@@ -34,3 +36,5 @@ public:
         return position < length ? length - position : 0;
     }
 };
+
+} // namespace keltavlo

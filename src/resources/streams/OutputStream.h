@@ -2,6 +2,8 @@
 
 #include "resources/streams/InputStream.h"
 
+namespace keltavlo {
+
 // Writes a file from front to back, with seeks.
 class OutputStream : public virtual ByteStream {
 public:
@@ -16,3 +18,5 @@ public:
         Write(values.data(), values.size_bytes());
     }
 };
+
+} // namespace keltavlo

@@ -1,5 +1,7 @@
 #pragma once
 
+namespace keltavlo {
+
 // What a stream can report: one numbering for both forms of stream. 2 to 13 are the causes of file
 // exceptions.
 enum class StreamError {
@@ -23,3 +25,5 @@ enum class StreamError {
     badClass,
     badSchema
 };
+
+} // namespace keltavlo

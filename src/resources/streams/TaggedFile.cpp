@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <vector>
 
+namespace keltavlo {
+
 namespace {
 
 template <class Unit>
@@ -64,3 +66,5 @@ TaggedContents ReadTaggedContents(InputStream& in, std::uint32_t expectedType,
     }
     return contents;
 }
+
+} // namespace keltavlo

@@ -4,6 +4,8 @@
 #include <optional>
 #include <string>
 
+namespace keltavlo {
+
 class InputStream;
 
 // The program's own tagged format: a 16-byte header (8 bytes of magic, a u32 type tag, a u32 chunk count),
@@ -41,3 +43,5 @@ struct TaggedContents {
 // too, when one is given.
 TaggedContents ReadTaggedContents(InputStream& in, std::uint32_t expectedType,
                                   std::optional<std::uint32_t> onlyId = std::nullopt);
+
+} // namespace keltavlo

@@ -14,6 +14,8 @@
 #include <algorithm>
 #include <filesystem>
 
+namespace keltavlo {
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -88,3 +90,5 @@ TEST(CommandLineTest, TellsPathsFromOptions) {
 }
 
 } // namespace
+
+} // namespace keltavlo

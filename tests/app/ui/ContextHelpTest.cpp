@@ -9,6 +9,8 @@
 #include <QToolButton>
 #include <QUrl>
 
+namespace keltavlo {
+
 namespace {
 
 // The program with a texture; each test asks for help on parts of its window.
@@ -77,3 +79,5 @@ TEST_F(ContextHelpTest, EscapeEndsIt) {
 }
 
 } // namespace
+
+} // namespace keltavlo

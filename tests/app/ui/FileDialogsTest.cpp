@@ -20,6 +20,8 @@
 
 #include <set>
 
+namespace keltavlo {
+
 using testing::ElementsAre;
 using testing::HasSubstr;
 
@@ -228,3 +230,5 @@ TEST(HelpWindowTest, HasEveryPageAndPicture) {
 }
 
 } // namespace
+
+} // namespace keltavlo

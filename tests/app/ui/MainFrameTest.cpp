@@ -15,6 +15,8 @@
 #include <QScrollBar>
 #include <QToolBar>
 
+namespace keltavlo {
+
 namespace {
 
 void ExpectTexts(CommandId id) {
@@ -142,3 +144,5 @@ TEST_F(MainFrameTest, StartsAsItWasLeft) {
 }
 
 } // namespace
+
+} // namespace keltavlo

@@ -7,6 +7,8 @@
 
 #include <QColorDialog>
 
+namespace keltavlo {
+
 namespace {
 
 // The program with a texture open.
@@ -82,3 +84,5 @@ TEST_F(MenuRunsTest, TheColorDialogKeepsAlpha) {
         EXPECT_EQ(program.GetCurrentColor(), 0x80010203U);
     }
 }
+
+} // namespace keltavlo

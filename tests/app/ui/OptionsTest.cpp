@@ -10,6 +10,8 @@
 #include <QSlider>
 #include <QTabWidget>
 
+namespace keltavlo {
+
 namespace {
 
 class OptionsTest : public TavloViewFixture {
@@ -104,3 +106,5 @@ TEST_F(OptionsTest, GammaAndColorsOutliveTheProgram) {
     EXPECT_EQ(next.GetMainFrame()->GetGamma().GetValues(), (GammaValues{0.3333, 1.5, 0}));
     EXPECT_EQ(GetCustomColors(), newer);
 }
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 
 #include <QProcess>
 
+namespace keltavlo {
+
 namespace {
 
 class PaletteBarTest : public ProgramFixture {
@@ -120,3 +122,5 @@ TEST_F(PaletteBarTest, LeavesTheListsOfClosedDocumentsAlone) {
 }
 
 } // namespace
+
+} // namespace keltavlo

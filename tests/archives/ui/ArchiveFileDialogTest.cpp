@@ -22,6 +22,8 @@
 #include <ctime>
 #include <utility>
 
+namespace keltavlo {
+
 namespace {
 
 // A folder with two packs, a bad one and a picture, and a dialog on it.
@@ -355,3 +357,5 @@ TEST_F(ArchiveFileDialogTest, AFolderOfManyFilesKeepsTheWindowAlive) {
 }
 
 } // namespace
+
+} // namespace keltavlo

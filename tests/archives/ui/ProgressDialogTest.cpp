@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+namespace keltavlo {
+
 namespace {
 
 // Notes what reaches it.
@@ -50,3 +52,5 @@ TEST(ProgressDialogTest, ShowsItselfAtOnceAndLetsNothingThroughThatAPersonAsks) 
     owner.close();
     EXPECT_EQ(owner.closed, 1) << "afterwards all is as before";
 }
+
+} // namespace keltavlo

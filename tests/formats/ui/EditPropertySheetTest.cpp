@@ -8,6 +8,8 @@
 #include <QCheckBox>
 #include <QTabWidget>
 
+namespace keltavlo {
+
 namespace {
 
 // The sheet as a person at the keyboard meets it.
@@ -189,3 +191,5 @@ TEST_F(EditPropertySheetTest, StepsStayWithinTheRanges) {
     EXPECT_EQ(GetTexture().GetWidth(), 1);
     EXPECT_EQ(GetTexture().GetHeight(), 1);
 }
+
+} // namespace keltavlo

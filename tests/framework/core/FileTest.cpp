@@ -5,6 +5,8 @@
 #include <filesystem>
 #include <sys/stat.h>
 
+namespace keltavlo {
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -81,3 +83,5 @@ TEST_F(FileTest, AFixedMemoryFileDoesNotGrow) {
     EXPECT_EQ(file.Read(bytes.data(), 1), 0U);
     EXPECT_THROW(file.Write("a", 1), CMemoryException);
 }
+
+} // namespace keltavlo

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+namespace keltavlo {
+
 TEST(Path, SplitsAtBothSeparatorsAndTheLastColon) {
     const PathParts parts = SplitPath("C:\\games//quake2\\baseq2/pak0.pak");
     EXPECT_EQ(parts.drive, "C:");
@@ -46,3 +48,5 @@ TEST(Text, KeepsBytesAndFoldsCase) {
     EXPECT_EQ(Field("a\n\nc", '\n', 2), "c");
     EXPECT_EQ(Field("a", '\n', 1), "");
 }
+
+} // namespace keltavlo

@@ -5,6 +5,8 @@
 
 #include <sys/stat.h>
 
+namespace keltavlo {
+
 namespace {
 
 class ProfileStoreTest : public FolderTest {
@@ -66,3 +68,5 @@ TEST_F(ProfileStoreTest, RecentFilesHaveAValueEach) {
 }
 
 } // namespace
+
+} // namespace keltavlo

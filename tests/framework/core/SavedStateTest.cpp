@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+namespace keltavlo {
+
 namespace {
 
 TEST(WindowPlacementTest, IsElevenWords) {
@@ -33,3 +35,5 @@ TEST(SealedStateTest, OpensOnlyItsVersionWithoutMore) {
 }
 
 } // namespace
+
+} // namespace keltavlo

@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+namespace keltavlo {
+
 namespace {
 
 class CFileDialogTest : public testing::Test {
@@ -85,3 +87,5 @@ TEST_F(CFileDialogTest, ShowsLabelsAndFiltersByPatterns) {
 }
 
 } // namespace
+
+} // namespace keltavlo

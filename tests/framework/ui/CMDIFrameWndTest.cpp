@@ -8,6 +8,8 @@
 #include <QMdiSubWindow>
 #include <QMenuBar>
 
+namespace keltavlo {
+
 namespace {
 
 QString FirstMenuOf(const QMainWindow& frame) {
@@ -251,3 +253,5 @@ TEST_F(CMDIFrameWndTest, CtrlF6GoesRoundTheWindowsAndCtrlF4ClosesOne) {
 }
 
 } // namespace
+
+} // namespace keltavlo

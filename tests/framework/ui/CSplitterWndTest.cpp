@@ -6,6 +6,8 @@
 
 #include <QScrollBar>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr auto rows = CSplitterWnd::rows;
@@ -117,3 +119,5 @@ TEST_F(CSplitterWndTest, NextPaneGoesRoundRowByRow) {
 }
 
 } // namespace
+
+} // namespace keltavlo

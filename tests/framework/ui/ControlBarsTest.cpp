@@ -10,6 +10,8 @@
 #include <QStatusTipEvent>
 #include <QToolButton>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr std::string_view dot[] = {"#"};
@@ -115,3 +117,5 @@ TEST_F(ControlBarsTest, PlacementsEndOnAScreen) {
 }
 
 } // namespace
+
+} // namespace keltavlo

@@ -2,6 +2,8 @@
 
 #include "framework/core/StringTable.h"
 
+namespace keltavlo {
+
 namespace {
 
 constexpr unsigned shownType = 9001, hiddenType = 9002;
@@ -67,3 +69,5 @@ TestDocument& WindowFixture::NewDocument(std::size_t type) {
 CMDIChildWnd& WindowFixture::FrameOf(const CDocument& document) {
     return dynamic_cast<CMDIChildWnd&>(*document.GetFrame());
 }
+
+} // namespace keltavlo

@@ -15,6 +15,8 @@
 
 #include <gmock/gmock.h>
 
+namespace keltavlo {
+
 using testing::ElementsAre;
 
 // A program of the framework's classes alone, with one type that people see and one that stays hidden.
@@ -109,3 +111,5 @@ protected:
     TestProgram program{folder.filePath("settings.ini").toStdString()};
     TestMainFrame& mainFrame = program.mainFrame;
 };
+
+} // namespace keltavlo

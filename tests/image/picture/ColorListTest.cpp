@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 #include <random>
 
+namespace keltavlo {
+
 TEST(ColorListTest, FindsTheFirstOfTheNearest) {
     const ColorList list{0xFF000010, 0xFF000020, 0xFF000010, 0xFE123456, 0xFF123456};
     EXPECT_EQ(list.FindNearestIndex(0xFF000018), 0U);
@@ -29,3 +31,5 @@ TEST(ColorListTest, TheCacheChangesNoResultAndEndsWithTheList) {
     list.Append(0xFF800000);
     EXPECT_FALSE(list.HasCache());
 }
+
+} // namespace keltavlo

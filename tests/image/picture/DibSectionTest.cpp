@@ -4,6 +4,8 @@
 
 #include <limits>
 
+namespace keltavlo {
+
 TEST(DibSectionTest, RefusesWhatItCannotHoldAndStaysAsItWas) {
     DibSection bitmap(2, 2, 32);
     bitmap.SetPixel(1, 1, 0xFF123456);
@@ -29,3 +31,5 @@ TEST(DibSectionTest, TablesOfColorsBeginAsGreys) {
         EXPECT_EQ(bitmap.GetPixel(0, 0), 0xFFFFFFFF) << bitCount;
     }
 }
+
+} // namespace keltavlo

@@ -4,6 +4,8 @@
 #include "image/picture/DibSection.h"
 #include "resources/streams/FileStream.h"
 
+namespace keltavlo {
+
 namespace {
 
 Image PictureOf(const DibSection& bitmap) {
@@ -67,3 +69,5 @@ TEST(DibStreamTest, BitmapsOfEveryDepthSurvive) {
         }
     }
 }
+
+} // namespace keltavlo

@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <numeric>
 
+namespace keltavlo {
+
 using testing::ElementsAre;
 
 namespace {
@@ -66,3 +68,5 @@ TEST(ImageTest, HalvesEverySizeExactly) {
         }
     }
 }
+
+} // namespace keltavlo

@@ -8,6 +8,8 @@
 #include <random>
 #include <vector>
 
+namespace keltavlo {
+
 namespace {
 
 // Bits of the alphas that are always set.
@@ -114,3 +116,5 @@ TEST_P(NearestSearchTest, RefusesWhatItCannotFind) {
 INSTANTIATE_TEST_SUITE_P(Kernels, NearestSearchTest,
                          testing::Values(&portableNearestKernels, VectorNearestKernels()),
                          [](const auto& kernels) { return kernels.index == 0 ? "Portable" : "Vectors"; });
+
+} // namespace keltavlo

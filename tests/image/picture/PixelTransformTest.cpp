@@ -5,6 +5,8 @@
 #include <random>
 #include <vector>
 
+namespace keltavlo {
+
 namespace {
 
 std::vector<Color> RandomPixels(std::size_t count) {
@@ -81,3 +83,5 @@ TEST(PixelTransformerTest, RowsGetWhatEachPixelGetsAlsoInPlace) {
         }
     }
 }
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 #include <random>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr PixelSize view{50, 40};
@@ -49,3 +51,5 @@ TEST(TexelRectsTest, CoverTheTexelsInAllTilesAndNothingElse) {
 }
 
 } // namespace
+
+} // namespace keltavlo

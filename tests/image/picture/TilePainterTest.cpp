@@ -7,6 +7,8 @@
 #include <numeric>
 #include <vector>
 
+namespace keltavlo {
+
 TEST(TilePainter, ShowsTheTilingAtEveryZoomAndCorner) {
     std::array<std::uint32_t, 256> inverse;
     for (std::uint32_t v = 0; v < 256; ++v) inverse[v] = (255 - v) * 0x01010101U;
@@ -32,3 +34,5 @@ TEST(TilePainter, ShowsTheTilingAtEveryZoomAndCorner) {
                 }
     }
 }
+
+} // namespace keltavlo

@@ -10,6 +10,8 @@
 #include <QElapsedTimer>
 #include <QMimeData>
 
+namespace keltavlo {
+
 namespace {
 
 // Data of another program: counts what it is asked for, and takes its time.
@@ -152,3 +154,5 @@ TEST_F(ClipboardPictureTest, AsksTheOwnerOnlyWhenSomethingChangesAndOnlyOnce) {
     EXPECT_LT(clock.elapsed(), 2300);
     EXPECT_FALSE(document->IsModified());
 }
+
+} // namespace keltavlo

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+namespace keltavlo {
+
 // Both rows of the bitmap, twice as wide and three times as high, in their place.
 TEST(PainterSurfaceTest, StretchesBitmapsOfEveryDepthAndRowOrder) {
     for (const int bitCount : {1, 4, 8, 16, 24, 32})
@@ -27,3 +29,5 @@ TEST(PainterSurfaceTest, StretchesBitmapsOfEveryDepthAndRowOrder) {
                 }
         }
 }
+
+} // namespace keltavlo

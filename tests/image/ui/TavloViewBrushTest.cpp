@@ -5,6 +5,8 @@
 #include <QPaintEvent>
 #include <QWindow>
 
+namespace keltavlo {
+
 namespace {
 
 constexpr Color red = 0xFFFF0000;
@@ -146,3 +148,5 @@ TEST_F(TavloViewBrushTest, TheContextMenuComesByMouseAndKeyboard) {
     QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, {}, view->mapToGlobal(QPoint()));
     QCoreApplication::sendEvent(view, &menuKey);
 }
+
+} // namespace keltavlo

@@ -10,6 +10,8 @@
 
 #include <QCoreApplication>
 
+namespace keltavlo {
+
 // The program with a 64 x 32 texture in one window.
 class TavloViewFixture : public ProgramFixture {
 protected:
@@ -34,3 +36,5 @@ protected:
     TavloViewFrame* frame = nullptr;
     TavloView* view = nullptr;
 };
+
+} // namespace keltavlo

@@ -2,9 +2,12 @@
 #include "image/ui/TavloViewFixture.h"
 #include "res/CommandIds.h"
 #include "resources/ColorTableDocument.h"
+#include "support/Fault.h"
 
 #include <QScrollBar>
 #include <QWheelEvent>
+
+namespace keltavlo {
 
 namespace {
 
@@ -177,3 +180,30 @@ TEST_F(TavloViewFilterTest, StrokesShowAtOnceThroughTheFilter) {
     for (int x = 0; x < 64; ++x) ASSERT_EQ(shown.pixel(x, 1), expected.GetPixel(x, 1)) << x;
     EXPECT_EQ(GetTexture().GetPixel(2, 1), 0xFF101010U);
 }
+
+TEST_F(TavloViewFilterTest, WithoutMemoryAViewSaysSoAndEditsChangeNothing) {
+    if (!allocationsCanFail) GTEST_SKIP();
+    GetTexture().SetSize(256, 256);
+    std::ranges::fill(GetTexture().Pixels(), 0xFF808080);
+    document->SetCurrentPalette(whiteOnly);
+    document->UpdateAllViews(nullptr);
+    Send(ID_FILTER_NEAREST);
+    {
+        const DialogAnswer answer([](const QDialog& dialog) {
+            EXPECT_TRUE(dynamic_cast<const QMessageBox&>(dialog).text().contains("not enough memory"));
+            Press(dialog, QDialogButtonBox::Ok);
+        });
+        const Fault fault(Step::largeAllocation, 1, true);
+        const QImage picture = view->grab().toImage();
+        QImage plain = picture;
+        plain.fill(picture.pixelColor(0, 0));
+        EXPECT_NE(picture, plain) << "a sentence on a plain ground";
+        EXPECT_FALSE(Send(ID_FORMAT_NEAREST));
+        QTest::qWait(200);
+    }
+    EXPECT_FALSE(document->IsModified() || document->GetHistory().CanUndo());
+    EXPECT_EQ(GetTexture().GetPixel(9, 9), 0xFF808080);
+    EXPECT_EQ(ColorShownAt(9, 9), white);
+}
+
+} // namespace keltavlo

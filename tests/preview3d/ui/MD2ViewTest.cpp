@@ -11,6 +11,8 @@
 
 #include <cmath>
 
+namespace keltavlo {
+
 namespace {
 
 using Shade = std::function<QRgb(const QVector3D&)>;
@@ -182,3 +184,5 @@ TEST_F(MD2ViewTest, ShowsNothingWhereNothingIsDrawn) {
     Type(studioView, "d");
     nothing.ExpectSeenIn(studioView);
 }
+
+} // namespace keltavlo

@@ -1,14 +1,19 @@
 #include "builders/ModelBuilder.h"
 #include "framework/ui/CSplitterWnd.h"
 #include "framework/ui/ChildFrame.h"
+#include "framework/ui/WindowClasses.h"
 #include "monkey/ToolkitComplaints.h"
+#include "preview3d/ui/ModelView.h"
 #include "res/CommandIds.h"
 #include "support/ui/GLErrors.h"
 #include "support/ui/ProgramFixture.h"
 
 #include <QFile>
 
+#include <EGL/egl.h>
 #include <malloc.h>
+
+namespace keltavlo {
 
 namespace {
 
@@ -67,7 +72,55 @@ protected:
     const std::string path = PathTo("model.md2");
 };
 
+std::vector<std::string> steps;
+
+// Notes the steps that come once for each context. Its name puts it in the place of the program's own view.
+class NotingView final : public Dynamic<"MD2View", NotingView, ModelView> {
+public:
+    void InitGL() override {
+        ModelView::InitGL();
+        Note("init");
+    }
+    void ReleaseResources() override { Note("release"); }
+
+private:
+    static void Note(const std::string& step) {
+        steps.push_back(eglGetCurrentContext() == EGL_NO_CONTEXT ? step + ", not current" : step);
+    }
+};
+
 } // namespace
+
+TEST_F(ModelWindowsTest, EveryWayOutReleasesTheViewsResources) {
+    const std::vector<std::string> once{"init", "release"}, twice{"init", "init", "release", "release"};
+    program.GetFrameFactory()->GetClasses().Register(NotingView::runtimeClass);
+    const auto stepsOf = [](auto action) {
+        steps.clear();
+        action();
+        return steps;
+    };
+    program.InitInstance({path});
+    CDocument* document = program.OpenDocumentFile(path);
+    EXPECT_EQ(stepsOf([&] {
+                  Send(ID_WINDOW_NEW);
+                  dynamic_cast<QWidget&>(*document->GetViews().back()->GetFrame()).close();
+              }),
+              once);
+    EXPECT_EQ(stepsOf([&] {
+                  auto& splitter = dynamic_cast<ChildFrame&>(*document->GetFrame()).GetSplitter();
+                  splitter.SetSplit(CSplitterWnd::rows, splitter.GetExtent(CSplitterWnd::rows) / 2);
+                  splitter.SetSplit(CSplitterWnd::rows, 0);
+              }),
+              once);
+    document->OnCloseDocument();
+    EXPECT_EQ(steps.back(), "release") << "the first window's";
+    EXPECT_EQ(stepsOf([&] {
+                  program.OpenDocumentFile(path);
+                  Send(ID_WINDOW_NEW);
+                  GetMainFrame().close();
+              }),
+              twice);
+}
 
 TEST_F(ModelWindowsTest, ManyComeAndGoWithoutATrace) {
     const ToolkitComplaints complaints;
@@ -78,3 +131,5 @@ TEST_F(ModelWindowsTest, ManyComeAndGoWithoutATrace) {
     EXPECT_LT(MemoryInUse() - before, leeway);
     EXPECT_EQ(ToolkitComplaints::texts, std::vector<std::string>());
 }
+
+} // namespace keltavlo

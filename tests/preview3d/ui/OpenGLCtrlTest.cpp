@@ -11,12 +11,17 @@
 
 #include <EGL/egl.h>
 #include <GL/gl.h>
+#include <dlfcn.h>
 #include <gmock/gmock.h>
+
+namespace keltavlo {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace {
+
+bool surfacesFail = false;
 
 bool IsAnyCurrent() {
     return eglGetCurrentContext() != EGL_NO_CONTEXT;
@@ -33,15 +38,15 @@ public:
     }
     ~NotingCtrl() override {
         setParent(nullptr);
-        DestroyContext();
+        Destroy();
     }
 
-    using OpenGLCtrl::DestroyContext;
     std::vector<std::string> Take() { return std::exchange(log, {}); }
 
     QWidget host;
     std::vector<std::string> log;
     bool resizeWhileDrawing = false;
+    bool hungry = false;
 
 protected:
     void InitGL() override {
@@ -53,6 +58,7 @@ protected:
         OpenGLCtrl::ResizeView(cx, cy);
     }
     void DrawScene() override {
+        if (hungry) throw std::bad_alloc();
         if (std::exchange(resizeWhileDrawing, false)) resize(60, 40);
         Note("draw");
         OpenGLCtrl::DrawScene();
@@ -68,6 +74,18 @@ private:
 class GreedyCtrl final : public OpenGLCtrl {
     void AdjustPixelFormat(PixelFormat& format) override { format.colorBits = 4096; }
 };
+
+} // namespace
+
+// In place of the system's own.
+extern "C" EGLSurface eglCreatePbufferSurface(EGLDisplay display, EGLConfig config,
+                                              const EGLint* attributes) {
+    using Create = EGLSurface (*)(EGLDisplay, EGLConfig, const EGLint*);
+    static const auto create = reinterpret_cast<Create>(dlsym(RTLD_NEXT, "eglCreatePbufferSurface"));
+    return surfacesFail ? EGL_NO_SURFACE : create(display, config, attributes);
+}
+
+namespace {
 
 // The cube that the control draws, its corners in the colours that are their places; three sides are seen.
 void ExpectCube(OpenGLCtrl& control) {
@@ -111,8 +129,31 @@ TEST(OpenGLCtrlTest, IsCurrentOnlyWithinItsSteps) {
     EXPECT_TRUE(IsAnyCurrent());
     control.ReleaseCurrent();
     EXPECT_FALSE(IsAnyCurrent());
-    control.DestroyContext();
+    control.Destroy();
     EXPECT_THAT(control.Take(), ElementsAre("release"));
+}
+
+TEST(OpenGLCtrlTest, PreparesTheContextOnceAsSoonAsThereIsASurface) {
+    surfacesFail = true;
+    NotingCtrl control;
+    EXPECT_EQ(std::ranges::count(control.log, "init"), 0);
+    control.Take();
+    surfacesFail = false;
+    control.repaint();
+    EXPECT_EQ(control.log.at(0) + ", " + control.log.at(1), "init, resize 120 x 90");
+    ExpectCube(control);
+    control.resize(60, 90);
+    ExpectCube(control);
+    EXPECT_EQ(std::ranges::count(control.Take(), "init"), 1);
+}
+
+TEST(OpenGLCtrlTest, ASceneThatRunsOutOfMemoryLeavesNothingCurrent) {
+    NotingCtrl control;
+    control.hungry = true;
+    control.repaint();
+    EXPECT_FALSE(IsAnyCurrent());
+    control.hungry = false;
+    ExpectCube(control);
 }
 
 TEST(OpenGLCtrlTest, ASurfaceThatIsReplacedWhileItIsDrawnOnIsCurrentAtOnce) {
@@ -154,3 +195,5 @@ TEST(OpenGLCtrlTest, SaysSoWhenItCannotDraw) {
     EXPECT_NE(picture, plain) << "a sentence on a plain ground";
     control.setParent(nullptr);
 }
+
+} // namespace keltavlo

@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+namespace keltavlo {
+
 using namespace std::literals;
 
 namespace {
@@ -64,3 +66,5 @@ TEST(TaggedFile, RefusesWhatItIsNot) {
     for (std::size_t length = 1; length < whole.size(); ++length)
         EXPECT_EQ(BrushFailure(CutTo(whole, length)), CArchiveException::endOfFile);
 }
+
+} // namespace keltavlo

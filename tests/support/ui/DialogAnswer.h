@@ -13,6 +13,8 @@
 #include <gtest/gtest.h>
 #include <type_traits>
 
+namespace keltavlo {
+
 // Answers the next windows of a kind by what the test does to each in turn. A window that never comes is a
 // failure of the test, and so is one that is left open for five seconds.
 template <class Window, QWidget* (*activeWindow)()>
@@ -75,3 +77,5 @@ inline QStringList ItemTexts(const QMenu& menu) {
     for (const QAction* action : menu.actions()) texts += action->text().remove('&');
     return texts;
 }
+
+} // namespace keltavlo

@@ -5,6 +5,8 @@
 #include <GL/gl.h>
 #include <gtest/gtest.h>
 
+namespace keltavlo {
+
 // The controls in the window have drawn without an error of OpenGL.
 inline void ExpectNoGLErrors(const QWidget& window) {
     int controls = 0;
@@ -17,3 +19,5 @@ inline void ExpectNoGLErrors(const QWidget& window) {
         }
     EXPECT_GT(controls, 0);
 }
+
+} // namespace keltavlo

@@ -9,6 +9,8 @@
 
 #include <QTest>
 
+namespace keltavlo {
+
 // The program with its windows and a folder for files.
 class ProgramFixture : public FolderTest {
 protected:
@@ -25,3 +27,5 @@ protected:
 
     CKelTavloApp program{std::make_unique<ProfileStore>(PathTo("settings.ini"))};
 };
+
+} // namespace keltavlo

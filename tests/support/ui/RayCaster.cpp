@@ -5,6 +5,8 @@
 #include <limits>
 #include <numbers>
 
+namespace keltavlo {
+
 namespace {
 
 // How far a pixel's middle may be off, in pixels, and how many pixels may differ for that.
@@ -65,3 +67,5 @@ void RayCaster::ExpectSeenIn(QWidget& widget, int tolerance) const {
         }
     EXPECT_LE(excused, largestExcusedShare * width * height);
 }
+
+} // namespace keltavlo

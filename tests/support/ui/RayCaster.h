@@ -7,6 +7,8 @@
 #include <functional>
 #include <vector>
 
+namespace keltavlo {
+
 // Follows a ray through each pixel: what pictures of OpenGL are compared with. The camera looks at the origin
 // with a vertical field of view of 45 degrees, z is up; faces that turn their back to it are not seen.
 struct RayCaster {
@@ -28,3 +30,5 @@ struct RayCaster {
 private:
     QRgb ColorAlong(const QVector3D& ray) const;
 };
+
+} // namespace keltavlo

@@ -1,10 +1,12 @@
-#include <QApplication>
+#include "framework/ui/GuardedApplication.h"
 
 #include <gtest/gtest.h>
+
+using namespace keltavlo;
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
+    const GuardedApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -1,0 +1,121 @@
+// Every allocation of an edit fails once, and from then on: the edit is made whole or not at all.
+#include "formats/CodecHarness.h"
+#include "image/ImageDocuments.h"
+#include "image/TextureEdits.h"
+#include "res/CommandIds.h"
+#include "support/Fault.h"
+#include "support/TestApplication.h"
+
+namespace keltavlo {
+
+namespace {
+
+struct Edit {
+    const char* name;
+    void (*make)(TavloDocument&);
+};
+
+template <CommandId id>
+void Send(TavloDocument& document) {
+    document.OnCmdMsg(id, nullptr);
+}
+
+const std::string longName = "a name that takes memory of its own";
+
+constexpr Edit edits[] = {
+    {"Resize", [](TavloDocument& document) { ResizePicture(document, 12, 5); }},
+    {"Paste", [](TavloDocument& document) { PastePicture(document, Image(3, 4)); }},
+    {"QuakeName", [](TavloDocument& document) { ChangeQuakeName(document, longName); }},
+    {"Nearest", Send<ID_FORMAT_NEAREST>},
+    {"Undo", Send<ID_EDIT_UNDO>},
+    {"Redo", Send<ID_EDIT_REDO>},
+};
+
+std::string DescribeNow(TavloDocument& document) {
+    const Texture& texture = document.GetTexture();
+    std::string text = texture.quakeName + (document.IsModified() ? " modified" : "");
+    for (const Color pixel : texture.Pixels()) text += ' ' + std::to_string(pixel);
+    return text;
+}
+
+// The document, and then every state that its history leads to.
+std::string Describe(TavloDocument& document) {
+    std::string text = DescribeNow(document);
+    UndoHistory& history = document.GetHistory();
+    while (history.CanUndo()) history.Undo();
+    for (; history.CanRedo(); history.Redo()) text += DescribeNow(document) + history.TopRedoName();
+    return text + DescribeNow(document);
+}
+
+// Takes memory at each update.
+struct View final : DocumentView {
+    void OnUpdate(DocumentView*, std::intptr_t, CObject*) override {
+        told = true;
+        text = std::string(longName.size() + text.size(), ' ');
+    }
+    DocumentFrame* GetFrame() const override { return nullptr; }
+
+    bool told = false;
+    std::string text;
+};
+
+class EditFaults : public WorkshopTest, public testing::WithParamInterface<Edit> {
+protected:
+    struct Outcome {
+        std::string description;
+        bool failed, toldLastView, hit;
+    };
+
+    // Makes the edit, or does without, in a new document that can be undone and redone and is shown in two
+    // views.
+    Outcome Run(bool makeEdit, unsigned first, bool lasting) {
+        application.newType = DocTemplateRegistry::Get().FindTemplate(WALDocument::runtimeClass);
+        auto& document = dynamic_cast<TavloDocument&>(*application.OnFileNew());
+        document.GetTexture().SetSize(8, 8);
+        document.GetTexture().SetPixel(1, 1, 0xFF123456);
+        ResizePicture(document, 9, 9);
+        ChangeQuakeName(document, "undone");
+        document.GetHistory().Undo();
+        document.SetModifiedFlag(false);
+        std::array<View, 2> views;
+        for (View& view : views) document.AddView(view);
+        Outcome outcome{};
+        {
+            const Fault fault(Step::allocation, first, lasting);
+            try {
+                if (makeEdit) GetParam().make(document);
+            } catch (const std::bad_alloc&) {
+                outcome.failed = true;
+            }
+            outcome.hit = fault.HasHit();
+        }
+        outcome.toldLastView = views.back().told;
+        outcome.description = Describe(document);
+        for (View& view : views) document.RemoveView(view); // which ends the document
+        return outcome;
+    }
+};
+
+} // namespace
+
+TEST_P(EditFaults, AnEditIsMadeWholeOrNotAtAll) {
+    if (!allocationsCanFail) GTEST_SKIP();
+    constexpr unsigned never = 1000000;
+    const std::string before = Run(false, never, false).description;
+    const Outcome whole = Run(true, never, false);
+    EXPECT_NE(before, whole.description);
+    for (const bool lasting : {false, true})
+        for (unsigned first = 1; !HasFailure(); ++first) {
+            SCOPED_TRACE(testing::Message() << "from " << first << lasting);
+            const Outcome outcome = Run(true, first, lasting);
+            EXPECT_EQ(outcome.description, outcome.failed ? before : whole.description);
+            EXPECT_EQ(outcome.toldLastView, !outcome.failed && whole.toldLastView)
+                << "whatever the first one lacks";
+            if (!outcome.hit) break;
+        }
+}
+
+INSTANTIATE_TEST_SUITE_P(Edits, EditFaults, testing::ValuesIn(edits),
+                         [](const auto& edit) { return std::string(edit.param.name); });
+
+} // namespace keltavlo
