@@ -8,8 +8,6 @@
 #include "builders/TextureBuilder.h"
 #include "builders/WadBuilder.h"
 #include "image/ImageDocuments.h"
-#include "image/picture/DibSection.h"
-#include "image/picture/DibStream.h"
 #include "preview3d/MD2Document.h"
 #include "preview3d/MDLDocument.h"
 #include "resources/BrushDocument.h"
@@ -87,7 +85,7 @@ Outcome ReadDocument(ByteSpan bytes, Buffering buffering) {
 Outcome ReadClipboardBitmap(ByteSpan bytes, Buffering buffering) {
     return WithStream(bytes, buffering, [](InputStream& in, Digest& digest) {
         Image picture;
-        ReadDib(in, false, picture);
+        picture.FromStoredBitmap(in, false);
         digest.Add(picture);
     });
 }
