@@ -2,9 +2,11 @@
 
 #include "builders/PackBuilder.h"
 
+#include <functional>
 #include <optional>
 #include <random>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -21,13 +23,13 @@ enum class Buffering { whole, none };
 
 // One reader of files, for fuzzing and for mutated files in the tests.
 struct Reader {
-    const char* name;
+    std::string name;
     // A digest of what was read; nothing when the file was refused with one of the program's own exceptions.
     // Any other exception passes through.
-    std::optional<std::size_t> (*read)(std::span<const std::byte> bytes, Buffering buffering);
-    Bytes (*makeSeed)(); // a small file that is read without a failure
+    std::function<std::optional<std::size_t>(std::span<const std::byte> bytes, Buffering buffering)> read;
+    std::function<Bytes()> makeSeed; // a small file that is read without a failure
     std::vector<HeaderField> fields;
-    std::vector<Bytes> (*makeMoreSeeds)() = nullptr;
+    std::function<std::vector<Bytes>()> makeMoreSeeds = nullptr;
 
     // All of them.
     std::vector<Bytes> MakeSeeds() const;

@@ -68,11 +68,11 @@ void Convert(Tool& tool, const ToolArguments& arguments) {
     tool.GetApplication().GetFileSystem().GetStatus(from, status);
     if (IsTree(status)) {
         if (arguments.format.empty()) throw UsageError("A folder or archive is converted --to a format.");
-        if (!CodecOfName("x" + arguments.format)) throw UsageError("--to takes wal, mip, pcx, tga or bmp.");
+        if (!CodecOfName("x" + arguments.format)) throw UsageError("--to takes " + ListFormats() + ".");
         ConvertTree(tool, from, to, arguments);
     } else {
         if (!CodecOfName(to))
-            throw UsageError("The name of the output must end in .wal, .mip, .pcx, .tga or .bmp.");
+            throw UsageError("The name of the output must end in " + ListFormats(".") + ".");
         OutputPlace outputs(tool, arguments.force);
         outputs.AddInput(from);
         ConvertPicture(tool, from, to, outputs);
