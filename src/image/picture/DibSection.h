@@ -63,7 +63,7 @@ public:
         return {words.data() + RowOffset(y) / sizeof(Color), Columns()};
     }
 
-    // The same row as it is stored, at any depth.
+    // Row y of the picture as it is stored, at any depth.
     std::span<const std::uint8_t> StoredRow(int y) const { return {GetBits() + RowOffset(y), stride}; }
 
     // The opaque color of the pixel, row 0 at the top; unchecked. An index beyond the colour table is

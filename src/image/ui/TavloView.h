@@ -66,7 +66,7 @@ private:
     void OnUpdateFilterHalf(CCmdUI& state) const { state.SetCheck(halfFilter); }
     void UpdatePaletteFilter(CCmdUI& state, bool filter) const;
 
-    TavloDocument* shown = nullptr; // only before the view is attached and while it ends
+    TavloDocument* shown = nullptr; // null only before the view is attached and while it ends
     bool nearestFilter = false;
     bool ditherFilter = false;
     bool halfFilter = false;
