@@ -3,7 +3,6 @@
 #include "image/picture/DibSection.h"
 #include "image/picture/Image.h"
 
-#include <algorithm>
 #include <array>
 #include <benchmark/benchmark.h>
 #include <random>
@@ -66,16 +65,16 @@ void MakeHalfSize(benchmark::State& state) {
 }
 
 void ApplyTable(benchmark::State& state, const Table& table) {
-    const auto method = static_cast<ChannelTableMethod>(state.range(0));
-    const auto methods = AvailableChannelTableMethods();
-    if (std::ranges::find(methods, method) == methods.end()) {
+    const auto kernels = AvailableKernels<ChannelKernels>();
+    const auto number = static_cast<std::size_t>(state.range(0));
+    if (number >= kernels.size()) {
         state.SkipWithError("not on this processor");
         return;
     }
     const Image picture = MakePicture();
     Image output(side, side);
     for (auto _ : state) {
-        ChannelTable(table.data(), method).Apply(picture.Pixels(), output.Pixels());
+        ChannelTable(table.data(), *kernels[number]).Apply(picture.Pixels(), output.Pixels());
         benchmark::ClobberMemory();
     }
     CountBytes(state);
@@ -127,7 +126,7 @@ void FindNearest(benchmark::State& state) {
 
 BENCHMARK(CopyPicture);
 BENCHMARK(MakeHalfSize);
-// The argument is the method: lookups, shuffles, permutes.
+// The argument is the kind of kernels: lookups, shuffles, permutes.
 BENCHMARK(GammaTable)->DenseRange(0, 2);
 BENCHMARK(RandomTable)->DenseRange(0, 2);
 BENCHMARK(RenderIdentity);

@@ -5,7 +5,6 @@
 #include "framework/core/DiskFile.h"
 #include "image/picture/ColorList.h"
 #include "image/picture/DibSection.h"
-#include "image/picture/DibStream.h"
 #include "image/picture/Texture.h"
 #include "resources/streams/ArchiveStream.h"
 

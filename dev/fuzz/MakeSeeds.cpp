@@ -15,7 +15,7 @@ int main(int argc, char** argv) {
         int number = 0;
         for (const Bytes& seed : reader.MakeSeeds())
             WriteFile((folder / ("seed" + std::to_string(++number))).string(), seed);
-        std::puts(reader.name);
+        std::puts(reader.name.c_str());
     }
     return 0;
 }

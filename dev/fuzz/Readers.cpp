@@ -7,18 +7,19 @@
 #include "builders/ModelBuilder.h"
 #include "builders/TextureBuilder.h"
 #include "builders/WadBuilder.h"
+#include "formats/Codec.h"
 #include "image/ImageDocuments.h"
-#include "image/picture/DibSection.h"
-#include "image/picture/DibStream.h"
 #include "preview3d/MD2Document.h"
 #include "preview3d/MDLDocument.h"
 #include "resources/BrushDocument.h"
 #include "resources/BuiltInPalettes.h"
 #include "resources/ColorSpaceDocument.h"
+#include "resources/DocTemplateRegistry.h"
 #include "resources/LMPDocument.h"
 #include "resources/streams/ArchiveStream.h"
 
 #include <algorithm>
+#include <iterator>
 #include <stdexcept>
 
 namespace keltavlo {
@@ -87,7 +88,7 @@ Outcome ReadDocument(ByteSpan bytes, Buffering buffering) {
 Outcome ReadClipboardBitmap(ByteSpan bytes, Buffering buffering) {
     return WithStream(bytes, buffering, [](InputStream& in, Digest& digest) {
         Image picture;
-        ReadDib(in, false, picture);
+        picture.FromStoredBitmap(in, false);
         digest.Add(picture);
     });
 }
@@ -113,11 +114,6 @@ Outcome ResolvePath(ByteSpan bytes, Buffering buffering) {
     });
 }
 
-template <class Document>
-Bytes WritePicture() {
-    return EncodePicture(Document::runtimeClass.name, MakePicture());
-}
-
 Bytes MakeTagged(std::string_view type, std::string_view id) {
     std::string text =
         "KEL\xE5\xD0TAV" + std::string(type) + std::string("\3\0\0\0id\0\0", 8) + std::string(id);
@@ -126,7 +122,7 @@ Bytes MakeTagged(std::string_view type, std::string_view id) {
 }
 
 Bytes MakeBitmapWithoutFileHeader() {
-    const Bytes bitmap = WritePicture<BMPDocument>();
+    const Bytes bitmap = EncodePicture(BMPDocument::runtimeClass.name, MakePicture());
     return {bitmap.begin() + 14, bitmap.end()};
 }
 
@@ -171,7 +167,61 @@ std::vector<HeaderField> Fields(std::size_t width, std::initializer_list<std::si
     return fields;
 }
 
-const std::vector<HeaderField> taggedFields = Fields(4, {8, 12, 16, 20, 24, 28});
+std::vector<HeaderField> TaggedFields() {
+    return Fields(4, {8, 12, 16, 20, 24, 28});
+}
+
+// Of a picture format; none are known of one that is not listed.
+std::vector<HeaderField> PictureFields(std::string_view format) {
+    if (format == "wal") return Fields(4, {32, 36, 40, 44, 48, 52, 88, 92, 96});
+    if (format == "mip") return Fields(4, {16, 20, 24, 28, 32, 36});
+    if (format == "pcx") return Fields(2, {0, 2, 4, 6, 8, 10, 64, 66, 68});
+    if (format == "tga") return Fields(2, {0, 2, 3, 5, 7, 12, 14, 16});
+    if (format == "bmp") return Fields(4, {2, 10, 14, 18, 22, 26, 28, 30, 34, 46});
+    return {};
+}
+
+// Reads into a document of the format, as opening a file does.
+Reader PictureReader(const Codec& codec) {
+    const std::string name(codec.name);
+    return {name,
+            [name](ByteSpan bytes, Buffering buffering) {
+                return WithStream(bytes, buffering, [&name](InputStream& in, Digest& digest) {
+                    const auto object =
+                        DocTemplateRegistry::Get().GetDocumentClassOfName("x." + name)->create();
+                    auto& document = dynamic_cast<TavloDocument&>(*object);
+                    document.ReadContents(in);
+                    Add(digest, document);
+                });
+            },
+            [&codec] { return EncodePicture(codec.documentClass, MakePicture()); }, PictureFields(name)};
+}
+
+std::vector<Reader> PictureReaders() {
+    std::vector<Reader> readers;
+    for (const Codec& codec : Codecs()) readers.push_back(PictureReader(codec));
+    return readers;
+}
+
+// The documents' readers, and those with a state.
+std::vector<Reader> OtherReaders() {
+    return {
+        {"dib", ReadClipboardBitmap, MakeBitmapWithoutFileHeader, Fields(4, {0, 4, 8, 12, 14, 16, 20, 32})},
+        {"lmp", ReadDocument<LMPDocument>, [] { return Bytes(768); }, {}},
+        {"kelcolors", ReadDocument<ColorTableDocument>, [] { return Bytes(16); }, {}},
+        {"kelbrush", ReadDocument<BrushDocument>,
+         [] { return MakeTagged("Brsh", std::string_view("\1\0\0\0", 4)); }, TaggedFields()},
+        {"kelcolorspace", ReadDocument<ColorSpaceDocument>, [] { return MakeTagged("ClSp", "RGBA"); },
+         TaggedFields()},
+        {"pak", ReadDocument<PAKDocument>, MakePack, Fields(4, {4, 8, 76, 80, 140, 144})},
+        {"wad", ReadDocument<WADDocument>, MakeWad, Fields(4, {4, 8})},
+        {"path", ResolvePath, MakePathAndPack, Fields(4, {13, 17, 85, 89})},
+        {"md2", ReadDocument<MD2Document>, MakeModel, Fields(4, {4, 16, 20, 24, 28, 32, 40, 44, 48, 52, 56})},
+        {"mdl", ReadDocument<MDLDocument>, MakeTextures, Fields(4, {180, 184, 312, 316, 320, 392, 396, 400})},
+        {"edits", RunEditScript, MakeEditScript, {}},
+        {"recode", RecodePicture, MakePictureToRecode, {}, MakeMorePicturesToRecode},
+    };
+}
 
 } // namespace
 
@@ -182,30 +232,11 @@ std::vector<Bytes> Reader::MakeSeeds() const {
 }
 
 std::span<const Reader> Readers() {
-    static const std::vector<Reader> readers{
-        {"wal", ReadDocument<WALDocument>, WritePicture<WALDocument>,
-         Fields(4, {32, 36, 40, 44, 48, 52, 88, 92, 96})},
-        {"mip", ReadDocument<MIPDocument>, WritePicture<MIPDocument>, Fields(4, {16, 20, 24, 28, 32, 36})},
-        {"pcx", ReadDocument<PCXDocument>, WritePicture<PCXDocument>,
-         Fields(2, {0, 2, 4, 6, 8, 10, 64, 66, 68})},
-        {"tga", ReadDocument<TGADocument>, WritePicture<TGADocument>, Fields(2, {0, 2, 3, 5, 7, 12, 14, 16})},
-        {"bmp", ReadDocument<BMPDocument>, WritePicture<BMPDocument>,
-         Fields(4, {2, 10, 14, 18, 22, 26, 28, 30, 34, 46})},
-        {"dib", ReadClipboardBitmap, MakeBitmapWithoutFileHeader, Fields(4, {0, 4, 8, 12, 14, 16, 20, 32})},
-        {"lmp", ReadDocument<LMPDocument>, [] { return Bytes(768); }, {}},
-        {"kelcolors", ReadDocument<ColorTableDocument>, [] { return Bytes(16); }, {}},
-        {"kelbrush", ReadDocument<BrushDocument>,
-         [] { return MakeTagged("Brsh", std::string_view("\1\0\0\0", 4)); }, taggedFields},
-        {"kelcolorspace", ReadDocument<ColorSpaceDocument>, [] { return MakeTagged("ClSp", "RGBA"); },
-         taggedFields},
-        {"pak", ReadDocument<PAKDocument>, MakePack, Fields(4, {4, 8, 76, 80, 140, 144})},
-        {"wad", ReadDocument<WADDocument>, MakeWad, Fields(4, {4, 8})},
-        {"path", ResolvePath, MakePathAndPack, Fields(4, {13, 17, 85, 89})},
-        {"md2", ReadDocument<MD2Document>, MakeModel, Fields(4, {4, 16, 20, 24, 28, 32, 40, 44, 48, 52, 56})},
-        {"mdl", ReadDocument<MDLDocument>, MakeTextures, Fields(4, {180, 184, 312, 316, 320, 392, 396, 400})},
-        {"edits", RunEditScript, MakeEditScript, {}},
-        {"recode", RecodePicture, MakePictureToRecode, {}, MakeMorePicturesToRecode},
-    };
+    static const std::vector<Reader> readers = [] {
+        std::vector<Reader> all = PictureReaders();
+        std::ranges::move(OtherReaders(), std::back_inserter(all));
+        return all;
+    }();
     return readers;
 }
 

@@ -2,9 +2,11 @@
 
 #include "builders/PackBuilder.h"
 
+#include <functional>
 #include <optional>
 #include <random>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -21,13 +23,13 @@ enum class Buffering { whole, none };
 
 // A reader of files, for the fuzz targets and for MutatedFilesTest.
 struct Reader {
-    const char* name;
+    std::string name;
     // Returns a digest of what was read, or nothing if the file was refused with one of the program's own
     // exceptions. Other exceptions pass through.
-    std::optional<std::size_t> (*read)(std::span<const std::byte> bytes, Buffering buffering);
-    Bytes (*makeSeed)(); // builds a small valid file
+    std::function<std::optional<std::size_t>(std::span<const std::byte> bytes, Buffering buffering)> read;
+    std::function<Bytes()> makeSeed; // builds a small valid file
     std::vector<HeaderField> fields;
-    std::vector<Bytes> (*makeMoreSeeds)() = nullptr;
+    std::function<std::vector<Bytes>()> makeMoreSeeds = nullptr;
 
     // All seeds.
     std::vector<Bytes> MakeSeeds() const;

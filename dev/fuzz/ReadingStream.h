@@ -3,7 +3,6 @@
 #include "Readers.h"
 #include "framework/core/CMemFile.h"
 #include "image/picture/ColorList.h"
-#include "image/picture/DibSection.h"
 #include "image/picture/Texture.h"
 #include "resources/streams/ArchiveStream.h"
 #include "resources/streams/FileStream.h"
@@ -68,10 +67,6 @@ Outcome WithStream(ByteSpan bytes, Buffering buffering, Action action) {
             action(stream, digest);
         }
     } catch (const CException&) {
-        return std::nullopt;
-    } catch (const PictureSizeError&) {
-        return std::nullopt;
-    } catch (const BitmapError&) {
         return std::nullopt;
     }
     return digest.Get();

@@ -4,15 +4,12 @@
 #include "resources/BuiltInPalettes.h"
 
 #include <algorithm>
-#include <iterator>
 #include <stdexcept>
 
 namespace keltavlo {
 
 namespace {
 
-constexpr std::string_view formats[] = {"MIPDocument", "BMPDocument", "PCXDocument", "TGADocument",
-                                        "WALDocument"};
 constexpr std::size_t largestPicture = 65536; // pixels; larger ones take too long
 constexpr std::size_t fullPalette = 256;
 
@@ -53,7 +50,7 @@ void CheckOnceMore(const Codec& codec, const Texture& texture) {
 
 Bytes PictureOf(std::size_t format) {
     Bytes bytes{static_cast<std::byte>(format)};
-    const Bytes file = EncodePicture(formats[format], MakePicture());
+    const Bytes file = EncodePicture(Codecs()[format].documentClass, MakePicture());
     bytes.insert(bytes.end(), file.begin(), file.end());
     return bytes;
 }
@@ -62,7 +59,7 @@ Bytes PictureOf(std::size_t format) {
 
 std::optional<std::size_t> RecodePicture(std::span<const std::byte> bytes, Buffering buffering) {
     if (bytes.empty()) return std::nullopt;
-    const Codec& codec = *FindCodec(formats[std::to_integer<std::size_t>(bytes[0]) % std::size(formats)]);
+    const Codec& codec = Codecs()[std::to_integer<std::size_t>(bytes[0]) % Codecs().size()];
     return WithStream(bytes.subspan(1), buffering, [&](InputStream& in, Digest& digest) {
         const Texture texture = Decode(codec, in);
         digest.Add(texture);
@@ -78,7 +75,7 @@ Bytes MakePictureToRecode() {
 
 std::vector<Bytes> MakeMorePicturesToRecode() {
     std::vector<Bytes> more;
-    for (std::size_t format = 1; format < std::size(formats); ++format) more.push_back(PictureOf(format));
+    for (std::size_t format = 1; format < Codecs().size(); ++format) more.push_back(PictureOf(format));
     return more;
 }
 

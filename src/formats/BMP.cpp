@@ -1,14 +1,13 @@
 #include "formats/BMP.h"
 
 #include "image/picture/DibSection.h"
-#include "image/picture/DibStream.h"
 #include "image/picture/Texture.h"
 #include "resources/streams/OutputStream.h"
 
 namespace keltavlo {
 
 void ReadBMP(InputStream& in, Texture& texture, const ColorList*) {
-    ReadDib(in, true, texture);
+    texture.FromStoredBitmap(in, true);
 }
 
 void WriteBMP(OutputStream& out, const Texture& texture, const ColorList*) {

@@ -14,14 +14,27 @@ namespace keltavlo {
 namespace {
 
 constexpr std::array codecs{
-    Codec{"BMPDocument", ReadBMP, WriteBMP, false, DefaultPalette::none},
-    Codec{"MIPDocument", ReadMIP, WriteMIP, true, DefaultPalette::quake},
-    Codec{"PCXDocument", ReadPCX, WritePCX, false, DefaultPalette::quake2},
-    Codec{"TGADocument", ReadTGA, WriteTGA, false, DefaultPalette::none},
-    Codec{"WALDocument", ReadWAL, WriteWAL, true, DefaultPalette::quake2},
+    Codec{"WALDocument", "wal", ReadWAL, WriteWAL, true, DefaultPalette::quake2},
+    Codec{"MIPDocument", "mip", ReadMIP, WriteMIP, true, DefaultPalette::quake},
+    Codec{"PCXDocument", "pcx", ReadPCX, WritePCX, false, DefaultPalette::quake2},
+    Codec{"TGADocument", "tga", ReadTGA, WriteTGA, false, DefaultPalette::none},
+    Codec{"BMPDocument", "bmp", ReadBMP, WriteBMP, false, DefaultPalette::none},
 };
 
 } // namespace
+
+std::span<const Codec> Codecs() {
+    return codecs;
+}
+
+std::string ListFormats(std::string_view before) {
+    std::string list;
+    for (const Codec& codec : codecs) {
+        if (!list.empty()) list += &codec == &codecs.back() ? " or " : ", ";
+        list.append(before).append(codec.name);
+    }
+    return list;
+}
 
 const Codec* FindCodec(std::string_view documentClass) {
     const auto* place = std::find_if(codecs.begin(), codecs.end(), [&](const Codec& codec) {

@@ -1,8 +1,8 @@
 #include "formats/GameTexture.h"
 
 #include "image/picture/ColorList.h"
-#include "image/picture/IndexedPixels.h"
 #include "image/picture/NearestSearch.h"
+#include "image/picture/StoredPixels.h"
 #include "image/picture/Texture.h"
 #include "resources/streams/OutputStream.h"
 

@@ -1,7 +1,7 @@
 #include "formats/MIP.h"
 
 #include "formats/GameTexture.h"
-#include "image/picture/RgbTriples.h"
+#include "image/picture/ColorList.h"
 #include "image/picture/Texture.h"
 #include "resources/streams/OutputStream.h"
 

@@ -1,7 +1,7 @@
 #include "formats/TGA.h"
 
 #include "framework/core/Exceptions.h"
-#include "image/picture/BgrPixels.h"
+#include "image/picture/StoredPixels.h"
 #include "image/picture/StoredRows.h"
 #include "image/picture/Texture.h"
 #include "resources/streams/OutputStream.h"

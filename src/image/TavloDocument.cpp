@@ -2,13 +2,21 @@
 
 #include "formats/Codec.h"
 #include "formats/GameTexture.h"
-#include "image/TextureChangeAction.h"
+#include "framework/core/MenuItems.h"
+#include "framework/core/StringTable.h"
+#include "res/CommandIds.h"
 #include "res/StringIds.h"
+#include "resources/BrushDocument.h"
 #include "resources/BuiltInPalettes.h"
 #include "resources/BuiltInPath.h"
 #include "resources/ColorTableDocument.h"
 #include "resources/DocTemplateRegistry.h"
+#include "resources/MenuItemList.h"
+#include "resources/Shell.h"
 #include "resources/streams/OutputStream.h"
+
+#include <algorithm>
+#include <utility>
 
 namespace keltavlo {
 
@@ -37,6 +45,46 @@ const ColorList* DefaultPaletteOf(const Codec& codec) {
         break;
     }
     return nullptr;
+}
+
+// A change of the picture: keeps the whole texture of the other state, which is the new one at first.
+class TextureChangeAction final : public EditAction {
+public:
+    // The name is a string of the program's table.
+    TextureChangeAction(unsigned nameId, Texture&& replacement)
+        : EditAction(LoadString(nameId)), snapshot(std::move(replacement)) {}
+
+    void Undo(TavloDocument& document) override {
+        std::swap(snapshot, document.GetTexture());
+        document.SetModifiedAndUpdate(true);
+    }
+
+private:
+    Texture snapshot;
+};
+
+void UpdateHistoryItem(CCmdUI& state, const std::string* name, unsigned namedText, unsigned plainText,
+                       unsigned disabledText) {
+    state.Enable(name != nullptr);
+    if (!name)
+        state.SetText(LoadString(disabledText));
+    else if (name->empty())
+        state.SetText(LoadString(plainText));
+    else
+        state.SetText(FormatString(namedText, name->c_str()));
+}
+
+// The document that the menus list under the id, or null.
+CObject* ListedUnder(CommandId id) {
+    const MenuItemList* list = MenuItemList::FindList(id);
+    return list ? list->GetItem(id) : nullptr;
+}
+
+void UpdateListedItem(CCmdUI& state, const CDocument* selected) {
+    const auto* document = dynamic_cast<const CDocument*>(ListedUnder(state.id));
+    if (!document) return;
+    state.SetText(MenuText(document->GetTitle()));
+    state.SetCheck(document == selected);
 }
 
 } // namespace
@@ -89,6 +137,14 @@ void TavloDocument::ReplaceTexture(unsigned nameId, Texture&& replacement) {
     history.Do(std::make_unique<TextureChangeAction>(nameId, std::move(replacement)));
 }
 
+void TavloDocument::SetTexel(unsigned x, unsigned y, Color color) {
+    if (GetTexel(x, y) == color) return;
+    texture.SetPixelWrapped(x, y, color);
+    TexelChange change(static_cast<int>(x % static_cast<unsigned>(texture.GetWidth())),
+                       static_cast<int>(y % static_cast<unsigned>(texture.GetHeight())));
+    UpdateAllViews(nullptr, 0, &change);
+}
+
 void TavloDocument::SetModifiedAndUpdate(bool updateViews) {
     SetModifiedFlag();
     if (updateViews) UpdateAllViews(nullptr);
@@ -117,6 +173,78 @@ void TavloDocument::ReformatForSave() {
     const int height = gametexture::FittingSide(texture.GetHeight());
     if (width == texture.GetWidth() && height == texture.GetHeight()) return;
     ReplaceTexture(IDS_ACTION_REFORMAT, texture.Resized(width, height));
+}
+
+const CommandMap& TavloDocument::GetCommandMap() const {
+    using Self = TavloDocument;
+    static const CommandMap map(
+        BaseDocument::GetCommandMap(),
+        {
+            Command<&Self::OnEditUndo, &Self::OnUpdateEditUndo>(ID_EDIT_UNDO),
+            Command<&Self::OnEditRedo, &Self::OnUpdateEditRedo>(ID_EDIT_REDO),
+            Command<&Self::OnEditProperties>(ID_EDIT_PROPERTIES),
+            CommandRange<&Self::OnBrush, &Self::OnUpdateBrush>(ID_BRUSH_FIRST, ID_BRUSH_LAST),
+            Command<&Self::OnBrushNone, &Self::OnUpdateBrushNone>(ID_BRUSH_NONE),
+            CommandRange<&Self::OnPalette, &Self::OnUpdatePalette>(ID_COLOR_TABLE_FIRST, ID_COLOR_TABLE_LAST),
+            Command<&Self::OnPaletteNone, &Self::OnUpdatePaletteNone>(ID_PALETTE_NONE),
+            Command<&Self::OnFormatNearest, &Self::OnUpdateFormat>(ID_FORMAT_NEAREST),
+            Command<&Self::OnFormatDither, &Self::OnUpdateFormat>(ID_FORMAT_DITHER),
+        });
+    return map;
+}
+
+void TavloDocument::OnUpdateEditUndo(CCmdUI& state) const {
+    const std::string* name = history.CanUndo() ? &history.TopUndoName() : nullptr;
+    UpdateHistoryItem(state, name, IDS_UNDO_NAMED, IDS_UNDO, IDS_CANNOT_UNDO);
+}
+
+void TavloDocument::OnUpdateEditRedo(CCmdUI& state) const {
+    const std::string* name = history.CanRedo() ? &history.TopRedoName() : nullptr;
+    UpdateHistoryItem(state, name, IDS_REDO_NAMED, IDS_REDO, IDS_CANNOT_REDO);
+}
+
+void TavloDocument::OnEditProperties() {
+    if (Shell* shell = Shell::Find()) shell->EditProperties(*this);
+}
+
+// An item without a document, such as "(None)", selects none; an id that no menu has changes nothing.
+void TavloDocument::OnBrush(CommandId id) {
+    if (MenuItemList::FindList(id)) SetCurrentBrush(dynamic_cast<BrushDocument*>(ListedUnder(id)));
+}
+
+void TavloDocument::OnUpdateBrush(CCmdUI& state) const {
+    UpdateListedItem(state, currentBrush);
+}
+
+void TavloDocument::OnPalette(CommandId id) {
+    if (MenuItemList::FindList(id)) SelectPalette(dynamic_cast<PaletteDocument*>(ListedUnder(id)));
+}
+
+// Views that show the palette's colours show other ones by it.
+void TavloDocument::SelectPalette(PaletteDocument* palette) {
+    SetCurrentPalette(palette);
+    UpdateAllViews(nullptr);
+}
+
+void TavloDocument::OnUpdatePalette(CCmdUI& state) const {
+    UpdateListedItem(state, currentPalette);
+}
+
+void TavloDocument::OnFormatNearest() {
+    ConvertPicture(IDS_ACTION_NEAREST, &Image::ConvertToNearest);
+}
+
+void TavloDocument::OnFormatDither() {
+    ConvertPicture(IDS_ACTION_DITHER, &Image::ConvertByErrorDiffusion);
+}
+
+void TavloDocument::ConvertPicture(unsigned nameId, void (Image::*convert)(const ColorList&)) {
+    const ColorList* colors = GetPaletteColors();
+    if (!colors) return;
+    Texture converted = texture;
+    (converted.*convert)(*colors);
+    if (!std::ranges::equal(converted.Pixels(), texture.Pixels()))
+        ReplaceTexture(nameId, std::move(converted));
 }
 
 } // namespace keltavlo

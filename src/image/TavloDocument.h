@@ -3,6 +3,7 @@
 #include "image/UndoHistory.h"
 #include "image/picture/Texture.h"
 #include "resources/BaseDocument.h"
+#include "resources/Brush.h"
 
 namespace keltavlo {
 
@@ -18,10 +19,19 @@ struct Quake2Names {
     bool operator==(const Quake2Names&) const = default;
 };
 
+// What views get as the object of an update when a stroke changed a single texel.
+class TexelChange final : public CObject {
+public:
+    TexelChange(int column, int row) : x(column), y(row) {}
+
+    const int x;
+    const int y;
+};
+
 // A texture that is being edited: its picture with what the games store beside it, the documents that it
 // works with, and its history. The class of a document does not fix its format: a file is read and written as
 // its name says.
-class TavloDocument : public Dynamic<"TavloDocument", TavloDocument, BaseDocument> {
+class TavloDocument : public Dynamic<"TavloDocument", TavloDocument, BaseDocument>, public BrushTarget {
 public:
     TavloDocument();
 
@@ -48,6 +58,11 @@ public:
     void SetContents(std::uint32_t contents) { texture.quake2.contents = contents; }
     std::uint32_t GetValue() const { return texture.quake2.value; }
     void SetValue(std::uint32_t value) { texture.quake2.value = value; }
+
+    Color GetTexel(unsigned x, unsigned y) const override { return texture.GetPixelWrapped(x, y); }
+    // Tells all views with a TexelChange. Not in the history: whoever ends the stroke marks the document
+    // modified.
+    void SetTexel(unsigned x, unsigned y, Color color) override;
 
     // The brush and the palette chosen for this document; null is "None".
     bool HasBrush() const { return currentBrush != nullptr; }

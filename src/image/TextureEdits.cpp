@@ -21,7 +21,6 @@ void ResizePicture(TavloDocument& document, int width, int height) {
     const Texture& texture = document.GetTexture();
     if (texture.GetWidth() == width && texture.GetHeight() == height) return;
     document.ReplaceTexture(IDS_ACTION_RESIZE, texture.Resized(width, height));
-    document.UpdateAllViews(nullptr);
 }
 
 void ChangeQuakeName(TavloDocument& document, const std::string& name) {

@@ -3,12 +3,11 @@
 #include <cstdint>
 #include <string>
 
-struct Quake2Names;
-
 namespace keltavlo {
 
 class Image;
 class TavloDocument;
+struct Quake2Names;
 
 // The undoable changes of a texture that a person asks for with a value. One that changes nothing records
 // nothing, and one that memory is too small for changes nothing.

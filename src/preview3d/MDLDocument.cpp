@@ -1,9 +1,9 @@
 #include "preview3d/MDLDocument.h"
 
+#include "image/picture/ColorList.h"
+#include "image/picture/StoredPixels.h"
 #include "resources/streams/InputStream.h"
 
-#include <algorithm>
-#include <array>
 #include <cstring>
 #include <span>
 
@@ -34,8 +34,7 @@ struct TextureRecord {
 };
 static_assert(sizeof(TextureRecord) == 80);
 
-constexpr std::size_t colorCount = 256;
-constexpr std::size_t paletteSize = colorCount * 3; // red, green and blue bytes
+constexpr std::size_t paletteSize = 256 * rgbTripleSize;
 
 bool Contains(FileBytes file, std::uint64_t offset, std::uint64_t size) {
     return offset + size <= file.size();
@@ -72,15 +71,12 @@ std::vector<TextureRecord> ReadRecords(const InputStream& in, FileBytes file) {
 }
 
 Image Decode(FileBytes file, const TextureRecord& record) {
-    const FileBytes indices = file.subspan(record.dataOffset, record.PixelCount());
-    const FileBytes palette = file.subspan(record.dataOffset + record.PixelCount(), paletteSize);
-    const auto channel = [&](std::size_t i) { return std::to_integer<std::uint32_t>(palette[i]); };
-    std::array<Color, colorCount> colors;
-    for (std::size_t k = 0; k < colorCount; ++k)
-        colors[k] = Compose(channel(3 * k), channel(3 * k + 1), channel(3 * k + 2));
+    const std::span<const std::uint8_t> bytes(reinterpret_cast<const std::uint8_t*>(file.data()),
+                                              file.size());
+    const std::span<const std::uint8_t> data = bytes.subspan(record.dataOffset);
+    const ColorList colors = ColorsFromTriples(data.subspan(record.PixelCount(), paletteSize));
     Image image(record.width, record.height);
-    std::ranges::transform(indices, image.Pixels().begin(),
-                           [&](std::byte index) { return colors[std::to_integer<std::size_t>(index)]; });
+    ExpandIndices(data, colors.Colors(), image.Pixels());
     return image;
 }
 

@@ -18,7 +18,7 @@ struct TexelPoint {
     unsigned Row() const { return static_cast<unsigned>(static_cast<int>(y)); }
 };
 
-// What a brush sees of the view it is applied in: the texels of the picture, which tiles without end.
+// What a brush sees of the picture it is applied to: its texels, tiled without end.
 class BrushTarget {
 public:
     virtual ~BrushTarget() = default;

@@ -1,6 +1,6 @@
 #include "resources/LMPDocument.h"
 
-#include "image/picture/RgbTriples.h"
+#include "image/picture/ColorList.h"
 #include "resources/streams/InputStream.h"
 
 #include <array>

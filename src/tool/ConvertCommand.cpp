@@ -69,12 +69,11 @@ void Convert(Tool& tool, const ToolArguments& arguments) {
     if (IsTree(status)) {
         if (arguments.format.empty())
             throw UsageError("Converting a folder or archive requires --to FORMAT.");
-        if (!CodecOfName("x" + arguments.format))
-            throw UsageError("--to requires wal, mip, pcx, tga or bmp.");
+        if (!CodecOfName("x" + arguments.format)) throw UsageError("--to requires " + ListFormats() + ".");
         ConvertTree(tool, from, to, arguments);
     } else {
         if (!CodecOfName(to))
-            throw UsageError("The name of the output must end in .wal, .mip, .pcx, .tga or .bmp.");
+            throw UsageError("The name of the output must end in " + ListFormats(".") + ".");
         OutputPlace outputs(tool, arguments.force);
         outputs.AddInput(from);
         ConvertPicture(tool, from, to, outputs);

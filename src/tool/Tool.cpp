@@ -1,5 +1,6 @@
 #include "tool/Tool.h"
 
+#include "formats/Codec.h"
 #include "framework/core/Exceptions.h"
 #include "framework/core/Text.h"
 #include "tool/ToolCommands.h"
@@ -35,7 +36,9 @@ void PrintHelp(std::ostream& out) {
     for (const CommandRow& row : commands)
         out << "  " << row.name << " " << row.arguments << "\n      " << row.help << "\n";
     out << "\nOptions:\n"
-           "  --to FORMAT   wal, mip, pcx, tga or bmp\n"
+           "  --to FORMAT   "
+        << ListFormats()
+        << "\n"
            "  --force       overwrite existing files\n"
            "  --help        show this text\n"
            "  --version     show the version\n"

@@ -1,5 +1,7 @@
 #include "tool/ToolArguments.h"
 
+#include "formats/Codec.h"
+
 namespace keltavlo {
 
 namespace {
@@ -7,7 +9,7 @@ namespace {
 // Takes one option; `next` is the argument behind it, or null. True when that one belongs to the option.
 bool TakeOption(ToolArguments& taken, const std::string& option, const std::string* next) {
     if (option == "--to") {
-        if (!next) throw UsageError("--to requires a format: wal, mip, pcx, tga or bmp.");
+        if (!next) throw UsageError("--to requires a format: " + ListFormats() + ".");
         taken.format = "." + *next;
         return true;
     }

@@ -18,7 +18,8 @@ namespace keltavlo {
 // format's default one.
 class CodecHarness {
 public:
-    explicit CodecHarness(const char* documentClass) : codec(*FindCodec(documentClass)) {}
+    explicit CodecHarness(const Codec& usedCodec) : codec(usedCodec) {}
+    explicit CodecHarness(const char* documentClass) : CodecHarness(*FindCodec(documentClass)) {}
 
     static const ColorList& Palette() {
         static const ColorList palette = [] {

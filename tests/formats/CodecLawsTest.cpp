@@ -6,7 +6,7 @@ namespace keltavlo {
 
 namespace {
 
-class CodecLaws : public testing::TestWithParam<const char*> {
+class CodecLaws : public testing::TestWithParam<Codec> {
 protected:
     CodecHarness codec{GetParam()};
 };
@@ -31,9 +31,7 @@ TEST_P(CodecLaws, APictureWithoutPixelsIsNotWritten) {
     EXPECT_EQ(codec.WriteFailure(Texture(8, 0)), CArchiveException::badIndex);
 }
 
-INSTANTIATE_TEST_SUITE_P(AllFormats, CodecLaws,
-                         testing::Values("BMPDocument", "MIPDocument", "PCXDocument", "TGADocument",
-                                         "WALDocument"),
-                         [](const auto& format) { return std::string(format.param, 3); });
+INSTANTIATE_TEST_SUITE_P(AllFormats, CodecLaws, testing::ValuesIn(Codecs().begin(), Codecs().end()),
+                         [](const auto& format) { return std::string(format.param.name); });
 
 } // namespace keltavlo

@@ -53,15 +53,9 @@ struct Timeline {
     std::size_t position = 0;
 };
 
-struct EditWalkTest : WorkshopTest, testing::WithParamInterface<unsigned>, BrushTarget {
+struct EditWalkTest : WorkshopTest, testing::WithParamInterface<unsigned> {
     EditWalkTest() { model.Current().picture = document.GetTexture(); }
 
-    Color GetTexel(unsigned x, unsigned y) const override {
-        return document.GetTexture().GetPixelWrapped(x, y);
-    }
-    void SetTexel(unsigned x, unsigned y, Color color) override {
-        document.GetTexture().SetPixelWrapped(x, y, color);
-    }
     unsigned Below(unsigned limit) { return static_cast<unsigned>(random() % limit); }
     int RandomSide() { return 1 + static_cast<int>(Below(largestSide)); }
 
@@ -69,7 +63,7 @@ struct EditWalkTest : WorkshopTest, testing::WithParamInterface<unsigned>, Brush
     void Stroke() {
         shell.SetCurrentColor(static_cast<Color>(random()));
         const unsigned x = Below(20), y = Below(20);
-        brush.Apply(*this, {x + 0.9, y + 0.1}, 255, {});
+        brush.Apply(document, {x + 0.9, y + 0.1}, 255, {});
         model.Current().picture.SetPixelWrapped(x, y, shell.GetCurrentColor());
     }
     void Resize() {

@@ -13,7 +13,10 @@ struct ChannelMasks {
     std::uint32_t green = greenMask;
     std::uint32_t blue = blueMask;
 
-    static constexpr ChannelMasks FiveBits() { return {0x7C00, 0x03E0, 0x001F}; }
+    // Of bitmaps that store none.
+    static constexpr ChannelMasks Default(int bitCount) {
+        return bitCount == 16 ? ChannelMasks{0x7C00, 0x03E0, 0x001F} : ChannelMasks{};
+    }
 
     // The opaque colour of a pixel value.
     constexpr Color ToColor(std::uint32_t value) const {

@@ -1,24 +1,18 @@
 #include "image/picture/ChannelTable.h"
 
-#include "image/picture/ChannelTableVectors.h"
-#include "image/picture/PixelTransform.h"
-
 #include <algorithm>
 
 namespace keltavlo {
 
 namespace {
 
-void MapByLookups(const std::uint32_t* table256, std::span<const Color> input, std::span<Color> output) {
-    std::ranges::transform(input, output.begin(), ChannelTableTransform{table256});
-}
-
-ChannelPlanes SplitIntoPlanes(std::span<const std::uint32_t, 256> words) {
+ChannelPlanes SplitIntoPlanes(const std::uint32_t* table256) {
     ChannelPlanes channels;
+    std::copy_n(table256, channels.words.size(), channels.words.begin());
     for (std::size_t channel = 0; channel < 4; ++channel) {
         unsigned differences = 0;
         for (std::size_t i = 0; i < 256; ++i) {
-            const auto byte = static_cast<std::uint8_t>(words[i] >> (8 * channel));
+            const auto byte = static_cast<std::uint8_t>(channels.words[i] >> (8 * channel));
             channels.planes[channel][i] = byte;
             differences |= byte ^ static_cast<unsigned>(i);
         }
@@ -29,38 +23,17 @@ ChannelPlanes SplitIntoPlanes(std::span<const std::uint32_t, 256> words) {
 
 } // namespace
 
-std::vector<ChannelTableMethod> AvailableChannelTableMethods() {
-    std::vector<ChannelTableMethod> methods{ChannelTableMethod::lookups};
-    if (HasByteShuffles()) methods.push_back(ChannelTableMethod::shuffles);
-    if (HasBytePermutes()) methods.push_back(ChannelTableMethod::permutes);
-    return methods;
-}
-
-ChannelTableMethod FastestChannelTableMethod() {
-    static const ChannelTableMethod fastest = AvailableChannelTableMethods().back();
-    return fastest;
-}
-
-ChannelTable::ChannelTable(const std::uint32_t* table256, ChannelTableMethod useMethod) : method(useMethod) {
-    std::copy_n(table256, words.size(), words.begin());
-    channels = SplitIntoPlanes(words);
-    isIdentity = std::ranges::count(channels.changes, true) == 0;
-    if (method == ChannelTableMethod::shuffles) ArrangeForShuffles(channels);
-}
-
-std::size_t ChannelTable::ApplyByVectors(std::span<const Color> input, std::span<Color> output) const {
-    if (method == ChannelTableMethod::shuffles) return ApplyByShuffles(channels, input, output);
-    if (method == ChannelTableMethod::permutes) return ApplyByPermutes(channels, input, output);
-    return 0;
+ChannelTable::ChannelTable(const std::uint32_t* table256, const ChannelKernels& useKernels)
+    : channels(SplitIntoPlanes(table256)), kernels(&useKernels),
+      isIdentity(std::ranges::count(channels.changes, true) == 0) {
+    if (kernels->arrange) kernels->arrange(channels);
 }
 
 void ChannelTable::Apply(std::span<const Color> input, std::span<Color> output) const {
-    if (isIdentity) {
-        if (input.data() != output.data()) std::ranges::copy(input, output.begin());
-        return;
-    }
-    const std::size_t done = ApplyByVectors(input, output);
-    MapByLookups(words.data(), input.subspan(done), output.subspan(done));
+    if (!isIdentity)
+        kernels->apply(channels, input, output);
+    else if (input.data() != output.data())
+        std::ranges::copy(input, output.begin());
 }
 
 std::array<std::uint32_t, 256> HalveBrightness(const std::uint32_t* table256) {

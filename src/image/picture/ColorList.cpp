@@ -1,12 +1,38 @@
 #include "image/picture/ColorList.h"
 
-#include "image/picture/NearestColorCache.h"
-
+#include <algorithm>
 #include <limits>
 #include <stdexcept>
 #include <utility>
 
 namespace keltavlo {
+
+// Remembers which list entry colours were matched to: one colour per slot, the newest replacing what the
+// slot held. Valid only while the list's colours stay as they are.
+class NearestColorCache {
+public:
+    // Throws std::invalid_argument when there is no slot.
+    explicit NearestColorCache(std::size_t slotCount) : slots(slotCount) {
+        if (slotCount == 0) throw std::invalid_argument("A nearest-color cache needs a slot.");
+    }
+
+    // The entry stored for the colour, or null.
+    const Color* Find(Color color) const {
+        const Slot& slot = slots[color % slots.size()];
+        return slot.key == color ? slot.match : nullptr;
+    }
+
+    void Store(Color color, const Color* match) { slots[color % slots.size()] = {color, match}; }
+
+private:
+    struct Slot {
+        Color key = 0;
+        // Null while the slot holds nothing.
+        const Color* match = nullptr;
+    };
+
+    std::vector<Slot> slots;
+};
 
 namespace {
 
@@ -75,6 +101,27 @@ const Color* ColorList::FindNearest(Color color) const {
 
 std::size_t ColorList::FindNearestIndex(Color color) const {
     return static_cast<std::size_t>(FindNearest(color) - colors.data());
+}
+
+ColorList ColorsFromTriples(std::span<const std::uint8_t> bytes) {
+    std::vector<Color> colors(bytes.size() / rgbTripleSize);
+    const std::uint8_t* triple = bytes.data();
+    for (Color& color : colors) {
+        color = Compose(triple[0], triple[1], triple[2]);
+        triple += rgbTripleSize;
+    }
+    return ColorList(std::move(colors));
+}
+
+void PutTriples(const ColorList& list, std::span<std::uint8_t> bytes) {
+    std::ranges::fill(bytes, std::uint8_t{0});
+    std::uint8_t* triple = bytes.data();
+    for (const Color color : list.Colors().first(std::min(list.GetCount(), bytes.size() / rgbTripleSize))) {
+        triple[0] = static_cast<std::uint8_t>(Red(color));
+        triple[1] = static_cast<std::uint8_t>(Green(color));
+        triple[2] = static_cast<std::uint8_t>(Blue(color));
+        triple += rgbTripleSize;
+    }
 }
 
 } // namespace keltavlo

@@ -59,6 +59,15 @@ private:
     mutable std::unique_ptr<NearestColorCache> cache;
 };
 
+// Palettes as files of the games hold them: red, green and blue of each entry, one byte each.
+inline constexpr std::size_t rgbTripleSize = 3;
+
+// As many opaque colors as the bytes hold.
+ColorList ColorsFromTriples(std::span<const std::uint8_t> bytes);
+
+// Fills the bytes from the list's first entry on; black where the list ends early.
+void PutTriples(const ColorList& list, std::span<std::uint8_t> bytes);
+
 // Squared distance of the channels, alpha weighing three times as much as each of the others; at most
 // 390,150.
 constexpr std::uint32_t ColorDistance(Color left, Color right) {

@@ -1,14 +1,12 @@
 #include "image/picture/DibDescription.h"
 
-#include "image/picture/DibFile.h"
-#include "image/picture/Image.h"
+#include "image/picture/PictureSize.h"
 #include "resources/streams/InputStream.h"
 
 #include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <cstring>
-#include <iterator>
 
 namespace keltavlo {
 
@@ -70,17 +68,11 @@ Header ReadHeader(InputStream& in, std::uint32_t size) {
 }
 
 void CheckFields(const InputStream& in, const DibHeader& header) {
-    constexpr int bitCounts[] = {1, 4, 8, 16, 24, 32};
     const auto isSide = [](std::int64_t side) { return side > 0 && side <= maximumPictureSide; };
     const bool hasPicture = isSide(header.width) && isSide(std::abs(std::int64_t{header.height}));
-    const bool isBitmap =
-        header.planes == 1 && std::ranges::find(bitCounts, header.bitCount) != std::end(bitCounts);
+    const bool isBitmap = header.planes == 1 && DibHeader::IsBitCount(header.bitCount);
     const bool hasSize = header.compression == DibHeader::uncompressed || header.imageSize != 0;
     if (!hasPicture || !isBitmap || !hasSize) in.Fail(StreamError::badIndex);
-}
-
-bool HasMasks(const DibHeader& header) {
-    return header.compression == DibHeader::bitFields && (header.bitCount == 16 || header.bitCount == 32);
 }
 
 const char* RefusalOf(std::uint32_t compression) {
@@ -97,7 +89,7 @@ const char* RefusalOf(std::uint32_t compression) {
 }
 
 void CheckCompression(const InputStream& in, const DibHeader& header) {
-    if (header.compression == DibHeader::uncompressed || HasMasks(header)) return;
+    if (header.compression == DibHeader::uncompressed || header.HasMasks()) return;
     in.Fail(StreamError::badIndex, RefusalOf(header.compression));
 }
 
@@ -139,12 +131,11 @@ DibDescription ReadInformation(InputStream& in) {
     DibDescription description{header.fields, {}, {}};
     CheckFields(in, description.header);
     CheckCompression(in, description.header);
-    if (HasMasks(description.header)) {
+    description.masks = ChannelMasks::Default(description.header.bitCount);
+    if (description.header.HasMasks()) {
         description.masks = header.masks;
         if (size <= DibHeader::storedSize) in.Read(&description.masks, masksSize);
         CheckMasks(in, description.masks, description.header.bitCount);
-    } else if (description.header.bitCount == 16) {
-        description.masks = ChannelMasks::FiveBits();
     }
     description.colors = ReadColors(in, description.header, isOld ? oldEntrySize : entrySize);
     description.header.colorsUsed = static_cast<std::uint32_t>(description.colors.GetCount());

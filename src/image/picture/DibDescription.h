@@ -19,6 +19,12 @@ struct DibDescription {
     int Rows() const { return header.height < 0 ? -header.height : header.height; }
     // The row of the picture that is stored as the i-th.
     int PictureRow(int i) const { return header.height < 0 ? i : Rows() - 1 - i; }
+    // The opaque color of a stored pixel: an index up to 8 bits, black beyond the color table, else the
+    // value.
+    Color ColorOf(std::uint32_t pixel) const {
+        if (header.bitCount > 8) return masks.ToColor(pixel);
+        return pixel < colors.GetCount() ? colors.GetColor(pixel) : Compose(0, 0, 0);
+    }
 };
 
 // Reads it, after the file header of 14 bytes if there is one, and leaves the stream at the first row; the

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
+#include <iterator>
 
 namespace keltavlo {
 
@@ -26,13 +28,33 @@ struct DibHeader {
     std::uint32_t colorsUsed = 0;
     std::uint32_t colorsImportant = 0;
 
-    // Entries of the colour table that follows the header, or the number of channel masks in its place.
+    static constexpr bool IsBitCount(int bits) {
+        constexpr int bitCounts[] = {1, 4, 8, 16, 24, 32};
+        return std::ranges::find(bitCounts, bits) != std::end(bitCounts);
+    }
+    // Whether the pixels are fields of bits, whose masks the bitmap stores.
+    constexpr bool HasMasks() const { return compression == bitFields && (bitCount == 16 || bitCount == 32); }
+
+    // Entries of the color table that follows the header, or the number of channel masks in its place.
     std::uint32_t ColorTableEntries() const {
         if (colorsUsed != 0) return colorsUsed;
         if (bitCount <= 8) return std::uint32_t{1} << bitCount;
         return compression == bitFields ? 3 : 0;
     }
 };
+
+// The header that precedes a bitmap in a file of its own, in the order in which it is stored
+// (little-endian, without gaps).
+struct [[gnu::packed]] DibFileHeader {
+    static constexpr std::uint16_t bitmapType = 'B' | 'M' << 8;
+
+    std::uint16_t type = bitmapType;
+    std::uint32_t fileSize = 0;
+    std::uint32_t reserved = 0;
+    // Of the first row, in bytes from the start of this header.
+    std::uint32_t rowsOffset = 0;
+};
+static_assert(sizeof(DibFileHeader) == 14);
 
 // Bytes of one stored row: bitmaps pad their rows to four bytes.
 constexpr std::int64_t DibStride(int bitCount, int width) {

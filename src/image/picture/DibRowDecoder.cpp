@@ -1,8 +1,7 @@
 #include "image/picture/DibRowDecoder.h"
 
-#include "image/picture/BgrPixels.h"
 #include "image/picture/DibDescription.h"
-#include "image/picture/IndexedPixels.h"
+#include "image/picture/StoredPixels.h"
 
 #include <algorithm>
 #include <bit>
@@ -10,31 +9,27 @@
 
 namespace keltavlo {
 
-namespace {
-
-constexpr Color outsideTable = Compose(0, 0, 0);
-
-} // namespace
-
 DibRowDecoder::DibRowDecoder(const DibDescription& description)
     : bitCount(description.header.bitCount), isPlain(bitCount == 32 && description.masks == ChannelMasks{}) {
     if (bitCount <= 8) {
-        colors.fill(outsideTable);
-        std::ranges::copy(description.colors.Colors(), colors.begin());
+        for (std::uint32_t index = 0; index < colors.size(); ++index)
+            colors[index] = description.ColorOf(index);
     } else if (bitCount != 24 && !isPlain) {
         const ChannelMasks& masks = description.masks;
-        channels = {MakeChannel(masks, masks.red, redMask), MakeChannel(masks, masks.green, greenMask),
-                    MakeChannel(masks, masks.blue, blueMask)};
+        channels = {MakeChannel(description, masks.red, redMask),
+                    MakeChannel(description, masks.green, greenMask),
+                    MakeChannel(description, masks.blue, blueMask)};
     }
 }
 
-DibRowDecoder::Channel DibRowDecoder::MakeChannel(const ChannelMasks& masks, std::uint32_t mask, Color part) {
+DibRowDecoder::Channel DibRowDecoder::MakeChannel(const DibDescription& description, std::uint32_t mask,
+                                                  Color part) {
     Channel channel;
     if (mask == 0) return channel;
     channel.mask = mask;
     channel.shift = std::countr_zero(mask) + std::max(std::popcount(mask) - 8, 0);
     for (std::uint32_t i = 0; i <= mask >> channel.shift; ++i)
-        channel.parts[i] = masks.ToColor(i << channel.shift) & part;
+        channel.parts[i] = description.ColorOf(i << channel.shift) & part;
     return channel;
 }
 

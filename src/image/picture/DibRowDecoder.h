@@ -8,7 +8,6 @@
 namespace keltavlo {
 
 struct DibDescription;
-struct ChannelMasks;
 
 // Turns the stored rows of one bitmap into opaque colours. Made once for all rows: it arranges the colour
 // table and the channel masks for looking up.
@@ -28,7 +27,7 @@ private:
         std::array<Color, 256> parts{};
     };
 
-    static Channel MakeChannel(const ChannelMasks& masks, std::uint32_t mask, Color part);
+    static Channel MakeChannel(const DibDescription& description, std::uint32_t mask, Color part);
     void DecodeIndices(const std::uint8_t* stored, std::span<Color> output) const;
     template <class Value>
     void DecodeChannels(const std::uint8_t* stored, std::span<Color> output) const;

@@ -1,7 +1,8 @@
 #include "image/picture/DibSection.h"
 
 #include "image/picture/DrawingSurface.h"
-#include "image/picture/Image.h"
+#include "image/picture/PictureSize.h"
+#include "resources/streams/OutputStream.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -12,15 +13,8 @@ namespace keltavlo {
 
 namespace {
 
-constexpr std::uint64_t fileHeaderSize = 14;
-
 [[noreturn]] void Refuse(const std::string& reason) {
     throw BitmapError("The bitmap could not be created: " + reason);
-}
-
-bool IsBitCount(int bitCount) {
-    constexpr int bitCounts[] = {1, 4, 8, 16, 24, 32};
-    return std::ranges::find(bitCounts, bitCount) != std::end(bitCounts);
 }
 
 std::string SizeText(const DibHeader& header) {
@@ -29,12 +23,10 @@ std::string SizeText(const DibHeader& header) {
 }
 
 void CheckHeader(const DibHeader& header) {
-    if (!IsBitCount(header.bitCount)) {
+    if (!DibHeader::IsBitCount(header.bitCount))
         Refuse(std::to_string(header.bitCount) + " bits a pixel are not supported.");
-    }
-    const bool fields =
-        header.compression == DibHeader::bitFields && (header.bitCount == 16 || header.bitCount == 32);
-    if (header.compression != DibHeader::uncompressed && !fields) Refuse("its compression is not supported.");
+    if (header.compression != DibHeader::uncompressed && !header.HasMasks())
+        Refuse("its compression is not supported.");
     const std::int64_t rows = std::abs(std::int64_t{header.height});
     if (header.width <= 0 || rows == 0) Refuse("it has no pixels.");
     if (header.width > maximumPictureSide || rows > maximumPictureSide ||
@@ -67,33 +59,70 @@ ColorList InitialColorTable(const DibHeader& header) {
     return GreyRamp(std::min<std::size_t>(header.ColorTableEntries(), levels), levels);
 }
 
+// Where the index of a column lies: the first column is in the highest bits of a byte.
+struct IndexPlace {
+    IndexPlace(std::size_t x, unsigned bitCount)
+        : byte(x * bitCount / 8), shift(8 - bitCount - static_cast<unsigned>(x * bitCount % 8)),
+          mask((1U << bitCount) - 1) {}
+
+    std::size_t byte;
+    unsigned shift;
+    unsigned mask;
+};
+
+std::uint32_t ReadValue(const std::uint8_t* bytes, std::size_t count) {
+    std::uint32_t value = 0;
+    for (std::size_t i = 0; i < count; ++i) value |= std::uint32_t{bytes[i]} << (8 * i);
+    return value;
+}
+
+void WriteValue(std::uint8_t* bytes, std::size_t count, std::uint32_t value) {
+    for (std::size_t i = 0; i < count; ++i) bytes[i] = static_cast<std::uint8_t>(value >> (8 * i));
+}
+
+std::uint32_t GetStored(const std::uint8_t* row, std::size_t x, unsigned bitCount) {
+    if (bitCount > 8) return ReadValue(row + x * (bitCount / 8), bitCount / 8);
+    const IndexPlace place(x, bitCount);
+    return std::uint32_t{row[place.byte]} >> place.shift & place.mask;
+}
+
+void WriteTable(OutputStream& out, const DibDescription& description) {
+    if (description.header.compression == DibHeader::bitFields) {
+        out.Write(&description.masks, sizeof(ChannelMasks));
+        return;
+    }
+    std::vector<Color> entries(description.header.ColorTableEntries());
+    if (entries.empty()) return;
+    const std::span<const Color> colors = description.colors.Colors();
+    std::ranges::copy(colors.first(std::min(colors.size(), entries.size())), entries.begin());
+    for (Color& entry : entries) entry &= ~alphaMask; // the fourth byte is reserved
+    out.Write(std::span<const Color>(entries));
+}
+
 } // namespace
 
 void DibSection::Create(int width, int height, int bitCount) {
-    DibHeader description;
-    description.width = width;
-    description.height = height;
+    DibHeader header;
+    header.width = width;
+    header.height = height;
     // A count that the field cannot hold must not wrap round to one that is allowed.
-    description.bitCount = IsBitCount(bitCount) ? static_cast<std::uint16_t>(bitCount) : std::uint16_t{0};
-    Create(description, ChannelMasks{});
+    header.bitCount =
+        DibHeader::IsBitCount(bitCount) ? static_cast<std::uint16_t>(bitCount) : std::uint16_t{0};
+    Create(header, ChannelMasks{});
 }
 
-void DibSection::Create(const DibHeader& description, const ChannelMasks& fieldMasks) {
-    CheckHeader(description);
-    const auto rowBytes = static_cast<std::size_t>(DibStride(description.bitCount, description.width));
-    const auto rows = static_cast<std::size_t>(std::abs(description.height));
-    PixelVector newWords = AllocateRows(description, rowBytes / sizeof(Color) * rows);
-    colorTable = InitialColorTable(description);
+void DibSection::Create(const DibHeader& header, const ChannelMasks& fieldMasks) {
+    CheckHeader(header);
+    const auto rowBytes = static_cast<std::size_t>(DibStride(header.bitCount, header.width));
+    const auto rows = static_cast<std::size_t>(std::abs(header.height));
+    PixelVector newWords = AllocateRows(header, rowBytes / sizeof(Color) * rows);
+    description.colors = InitialColorTable(header);
     words = std::move(newWords);
-    header = description;
-    header.size = DibHeader::storedSize;
-    header.imageSize = static_cast<std::uint32_t>(rowBytes * rows);
+    description.header = header;
+    description.header.size = DibHeader::storedSize;
+    description.header.imageSize = static_cast<std::uint32_t>(rowBytes * rows);
     stride = rowBytes;
-    if (header.compression == DibHeader::bitFields) {
-        masks = fieldMasks;
-    } else {
-        masks = header.bitCount == 16 ? ChannelMasks::FiveBits() : ChannelMasks{};
-    }
+    description.masks = header.HasMasks() ? fieldMasks : ChannelMasks::Default(header.bitCount);
 }
 
 void DibSection::Destroy() {
@@ -114,12 +143,55 @@ const std::uint8_t* DibSection::GetBits() const {
 }
 
 std::uint64_t DibSection::GetStreamSize(bool withFileHeader) const {
-    return (withFileHeader ? fileHeaderSize : 0) + header.size +
-           std::uint64_t{header.ColorTableEntries()} * 4 + GetImageSize();
+    return (withFileHeader ? sizeof(DibFileHeader) : 0) + GetHeader().size +
+           std::uint64_t{GetHeader().ColorTableEntries()} * 4 + GetImageSize();
+}
+
+Color DibSection::GetPixel(int x, int y) const {
+    const std::uint8_t* row = GetBits() + RowOffset(y);
+    return description.ColorOf(GetStored(row, static_cast<std::size_t>(x), GetHeader().bitCount));
+}
+
+void DibSection::SetPixel(int x, int y, Color color) {
+    const auto column = static_cast<std::size_t>(x);
+    const std::size_t row = RowOffset(y);
+    if (GetBitCount() <= 8)
+        SetStored(row, column,
+                  static_cast<std::uint32_t>(description.colors.FindNearestIndex(color | alphaMask)));
+    else
+        SetStored(row, column, HasColorRows() ? color : description.masks.FromColor(color));
+}
+
+void DibSection::SetStored(std::size_t rowOffset, std::size_t x, std::uint32_t pixel) {
+    std::uint8_t* const row = GetBits() + rowOffset;
+    const unsigned bitCount = GetHeader().bitCount;
+    if (bitCount > 8) return WriteValue(row + x * (bitCount / 8), bitCount / 8, pixel);
+    const IndexPlace place(x, bitCount);
+    const unsigned others = row[place.byte] & ~(place.mask << place.shift);
+    row[place.byte] = static_cast<std::uint8_t>(others | pixel << place.shift);
+}
+
+void DibSection::ReadStream(InputStream& in, bool withFileHeader) {
+    const DibDescription stored = ReadDibDescription(in, withFileHeader);
+    Create(stored.header, stored.masks);
+    SetColorTable(0, stored.colors.Colors());
+    in.Read(GetBits(), GetImageSize());
+}
+
+void DibSection::WriteStream(OutputStream& out, bool withFileHeader) const {
+    if (withFileHeader) {
+        DibFileHeader fileHeader;
+        fileHeader.fileSize = static_cast<std::uint32_t>(GetStreamSize(true));
+        fileHeader.rowsOffset = static_cast<std::uint32_t>(GetStreamSize(true) - GetImageSize());
+        out.Write(&fileHeader, sizeof fileHeader);
+    }
+    out.Write(&GetHeader(), sizeof(DibHeader));
+    WriteTable(out, description);
+    out.Write(GetBits(), GetImageSize());
 }
 
 std::size_t DibSection::GetColorTable(std::size_t first, std::span<Color> output) const {
-    const std::span<const Color> entries = colorTable.Colors();
+    const std::span<const Color> entries = description.colors.Colors();
     if (first >= entries.size()) return 0;
     const std::size_t count = std::min(output.size(), entries.size() - first);
     std::ranges::copy(entries.subspan(first, count), output.begin());
@@ -127,8 +199,8 @@ std::size_t DibSection::GetColorTable(std::size_t first, std::span<Color> output
 }
 
 void DibSection::SetColorTable(std::size_t first, std::span<const Color> entries) {
-    for (std::size_t i = 0; i < entries.size() && first + i < colorTable.GetCount(); ++i) {
-        colorTable.SetColor(first + i, entries[i] | alphaMask);
+    for (std::size_t i = 0; i < entries.size() && first + i < description.colors.GetCount(); ++i) {
+        description.colors.SetColor(first + i, entries[i] | alphaMask);
     }
 }
 

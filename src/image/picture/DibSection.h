@@ -1,13 +1,11 @@
 #pragma once
 
-#include "image/picture/ChannelMasks.h"
-#include "image/picture/ColorList.h"
-#include "image/picture/DibHeader.h"
+#include "framework/core/Exceptions.h"
+#include "image/picture/DibDescription.h"
 #include "image/picture/PixelVector.h"
 
 #include <cstddef>
 #include <span>
-#include <stdexcept>
 
 class QRect;
 
@@ -18,9 +16,9 @@ class InputStream;
 class OutputStream;
 
 // A bitmap could not be created; the text is a sentence for the user.
-class BitmapError : public std::runtime_error {
+class BitmapError : public CException {
 public:
-    using std::runtime_error::runtime_error;
+    using CException::CException;
 };
 
 // Holds one device-independent bitmap of 1, 4, 8, 16, 24 or 32 bits a pixel in memory of our own, so pixels
@@ -38,17 +36,17 @@ public:
     void Create(int width, int height, int bitCount);
     // The same from a whole header, whose resolutions and colour counts are kept and whose image size is set
     // to the bytes of the rows. Bit fields, in 16 and 32 bits, start with the masks given.
-    void Create(const DibHeader& description, const ChannelMasks& fieldMasks);
+    void Create(const DibHeader& header, const ChannelMasks& fieldMasks);
     void Destroy();
     void Recreate(int width, int height, int bitCount);
 
-    int GetWidth() const { return header.width; }
+    int GetWidth() const { return GetHeader().width; }
     // In rows, never negative.
-    int GetHeight() const { return header.height < 0 ? -header.height : header.height; }
-    bool IsTopDown() const { return header.height < 0; }
-    int GetBitCount() const { return header.bitCount; }
-    const DibHeader& GetHeader() const { return header; }
-    const ChannelMasks& GetMasks() const { return masks; }
+    int GetHeight() const { return description.Rows(); }
+    bool IsTopDown() const { return GetHeader().height < 0; }
+    int GetBitCount() const { return GetHeader().bitCount; }
+    const DibHeader& GetHeader() const { return description.header; }
+    const DibDescription& GetDescription() const { return description; }
     // Bytes of one stored row and of all of them.
     std::size_t GetStride() const { return stride; }
     std::size_t GetImageSize() const { return words.size() * sizeof(Color); }
@@ -58,14 +56,17 @@ public:
     const std::uint8_t* GetBits() const;
 
     // Whether pixels are colour values that Row gives access to.
-    bool HasColorRows() const { return header.bitCount == 32 && masks == ChannelMasks{}; }
+    bool HasColorRows() const { return GetBitCount() == 32 && description.masks == ChannelMasks{}; }
     // Row y of the picture, counted from its top. Only while HasColorRows.
     std::span<Color> Row(int y) { return {words.data() + RowOffset(y) / sizeof(Color), Columns()}; }
     std::span<const Color> Row(int y) const {
         return {words.data() + RowOffset(y) / sizeof(Color), Columns()};
     }
 
-    // The opaque colour of the pixel, row 0 at the top; unchecked. An index beyond the colour table is
+    // Row y of the picture as it is stored, at any depth.
+    std::span<const std::uint8_t> StoredRow(int y) const { return {GetBits() + RowOffset(y), stride}; }
+
+    // The opaque color of the pixel, row 0 at the top; unchecked. An index beyond the colour table is
     // black.
     Color GetPixel(int x, int y) const;
     // Stores the colour as nearly as the depth allows: the nearest table entry up to 8 bits, alpha only at
@@ -88,20 +89,17 @@ public:
     void Draw(DrawingSurface& surface, const QRect& destination) const;
 
 private:
-    std::size_t Columns() const { return static_cast<std::size_t>(header.width); }
+    std::size_t Columns() const { return static_cast<std::size_t>(GetWidth()); }
     // Byte offset of the picture's row y.
     std::size_t RowOffset(int y) const {
         return static_cast<std::size_t>(IsTopDown() ? y : GetHeight() - 1 - y) * stride;
     }
-    std::size_t GetIndex(std::size_t rowOffset, std::size_t x) const;
-    void SetIndex(std::size_t rowOffset, std::size_t x, std::size_t index);
+    void SetStored(std::size_t rowOffset, std::size_t x, std::uint32_t pixel);
 
-    DibHeader header;
+    DibDescription description;
     std::size_t stride = 0;
     // The rows. Words, so that 32-bit pixels may be used as such; a stride is always whole words.
     PixelVector words;
-    ColorList colorTable;
-    ChannelMasks masks;
 };
 
 } // namespace keltavlo

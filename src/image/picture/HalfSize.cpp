@@ -92,23 +92,21 @@ std::size_t HalveByEights(const RowPairs& rows, std::size_t firstColumn) {
     return end;
 }
 
+constexpr HalfSizeKernels narrowKernels{ProcessorFeature::none,
+                                        [](const RowPairs& rows) { return HalveByEights(rows, 0); }};
 // Where the wide vectors leave columns over, the narrow ones go on.
-std::size_t HalveByVectors(const RowPairs& rows) {
-    const bool isWide = __builtin_cpu_supports("avx2") != 0;
-    return HalveByEights(rows, isWide ? HalveBySixteens(rows) : 0);
-}
+constexpr HalfSizeKernels wideKernels{
+    ProcessorFeature::avx2, [](const RowPairs& rows) { return HalveByEights(rows, HalveBySixteens(rows)); }};
 
 #else
 
-std::size_t HalveByVectors(const RowPairs&) {
-    return 0;
-}
+constexpr HalfSizeKernels singleKernels{ProcessorFeature::none,
+                                        [](const RowPairs&) { return std::size_t{0}; }};
 
 #endif
 
-} // namespace
-
-void HalveRowPairsPlain(const RowPairs& rows, std::size_t firstColumn) {
+// Pixel by pixel, from the given output column on.
+void HalveSingly(const RowPairs& rows, std::size_t firstColumn) {
     const std::size_t blocks = rows.width / 2;
     const bool isOdd = rows.width % 2 != 0;
     for (std::size_t pair = 0; (firstColumn < blocks || isOdd) && pair < rows.count; ++pair) {
@@ -122,8 +120,18 @@ void HalveRowPairsPlain(const RowPairs& rows, std::size_t firstColumn) {
     }
 }
 
-void HalveRowPairs(const RowPairs& rows) {
-    HalveRowPairsPlain(rows, HalveByVectors(rows));
+} // namespace
+
+std::vector<const HalfSizeKernels*> HalfSizeKernels::All() {
+#if defined(__x86_64__)
+    return {&narrowKernels, &wideKernels};
+#else
+    return {&singleKernels};
+#endif
+}
+
+void HalveRowPairs(const RowPairs& rows, const HalfSizeKernels& kernels) {
+    HalveSingly(rows, kernels.halve(rows));
 }
 
 } // namespace keltavlo

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "image/picture/Color.h"
+#include "image/picture/Kernels.h"
 
 #include <cstddef>
 
@@ -40,11 +41,17 @@ struct RowPairs {
     Color* Output(std::size_t pair) const { return output + pair * ((width + 1) / 2); }
 };
 
-// Fills the output with the averages of the 2 x 2 blocks; an odd last column is averaged alone. Uses the
-// processor's vectors where there are any.
-void HalveRowPairs(const RowPairs& rows);
+// One way of averaging.
+struct HalfSizeKernels {
+    ProcessorFeature needs;
+    // Fills the output columns, from the first one on, as far as whole vectors reach, in all rows before it
+    // returns; returns the column it stopped at.
+    std::size_t (*halve)(const RowPairs& rows);
 
-// The same pixel by pixel, from the given output column on.
-void HalveRowPairsPlain(const RowPairs& rows, std::size_t firstColumn = 0);
+    static std::vector<const HalfSizeKernels*> All();
+};
+
+// Fills the output with the averages of the 2 x 2 blocks; an odd last column is averaged alone.
+void HalveRowPairs(const RowPairs& rows, const HalfSizeKernels& kernels = FastestKernels<HalfSizeKernels>());
 
 } // namespace keltavlo

@@ -1,8 +1,11 @@
 #include "image/picture/Image.h"
 
 #include "image/picture/ColorList.h"
+#include "image/picture/DibRowDecoder.h"
 #include "image/picture/DibSection.h"
 #include "image/picture/HalfSize.h"
+#include "image/picture/NearestSearch.h"
+#include "image/picture/StoredRows.h"
 
 #include <algorithm>
 #include <cstring>
@@ -90,12 +93,26 @@ void Image::MakeHalfSize(Image& output) const {
     HalveRowPairs({Row(height - 1).data(), columns, 1, 0, output.Row(output.height - 1).data()});
 }
 
+void Image::ConvertToNearest(const ColorList& list) {
+    NearestSearch(list).Replace(pixels);
+}
+
+void Image::ConvertByErrorDiffusion(const ColorList& list) {
+    NearestSearch(list).Diffuse(pixels, Side(width));
+}
+
 void Image::FromBitmap(const DibSection& bitmap) {
+    const DibRowDecoder decoder(bitmap.GetDescription());
     SetSize(bitmap.GetWidth(), bitmap.GetHeight());
-    for (int y = 0; y < height; ++y) {
-        const std::span<Color> row = Row(y);
-        for (int x = 0; x < width; ++x) row[Side(x)] = bitmap.GetPixel(x, y);
-    }
+    for (int y = 0; y < height; ++y) decoder.Decode(bitmap.StoredRow(y), Row(y));
+}
+
+void Image::FromStoredBitmap(InputStream& in, bool withFileHeader) {
+    const DibDescription description = ReadDibDescription(in, withFileHeader);
+    const DibRowDecoder decoder(description);
+    SetSizeUncleared(description.header.width, description.Rows());
+    StoredRows rows(in, description.Stride(), Side(height));
+    for (int i = 0; i < height; ++i) decoder.Decode(rows.Next(), Row(description.PictureRow(i)));
 }
 
 void Image::RenderTo(DibSection& bitmap, const PixelTransform& transform) const {

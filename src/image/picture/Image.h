@@ -1,27 +1,18 @@
 #pragma once
 
 #include "image/picture/Color.h"
+#include "image/picture/PictureSize.h"
 #include "image/picture/PixelTransform.h"
 #include "image/picture/PixelVector.h"
 
 #include <cstddef>
 #include <span>
-#include <stdexcept>
 
 namespace keltavlo {
 
 class ColorList;
 class DibSection;
-
-// A picture was asked for with a negative side or one beyond the limits.
-class PictureSizeError : public std::length_error {
-public:
-    using std::length_error::length_error;
-};
-
-// The largest width and height of a picture, in pixels, and the most bytes that its pixels may take.
-inline constexpr int maximumPictureSide = 65535;
-inline constexpr std::uint64_t maximumPictureBytes = std::uint64_t{1} << 30;
+class InputStream;
 
 // A picture in 32-bit colour: width x height pixels, rows top first, no padding. Pixel access is unchecked:
 // the caller keeps 0 <= x < width and 0 <= y < height.
@@ -79,6 +70,9 @@ public:
 
     // Takes size and pixels of the bitmap; every pixel becomes opaque.
     void FromBitmap(const DibSection& bitmap);
+    // The same from a bitmap in a stream, as DibSection::ReadStream reads it, without making the bitmap.
+    // Fails as ReadDibDescription does; throws PictureSizeError for a picture beyond the limits.
+    void FromStoredBitmap(InputStream& in, bool withFileHeader);
     // Writes every pixel through the transform into the bitmap, which is recreated first where its size
     // differs. Throws BitmapError when that fails, as it does for a picture without pixels.
     void RenderTo(DibSection& bitmap, const PixelTransform& transform) const;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "image/picture/Color.h"
+#include "image/picture/Kernels.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -11,8 +12,10 @@ namespace keltavlo {
 struct NearestCandidates;
 struct NearestTables;
 
-// The inner loops of the nearest-colour search in one way of doing them; all ways give the same results.
+// The inner loops of the nearest-color search in one way of doing them.
 struct NearestKernels {
+    ProcessorFeature needs;
+
     // For filling the grid.
     // Sets the distances of the candidates from the middle of a box. Returns the first nearest one's place:
     // eight times its group plus its lane.
@@ -28,11 +31,10 @@ struct NearestKernels {
     void (*replace)(NearestTables& tables, std::span<Color> pixels);
     // Replaces whole rows, carrying each row's error along it.
     void (*diffuse)(NearestTables& tables, std::span<Color> pixels, std::size_t width);
+
+    static std::vector<const NearestKernels*> All();
 };
 
-// On any processor.
 extern const NearestKernels portableNearestKernels;
-// With AVX2, or null where the processor has not got it.
-const NearestKernels* VectorNearestKernels();
 
 } // namespace keltavlo

@@ -132,6 +132,7 @@ void Diffuse(NearestTables& tables, std::span<Color> pixels, std::size_t width) 
 
 } // namespace
 
-const NearestKernels portableNearestKernels{Measure, TakeOutBeaten, FindIndex, FindIndices, Replace, Diffuse};
+const NearestKernels portableNearestKernels{
+    ProcessorFeature::none, Measure, TakeOutBeaten, FindIndex, FindIndices, Replace, Diffuse};
 
 } // namespace keltavlo

@@ -11,11 +11,6 @@ namespace keltavlo {
 
 namespace {
 
-const NearestKernels& FastestNearestKernels() {
-    const NearestKernels* const vectors = VectorNearestKernels();
-    return vectors ? *vectors : portableNearestKernels;
-}
-
 // The median of a sample: if most pixels have the same alpha, it is almost certainly that one.
 std::uint32_t UsualAlpha(std::span<const Color> pixels) {
     constexpr std::size_t sampleSize = 64;
@@ -30,7 +25,7 @@ std::uint32_t UsualAlpha(std::span<const Color> pixels) {
 } // namespace
 
 NearestSearch::NearestSearch(const ColorList& searchedList)
-    : NearestSearch(searchedList, FastestNearestKernels()) {}
+    : NearestSearch(searchedList, FastestKernels<NearestKernels>()) {}
 
 NearestSearch::NearestSearch(const ColorList& searchedList, const NearestKernels& useKernels)
     : list(searchedList), kernels(useKernels) {}

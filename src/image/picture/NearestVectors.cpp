@@ -222,18 +222,19 @@ template <std::size_t rowCount>
     for (; !pixels.empty(); pixels = pixels.subspan(width)) DiffuseRows<1>(tables, pixels.data(), width);
 }
 
-constexpr NearestKernels vectorKernels{Measure, TakeOutBeaten, FindIndex, FindIndices, Replace, Diffuse};
+constexpr NearestKernels vectorKernels{
+    ProcessorFeature::avx2, Measure, TakeOutBeaten, FindIndex, FindIndices, Replace, Diffuse};
 
 } // namespace
 
-const NearestKernels* VectorNearestKernels() {
-    return __builtin_cpu_supports("avx2") != 0 ? &vectorKernels : nullptr;
+std::vector<const NearestKernels*> NearestKernels::All() {
+    return {&portableNearestKernels, &vectorKernels};
 }
 
 #else
 
-const NearestKernels* VectorNearestKernels() {
-    return nullptr;
+std::vector<const NearestKernels*> NearestKernels::All() {
+    return {&portableNearestKernels};
 }
 
 #endif

@@ -25,12 +25,6 @@ constexpr Color Composite(Color pixel, Color background) {
     return (redAndBlue | green) >> 8 | alphaMask;
 }
 
-// Byte k of table entry i is the output of channel k for the input i: byte 0 blue, 1 green, 2 red, 3 alpha.
-constexpr Color MapChannels(const std::uint32_t* table, Color pixel) {
-    return (table[Blue(pixel)] & blueMask) | (table[Green(pixel)] & greenMask) |
-           (table[Red(pixel)] & redMask) | (table[Alpha(pixel)] & alphaMask);
-}
-
 // The transforms that a picture is drawn through. Tables have 256 entries and stay the caller's.
 
 struct IdentityTransform {

@@ -2,14 +2,50 @@
 
 #include "image/picture/ChannelTable.h"
 #include "image/picture/Image.h"
-#include "image/picture/StreamPixels.h"
 
 #include <algorithm>
 #include <vector>
 
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
+
 namespace keltavlo {
 
 namespace {
+
+#ifdef __SSE2__
+
+constexpr std::size_t vectorPixels = 4;
+constexpr std::size_t lineVectors = 4; // a cache line is written as a whole
+
+std::size_t PixelsToAlignment(const Color* target) {
+    const auto misaligned =
+        reinterpret_cast<std::uintptr_t>(target) / sizeof(Color) % (vectorPixels * lineVectors);
+    return misaligned == 0 ? 0 : vectorPixels * lineVectors - misaligned;
+}
+
+// Copies pixels to memory that will not be read soon, past the processor's caches: the target need not be
+// fetched before it is overwritten, which halves what goes over the memory bus.
+void StreamPixels(const Color* source, Color* target, std::size_t count) {
+    const std::size_t head = std::min(PixelsToAlignment(target), count);
+    std::copy_n(source, head, target);
+    std::size_t done = head;
+    for (; done + vectorPixels * lineVectors <= count; done += vectorPixels * lineVectors) {
+        const auto* from = reinterpret_cast<const __m128i*>(source + done);
+        auto* to = reinterpret_cast<__m128i*>(target + done);
+        for (std::size_t i = 0; i < lineVectors; ++i) _mm_stream_si128(to + i, _mm_loadu_si128(from + i));
+    }
+    std::copy(source + done, source + count, target + done);
+}
+
+#else
+
+void StreamPixels(const Color* source, Color* target, std::size_t count) {
+    std::copy_n(source, count, target);
+}
+
+#endif
 
 int Wrapped(std::int64_t position, int size) {
     const auto rest = static_cast<int>(position % size);

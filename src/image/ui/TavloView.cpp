@@ -38,9 +38,14 @@ TavloView::TavloView() {
     setAttribute(Qt::WA_OpaquePaintEvent); // every paint covers the whole area
 }
 
-void TavloView::OnUpdate(DocumentView*, std::intptr_t, CObject*) {
-    const TavloDocument* shown = GetTavloDocument();
+void TavloView::OnCreate() {
+    InfiniteScrollView::OnCreate();
+    shown = dynamic_cast<TavloDocument*>(GetDocument());
+}
+
+void TavloView::OnUpdate(DocumentView*, std::intptr_t, CObject* hintObject) {
     if (!shown) return;
+    if (const auto* texel = dynamic_cast<const TexelChange*>(hintObject)) return RepaintTexel(*texel);
     converted.Invalidate();
     update();
     SetRangeX(shown->GetTexture().GetWidth());
@@ -66,7 +71,6 @@ void TavloView::paintEvent(QPaintEvent* event) {
 
 // Conversion comes first, gamma last.
 void TavloView::PaintRegion(const QRegion& region) {
-    const TavloDocument* shown = GetTavloDocument();
     if (!shown) return;
     const QSize size = DeviceSize(*this);
     if (surface.size() != size) surface = QImage(size, QImage::Format_RGB32);
@@ -93,31 +97,17 @@ void TavloView::PaintArea(const Image& picture, const std::uint32_t* table, cons
     painter.drawImage(area.topLeft(), surface, area);
 }
 
-Color TavloView::GetTexel(unsigned x, unsigned y) const {
-    return GetTavloDocument()->GetTexture().GetPixelWrapped(x, y);
-}
-
-void TavloView::SetTexel(unsigned x, unsigned y, Color color) {
-    TavloDocument* shown = GetTavloDocument();
-    Texture& texture = shown->GetTexture();
-    if (texture.GetPixelWrapped(x, y) == color) return;
-    texture.SetPixelWrapped(x, y, color);
-    const auto column = static_cast<int>(x % static_cast<unsigned>(texture.GetWidth()));
-    const auto row = static_cast<int>(y % static_cast<unsigned>(texture.GetHeight()));
-    for (DocumentView* view : shown->GetViews())
-        if (auto* other = dynamic_cast<TavloView*>(view); other && other != this)
-            other->update(other->UpdateTexel(column, row));
-    repaint(UpdateTexel(column, row));
-}
-
-QRegion TavloView::UpdateTexel(int x, int y) {
-    const TavloDocument* shown = GetTavloDocument();
-    return shown ? FindTexels(converted.UpdateTexel(shown->GetTexture(), x, y)) : QRegion();
+void TavloView::RepaintTexel(const TexelChange& texel) {
+    const QRegion region = FindTexels(converted.UpdateTexel(shown->GetTexture(), texel.x, texel.y));
+    if (captured)
+        repaint(region);
+    else
+        update(region);
 }
 
 // In units of the widget, which are whole where screen pixels are not.
 QRegion TavloView::FindTexels(const TexelRun& run) const {
-    const Texture& texture = GetTavloDocument()->GetTexture();
+    const Texture& texture = shown->GetTexture();
     const QSize size = DeviceSize(*this);
     const double ratio = devicePixelRatioF();
     QRegion region;
@@ -144,13 +134,8 @@ void TavloView::ToggleFilter(bool& filter) {
 }
 
 void TavloView::UpdatePaletteFilter(CCmdUI& state, bool filter) const {
-    const TavloDocument* shown = GetTavloDocument();
     state.Enable(shown && shown->HasPalette());
     state.SetCheck(filter);
-}
-
-TavloDocument* TavloView::GetTavloDocument() const {
-    return dynamic_cast<TavloDocument*>(GetDocument());
 }
 
 TavloViewFrame* TavloView::GetViewFrame() const {

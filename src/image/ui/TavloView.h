@@ -2,29 +2,29 @@
 
 #include "image/ConvertedPicture.h"
 #include "image/ui/InfiniteScrollView.h"
-#include "resources/Brush.h"
 
 #include <QImage>
 
 namespace keltavlo {
 
 class TavloDocument;
+class TexelChange;
 class TavloViewFrame;
+struct TexelPoint;
 struct TileViewport;
 
-// Shows an image document's picture tiled without end, so that its seams show, and applies the document's
-// brush to it.
-class TavloView final : public Dynamic<"TavloView", TavloView, InfiniteScrollView>, public BrushTarget {
+// Shows an image document's picture tiled without end, so that its seams show, and hands strokes of the mouse
+// to the document's brush.
+class TavloView final : public Dynamic<"TavloView", TavloView, InfiniteScrollView> {
 public:
     TavloView();
 
     // The texel under a point of the screen, from the top left corner of the view; not wrapped.
     TexelPoint TexelAt(const QPointF& devicePoint) const;
 
-    Color GetTexel(unsigned x, unsigned y) const override;
-    // Repaints what it changes: here at once, in the document's other views with the next events.
-    void SetTexel(unsigned x, unsigned y, Color color) override;
-
+    void OnCreate() override;
+    void OnDestroy() override { shown = nullptr; }
+    // A changed texel is repainted at once in the view whose stroke it is, with the next events in others.
     void OnUpdate(DocumentView* sender, std::intptr_t hint, CObject* hintObject) override;
     void OnActivateView(bool activate, CView* activated, CView* deactivated) override;
 
@@ -39,8 +39,6 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    // Null while the view ends.
-    TavloDocument* GetTavloDocument() const;
     TavloViewFrame* GetViewFrame() const;
     int GetZoom() const;
     TileViewport GetViewport() const;
@@ -49,8 +47,7 @@ private:
     void PaintRegion(const QRegion& region);
     void PaintArea(const Image& picture, const std::uint32_t* table, const QRect& area);
     QRegion FindTexels(const TexelRun& run) const;
-    // What shows a texel that changed.
-    QRegion UpdateTexel(int x, int y);
+    void RepaintTexel(const TexelChange& texel);
 
     TexelPoint TexelUnder(const QMouseEvent& event) const;
     void ShowTexel(const TexelPoint& texel) const;
@@ -69,6 +66,7 @@ private:
     void OnUpdateFilterHalf(CCmdUI& state) const { state.SetCheck(halfFilter); }
     void UpdatePaletteFilter(CCmdUI& state, bool filter) const;
 
+    TavloDocument* shown = nullptr; // null only before the view is attached and while it ends
     bool nearestFilter = false;
     bool ditherFilter = false;
     bool halfFilter = false;

@@ -39,7 +39,6 @@ TexelPoint TavloView::TexelUnder(const QMouseEvent& event) const {
 // Without a brush the mouse is never captured, and nothing changes.
 void TavloView::mousePressEvent(QMouseEvent* event) {
     const TexelPoint texel = TexelUnder(*event);
-    const TavloDocument* shown = GetTavloDocument();
     if (event->button() == Qt::LeftButton && shown && shown->HasBrush()) {
         captured = true;
         ApplyBrush(texel);
@@ -67,20 +66,15 @@ void TavloView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void TavloView::ApplyBrush(const TexelPoint& texel) {
-    const TavloDocument* shown = GetTavloDocument();
-    if (shown && shown->HasBrush()) shown->GetCurrentBrush()->Apply(*this, texel, brushStrength, texel);
+    if (shown && shown->HasBrush()) shown->GetCurrentBrush()->Apply(*shown, texel, brushStrength, texel);
 }
 
 void TavloView::EndStroke() {
     captured = false;
-    TavloDocument* shown = GetTavloDocument();
-    if (!shown) return;
-    shown->UpdateAllViews(nullptr);
-    shown->SetModifiedFlag();
+    if (shown) shown->SetModifiedAndUpdate(true);
 }
 
 void TavloView::ShowBrushCursor() {
-    const TavloDocument* shown = GetTavloDocument();
     const unsigned wanted =
         shown && shown->HasBrush() ? shown->GetCurrentBrush()->GetCursor() : BrushDocument::arrowCursor;
     if (wanted == shownCursor) return;
@@ -90,12 +84,11 @@ void TavloView::ShowBrushCursor() {
 
 // Position and colour in the status bar; the texel is the one that a brush would change.
 void TavloView::ShowTexel(const TexelPoint& texel) const {
-    const TavloDocument* shown = GetTavloDocument();
     if (!shown) return;
     const Texture& texture = shown->GetTexture();
     Shell& shell = Shell::Get();
     shell.SetPositionText(std::fmod(texel.x, texture.GetWidth()), std::fmod(texel.y, texture.GetHeight()));
-    shell.SetColorText(texture.GetPixelWrapped(texel.Column(), texel.Row()));
+    shell.SetColorText(shown->GetTexel(texel.Column(), texel.Row()));
 }
 
 // The toolkit knows only the menu key.
@@ -111,7 +104,7 @@ void TavloView::contextMenuEvent(QContextMenuEvent* event) {
     auto* frame = dynamic_cast<CMDIFrameWnd*>(window());
     if (captured || !frame) return;
     CMenu menu(ImageContextMenuRows(), *frame, frame);
-    MenuItemList::UpdateAll(menu, GetTavloDocument());
+    MenuItemList::UpdateAll(menu, shown);
     menu.GetPopups().front()->exec(event->globalPos());
 }
 

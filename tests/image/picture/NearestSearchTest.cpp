@@ -113,8 +113,7 @@ TEST_P(NearestSearchTest, RefusesWhatItCannotFind) {
     EXPECT_THROW(NearestSearch(tooLong, *GetParam()).FindIndices(pixels, indices), std::length_error);
 }
 
-INSTANTIATE_TEST_SUITE_P(Kernels, NearestSearchTest,
-                         testing::Values(&portableNearestKernels, VectorNearestKernels()),
+INSTANTIATE_TEST_SUITE_P(Kernels, NearestSearchTest, testing::ValuesIn(AvailableKernels<NearestKernels>()),
                          [](const auto& kernels) { return kernels.index == 0 ? "Portable" : "Vectors"; });
 
 } // namespace keltavlo

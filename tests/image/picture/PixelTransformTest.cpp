@@ -51,8 +51,8 @@ TEST(CompositeTest, WeighsByAlphaOverAnOpaqueBackgroundOnly) {
 TEST(ChannelTableTest, EveryMethodMapsAsSingleLookupsDo) {
     for (const Color channels : {0xFFFFFFFFU, 0x00FFFFFFU, 0x0000FF00U, 0xFF000000U, 0x00000000U}) {
         const auto words = MakeTable(channels);
-        for (const ChannelTableMethod method : AvailableChannelTableMethods()) {
-            const ChannelTable table(words.data(), method);
+        for (const ChannelKernels* kernels : AvailableKernels<ChannelKernels>()) {
+            const ChannelTable table(words.data(), *kernels);
             for (std::size_t length = 0; length < 140; ++length) {
                 const std::vector<Color> pixels = RandomPixels(length);
                 std::vector<Color> mapped(length);

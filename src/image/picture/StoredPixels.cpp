@@ -1,4 +1,4 @@
-#include "image/picture/BgrPixels.h"
+#include "image/picture/StoredPixels.h"
 
 #include <array>
 #include <cstring>
@@ -6,6 +6,17 @@
 namespace keltavlo {
 
 namespace {
+
+// Loads of a word and stores of eight colors leave the processor more room for the lookups.
+constexpr std::size_t indexGroup = 8;
+
+void ExpandIndexGroup(const std::uint8_t* indices, const Color* colors, Color* output) {
+    std::uint64_t word;
+    std::memcpy(&word, indices, sizeof word);
+    std::array<Color, indexGroup> group;
+    for (std::size_t k = 0; k < indexGroup; ++k) group[k] = colors[word >> 8 * k & 0xFF];
+    std::memcpy(output, group.data(), sizeof group);
+}
 
 // Four pixels make three words, which are faster to take apart than twelve bytes.
 constexpr std::size_t groupPixels = 4;
@@ -28,6 +39,14 @@ void PackGroup(const Color* colors, std::uint8_t* stored) {
 }
 
 } // namespace
+
+void ExpandIndices(std::span<const std::uint8_t> indices, std::span<const Color> colors,
+                   std::span<Color> output) {
+    std::size_t i = 0;
+    for (; i + indexGroup <= output.size(); i += indexGroup)
+        ExpandIndexGroup(indices.data() + i, colors.data(), output.data() + i);
+    for (; i < output.size(); ++i) output[i] = colors[indices[i]];
+}
 
 void ExpandBgr(std::span<const std::uint8_t> stored, std::span<Color> output) {
     const std::uint8_t* bytes = stored.data();

@@ -1,5 +1,3 @@
-#include "image/picture/DibStream.h"
-
 #include "formats/CodecHarness.h"
 #include "image/picture/DibSection.h"
 #include "resources/streams/FileStream.h"
@@ -17,7 +15,7 @@ Image PictureOf(const DibSection& bitmap) {
 } // namespace
 
 // Without a file header the rows follow the whole table, also the entries that no index can reach.
-TEST(DibStreamTest, SkipsTheRestOfTheTable) {
+TEST(StoredBitmapTest, SkipsTheRestOfTheTable) {
     for (const std::uint16_t bitCount : {std::uint16_t{1}, std::uint16_t{32}}) {
         const DibHeader header{.width = 1, .height = 1, .bitCount = bitCount, .colorsUsed = 3};
         CMemFile file;
@@ -26,14 +24,14 @@ TEST(DibStreamTest, SkipsTheRestOfTheTable) {
         stream.Write(std::span<const Color>(std::vector<Color>{1, 2, 3, 0x00ABCD80}));
         stream.Seek(0);
         Image picture;
-        ReadDib(stream, false, picture);
+        picture.FromStoredBitmap(stream, false);
         EXPECT_EQ(picture.GetPixel(0, 0), bitCount == 1 ? 0xFF000002 : 0xFFABCD80);
     }
 }
 
 // Bitmaps of every depth go through both forms of stream and come out as they were, and as the picture that
 // is read without a bitmap.
-TEST(DibStreamTest, BitmapsOfEveryDepthSurvive) {
+TEST(StoredBitmapTest, BitmapsOfEveryDepthSurvive) {
     for (const int bitCount : {1, 4, 8, 16, 24, 32, 16 + 100, 32 + 100}) {
         for (const int height : {3, -3}) {
             DibSection bitmap;
@@ -63,7 +61,7 @@ TEST(DibStreamTest, BitmapsOfEveryDepthSurvive) {
                 EXPECT_TRUE(SamePixels(PictureOf(back), PictureOf(bitmap))) << bitCount;
                 stream.Seek(0);
                 Image picture;
-                ReadDib(stream, withFileHeader, picture);
+                picture.FromStoredBitmap(stream, withFileHeader);
                 EXPECT_TRUE(SamePixels(picture, PictureOf(bitmap))) << bitCount;
             }
         }

@@ -1,18 +1,24 @@
-#include "image/picture/ChannelTableVectors.h"
+#include "image/picture/ChannelKernels.h"
 
-#include "image/picture/ChannelTable.h"
+#include <algorithm>
 
 #if defined(__x86_64__)
-
 #include <immintrin.h>
-
 #endif
 
 namespace keltavlo {
 
-#if defined(__x86_64__)
-
 namespace {
+
+void ApplyByLookups(const ChannelPlanes& channels, std::span<const Color> input, std::span<Color> output) {
+    std::ranges::transform(input, output.begin(), [table = channels.words.data()](Color pixel) {
+        return MapChannels(table, pixel);
+    });
+}
+
+constexpr ChannelKernels lookupKernels{ProcessorFeature::none, nullptr, ApplyByLookups};
+
+#if defined(__x86_64__)
 
 constexpr std::size_t shuffledPixels = 32;
 constexpr std::size_t permutedPixels = 16;
@@ -123,25 +129,6 @@ template <std::size_t channelCount>
     return count;
 }
 
-// Replaces the bytes of one channel, which the two byte masks select by the half of the table they need.
-[[gnu::target("avx512f,avx512bw,avx512vbmi")]] inline __m512i
-Permute(const ChannelPlanes::Plane& plane, __m512i pixels, __mmask64 lowerHalf, __mmask64 upperHalf) {
-    const __m512i lower = _mm512_mask2_permutex2var_epi8(_mm512_load_si512(&plane[0]), pixels, lowerHalf,
-                                                         _mm512_load_si512(&plane[64]));
-    return _mm512_mask2_permutex2var_epi8(_mm512_load_si512(&plane[128]), lower, upperHalf,
-                                          _mm512_load_si512(&plane[192]));
-}
-
-} // namespace
-
-bool HasByteShuffles() {
-    return __builtin_cpu_supports("avx2") != 0;
-}
-
-bool HasBytePermutes() {
-    return __builtin_cpu_supports("avx512bw") != 0 && __builtin_cpu_supports("avx512vbmi") != 0;
-}
-
 void ArrangeForShuffles(ChannelPlanes& channels) {
     for (ChannelPlanes::Plane& plane : channels.planes) {
         for (std::size_t i = 0; i < plane.size(); i += 64) {
@@ -160,13 +147,25 @@ void ArrangeForShuffles(ChannelPlanes& channels) {
     }
 }
 
-[[gnu::target("avx2")]] std::size_t ApplyByShuffles(const ChannelPlanes& channels,
-                                                    std::span<const Color> input, std::span<Color> output) {
-    return channels.changes[3] ? ShuffleChannels<4>(channels, input, output)
-                               : ShuffleChannels<3>(channels, input, output);
+[[gnu::target("avx2")]] void ApplyByShuffles(const ChannelPlanes& channels, std::span<const Color> input,
+                                             std::span<Color> output) {
+    const std::size_t done = channels.changes[3] ? ShuffleChannels<4>(channels, input, output)
+                                                 : ShuffleChannels<3>(channels, input, output);
+    ApplyByLookups(channels, input.subspan(done), output.subspan(done));
 }
 
-[[gnu::target("avx512f,avx512bw,avx512vbmi")]] std::size_t
+constexpr ChannelKernels shuffleKernels{ProcessorFeature::avx2, ArrangeForShuffles, ApplyByShuffles};
+
+// Replaces the bytes of one channel, which the two byte masks select by the half of the table they need.
+[[gnu::target("avx512f,avx512bw,avx512vbmi")]] inline __m512i
+Permute(const ChannelPlanes::Plane& plane, __m512i pixels, __mmask64 lowerHalf, __mmask64 upperHalf) {
+    const __m512i lower = _mm512_mask2_permutex2var_epi8(_mm512_load_si512(&plane[0]), pixels, lowerHalf,
+                                                         _mm512_load_si512(&plane[64]));
+    return _mm512_mask2_permutex2var_epi8(_mm512_load_si512(&plane[128]), lower, upperHalf,
+                                          _mm512_load_si512(&plane[192]));
+}
+
+[[gnu::target("avx512f,avx512bw,avx512vbmi")]] void
 ApplyByPermutes(const ChannelPlanes& channels, std::span<const Color> input, std::span<Color> output) {
     const std::size_t count = input.size() / permutedPixels * permutedPixels;
     for (std::size_t i = 0; i < count; i += permutedPixels) {
@@ -179,27 +178,23 @@ ApplyByPermutes(const ChannelPlanes& channels, std::span<const Color> input, std
         }
         _mm512_storeu_si512(output.data() + i, pixels);
     }
-    return count;
+    ApplyByLookups(channels, input.subspan(count), output.subspan(count));
+}
+
+constexpr ChannelKernels permuteKernels{ProcessorFeature::avx512Vbmi, nullptr, ApplyByPermutes};
+
+} // namespace
+
+std::vector<const ChannelKernels*> ChannelKernels::All() {
+    return {&lookupKernels, &shuffleKernels, &permuteKernels};
 }
 
 #else
 
-bool HasByteShuffles() {
-    return false;
-}
+} // namespace
 
-bool HasBytePermutes() {
-    return false;
-}
-
-void ArrangeForShuffles(ChannelPlanes&) {}
-
-std::size_t ApplyByShuffles(const ChannelPlanes&, std::span<const Color>, std::span<Color>) {
-    return 0;
-}
-
-std::size_t ApplyByPermutes(const ChannelPlanes&, std::span<const Color>, std::span<Color>) {
-    return 0;
+std::vector<const ChannelKernels*> ChannelKernels::All() {
+    return {&lookupKernels};
 }
 
 #endif
