@@ -4,11 +4,8 @@
 
 namespace keltavlo {
 
-// The toolbars by number: what their buttons do and look like.
-constexpr unsigned IDR_STANDARD_BAR = 128;
-constexpr unsigned IDR_FILTER_BAR = 166;
-
-// Empty when there is no such toolbar.
-std::span<const ToolBarRow> ToolBarRows(unsigned toolBarId);
+// The toolbars: what their buttons do and look like.
+std::span<const ToolBarRow> StandardBarRows();
+std::span<const ToolBarRow> FilterBarRows();
 
 } // namespace keltavlo

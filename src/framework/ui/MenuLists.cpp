@@ -1,4 +1,4 @@
-#include "framework/ui/RecentFileMenu.h"
+#include "framework/ui/MenuLists.h"
 
 #include "framework/core/Path.h"
 #include "framework/core/StandardIds.h"
@@ -40,6 +40,23 @@ void UpdateRecentFileMenu(CMenu& menu, const std::vector<std::string>& paths) {
         if (!menu.FindItem(id)) menu.InsertItemAfter(id - 1, id, {});
         menu.ModifyItem(id, id, ItemText(paths, i));
     }
+}
+
+void UpdateWindowMenu(CMenu& menu, const std::vector<std::string>& titles) {
+    CommandId id = ID_WINDOW_CHILD_FIRST;
+    for (const std::string& title : titles) {
+        const unsigned number = id - ID_WINDOW_CHILD_FIRST + 1;
+        const std::string text = (number < 10 ? "&" : "") + std::to_string(number) + " " + MenuText(title);
+        if (menu.FindItem(id)) {
+            menu.ModifyItem(id, id, text);
+        } else {
+            if (number == 1) menu.AppendItem(ID_WINDOW_NEW, 0, {});
+            menu.AppendItem(ID_WINDOW_NEW, id, text);
+        }
+        menu.SetItemPrompt(id, LoadString(AFX_IDS_MDICHILD));
+        ++id;
+    }
+    for (; menu.FindItem(id); ++id) menu.RemoveItem(id);
 }
 
 } // namespace keltavlo
