@@ -8,7 +8,6 @@
 #include "framework/ui/CMenu.h"
 #include "framework/ui/CStatusBar.h"
 #include "framework/ui/ColorPrompt.h"
-#include "framework/ui/MenuLists.h"
 #include "framework/ui/PlaceWindow.h"
 #include "image/picture/Color.h"
 #include "image/ui/PaletteBar.h"
@@ -117,17 +116,15 @@ void MainFrame::OnViewRefresh() {
 }
 
 void MainFrame::OnBar(CommandId id) {
-    if (CControlBar* bar = menuRuns.toolbarMenu.GetBar(id)) bar->Show(!bar->IsVisible());
+    CControlBar::OnToggle(menuRuns.toolbarMenu.GetBar(id));
 }
 
 void MainFrame::OnUpdateBar(CCmdUI& state) {
-    const CControlBar* bar = menuRuns.toolbarMenu.GetBar(state.id);
-    state.Enable(bar != nullptr);
-    state.SetCheck(bar && bar->IsVisible());
+    CControlBar::OnUpdateToggle(menuRuns.toolbarMenu.GetBar(state.id), state);
 }
 
 void MainFrame::OnToolsOptions() {
-    COptionsSheet(*this).DoModal();
+    COptionsSheet(this, gamma, [this] { OnViewRefresh(); }).DoModal();
     OnViewRefresh();
 }
 

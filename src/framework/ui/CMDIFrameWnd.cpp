@@ -10,7 +10,6 @@
 #include "framework/ui/CStatusBar.h"
 #include "framework/ui/Commands.h"
 #include "framework/ui/MDIClientArea.h"
-#include "framework/ui/MenuLists.h"
 #include "framework/ui/NextInRing.h"
 
 #include <QAbstractEventDispatcher>
@@ -237,13 +236,11 @@ void CMDIFrameWnd::OnUpdateViewStatusBar(CCmdUI& state) {
 
 // The ids of these commands are those of the bars.
 void CMDIFrameWnd::OnViewControlBar(CommandId id) {
-    if (CControlBar* bar = bars.Find(id)) bar->Show(!bar->IsVisible());
+    CControlBar::OnToggle(bars.Find(id));
 }
 
 void CMDIFrameWnd::OnUpdateViewControlBar(CCmdUI& state) {
-    const CControlBar* bar = bars.Find(state.id);
-    state.Enable(bar != nullptr);
-    state.SetCheck(bar && bar->IsVisible());
+    CControlBar::OnUpdateToggle(bars.Find(state.id), state);
 }
 
 // The toolkit adds a maximized child's title to whatever title there is, and takes it away again later.

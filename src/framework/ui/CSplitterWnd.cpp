@@ -24,10 +24,7 @@ int BarThickness(const QWidget& widget) {
 
 } // namespace
 
-CSplitterWnd::CSplitterWnd(QWidget* parent)
-    : QWidget(parent),
-      tracker(new SplitTracker(*this, this)), axes{SplitAxis(*this, *tracker, rows, this),
-                                                   SplitAxis(*this, *tracker, columns, this)} {}
+CSplitterWnd::CSplitterWnd(QWidget* parent) : QWidget(parent) {}
 
 CView& CSplitterWnd::CreateView(int row, int column, const CRuntimeClass& viewClass, CDocument& document) {
     Q_ASSERT(row == 0 && column == 0 && !panes[0][0]);

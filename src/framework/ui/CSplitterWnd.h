@@ -45,8 +45,9 @@ private:
     void RecalcLayout();
 
     std::array<std::array<CView*, SplitAxis::maximumParts>, SplitAxis::maximumParts> panes{}; // by row
-    SplitTracker* tracker;         // a child of this window, as the panes are
-    std::array<SplitAxis, 2> axes; // by Direction
+    SplitTracker* tracker = new SplitTracker(*this, this); // a child of this window, as the panes are
+    std::array<SplitAxis, 2> axes{SplitAxis(*this, *tracker, rows, this),
+                                  SplitAxis(*this, *tracker, columns, this)}; // by Direction
 };
 
 } // namespace keltavlo

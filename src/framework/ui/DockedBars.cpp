@@ -2,7 +2,6 @@
 
 #include "framework/core/CWinApp.h"
 #include "framework/core/SealedState.h"
-#include "framework/ui/CDialogBar.h"
 #include "framework/ui/CToolBar.h"
 
 #include <QMainWindow>

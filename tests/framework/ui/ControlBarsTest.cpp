@@ -1,5 +1,4 @@
 #include "framework/core/Text.h"
-#include "framework/ui/CDialogBar.h"
 #include "framework/ui/CStatusBar.h"
 #include "framework/ui/CToolBar.h"
 #include "framework/ui/PlaceWindow.h"
