@@ -1,6 +1,8 @@
 # cmake -DROOT=... [-DTABLE=...] -P CheckLayers.cmake: checks every #include below ROOT/src against the layer table (the
-# project's own, or the file TABLE). No file on the left may include a header of the windowing libraries. Prints each
-# violation and then fails. A table with a cycle, or with a left row that uses a right one, fails too.
+# project's own, or the file TABLE). No file on the left may include a header of the windowing libraries. No literal
+# number in framework/ may be the value of a constant in src/res/*.h, because that uses the resources without an
+# include. Prints each violation and then fails. A table with a cycle, or with a left row that uses a right one, fails
+# too.
 cmake_minimum_required(VERSION 3.25)
 if(NOT DEFINED TABLE)
     set(TABLE "${CMAKE_CURRENT_LIST_DIR}/LayerTable.cmake")
@@ -61,12 +63,40 @@ macro(check_foreign file folder header)
     endif()
 endmacro()
 
+# The constants of the resources: number_N is the name of the one whose value is N.
+file(GLOB resourceHeaders "${ROOT}/src/res/*.h")
+foreach(header IN LISTS resourceHeaders)
+    file(READ "${header}" content)
+    string(REGEX MATCHALL "[A-Za-z0-9_]+ = [0-9]+" constants "${content}")
+    foreach(constant IN LISTS constants)
+        string(REGEX MATCH "^([A-Za-z0-9_]+) = ([0-9]+)$" matched "${constant}")
+        set(number_${CMAKE_MATCH_2} "${CMAKE_MATCH_1}")
+    endforeach()
+endforeach()
+
+macro(check_numbers file)
+    file(READ "${ROOT}/src/${file}" content)
+    string(REGEX REPLACE "//[^\n]*" "" content "${content}")
+    string(REGEX REPLACE "[^A-Za-z0-9_.]+" "  " content " ${content} ")
+    string(REGEX MATCHALL " [0-9]+[uUlL]* " numbers "${content}")
+    foreach(number IN LISTS numbers)
+        string(REGEX MATCH "[0-9]+" number "${number}")
+        if(DEFINED number_${number})
+            message(STATUS "forbidden number: ${file} writes out ${number}, which is ${number_${number}} of res")
+            math(EXPR violations "${violations} + 1")
+        endif()
+    endforeach()
+endmacro()
+
 file(GLOB_RECURSE files RELATIVE "${ROOT}/src" "${ROOT}/src/*.h" "${ROOT}/src/*.cpp" "${ROOT}/src/*.inc")
 foreach(file IN LISTS files)
     get_filename_component(folder "${file}" DIRECTORY)
     if(NOT folder IN_LIST folders)
         violation("${file} is in no layer")
         continue()
+    endif()
+    if(file MATCHES "^framework/")
+        check_numbers("${file}")
     endif()
     file(STRINGS "${ROOT}/src/${file}" lines REGEX "^[ \t]*#[ \t]*include")
     foreach(line IN LISTS lines)
@@ -87,6 +117,6 @@ endforeach()
 
 list(LENGTH files count)
 if(violations GREATER 0)
-    message(FATAL_ERROR "${violations} forbidden includes in ${count} files")
+    message(FATAL_ERROR "${violations} violations in ${count} files")
 endif()
 message(STATUS "layers: ${count} files, no forbidden include")

@@ -7,6 +7,7 @@
 #include "image/ImageDocuments.h"
 #include "preview3d/MD2Document.h"
 #include "preview3d/MDLDocument.h"
+#include "res/Menus.h"
 #include "res/StringIds.h"
 #include "resources/BrushDocument.h"
 #include "resources/ColorSpaceDocument.h"
@@ -16,23 +17,19 @@ namespace keltavlo {
 
 namespace {
 
-// Numbers of the menus: with a document in front, and without one.
-constexpr unsigned documentMenu = 129;
-constexpr unsigned mainMenu = 128;
-
 using Row = CDocTemplate::Row;
 
 Row ImageType(unsigned id, const CRuntimeClass& documentClass) {
-    return {id, documentMenu, &documentClass, "TavloViewFrame", "TavloView"};
+    return {id, IDR_DOCUMENT, &documentClass, "TavloViewFrame", "TavloView"};
 }
 
 Row ModelType(unsigned id, const CRuntimeClass& documentClass, const char* view) {
-    return {id, documentMenu, &documentClass, "ChildFrame", view};
+    return {id, IDR_DOCUMENT, &documentClass, "ChildFrame", view};
 }
 
 // Documents that others use; they have no window of their own.
 Row HiddenType(unsigned id, const CRuntimeClass& documentClass) {
-    return {id, mainMenu, &documentClass, "HiddenChildFrame", "HiddenView"};
+    return {id, IDR_MAINFRAME, &documentClass, "HiddenChildFrame", "HiddenView"};
 }
 
 } // namespace

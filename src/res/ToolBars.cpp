@@ -213,15 +213,12 @@ constexpr ToolBarRow filterBar[] = {
 
 } // namespace
 
-std::span<const ToolBarRow> ToolBarRows(unsigned toolBarId) {
-    switch (toolBarId) {
-    case IDR_STANDARD_BAR:
-        return standardBar;
-    case IDR_FILTER_BAR:
-        return filterBar;
-    default:
-        return {};
-    }
+std::span<const ToolBarRow> StandardBarRows() {
+    return standardBar;
+}
+
+std::span<const ToolBarRow> FilterBarRows() {
+    return filterBar;
 }
 
 } // namespace keltavlo

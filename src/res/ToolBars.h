@@ -4,11 +4,8 @@
 
 namespace keltavlo {
 
-// The toolbars' numbers.
-constexpr unsigned IDR_STANDARD_BAR = 128;
-constexpr unsigned IDR_FILTER_BAR = 166;
-
-// The commands and pictures of a toolbar's buttons; empty if there is none with this number.
-std::span<const ToolBarRow> ToolBarRows(unsigned toolBarId);
+// The commands and pictures of the toolbars' buttons.
+std::span<const ToolBarRow> StandardBarRows();
+std::span<const ToolBarRow> FilterBarRows();
 
 } // namespace keltavlo

@@ -6,13 +6,10 @@ namespace keltavlo {
 
 namespace {
 
-constexpr unsigned paintCursor = 146;
-constexpr unsigned pickCursor = 147;
-
 // Paints single texels with the current colour.
 class TexelBrush final : public Brush {
 public:
-    TexelBrush() : Brush(paintCursor) {}
+    TexelBrush() : Brush(pencilCursor) {}
     void Apply(BrushTarget& target, TexelPoint point, int strength, TexelPoint) override {
         if (strength < 1) return;
         target.SetTexel(point.Column(), point.Row(), Shell::Get().GetCurrentColor());
@@ -22,7 +19,7 @@ public:
 // Takes the colour under the mouse as the current one.
 class ColorPickerBrush final : public Brush {
 public:
-    ColorPickerBrush() : Brush(pickCursor) {}
+    ColorPickerBrush() : Brush(pipetteCursor) {}
     void Apply(BrushTarget& target, TexelPoint point, int strength, TexelPoint) override {
         if (strength < 1) return;
         Shell& shell = Shell::Get();

@@ -32,6 +32,9 @@ public:
     // The kinds, as brush files number them.
     static constexpr std::uint32_t texelKind = 1;
     static constexpr std::uint32_t colorPickerKind = 2;
+    // Their cursors.
+    static constexpr unsigned pencilCursor = 146;
+    static constexpr unsigned pipetteCursor = 147;
 
     virtual ~Brush() = default;
     // Applies the brush from one point to another; a strength below 1 changes nothing.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/core/Service.h"
+#include "res/CommandIds.h"
 #include "resources/ProgressWindow.h"
 
 #include <cstdint>
@@ -14,8 +15,8 @@ class BaseDocument;
 // The main window as documents, brushes and views see it.
 class Shell : public Service<Shell> {
 public:
-    // The current colour changed; the value is the id of the command that edits it.
-    static constexpr unsigned colorChanged = 32783;
+    // The hint of a new current color: the id of the command that edits it.
+    static constexpr unsigned colorChanged = ID_FORMAT_COLOR;
 
     // Refreshes the dynamic menu sections; null when no document is meant.
     virtual void UpdateMenus(BaseDocument* activeDocument) = 0;

@@ -1,6 +1,5 @@
 #include "app/ui/CGammaSettingsDialog.h"
 
-#include "app/ui/CGammaSettingsDialogButton.h"
 #include "framework/core/StringTable.h"
 #include "framework/core/Text.h"
 #include "framework/ui/DialogLayout.h"
@@ -13,12 +12,16 @@
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QLabel>
+#include <QPainter>
 #include <QSignalBlocker>
 #include <QSlider>
 
 namespace keltavlo {
 
 namespace {
+
+constexpr QRect pictureArea(0, 0, 32, 32);
+constexpr QRect colorArea(32, 0, 64, 32);
 
 struct Channel {
     const char* label;
@@ -68,6 +71,30 @@ QString ValueText(int position) {
 }
 
 } // namespace
+
+CGammaSettingsDialogButton::CGammaSettingsDialogButton(const QString& name) {
+    setAccessibleName(name);
+    setFocusPolicy(Qt::NoFocus); // only to look at
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+void CGammaSettingsDialogButton::SetSample(std::uint32_t sampleColor, const QImage& picture,
+                                           const GammaValues& values) {
+    color = sampleColor;
+    bitmap = &picture;
+    SetValues(values);
+}
+
+void CGammaSettingsDialogButton::SetValues(const GammaValues& values) {
+    gammaValues = values;
+    update();
+}
+
+void CGammaSettingsDialogButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.drawImage(pictureArea, *bitmap);
+    painter.fillRect(colorArea, QColor::fromRgb(ApplyGamma(gammaValues, color)));
+}
 
 CGammaSettingsDialog::CGammaSettingsDialog(QWidget* owner, const GammaValues& values)
     : CDialog(owner), gammaValues(values) {

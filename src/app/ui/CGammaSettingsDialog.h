@@ -3,6 +3,7 @@
 #include "app/GammaSettings.h"
 #include "framework/ui/CDialog.h"
 
+#include <QAbstractButton>
 #include <QImage>
 
 #include <array>
@@ -14,7 +15,25 @@ class QSlider;
 
 namespace keltavlo {
 
-class CGammaSettingsDialogButton;
+// A sample of what gamma values do: a picture as it is stored, and beside it a colour seen through the
+// values.
+class CGammaSettingsDialogButton : public QAbstractButton {
+public:
+    explicit CGammaSettingsDialogButton(const QString& name);
+
+    // The colour is 0xAARRGGBB; the picture, 32 x 32, is the caller's and lives as long as the button.
+    void SetSample(std::uint32_t sampleColor, const QImage& picture, const GammaValues& values);
+    void SetValues(const GammaValues& values);
+    QSize sizeHint() const override { return {96, 32}; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    GammaValues gammaValues;
+    std::uint32_t color = 0;
+    const QImage* bitmap = nullptr;
+};
 
 // Chooses gamma values by sliders, with samples that show what they do.
 class CGammaSettingsDialog : public CDialog {

@@ -2,11 +2,10 @@
 
 #include "app/Settings.h"
 #include "app/ui/CAboutDialog.h"
-#include "app/ui/FileFilters.h"
+#include "app/ui/FileDialogServices.h"
 #include "app/ui/HelpPages.h"
 #include "app/ui/HelpWindow.h"
 #include "app/ui/MainFrame.h"
-#include "app/ui/PicturePreview.h"
 #include "archives/ui/ArchiveFileDialog.h"
 #include "archives/ui/HiddenChildFrame.h"
 #include "archives/ui/HiddenView.h"
@@ -37,17 +36,6 @@ namespace {
 std::unique_ptr<ProfileStore> OfThisVersion(std::unique_ptr<ProfileStore> settings) {
     CheckSettingsVersion(*settings);
     return settings;
-}
-
-// Asks before a picture gets the format of the first type because its name's extension is unknown.
-bool MaySave(const FileNameQuestion& question, const std::string& path) {
-    const DocTemplateRegistry& registry = DocTemplateRegistry::Get();
-    const CRuntimeClass* written = registry.GetDocumentClassOfName(path);
-    const bool isPicture =
-        question.type && question.type->GetDocumentClass().IsDerivedFrom(TavloDocument::runtimeClass);
-    if (!isPicture || !written || registry.KnowsName(path)) return true;
-    const std::string format = registry.FindTemplate(*written)->GetDocString(CDocTemplate::regFileTypeName);
-    return AskYesNo(FormatString(IDS_UNKNOWN_FORMAT, ToDisplayPath(path).c_str(), format.c_str()));
 }
 
 } // namespace

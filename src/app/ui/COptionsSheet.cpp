@@ -1,7 +1,6 @@
 #include "app/ui/COptionsSheet.h"
 
 #include "app/ui/CGammaSettingsDialog.h"
-#include "app/ui/MainFrame.h"
 #include "framework/core/StringTable.h"
 #include "framework/core/Text.h"
 #include "framework/ui/DialogLayout.h"
@@ -16,8 +15,9 @@ namespace keltavlo {
 
 CGeneralOptionsPage::CGeneralOptionsPage() : CPropertyPage(QStringLiteral("General")) {}
 
-CViewOptionsPage::CViewOptionsPage(MainFrame& mainFrame)
-    : CPropertyPage(QStringLiteral("View")), frame(mainFrame), gammaValues(frame.GetGamma().GetValues()) {
+CViewOptionsPage::CViewOptionsPage(GammaSettings& editedGamma, std::function<void()> onChange)
+    : CPropertyPage(QStringLiteral("View")), gamma(editedGamma), changed(std::move(onChange)),
+      gammaValues(gamma.GetValues()) {
     QGridLayout& grid = AddPageGrid(*this);
     AddHeading(grid, {0, 0, 3}, "Gamma");
     AddIcon(grid, {1, 0}, MakePixelIcon(GammaIcon()));
@@ -37,14 +37,14 @@ void CViewOptionsPage::OnGammaSettings() {
 
 // Seen at once, though the sheet may stay.
 bool CViewOptionsPage::OnApply() {
-    frame.GetGamma().SetValues(gammaValues);
-    frame.UpdateAllDocuments(nullptr, 0, nullptr);
-    frame.UpdatePaletteBar(nullptr, 0, nullptr);
+    gamma.SetValues(gammaValues);
+    changed();
     return CPropertyPage::OnApply();
 }
 
-COptionsSheet::COptionsSheet(MainFrame& mainFrame)
-    : CPropertySheet(ToQString(LoadString(IDS_OPTIONS_TITLE)), &mainFrame), viewPage(mainFrame) {
+COptionsSheet::COptionsSheet(QWidget* dialogOwner, GammaSettings& gamma, std::function<void()> onGammaChange)
+    : CPropertySheet(ToQString(LoadString(IDS_OPTIONS_TITLE)), dialogOwner),
+      viewPage(gamma, std::move(onGammaChange)) {
     AddPage(generalPage);
     AddPage(viewPage);
 }

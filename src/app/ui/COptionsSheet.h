@@ -1,12 +1,11 @@
 #pragma once
 
 #include "app/GammaSettings.h"
-#include "framework/ui/CPropertyPage.h"
 #include "framework/ui/CPropertySheet.h"
 
-namespace keltavlo {
+#include <functional>
 
-class MainFrame;
+namespace keltavlo {
 
 // There are no general options yet.
 class CGeneralOptionsPage : public CPropertyPage {
@@ -17,22 +16,24 @@ public:
 // How documents are shown.
 class CViewOptionsPage : public CPropertyPage {
 public:
-    // Applying changes the frame's gamma.
-    explicit CViewOptionsPage(MainFrame& mainFrame);
+    // Applying changes the gamma and calls `onChange`.
+    CViewOptionsPage(GammaSettings& editedGamma, std::function<void()> onChange);
 
     bool OnApply() override;
 
 private:
     void OnGammaSettings();
 
-    MainFrame& frame;
+    GammaSettings& gamma;
+    std::function<void()> changed;
     GammaValues gammaValues; // a copy until they are applied
 };
 
 // The program's options.
 class COptionsSheet : public CPropertySheet {
 public:
-    explicit COptionsSheet(MainFrame& mainFrame);
+    // `onGammaChange` is called whenever the gamma has new values.
+    COptionsSheet(QWidget* dialogOwner, GammaSettings& gamma, std::function<void()> onGammaChange);
 
 private:
     CGeneralOptionsPage generalPage;

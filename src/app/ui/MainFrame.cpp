@@ -1,26 +1,41 @@
 #include "app/ui/MainFrame.h"
 
+#include "app/Settings.h"
 #include "app/ui/CKelTavloToolBar.h"
+#include "app/ui/COptionsSheet.h"
 #include "framework/core/CWinApp.h"
 #include "framework/core/StringTable.h"
 #include "framework/ui/CMenu.h"
 #include "framework/ui/CStatusBar.h"
-#include "framework/ui/RecentFileMenu.h"
+#include "framework/ui/ColorPrompt.h"
+#include "framework/ui/PlaceWindow.h"
 #include "image/picture/Color.h"
 #include "image/ui/PaletteBar.h"
 #include "res/CommandIds.h"
 #include "res/Menus.h"
 #include "res/ShellStrings.h"
 #include "res/ToolBars.h"
+#include "resources/BaseDocument.h"
+#include "resources/Shell.h"
 
+#include <QElapsedTimer>
+#include <QGuiApplication>
 #include <QScreen>
+#include <QThread>
+#include <QWindow>
 
 namespace keltavlo {
 
 namespace {
 
+// The strings whose widths the panes take, from pane 1 on.
+constexpr unsigned paneSamples[] = {IDS_SAMPLE_ZOOM, IDS_SAMPLE_POSITION, IDS_SAMPLE_COLOR};
 constexpr std::size_t positionPane = 2;
 constexpr std::size_t colorPane = 3;
+
+constexpr const char* placementValue = "WindowPlacement";
+constexpr const char* barStateName = "ToolBarState";
+constexpr int paintPatience = 500; // milliseconds
 
 std::string ColorText(std::uint32_t argb) {
     if (Alpha(argb) == 255) return FormatString(IDS_COLOR_OPAQUE, Red(argb), Green(argb), Blue(argb));
@@ -30,7 +45,7 @@ std::string ColorText(std::uint32_t argb) {
 
 } // namespace
 
-MainFrame::MainFrame() {
+MainFrame::MainFrame() : Dynamic(paneSamples) {
     LoadFrame(IDR_MAINFRAME, AcceleratorRows());
     resize(QSize(1000, 720).boundedTo(screen()->availableSize() * 9 / 10));
     CreateBars();
@@ -41,11 +56,11 @@ void MainFrame::CreateBars() {
     standardToolBar = new CKelTavloToolBar(ID_VIEW_TOOLBAR, LoadString(IDS_STANDARD_BAR), this);
     filterToolBar = new CKelTavloToolBar(ID_FILTER_BAR, LoadString(IDS_FILTER_BAR), this);
     paletteBar = new PaletteBar(ID_PALETTE_BAR, this);
-    standardToolBar->LoadToolBar(ToolBarRows(IDR_STANDARD_BAR), *this);
-    filterToolBar->LoadToolBar(ToolBarRows(IDR_FILTER_BAR), *this);
-    DockControlBar(*standardToolBar);
-    DockControlBar(*filterToolBar);
-    DockControlBar(*paletteBar, Qt::RightDockWidgetArea);
+    standardToolBar->LoadToolBar(StandardBarRows(), *this);
+    filterToolBar->LoadToolBar(FilterBarRows(), *this);
+    GetBars().Dock(*standardToolBar);
+    GetBars().Dock(*filterToolBar);
+    GetBars().Dock(*paletteBar, Qt::RightDockWidgetArea);
     controlBars = {paletteBar, standardToolBar, filterToolBar};
 }
 
@@ -79,6 +94,91 @@ void MainFrame::OnInitMenuPopup(CMenu& menu) {
     CMDIFrameWnd::OnInitMenuPopup(menu);
     MenuItemList::UpdateAll(menu, nullptr);
     UpdateRecentFileMenu(menu, CWinApp::Get().GetRecentFiles().GetPaths());
+}
+
+const CommandMap& MainFrame::GetCommandMap() const {
+    using Self = MainFrame;
+    static const CommandMap map{
+        CMDIFrameWnd::GetCommandMap(),
+        {Command<&Self::OnViewRefresh>(ID_VIEW_REFRESH), Command<&Self::OnFormatColor>(ID_FORMAT_COLOR),
+         Command<&Self::OnToolsOptions>(ID_TOOLS_OPTIONS), Command<&Self::OnCancel>(ID_CANCEL),
+         CommandRange<&Self::OnBar, &Self::OnUpdateBar>(ID_BAR_FIRST, ID_BAR_LAST)}};
+    return map;
+}
+
+void MainFrame::UpdateMenus(BaseDocument* activeDocument) {
+    MenuItemList::UpdateAll(GetCurrentMenu(), activeDocument);
+}
+
+void MainFrame::OnViewRefresh() {
+    UpdateAllDocuments(nullptr, 0, nullptr);
+    UpdatePaletteBar(nullptr, 0, nullptr);
+}
+
+void MainFrame::OnBar(CommandId id) {
+    CControlBar::OnToggle(menuRuns.toolbarMenu.GetBar(id));
+}
+
+void MainFrame::OnUpdateBar(CCmdUI& state) {
+    CControlBar::OnUpdateToggle(menuRuns.toolbarMenu.GetBar(state.id), state);
+}
+
+void MainFrame::OnToolsOptions() {
+    COptionsSheet(this, gamma, [this] { OnViewRefresh(); }).DoModal();
+    OnViewRefresh();
+}
+
+// The dialog knows no alpha: the colour keeps its own.
+void MainFrame::OnFormatColor() {
+    Shell& shell = Shell::Get();
+    const std::uint32_t alpha = shell.GetCurrentColor() & alphaMask;
+    const std::optional<std::uint32_t> chosen = PromptColor(this, shell.GetCurrentColor());
+    if (!chosen) return;
+    shell.SetCurrentColor(*chosen | alpha);
+    shell.UpdatePaletteBar(Shell::colorChanged);
+}
+
+void MainFrame::LoadSettings() {
+    const ProfileStore* profile = CWinApp::Get().GetProfile();
+    const auto bytes = profile ? profile->ReadBinary(mainSection, placementValue) : std::nullopt;
+    if (const auto placement = bytes ? WindowPlacement::FromBytes(*bytes) : std::nullopt) {
+        showCommand = placement->showCommand;
+        SetWindowPlacement(*this, *placement);
+    }
+    if (const auto values = profile ? ReadGamma(*profile) : std::nullopt) gamma.SetValues(*values);
+    if (const auto colors = profile ? ReadCustomColors(*profile, mainSection) : std::nullopt)
+        SetCustomColors(*colors);
+    GetBars().LoadState(barStateName);
+}
+
+void MainFrame::SaveSettings() {
+    GetBars().SaveState(barStateName);
+    ProfileStore* profile = CWinApp::Get().GetProfile();
+    if (!profile) return;
+    WriteCustomColors(*profile, mainSection, GetCustomColors());
+    WriteGamma(*profile, gamma.GetValues());
+    profile->WriteBinary(mainSection, placementValue, GetWindowPlacement(*this).ToBytes());
+}
+
+// Written before anybody is asked whether documents are to be saved, and kept whatever the answer.
+void MainFrame::closeEvent(QCloseEvent* event) {
+    SaveSettings();
+    CMDIFrameWnd::closeEvent(event);
+}
+
+// The system tells when there is something to paint on. What follows keeps the program busy, so it is awaited
+// here; without an answer the program goes on.
+void MainFrame::ShowAsLeft() {
+    ShowWindow(*this, WindowPlacement::showNormal);
+    ShowWindow(*this, showCommand);
+    OnIdle();
+    QElapsedTimer clock;
+    clock.start();
+    do {
+        QThread::msleep(1);
+        QGuiApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    } while (!isMinimized() && !windowHandle()->isExposed() && !clock.hasExpired(paintPatience));
+    GetBars().LiftFloating();
 }
 
 } // namespace keltavlo

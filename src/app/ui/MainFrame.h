@@ -2,6 +2,7 @@
 
 #include "app/GammaSettings.h"
 #include "app/ui/MenuRuns.h"
+#include "framework/core/WindowPlacement.h"
 #include "framework/ui/CMDIFrameWnd.h"
 
 #include <cstdint>
@@ -43,7 +44,7 @@ protected:
 private:
     void CreateBars();
     void LoadSettings();
-    void SaveSettings() const;
+    void SaveSettings();
     void OnViewRefresh();
     void OnFormatColor();
     void OnToolsOptions();

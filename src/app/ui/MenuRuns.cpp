@@ -1,11 +1,28 @@
 #include "app/ui/MenuRuns.h"
 
+#include "framework/core/MenuItems.h"
+#include "framework/ui/CControlBar.h"
 #include "res/CommandIds.h"
 #include "resources/BrushDocument.h"
 #include "resources/ColorSpaceDocument.h"
 #include "resources/ColorTableDocument.h"
 
 namespace keltavlo {
+
+void ControlBarMenuList::Update(MenuItems& menu, BaseDocument* activeDocument) {
+    SetCount(bars.size());
+    for (std::size_t i = 0; i < bars.size(); ++i) SetItem(i, bars[i]);
+    MenuItemList::Update(menu, activeDocument);
+}
+
+std::string ControlBarMenuList::GetItemText(CommandId id) const {
+    const CControlBar* bar = GetBar(id);
+    return bar ? MenuText(bar->GetWindowText()) : std::string();
+}
+
+CControlBar* ControlBarMenuList::GetBar(CommandId id) const {
+    return dynamic_cast<CControlBar*>(GetItem(id));
+}
 
 MenuRuns::MenuRuns(const std::vector<CControlBar*>& bars)
     : toolbarMenu(bars), brushMenu(BrushDocument::runtimeClass),

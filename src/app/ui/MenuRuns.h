@@ -1,9 +1,26 @@
 #pragma once
 
-#include "app/ui/ControlBarMenuList.h"
 #include "resources/DocumentMenuList.h"
+#include "resources/MenuItemList.h"
 
 namespace keltavlo {
+
+class CControlBar;
+
+// The main window's bars, by their titles.
+class ControlBarMenuList final : public MenuItemList {
+public:
+    // The list of bars is the main window's, which may still grow.
+    explicit ControlBarMenuList(const std::vector<CControlBar*>& listedBars) : bars(listedBars) {}
+
+    void Update(MenuItems& menu, BaseDocument* activeDocument) override;
+    std::string GetItemText(CommandId id) const override;
+    // Null when no bar has that id.
+    CControlBar* GetBar(CommandId id) const;
+
+private:
+    const std::vector<CControlBar*>& bars;
+};
 
 // The runs of the main window's menus that change while the program runs.
 struct MenuRuns {

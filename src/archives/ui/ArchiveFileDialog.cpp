@@ -4,7 +4,6 @@
 #include "archives/ui/ArchivePanel.h"
 #include "archives/ui/DialogUnits.h"
 #include "archives/ui/PreviewPanel.h"
-#include "archives/ui/TypeName.h"
 #include "framework/core/CWinApp.h"
 #include "framework/core/Path.h"
 #include "framework/core/StringTable.h"

@@ -3,7 +3,14 @@
 #include <QFileIconProvider>
 #include <QHash>
 
+#include <string>
+
 namespace keltavlo {
+
+// What people call the type of a file of that name: as the desktop knows it, else as the program's document
+// types do. Empty when neither knows it. The file need not be there.
+QString TypeNameOfFile(const std::string& name);
+QString TypeNameOfFolder();
 
 // Icons and type names of the standard part's lines, by their names alone: the toolkit's own provider looks
 // into every file, which keeps the window waiting for seconds in a large folder. Called from the thread that

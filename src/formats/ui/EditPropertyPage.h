@@ -1,10 +1,17 @@
 #pragma once
 
-#include "framework/ui/CPropertyPage.h"
+#include "framework/ui/CPropertySheet.h"
 
 namespace keltavlo {
 
 class TavloDocument;
+
+// What a sheet of properties edits.
+class EditTarget {
+public:
+    virtual ~EditTarget() = default;
+    virtual TavloDocument& GetDocument() const = 0;
+};
 
 // A page of the sheet that edits a texture's properties.
 class EditPropertyPage : public CPropertyPage {
@@ -12,7 +19,7 @@ public:
     using CPropertyPage::CPropertyPage;
 
     // The document of the sheet that holds the page.
-    TavloDocument& GetDocument() const;
+    TavloDocument& GetDocument() const { return dynamic_cast<EditTarget&>(*GetSheet()).GetDocument(); }
 };
 
 } // namespace keltavlo

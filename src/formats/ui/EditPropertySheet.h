@@ -1,19 +1,50 @@
 #pragma once
 
-#include "formats/ui/GeneralEditPropertyPage.h"
 #include "formats/ui/Quake2EditPropertyPage.h"
-#include "formats/ui/QuakeEditPropertyPage.h"
-#include "framework/ui/CPropertySheet.h"
+
+#include <cstdint>
+#include <string>
 
 namespace keltavlo {
 
+// The picture's size.
+class GeneralEditPropertyPage : public EditPropertyPage {
+public:
+    GeneralEditPropertyPage();
+
+    void OnInitDialog() override;
+    bool OnApply() override;
+
+protected:
+    void DoDataExchange(CDataExchange& exchange) override;
+
+private:
+    std::uint32_t width = 256; // texels
+    std::uint32_t height = 256;
+};
+
+// The name that a Quake texture stores.
+class QuakeEditPropertyPage : public EditPropertyPage {
+public:
+    QuakeEditPropertyPage();
+
+    void OnInitDialog() override;
+    bool OnApply() override;
+
+protected:
+    void DoDataExchange(CDataExchange& exchange) override;
+
+private:
+    std::string name; // as stored, in bytes of any kind
+};
+
 // Edits what the game formats store with a texture besides its pixels. Each group of values that the person
 // changed becomes one undoable change when the sheet is confirmed.
-class EditPropertySheet : public CPropertySheet {
+class EditPropertySheet : public CPropertySheet, public EditTarget {
 public:
     EditPropertySheet(QWidget* dialogOwner, TavloDocument& edited);
 
-    TavloDocument& GetDocument() const { return document; }
+    TavloDocument& GetDocument() const override { return document; }
 
 private:
     TavloDocument& document;

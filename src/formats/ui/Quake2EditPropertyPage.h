@@ -1,11 +1,72 @@
 #pragma once
 
 #include "formats/ui/EditPropertyPage.h"
-#include "formats/ui/Quake2FlagsEditPropertyPage.h"
-#include "formats/ui/Quake2GeneralEditPropertyPage.h"
-#include "framework/ui/CPropertySheet.h"
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
 
 namespace keltavlo {
+
+// The names and the value that a Quake II texture stores.
+class Quake2GeneralEditPropertyPage : public CPropertyPage {
+public:
+    Quake2GeneralEditPropertyPage();
+
+    void OnInitDialog() override;
+    bool OnApply() override;
+
+protected:
+    void DoDataExchange(CDataExchange& exchange) override;
+
+private:
+    std::string name;
+    std::string nextFrameName;
+    std::int32_t value = 0;
+};
+
+// A set of flags, one check box a bit.
+class Quake2FlagsEditPropertyPage : public CPropertyPage {
+public:
+    // The labels from bit 0 up; bits beyond them are kept as they are.
+    Quake2FlagsEditPropertyPage(const QString& title, std::span<const std::string_view> labels);
+
+    void OnInitDialog() override;
+    bool OnApply() override;
+
+protected:
+    void DoDataExchange(CDataExchange& exchange) override;
+    virtual std::uint32_t GetStored(const TavloDocument& document) const = 0;
+    // Stores the flags as an undoable change.
+    virtual void Store(TavloDocument& document, std::uint32_t newFlags) const = 0;
+
+private:
+    std::uint32_t bitCount;
+    std::unique_ptr<bool[]> checkStates; // bitCount of them
+    std::uint32_t flags = 0;
+};
+
+// How the game treats the surface.
+class Quake2SurfaceEditPropertyPage : public Quake2FlagsEditPropertyPage {
+public:
+    Quake2SurfaceEditPropertyPage();
+
+protected:
+    std::uint32_t GetStored(const TavloDocument& document) const override;
+    void Store(TavloDocument& document, std::uint32_t newFlags) const override;
+};
+
+// What the game takes the space behind the surface for.
+class Quake2ContentsEditPropertyPage : public Quake2FlagsEditPropertyPage {
+public:
+    Quake2ContentsEditPropertyPage();
+
+protected:
+    std::uint32_t GetStored(const TavloDocument& document) const override;
+    void Store(TavloDocument& document, std::uint32_t newFlags) const override;
+};
 
 // What a Quake II texture stores, in a sheet inside the page.
 class Quake2EditPropertyPage : public EditPropertyPage {
@@ -22,8 +83,5 @@ private:
     Quake2SurfaceEditPropertyPage surfacePage;
     Quake2ContentsEditPropertyPage contentsPage;
 };
-
-// The document behind a page of the inner sheet.
-TavloDocument& GetInnerPageDocument(const CPropertyPage& page);
 
 } // namespace keltavlo

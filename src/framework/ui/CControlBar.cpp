@@ -4,7 +4,6 @@
 
 #include <QCoreApplication>
 #include <QEvent>
-#include <QWidget>
 
 namespace keltavlo {
 
@@ -25,10 +24,28 @@ void CControlBar::Show(bool visible) {
     window.setVisible(visible);
 }
 
+void CControlBar::OnToggle(CControlBar* bar) {
+    if (bar) bar->Show(!bar->IsVisible());
+}
+
+void CControlBar::OnUpdateToggle(const CControlBar* bar, CCmdUI& state) {
+    state.Enable(bar != nullptr);
+    state.SetCheck(bar && bar->IsVisible());
+}
+
 // The toolkit ends the way of such an event at the first window of its own.
 bool CControlBar::ForwardPrompt(QEvent& event) {
     return event.type() == QEvent::StatusTip && window.isWindow() && window.parentWidget() &&
            QCoreApplication::sendEvent(window.parentWidget(), &event);
+}
+
+CDialogBar::CDialogBar(unsigned barId, const std::string& title, QWidget* parent)
+    : QDockWidget(ToQString(title), parent), Dynamic(barId, *this) {
+    setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
+}
+
+bool CDialogBar::event(QEvent* event) {
+    return ForwardPrompt(*event) || QDockWidget::event(event);
 }
 
 } // namespace keltavlo

@@ -2,12 +2,9 @@
 
 #include "framework/core/CCmdTarget.h"
 
-#include <QString>
+#include <QDockWidget>
 
 #include <string>
-
-class QEvent;
-class QWidget;
 
 namespace keltavlo {
 
@@ -23,6 +20,10 @@ public:
     // Brings what the bar shows of its commands' states up to date.
     virtual void OnUpdateCmdUI() {}
 
+    // The command that shows or hides a bar, and its state; null disables it.
+    static void OnToggle(CControlBar* bar);
+    static void OnUpdateToggle(const CControlBar* bar, CCmdUI& state);
+
 protected:
     // `barWindow` is the bar itself, as the toolkit sees it.
     CControlBar(unsigned barId, QWidget& barWindow);
@@ -32,6 +33,16 @@ protected:
 private:
     unsigned id;
     QWidget& window;
+};
+
+// A bar of controls that docks at the left or the right side of the main window, or floats. Commands are
+// offered to it like to any other window.
+class CDialogBar : public QDockWidget, public Dynamic<"CDialogBar", CDialogBar, CControlBar> {
+public:
+    CDialogBar(unsigned barId, const std::string& title, QWidget* parent);
+
+protected:
+    bool event(QEvent* event) override;
 };
 
 } // namespace keltavlo

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/ui/DialogControls.h"
+#include "framework/ui/NormalCursor.h"
 
 #include <QDialog>
 
@@ -12,9 +13,15 @@ public:
     using QDialog::QDialog;
 
     // Runs the dialog until it is closed. True when it was confirmed.
-    bool DoModal();
+    bool DoModal() {
+        const NormalCursor arrow;
+        OnInitDialog();
+        return exec() == Accepted;
+    }
     // OK: confirmed when no value is refused.
-    void accept() override;
+    void accept() override {
+        if (UpdateData(true)) QDialog::accept();
+    }
 
 protected:
     // The dialog is about to be seen. Here: fills the controls.

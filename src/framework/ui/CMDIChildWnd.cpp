@@ -3,8 +3,6 @@
 #include "framework/core/CDocument.h"
 #include "framework/core/StandardIds.h"
 #include "framework/core/Text.h"
-#include "framework/ui/CMDIFrameWnd.h"
-#include "framework/ui/CView.h"
 #include "framework/ui/WindowClasses.h"
 
 #include <QAction>
@@ -63,14 +61,14 @@ void CMDIChildWnd::SetTitle(const std::string& text, bool modified) {
     if (mdiFrame) mdiFrame->OnUpdateFrameTitle();
 }
 
-void CMDIChildWnd::Create(CDocument& document, const CRuntimeClass& viewClass, CMDIFrameWnd* owner) {
+void CMDIChildWnd::Create(CDocument& document, const CRuntimeClass& viewClass, MDIFrame* owner) {
     mdiFrame = owner;
     activeView = &CreateClient(document, viewClass);
     UpdateTitles(document);
 }
 
 CView& CMDIChildWnd::CreateClient(CDocument& document, const CRuntimeClass& viewClass) {
-    CView* view = CreateViewWindow(viewClass).release();
+    CView* view = CreateWindowOf<CView>(viewClass).release();
     setWidget(view);
     view->Attach(document, nullptr);
     return *view;

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "framework/core/CCmdTarget.h"
-#include "framework/core/DocumentView.h"
+#include "framework/ui/CView.h"
 
 #include <QMdiSubWindow>
 
@@ -9,25 +8,38 @@
 
 namespace keltavlo {
 
-class CDocument;
-class CMDIFrameWnd;
-class CView;
+class CMDIChildWnd;
+
+// The main window, as the document windows inside it see it.
+class MDIFrame {
+public:
+    virtual ~MDIFrame() = default;
+    // The active child that people see, or null.
+    virtual CMDIChildWnd* MDIGetActive() const = 0;
+    virtual void MDIActivate(CMDIChildWnd& child) = 0;
+    virtual void AddChild(CMDIChildWnd& child) = 0;
+    // For a child that ends: it is no longer active, nor listed.
+    virtual void RemoveChild(CMDIChildWnd& child) = 0;
+    // Names the active document in the title. A maximized child adds its own title in brackets.
+    virtual void OnUpdateFrameTitle() = 0;
+    // Tells the views that another one is active.
+    virtual void ChangeActiveView(CView* activated, CView* deactivated) = 0;
+};
 
 // A document's window inside the main frame.
 class CMDIChildWnd : public QMdiSubWindow,
                      public Dynamic<"CMDIChildWnd", CMDIChildWnd, CCmdTarget>,
-                     public DocumentFrame {
+                     public ViewFrame {
 public:
     CMDIChildWnd();
     ~CMDIChildWnd() override;
 
     // Fills the new frame with a view of the class on the document. `owner` shows the frame among its
     // children; without one the frame is a window of its own.
-    void Create(CDocument& document, const CRuntimeClass& viewClass, CMDIFrameWnd* owner);
+    void Create(CDocument& document, const CRuntimeClass& viewClass, MDIFrame* owner);
 
-    // The view that commands go to; null while the frame ends.
-    CView* GetActiveView() const { return activeView; }
-    void SetActiveView(CView* view);
+    CView* GetActiveView() const override { return activeView; }
+    void SetActiveView(CView* view) override;
     // The document of the frame's views; null while the frame ends.
     CDocument* GetActiveDocument() const;
     // The document's title, numbered when the document has several windows.
@@ -60,7 +72,7 @@ private:
     static void UpdateTitles(const CDocument& document);
 
     CView* activeView = nullptr;
-    CMDIFrameWnd* mdiFrame = nullptr;
+    MDIFrame* mdiFrame = nullptr;
     std::string title;
     bool shown = false;
     bool ending = false;

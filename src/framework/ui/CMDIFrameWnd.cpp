@@ -1,39 +1,48 @@
 #include "framework/ui/CMDIFrameWnd.h"
 
+#include "framework/core/CDocTemplate.h"
+#include "framework/core/CDocument.h"
 #include "framework/core/CWinApp.h"
 #include "framework/core/StandardIds.h"
 #include "framework/core/StringTable.h"
+#include "framework/core/Text.h"
 #include "framework/ui/CControlBar.h"
-#include "framework/ui/CMDIChildWnd.h"
-#include "framework/ui/CMenu.h"
 #include "framework/ui/CStatusBar.h"
 #include "framework/ui/Commands.h"
 #include "framework/ui/MDIClientArea.h"
+#include "framework/ui/NextInRing.h"
 
 #include <QAbstractEventDispatcher>
-#include <QMenuBar>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDropEvent>
+#include <QMimeData>
 #include <QShortcut>
+#include <QStatusTipEvent>
+#include <QUrl>
 
+#include <algorithm>
 #include <utility>
 
 namespace keltavlo {
 
 namespace {
 
-// Strings whose widths the panes take: a zoom, a position, a colour.
-constexpr unsigned paneSamples[] = {1110, 1105, 1109};
+// The name's own bytes: QUrl::toLocalFile would replace those that are not UTF-8.
+std::string LocalPathOf(const QUrl& url) {
+    return QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()).toStdString();
+}
 
 } // namespace
 
-CMDIFrameWnd::CMDIFrameWnd()
-    : clientArea(new MDIClientArea(this)), statusBarWindow(new CStatusBar(paneSamples, this)) {
+CMDIFrameWnd::CMDIFrameWnd(std::span<const unsigned> paneSampleIds)
+    : clientArea(new MDIClientArea(this)), statusBarWindow(new CStatusBar(paneSampleIds, this)) {
     setCentralWidget(clientArea);
     setStatusBar(statusBarWindow);
     statusBarWindow->SetPaneText(0, LoadString(AFX_IDS_IDLEMESSAGE));
     OnUpdateFrameTitle();
     clientArea->setFocus(); // otherwise the first control of a bar gets the focus
     setAcceptDrops(true);
-    menuBar()->installEventFilter(this);
     connect(clientArea, &QMdiArea::subWindowActivated, this, [this] { OnChildActivated(); });
     if (auto* dispatcher = QAbstractEventDispatcher::instance())
         connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, this, [this] { OnIdle(); });
@@ -46,7 +55,7 @@ CMDIFrameWnd::~CMDIFrameWnd() {
 
 void CMDIFrameWnd::LoadFrame(unsigned menuId, std::span<const AcceleratorRow> accelerators) {
     ownMenuId = menuId;
-    ShowMenu(menuId);
+    menus.Show(menuId);
     for (const AcceleratorRow& row : accelerators)
         AddKeys(row.keys, [this, id = row.id] { SendCommand(*this, id); });
     AddChildKeys();
@@ -69,16 +78,10 @@ void CMDIFrameWnd::AddChildKeys() {
     AddKeys("Ctrl+Shift+F6", [this] { MDINext(true); });
 }
 
-void CMDIFrameWnd::ShowMenu(unsigned menuId) {
-    std::unique_ptr<CMenu>& menu = menus[menuId];
-    if (!menu) {
-        menu = std::make_unique<CMenu>(GetMenuRows(menuId), *this, this);
-        menu->SetInitPopup([this](CMenu& opened) { OnInitMenuPopup(opened); });
-    }
-    if (currentMenu == menu.get()) return;
-    currentMenu = menu.get();
-    menuBar()->clear();
-    for (const auto& popup : currentMenu->GetPopups()) menuBar()->addMenu(popup.get());
+std::unique_ptr<CMenu> CMDIFrameWnd::MakeMenu(unsigned menuId) {
+    auto menu = std::make_unique<CMenu>(GetMenuRows(menuId), *this, this);
+    menu->SetInitPopup([this](CMenu& opened) { OnInitMenuPopup(opened); });
+    return menu;
 }
 
 bool CMDIFrameWnd::OnCmdMsg(CommandId id, CCmdUI* state) {
@@ -90,13 +93,184 @@ bool CMDIFrameWnd::OnCmdMsg(CommandId id, CCmdUI* state) {
 
 // Out of memory, items and tools stay as they are until the next idle moment.
 void CMDIFrameWnd::OnIdle() noexcept try {
-    if (currentMenu) currentMenu->UpdateOpenPopups();
-    for (CControlBar* bar : dockedBars) bar->OnUpdateCmdUI();
+    if (CMenu* menu = menus.GetCurrent()) menu->UpdateOpenPopups();
+    bars.OnUpdateCmdUI();
 } catch (const std::bad_alloc&) {
 }
 
 void CMDIFrameWnd::OnInitMenuPopup(CMenu& menu) {
-    UpdateWindowList(menu);
+    std::vector<std::string> titles;
+    for (const CMDIChildWnd* child : GetChildren()) titles.push_back(child->GetTitle());
+    UpdateWindowMenu(menu, titles);
+}
+
+std::vector<CMDIChildWnd*> CMDIFrameWnd::GetChildren() const {
+    return clientArea->GetChildren();
+}
+
+void CMDIFrameWnd::AddChild(CMDIChildWnd& child) {
+    const std::size_t number = GetChildren().size();
+    clientArea->addSubWindow(&child);
+    connect(&child, &QMdiSubWindow::windowStateChanged, this, [this] { OnUpdateFrameTitle(); });
+    clientArea->Place(child, static_cast<int>(number));
+}
+
+// The next child takes over that the last one filled the client area.
+void CMDIFrameWnd::RemoveChild(CMDIChildWnd& child) {
+    const bool maximized = activeChild == &child && child.isMaximized();
+    if (activeChild == &child) SetActiveChild(nullptr);
+    clientArea->removeSubWindow(&child);
+    OnChildActivated();
+    if (maximized && activeChild) activeChild->showMaximized();
+}
+
+void CMDIFrameWnd::MDIActivate(CMDIChildWnd& child) {
+    if (child.isMinimized())
+        child.showNormal();
+    else
+        child.show();
+    clientArea->setActiveSubWindow(&child);
+    OnChildActivated();
+}
+
+// A minimized child stays so.
+void CMDIFrameWnd::MDINext(bool previous) {
+    CMDIChildWnd* next = NextInRing(GetChildren(), activeChild, previous);
+    if (!next) return;
+    clientArea->setActiveSubWindow(next);
+    OnChildActivated();
+}
+
+void CMDIFrameWnd::OnUpdateFrameTitle() {
+    QString title = ToQString(LoadString(AFX_IDS_APP_TITLE));
+    const CDocument* document = activeChild ? activeChild->GetActiveDocument() : nullptr;
+    if (document && activeChild->isMaximized())
+        title += QStringLiteral(" - [%1]").arg(activeChild->windowTitle());
+    else if (document)
+        title += QStringLiteral(" - ") + CMDIChildWnd::MarkedTitle(document->GetTitle());
+    setWindowTitle(title);
+    setWindowModified(document && document->IsModified());
+}
+
+// The toolkit also tells when a window outside becomes active; the child then stays the one that commands
+// are for.
+void CMDIFrameWnd::OnChildActivated() {
+    SetActiveChild(clientArea->GetCurrentChild());
+}
+
+void CMDIFrameWnd::SetActiveChild(CMDIChildWnd* child) {
+    if (child == activeChild) return;
+    CView* deactivated = activeChild ? activeChild->GetActiveView() : nullptr;
+    activeChild = child;
+    const CDocument* document = child ? child->GetActiveDocument() : nullptr;
+    const CDocTemplate* type = document ? document->GetDocTemplate() : nullptr;
+    menus.Show(type ? type->GetRow().menuId : ownMenuId);
+    OnUpdateFrameTitle();
+    if (!child) clientArea->setFocus();
+    ChangeActiveView(child ? child->GetActiveView() : nullptr, deactivated);
+}
+
+void CMDIFrameWnd::ChangeActiveView(CView* activated, CView* deactivated) {
+    if (deactivated) deactivated->OnActivateView(false, activated, deactivated);
+    if (!activated) return;
+    activated->OnActivateView(true, activated, deactivated);
+    activated->setFocus();
+}
+
+const CommandMap& CMDIFrameWnd::GetCommandMap() const {
+    using Self = CMDIFrameWnd;
+    static const CommandMap map{
+        Dynamic::GetCommandMap(),
+        {Command<&Self::OnWindowNew, &Self::OnUpdateWithChild>(ID_WINDOW_NEW),
+         CommandRange<&Self::OnWindowArrange, &Self::OnUpdateWithChild>(ID_WINDOW_ARRANGE,
+                                                                        ID_WINDOW_TILE_VERT),
+         CommandRange<&Self::OnWindowActivate, &Self::OnUpdateWindowActivate>(ID_WINDOW_CHILD_FIRST,
+                                                                              ID_WINDOW_CHILD_LAST),
+         Command<&Self::OnViewControlBar, &Self::OnUpdateViewControlBar>(ID_VIEW_TOOLBAR),
+         Command<&Self::OnViewStatusBar, &Self::OnUpdateViewStatusBar>(ID_VIEW_STATUS_BAR)}};
+    return map;
+}
+
+void CMDIFrameWnd::OnUpdateWithChild(CCmdUI& state) {
+    state.Enable(activeChild != nullptr);
+}
+
+void CMDIFrameWnd::OnWindowNew() {
+    CDocument* document = activeChild->GetActiveDocument();
+    const CDocTemplate* type = document ? document->GetDocTemplate() : nullptr;
+    DocumentFrame* frame = type ? type->CreateNewFrame(*document) : nullptr;
+    if (frame) frame->InitialUpdate(true);
+}
+
+void CMDIFrameWnd::OnWindowArrange(CommandId id) {
+    switch (id) {
+    case ID_WINDOW_ARRANGE:
+        return clientArea->ArrangeIcons();
+    case ID_WINDOW_CASCADE:
+        return clientArea->cascadeSubWindows();
+    default:
+        return clientArea->Tile(id == ID_WINDOW_TILE_HORZ ? Qt::Vertical : Qt::Horizontal);
+    }
+}
+
+void CMDIFrameWnd::OnWindowActivate(CommandId id) {
+    const std::vector<CMDIChildWnd*> children = GetChildren();
+    if (const std::size_t index = id - ID_WINDOW_CHILD_FIRST; index < children.size())
+        MDIActivate(*children[index]);
+}
+
+void CMDIFrameWnd::OnUpdateWindowActivate(CCmdUI& state) {
+    const std::vector<CMDIChildWnd*> children = GetChildren();
+    const std::size_t index = state.id - ID_WINDOW_CHILD_FIRST;
+    state.Enable(index < children.size());
+    state.SetCheck(index < children.size() && children[index] == activeChild);
+}
+
+void CMDIFrameWnd::OnViewStatusBar() {
+    statusBarWindow->setVisible(statusBarWindow->isHidden());
+}
+
+void CMDIFrameWnd::OnUpdateViewStatusBar(CCmdUI& state) {
+    state.SetCheck(!statusBarWindow->isHidden());
+}
+
+// The ids of these commands are those of the bars.
+void CMDIFrameWnd::OnViewControlBar(CommandId id) {
+    CControlBar::OnToggle(bars.Find(id));
+}
+
+void CMDIFrameWnd::OnUpdateViewControlBar(CCmdUI& state) {
+    CControlBar::OnUpdateToggle(bars.Find(state.id), state);
+}
+
+// The toolkit adds a maximized child's title to whatever title there is, and takes it away again later.
+bool CMDIFrameWnd::event(QEvent* event) {
+    if (event->type() == QEvent::WindowTitleChange) OnUpdateFrameTitle();
+    if (event->type() != QEvent::StatusTip) return QMainWindow::event(event);
+    statusBarWindow->ShowPrompt(static_cast<QStatusTipEvent*>(event)->tip());
+    return true;
+}
+
+// Every document is asked before the first one closes: a refusal leaves all of them open.
+void CMDIFrameWnd::closeEvent(QCloseEvent* event) {
+    // The desktop's end of session comes here also while a dialog asks about a document, which must stay.
+    if (QApplication::activeModalWidget()) return event->ignore();
+    CWinApp* application = CWinApp::Find();
+    const bool agreed = !application || application->SaveAllModified();
+    event->setAccepted(agreed);
+    if (agreed && application) application->CloseAllDocuments();
+}
+
+void CMDIFrameWnd::dragEnterEvent(QDragEnterEvent* event) {
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (std::ranges::any_of(urls, &QUrl::isLocalFile)) event->acceptProposedAction();
+}
+
+void CMDIFrameWnd::dropEvent(QDropEvent* event) {
+    event->acceptProposedAction();
+    activateWindow();
+    for (const QUrl& url : event->mimeData()->urls())
+        if (url.isLocalFile()) CWinApp::Get().OpenDocumentFile(LocalPathOf(url));
 }
 
 } // namespace keltavlo

@@ -37,14 +37,13 @@ void CMenu::Fill(QMenu& popup, std::span<const MenuRow> rows) {
     // The toolkit itself shows prompts only for popups that hang in a menu bar.
     QObject::connect(&popup, &QMenu::hovered, &popup, [this](QAction* item) { Prompt(item->statusTip()); });
     QObject::connect(&popup, &QMenu::aboutToHide, &popup, [this] { Prompt({}); });
-    for (const MenuRow& row : rows) {
+    for (const MenuRow& row : rows)
         if (!row.text)
             popup.addSeparator();
         else if (!row.items.empty())
             Fill(*popup.addMenu(ToQString(row.text)), row.items);
         else
             popup.addAction(MakeItem(popup, row.id, row.text));
-    }
 }
 
 QAction* CMenu::MakeItem(QMenu& popup, CommandId id, const std::string& text) {

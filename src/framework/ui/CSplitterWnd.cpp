@@ -1,13 +1,11 @@
 #include "framework/ui/CSplitterWnd.h"
 
 #include "framework/core/RuntimeClass.h"
-#include "framework/ui/CMDIChildWnd.h"
-#include "framework/ui/CView.h"
-#include "framework/ui/SplitHandle.h"
-#include "framework/ui/SplitTracker.h"
+#include "framework/ui/NextInRing.h"
 #include "framework/ui/WindowClasses.h"
 
 #include <QScrollBar>
+#include <QStyle>
 
 #include <algorithm>
 #include <utility>
@@ -20,19 +18,13 @@ constexpr CSplitterWnd::Direction Across(CSplitterWnd::Direction direction) {
     return direction == CSplitterWnd::rows ? CSplitterWnd::columns : CSplitterWnd::rows;
 }
 
+int BarThickness(const QWidget& widget) {
+    return widget.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &widget);
+}
+
 } // namespace
 
-// Rows have vertical bars, columns horizontal ones.
-CSplitterWnd::CSplitterWnd(QWidget* parent) : QWidget(parent) {
-    for (const Direction direction : {rows, columns}) {
-        Axis& axis = axes[direction];
-        for (QScrollBar*& bar : axis.bars)
-            bar = new QScrollBar(direction == rows ? Qt::Vertical : Qt::Horizontal, this);
-        axis.box = new SplitHandle(*this, direction);
-        axis.line = new SplitHandle(*this, direction);
-    }
-    tracker = new SplitTracker(*this);
-}
+CSplitterWnd::CSplitterWnd(QWidget* parent) : QWidget(parent) {}
 
 CView& CSplitterWnd::CreateView(int row, int column, const CRuntimeClass& viewClass, CDocument& document) {
     Q_ASSERT(row == 0 && column == 0 && !panes[0][0]);
@@ -42,7 +34,7 @@ CView& CSplitterWnd::CreateView(int row, int column, const CRuntimeClass& viewCl
 }
 
 CView& CSplitterWnd::CreatePane(int row, int column, const CRuntimeClass& viewClass, CDocument& document) {
-    CView* view = CreateViewWindow(viewClass).release();
+    CView* view = CreateWindowOf<CView>(viewClass).release();
     view->setParent(this);
     panes[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)] = view;
     view->Attach(document, this);
@@ -50,7 +42,7 @@ CView& CSplitterWnd::CreatePane(int row, int column, const CRuntimeClass& viewCl
 }
 
 CView* CSplitterWnd::GetPane(int row, int column) const {
-    const bool there = row >= 0 && row < axes[rows].count && column >= 0 && column < axes[columns].count;
+    const bool there = row >= 0 && row < GetCount(rows) && column >= 0 && column < GetCount(columns);
     return there ? panes[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)] : nullptr;
 }
 
@@ -63,25 +55,21 @@ std::vector<CView*> CSplitterWnd::GetPanes() const {
 }
 
 QScrollBar& CSplitterWnd::GetScrollBar(const CView& view, Qt::Orientation orientation) const {
-    std::size_t row = 0, column = 0;
-    for (std::size_t i = 0; i < maximumParts; ++i)
-        for (std::size_t j = 0; j < maximumParts; ++j)
-            if (panes[i][j] == &view) row = i, column = j;
-    return orientation == Qt::Horizontal ? *axes[columns].bars[column] : *axes[rows].bars[row];
-}
-
-int CSplitterWnd::GetSplit(Direction direction) const {
-    return axes[direction].count > 1 ? axes[direction].split : 0;
+    int row = 0, column = 0;
+    for (int i = 0; i < SplitAxis::maximumParts; ++i)
+        for (int j = 0; j < SplitAxis::maximumParts; ++j)
+            if (panes[static_cast<std::size_t>(i)][static_cast<std::size_t>(j)] == &view) row = i, column = j;
+    return orientation == Qt::Horizontal ? axes[columns].GetBar(column) : axes[rows].GetBar(row);
 }
 
 void CSplitterWnd::SetSplit(Direction direction, int extent) {
-    Axis& axis = axes[direction];
-    const bool firstFits = extent >= minimumPart;
-    const bool secondFits = extent <= GetExtent(direction) - SplitHandle::thickness - minimumPart;
+    const bool firstFits = extent >= SplitAxis::minimumPart;
+    const bool secondFits = extent <= GetExtent(direction) - lineThickness - SplitAxis::minimumPart;
+    const bool isSplit = GetCount(direction) > 1;
     if (firstFits && secondFits) {
-        axis.split = extent;
-        if (axis.count == 1) AddPart(direction);
-    } else if (axis.count > 1) {
+        axes[direction].Split(extent);
+        if (!isSplit) AddPart(direction);
+    } else if (isSplit) {
         RemovePart(direction, firstFits ? 1 : 0);
     }
     RecalcLayout();
@@ -97,9 +85,8 @@ CView*& CSplitterWnd::PaneAt(Direction direction, int part, int other) {
 // every view beside them along, the new one too.
 void CSplitterWnd::AddPart(Direction direction) {
     const CView& first = *panes[0][0];
-    axes[direction].count = 2;
-    for (int other = 0; other < axes[Across(direction)].count; ++other) {
-        QScrollBar& shared = *axes[Across(direction)].bars[static_cast<std::size_t>(other)];
+    for (int other = 0; other < GetCount(Across(direction)); ++other) {
+        QScrollBar& shared = axes[Across(direction)].GetBar(other);
         const int position = shared.sliderPosition();
         const int row = direction == rows ? 1 : other;
         const int column = direction == rows ? other : 1;
@@ -112,17 +99,15 @@ void CSplitterWnd::AddPart(Direction direction) {
 
 // What stays moves into the first row or column, with its bar.
 void CSplitterWnd::RemovePart(Direction direction, int part) {
-    Axis& axis = axes[direction];
-    axis.count = 1;
-    if (part == 0) std::swap(axis.bars[0], axis.bars[1]);
-    for (int other = 0; other < axes[Across(direction)].count; ++other) {
+    axes[direction].Remove(part);
+    for (int other = 0; other < GetCount(Across(direction)); ++other) {
         if (part == 0) std::swap(PaneAt(direction, 0, other), PaneAt(direction, 1, other));
         RemovePane(std::exchange(PaneAt(direction, 1, other), nullptr));
     }
 }
 
 void CSplitterWnd::RemovePane(CView* view) {
-    CMDIChildWnd* frame = view->GetParentFrame();
+    ViewFrame* frame = view->GetParentFrame();
     if (frame && frame->GetActiveView() == view) frame->SetActiveView(panes[0][0]);
     view->Detach();
     delete view;
@@ -130,14 +115,36 @@ void CSplitterWnd::RemovePane(CView* view) {
 
 CView* CSplitterWnd::GetNextPane(const CView* active, bool previous) const {
     const std::vector<CView*> list = GetPanes();
-    const auto place = std::find(list.begin(), list.end(), active);
-    if (place == list.end()) return list.front();
-    const auto index = static_cast<std::size_t>(place - list.begin());
-    return list[(index + (previous ? list.size() - 1 : 1)) % list.size()];
+    CView* next = NextInRing(list, active, previous);
+    return next ? next : list.front();
 }
 
 void CSplitterWnd::DoKeyboardSplit() {
     tracker->BeginByKeyboard();
+}
+
+int CSplitterWnd::GetExtent(Direction direction) const {
+    const int whole = direction == rows ? height() : width();
+    return std::max(0, whole - BarThickness(*this));
+}
+
+void CSplitterWnd::RecalcLayout() {
+    const int high = GetExtent(rows), wide = GetExtent(columns);
+    for (int row = 0; row < GetCount(rows); ++row)
+        for (int column = 0; column < GetCount(columns); ++column) {
+            const SplitAxis::Span y = axes[rows].GetSpan(row, high);
+            const SplitAxis::Span x = axes[columns].GetSpan(column, wide);
+            if (CView* view = GetPane(row, column)) view->setGeometry(x.start, y.start, x.length, y.length);
+        }
+    axes[rows].LayOut(high, wide, BarThickness(*this));
+    axes[columns].LayOut(wide, high, BarThickness(*this));
+    tracker->setGeometry(rect());
+    tracker->raise();
+}
+
+void CSplitterWnd::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    RecalcLayout();
 }
 
 } // namespace keltavlo

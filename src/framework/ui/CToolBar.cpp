@@ -31,12 +31,11 @@ CToolBar::CToolBar(unsigned barId, const std::string& title, QWidget* parent)
 
 void CToolBar::LoadToolBar(std::span<const ToolBarRow> rows, CCmdTarget& commandTarget) {
     target = &commandTarget;
-    for (const ToolBarRow& row : rows) {
+    for (const ToolBarRow& row : rows)
         if (row.id)
             AddButton(row);
         else
             addSeparator();
-    }
     OnUpdateCmdUI();
 }
 

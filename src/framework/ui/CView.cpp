@@ -1,8 +1,6 @@
 #include "framework/ui/CView.h"
 
 #include "framework/core/CDocument.h"
-#include "framework/ui/CMDIChildWnd.h"
-#include "framework/ui/CSplitterWnd.h"
 
 #include <utility>
 
@@ -16,9 +14,9 @@ CView::~CView() {
     LeaveDocument();
 }
 
-CMDIChildWnd* CView::GetParentFrame() const {
+ViewFrame* CView::GetParentFrame() const {
     for (QWidget* widget = parentWidget(); widget; widget = widget->parentWidget())
-        if (auto* frame = dynamic_cast<CMDIChildWnd*>(widget)) return frame;
+        if (auto* frame = dynamic_cast<ViewFrame*>(widget)) return frame;
     return nullptr;
 }
 
@@ -27,8 +25,8 @@ DocumentFrame* CView::GetFrame() const {
 }
 
 QScrollBar& CView::GetScrollBar(Qt::Orientation orientation) const {
-    Q_ASSERT(paneSplitter);
-    return paneSplitter->GetScrollBar(*this, orientation);
+    Q_ASSERT(panes);
+    return panes->GetScrollBar(*this, orientation);
 }
 
 void CView::OnInitialUpdate() {
@@ -45,9 +43,9 @@ bool CView::OnCmdMsg(CommandId id, CCmdUI* state) {
     return CCmdTarget::OnCmdMsg(id, state) || (attachedDocument && attachedDocument->OnCmdMsg(id, state));
 }
 
-void CView::Attach(CDocument& shown, CSplitterWnd* pane) {
+void CView::Attach(CDocument& shown, const ViewPanes* holders) {
     attachedDocument = &shown;
-    paneSplitter = pane;
+    panes = holders;
     attachedDocument->AddView(*this);
     OnCreate();
 }
@@ -63,7 +61,7 @@ void CView::LeaveDocument() {
 
 void CView::focusInEvent(QFocusEvent* event) {
     QWidget::focusInEvent(event);
-    if (CMDIChildWnd* frame = GetParentFrame(); frame && attachedDocument) frame->SetActiveView(this);
+    if (ViewFrame* frame = GetParentFrame(); frame && attachedDocument) frame->SetActiveView(this);
 }
 
 } // namespace keltavlo

@@ -11,7 +11,7 @@ DocumentFrame* MDIFrameFactory::CreateFrame(const CDocTemplate& type, CDocument&
     const CRuntimeClass* frameClass = classes.Find(row.frameClass);
     const CRuntimeClass* viewClass = classes.Find(row.viewClass);
     if (!frameClass || !viewClass) return nullptr;
-    CMDIChildWnd* frame = CreateFrameWindow(*frameClass).release();
+    CMDIChildWnd* frame = CreateWindowOf<CMDIChildWnd>(*frameClass).release();
     frame->Create(document, *viewClass, mainFrame);
     return frame;
 }

@@ -1,16 +1,15 @@
 #include "framework/ui/SplitHandle.h"
 
-#include "framework/ui/SplitTracker.h"
-
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOption>
 
 namespace keltavlo {
 
-SplitHandle::SplitHandle(CSplitterWnd& owner, CSplitterWnd::Direction dragged)
-    : QWidget(&owner), splitter(owner), direction(dragged) {
-    setCursor(direction == CSplitterWnd::rows ? Qt::SplitVCursor : Qt::SplitHCursor);
+SplitHandle::SplitHandle(Splitter& owner, SplitTracker& lineTracker, Splitter::Direction dragged,
+                         QWidget* window)
+    : QWidget(window), splitter(owner), tracker(lineTracker), direction(dragged) {
+    setCursor(direction == Splitter::rows ? Qt::SplitVCursor : Qt::SplitHCursor);
 }
 
 void SplitHandle::paintEvent(QPaintEvent*) {
@@ -24,16 +23,16 @@ void SplitHandle::paintEvent(QPaintEvent*) {
 void SplitHandle::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return;
     grip = event->position().toPoint();
-    splitter.GetTracker().BeginByMouse(direction);
+    tracker.BeginByMouse(direction);
 }
 
 void SplitHandle::mouseMoveEvent(QMouseEvent* event) {
-    splitter.GetTracker().MoveTo(mapTo(&splitter, event->position().toPoint() - grip));
+    tracker.MoveTo(mapTo(parentWidget(), event->position().toPoint() - grip));
 }
 
 // A click alone is no drag: it leaves everything as it is.
 void SplitHandle::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton) splitter.GetTracker().End(true);
+    if (event->button() == Qt::LeftButton) tracker.End(true);
 }
 
 void SplitHandle::mouseDoubleClickEvent(QMouseEvent* event) {

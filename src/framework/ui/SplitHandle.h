@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/ui/CSplitterWnd.h"
+#include "framework/ui/SplitTracker.h"
 
 namespace keltavlo {
 
@@ -8,9 +8,8 @@ namespace keltavlo {
 // middle, or takes the second part away.
 class SplitHandle final : public QWidget {
 public:
-    static constexpr int thickness = 6; // pixels
-
-    SplitHandle(CSplitterWnd& owner, CSplitterWnd::Direction dragged);
+    // A child of `window`, which is the splitter as the toolkit sees it.
+    SplitHandle(Splitter& owner, SplitTracker& lineTracker, Splitter::Direction dragged, QWidget* window);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -20,8 +19,9 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 
 private:
-    CSplitterWnd& splitter;
-    CSplitterWnd::Direction direction;
+    Splitter& splitter;
+    SplitTracker& tracker;
+    Splitter::Direction direction;
     QPoint grip; // where the mouse took hold of the handle
 };
 

@@ -1,7 +1,5 @@
 #include "framework/ui/SplitTracker.h"
 
-#include "framework/ui/SplitHandle.h"
-
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
@@ -14,11 +12,11 @@ namespace keltavlo {
 namespace {
 
 constexpr int keyStep = 10; // pixels
-constexpr std::array directions{CSplitterWnd::rows, CSplitterWnd::columns};
+constexpr std::array directions{Splitter::rows, Splitter::columns};
 
 } // namespace
 
-SplitTracker::SplitTracker(CSplitterWnd& owner) : QWidget(&owner), splitter(owner) {
+SplitTracker::SplitTracker(Splitter& owner, QWidget* window) : QWidget(window), splitter(owner) {
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     hide();
@@ -26,9 +24,8 @@ SplitTracker::SplitTracker(CSplitterWnd& owner) : QWidget(&owner), splitter(owne
 
 // A window in one piece is offered four panes; where there is a line it starts from its place.
 void SplitTracker::BeginByKeyboard() {
-    const bool whole =
-        splitter.GetCount(CSplitterWnd::rows) == 1 && splitter.GetCount(CSplitterWnd::columns) == 1;
-    for (const CSplitterWnd::Direction direction : directions)
+    const bool whole = splitter.GetCount(Splitter::rows) == 1 && splitter.GetCount(Splitter::columns) == 1;
+    for (const Splitter::Direction direction : directions)
         lines[direction] = {true, whole ? splitter.GetExtent(direction) / 2 : splitter.GetSplit(direction)};
     focused = QApplication::focusWidget();
     Begin(false);
@@ -36,7 +33,7 @@ void SplitTracker::BeginByKeyboard() {
     setFocus();
 }
 
-void SplitTracker::BeginByMouse(CSplitterWnd::Direction direction) {
+void SplitTracker::BeginByMouse(Splitter::Direction direction) {
     lines = {};
     lines[direction] = {true, splitter.GetSplit(direction)};
     Begin(true);
@@ -46,12 +43,12 @@ void SplitTracker::Begin(bool byMouse) {
     changed = false;
     setAttribute(Qt::WA_TransparentForMouseEvents, byMouse);
     setCursor(Qt::SizeAllCursor);
-    setGeometry(splitter.rect());
+    setGeometry(parentWidget()->rect());
     show();
     raise();
 }
 
-void SplitTracker::SetPosition(CSplitterWnd::Direction direction, int position) {
+void SplitTracker::SetPosition(Splitter::Direction direction, int position) {
     Line& line = lines[direction];
     if (!line.tracked) return;
     line.position = std::clamp(position, 0, splitter.GetExtent(direction));
@@ -60,15 +57,15 @@ void SplitTracker::SetPosition(CSplitterWnd::Direction direction, int position) 
 }
 
 void SplitTracker::MoveTo(const QPoint& point) {
-    SetPosition(CSplitterWnd::rows, point.y());
-    SetPosition(CSplitterWnd::columns, point.x());
+    SetPosition(Splitter::rows, point.y());
+    SetPosition(Splitter::columns, point.x());
 }
 
 void SplitTracker::End(bool accepted) {
     if (isHidden()) return;
     hide();
     if (QWidget* back = std::exchange(focused, nullptr)) back->setFocus();
-    for (const CSplitterWnd::Direction direction : directions)
+    for (const Splitter::Direction direction : directions)
         if (accepted && changed && lines[direction].tracked)
             splitter.SetSplit(direction, lines[direction].position);
 }
@@ -77,25 +74,25 @@ void SplitTracker::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     QColor color = palette().color(QPalette::Highlight);
     color.setAlpha(160);
-    const int rowsExtent = splitter.GetExtent(CSplitterWnd::rows);
-    const int columnsExtent = splitter.GetExtent(CSplitterWnd::columns);
-    if (lines[CSplitterWnd::rows].tracked)
-        painter.fillRect(0, lines[CSplitterWnd::rows].position, columnsExtent, SplitHandle::thickness, color);
-    if (lines[CSplitterWnd::columns].tracked)
-        painter.fillRect(lines[CSplitterWnd::columns].position, 0, SplitHandle::thickness, rowsExtent, color);
+    const int rowsExtent = splitter.GetExtent(Splitter::rows);
+    const int columnsExtent = splitter.GetExtent(Splitter::columns);
+    if (lines[Splitter::rows].tracked)
+        painter.fillRect(0, lines[Splitter::rows].position, columnsExtent, Splitter::lineThickness, color);
+    if (lines[Splitter::columns].tracked)
+        painter.fillRect(lines[Splitter::columns].position, 0, Splitter::lineThickness, rowsExtent, color);
 }
 
 void SplitTracker::keyPressEvent(QKeyEvent* event) {
     const int step = event->modifiers() & Qt::ControlModifier ? 1 : keyStep;
     switch (event->key()) {
     case Qt::Key_Up:
-        return SetPosition(CSplitterWnd::rows, lines[CSplitterWnd::rows].position - step);
+        return SetPosition(Splitter::rows, lines[Splitter::rows].position - step);
     case Qt::Key_Down:
-        return SetPosition(CSplitterWnd::rows, lines[CSplitterWnd::rows].position + step);
+        return SetPosition(Splitter::rows, lines[Splitter::rows].position + step);
     case Qt::Key_Left:
-        return SetPosition(CSplitterWnd::columns, lines[CSplitterWnd::columns].position - step);
+        return SetPosition(Splitter::columns, lines[Splitter::columns].position - step);
     case Qt::Key_Right:
-        return SetPosition(CSplitterWnd::columns, lines[CSplitterWnd::columns].position + step);
+        return SetPosition(Splitter::columns, lines[Splitter::columns].position + step);
     case Qt::Key_Return:
     case Qt::Key_Enter:
         return End(true);

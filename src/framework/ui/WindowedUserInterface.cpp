@@ -1,13 +1,60 @@
 #include "framework/ui/WindowedUserInterface.h"
 
 #include "framework/core/CWinApp.h"
-#include "framework/ui/CNewTypeDlg.h"
+#include "framework/core/StandardIds.h"
+#include "framework/core/StringTable.h"
+#include "framework/core/Text.h"
 #include "framework/ui/MessageBoxes.h"
 #include "framework/ui/NormalCursor.h"
 
+#include <QDialog>
+#include <QDialogButtonBox>
 #include <QGuiApplication>
+#include <QLabel>
+#include <QListWidget>
+#include <QVBoxLayout>
 
 namespace keltavlo {
+
+namespace {
+
+// Asks which type a new document is to have.
+class CNewTypeDlg : public QDialog {
+public:
+    CNewTypeDlg(QWidget* owner, std::vector<const CDocTemplate*> choices);
+
+    // The type that the list marks.
+    const CDocTemplate* GetSelected() const;
+
+private:
+    std::vector<const CDocTemplate*> types;
+    QListWidget* list; // a child of this window
+};
+
+CNewTypeDlg::CNewTypeDlg(QWidget* owner, std::vector<const CDocTemplate*> choices)
+    : QDialog(owner), types(std::move(choices)), list(new QListWidget(this)) {
+    setWindowTitle(ToQString(LoadString(AFX_IDS_NEW_TITLE)));
+    for (const CDocTemplate* type : types)
+        list->addItem(ToQString(type->GetDocString(CDocTemplate::fileNewName)));
+    list->setCurrentRow(0);
+    auto* label = new QLabel(ToQString(LoadString(AFX_IDS_NEW_LABEL)), this);
+    label->setBuddy(list);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(label);
+    column->addWidget(list);
+    column->addWidget(buttons);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(list, &QListWidget::itemDoubleClicked, this, &QDialog::accept);
+}
+
+const CDocTemplate* CNewTypeDlg::GetSelected() const {
+    const int row = list->currentRow();
+    return row < 0 ? nullptr : types[static_cast<std::size_t>(row)];
+}
+
+} // namespace
 
 void WindowedUserInterface::ShowMessage(const std::string& text) {
     ShowMessageBox(text);

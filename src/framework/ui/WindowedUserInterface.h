@@ -1,8 +1,8 @@
 #pragma once
 
 #include "framework/core/UserInterface.h"
+#include "framework/ui/GuardedApplication.h"
 #include "framework/ui/MDIFrameFactory.h"
-#include "framework/ui/MemoryWarning.h"
 
 namespace keltavlo {
 

@@ -1,5 +1,7 @@
 #include "image/ui/BrushCursors.h"
 
+#include "resources/Brush.h"
+
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPainterPath>
@@ -10,9 +12,6 @@
 namespace keltavlo {
 
 namespace {
-
-constexpr unsigned pencilId = 146;
-constexpr unsigned pipetteId = 147;
 
 constexpr int side = 24;
 constexpr QPointF tip(2.5, 21.5); // the middle of its pixel
@@ -65,8 +64,8 @@ double HotSpotScale(double ratio) {
 } // namespace
 
 QCursor LoadBrushCursor(unsigned id, double ratio) {
-    if (id != pencilId && id != pipetteId) return Qt::ArrowCursor;
-    const ToolShape shape = id == pencilId ? PencilShape() : PipetteShape();
+    if (id != Brush::pencilCursor && id != Brush::pipetteCursor) return Qt::ArrowCursor;
+    const ToolShape shape = id == Brush::pencilCursor ? PencilShape() : PipetteShape();
     const QPointF hotSpot = tip * HotSpotScale(ratio);
     return QCursor(DrawTool(shape, ratio), static_cast<int>(hotSpot.x()), static_cast<int>(hotSpot.y()));
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/ui/CDialogBar.h"
+#include "framework/ui/CControlBar.h"
 #include "image/PalettePlanes.h"
 
 #include <array>

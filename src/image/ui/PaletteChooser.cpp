@@ -20,13 +20,12 @@ struct Entry {
 // In the order of the document types, then of opening.
 std::vector<Entry> CollectLists() {
     std::vector<Entry> entries;
-    for (const CDocument* document : CWinApp::Get().GetDocuments()) {
+    for (const CDocument* document : CWinApp::Get().GetDocuments())
         if (const auto* table = dynamic_cast<const ColorTableDocument*>(document))
             entries.push_back({table->GetTitle(), &table->GetColors()});
         else if (const auto* picture = dynamic_cast<const TavloDocument*>(document);
                  picture && picture->GetTexture().palette)
             entries.push_back({picture->GetTitle(), picture->GetTexture().palette.get()});
-    }
     return entries;
 }
 

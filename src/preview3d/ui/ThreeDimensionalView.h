@@ -1,9 +1,58 @@
 #pragma once
 
+#include "preview3d/TextureBuffer.h"
+#include "preview3d/ui/OpenGLCtrl.h"
 #include "preview3d/ui/OpenGLView.h"
-#include "preview3d/ui/ThreeDimensionalCtrl.h"
 
 namespace keltavlo {
+
+class ThreeDimensionalView;
+
+// The control of a 3D view: lets the view draw, and keeps what the view draws with.
+class ThreeDimensionalCtrl final : public OpenGLCtrl {
+public:
+    struct Offset {
+        double x = 0, y = 0, z = 0;
+    };
+
+    // Takes the picture of an open image document for its texture.
+    explicit ThreeDimensionalCtrl(ThreeDimensionalView& owner);
+
+    // By how much the model is moved, in its own units.
+    const Offset& GetOffset() const { return offset; }
+    const TextureBuffer& GetTexture() const { return texture; }
+    bool IsTextured() const { return renderMode == textured; }
+    // Moves the model by a character that was typed: d away, e nearer, f and s to the left and right; by 16
+    // units, or by one for small steps. Other characters do nothing.
+    void MoveBy(const QString& characters, bool smallSteps);
+
+protected:
+    void InitGL() override;
+    void SetProjection(double aspect) override;
+    void SetCamera() override;
+    void DrawScene() override;
+    void ReleaseResources() override;
+    const CommandMap& GetCommandMap() const override;
+
+private:
+    static constexpr int solid = 2;
+    static constexpr int textured = 3;
+
+    template <int mode>
+    void OnRenderMode() {
+        renderMode = mode;
+        update();
+    }
+    template <int mode>
+    void OnUpdateRenderMode(CCmdUI& state) const {
+        state.SetRadio(renderMode == mode);
+    }
+
+    ThreeDimensionalView* view;
+    int renderMode = textured;
+    Offset offset;
+    TextureBuffer texture;
+};
 
 // Shows a model in 3D: sets up the scene, moves it by the keyboard and draws it with a copy of an open image,
 // taken when the view is created.

@@ -1,7 +1,7 @@
 #include "app/ui/CKelTavloApp.h"
 
 #include "app/ui/CommandLine.h"
-#include "app/ui/FileFilters.h"
+#include "app/ui/FileDialogServices.h"
 #include "res/CommandIds.h"
 #include "support/ui/ProgramFixture.h"
 

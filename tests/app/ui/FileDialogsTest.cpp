@@ -1,7 +1,7 @@
 // The file dialog as the program uses it, with the real documents behind it.
 #include "app/PreviewReader.h"
+#include "app/ui/FileDialogServices.h"
 #include "app/ui/HelpWindow.h"
-#include "app/ui/PicturePreview.h"
 #include "image/TavloDocument.h"
 #include "res/CommandIds.h"
 #include "support/ui/ProgramFixture.h"

@@ -3,6 +3,7 @@
 #include "framework/core/Text.h"
 #include "framework/ui/CSplitterWnd.h"
 #include "framework/ui/ChildFrame.h"
+#include "framework/ui/PlaceWindow.h"
 #include "framework/ui/SplitTracker.h"
 #include "image/ui/InfiniteScrollView.h"
 #include "res/CommandIds.h"
@@ -36,7 +37,7 @@ std::string Layout(const MainFrame& frame) {
     const auto* tools = frame.findChild<QToolBar*>("bar59392");
     const auto* filters = frame.findChild<QToolBar*>("bar59398");
     auto* palette = frame.findChild<QDockWidget*>("bar59401");
-    const WindowPlacement::Rectangle normal = frame.GetWindowPlacement().normal;
+    const WindowPlacement::Rectangle normal = GetWindowPlacement(frame).normal;
     return Format("%d %d %d%s%s%s %d %d %d %d", frame.toolBarArea(tools), frame.toolBarArea(filters),
                   frame.dockWidgetArea(palette), tools->isHidden() ? " no tools" : "",
                   palette->isHidden() ? " no palette" : "", frame.isMaximized() ? " maximized" : "",
@@ -50,8 +51,8 @@ TEST_F(MainFrameTest, EveryCommandHasAPromptAndAToolTip) {
     ExpectTexts(MenuBarRows(IDR_MAINFRAME));
     ExpectTexts(MenuBarRows(IDR_DOCUMENT));
     for (const AcceleratorRow& row : AcceleratorRows()) ExpectTexts(row.id);
-    for (const unsigned bar : {IDR_STANDARD_BAR, IDR_FILTER_BAR})
-        for (const ToolBarRow& row : ToolBarRows(bar)) ExpectTexts(row.id);
+    for (const auto rows : {StandardBarRows(), FilterBarRows()})
+        for (const ToolBarRow& row : rows) ExpectTexts(row.id);
 }
 
 TEST_F(MainFrameTest, AltFOpensTheFileMenuEveryTime) {

@@ -1,6 +1,5 @@
 #include "framework/ui/CMenu.h"
 #include "framework/ui/CStatusBar.h"
-#include "framework/ui/RecentFileMenu.h"
 #include "framework/ui/WindowFixture.h"
 #include "support/ui/DialogAnswer.h"
 

@@ -83,7 +83,7 @@ TEST_F(CSplitterWndTest, PanesShareTheBarsOfTheirRowsAndColumns) {
     EXPECT_FALSE(bar->isHidden());
     splitter.SetSplit(columns, 300);
     frame.resize(150, 200);
-    EXPECT_EQ(Pane(0, 1).width(), CSplitterWnd::minimumPart) << "small windows keep the second part";
+    EXPECT_EQ(Pane(0, 1).width(), SplitAxis::minimumPart) << "small windows keep the second part";
 }
 
 TEST_F(CSplitterWndTest, TheSplitCommandWorksWithKeysAlone) {

@@ -1,7 +1,7 @@
 #include "framework/core/Text.h"
-#include "framework/ui/CDialogBar.h"
 #include "framework/ui/CStatusBar.h"
 #include "framework/ui/CToolBar.h"
+#include "framework/ui/PlaceWindow.h"
 #include "framework/ui/WindowFixture.h"
 
 #include <QAction>
@@ -26,10 +26,10 @@ class ControlBarsTest : public WindowFixture {
 protected:
     ControlBarsTest() {
         tools.LoadToolBar(rows, mainFrame);
-        mainFrame.DockControlBar(tools);
+        mainFrame.GetBars().Dock(tools);
         tools.show();
         panel.setWidget(new QLabel("panel"));
-        mainFrame.DockControlBar(panel, Qt::RightDockWidgetArea);
+        mainFrame.GetBars().Dock(panel, Qt::RightDockWidgetArea);
     }
 
     QToolButton& Button(int row) {
@@ -73,7 +73,7 @@ TEST_F(ControlBarsTest, TheStateComesBackWholeOrNotAtAll) {
     tools.hide();
     mainFrame.statusBar()->hide();
     const std::string saved = Layout();
-    mainFrame.SaveBarState("Bars");
+    mainFrame.GetBars().SaveState("Bars");
     const std::vector<std::byte> whole = *program.GetProfile()->ReadBinary("Bars", "State");
     tools.show();
     panel.setFloating(false);
@@ -82,7 +82,7 @@ TEST_F(ControlBarsTest, TheStateComesBackWholeOrNotAtAll) {
     const std::string before = Layout();
     const auto layoutOf = [&](const std::vector<std::byte>& state) {
         program.GetProfile()->WriteBinary("Bars", "State", state);
-        mainFrame.LoadBarState("Bars");
+        mainFrame.GetBars().LoadState("Bars");
         return Layout();
     };
     for (std::size_t bit = 0; bit < whole.size() * 8; ++bit)
@@ -100,17 +100,17 @@ TEST_F(ControlBarsTest, PlacementsEndOnAScreen) {
                                                  {-2147483647, 0, 2147483647, 5},
                                                  {-900, -900, -400, -500}}) {
         placement.normal = far;
-        mainFrame.SetWindowPlacement(placement);
+        SetWindowPlacement(mainFrame, placement);
         EXPECT_TRUE(screen.contains(mainFrame.geometry().center())) << far.left;
         EXPECT_LE(mainFrame.width(), screen.width());
     }
     placement.normal = {40, 50, 540, 450};
-    mainFrame.SetWindowPlacement(placement);
+    SetWindowPlacement(mainFrame, placement);
     EXPECT_EQ(mainFrame.geometry(), QRect(40, 50, 500, 400));
-    const std::vector<std::byte> whole = mainFrame.GetWindowPlacement().ToBytes();
+    const std::vector<std::byte> whole = GetWindowPlacement(mainFrame).ToBytes();
     for (std::size_t bit = 0; bit < whole.size() * 8; ++bit) {
         if (const auto read = WindowPlacement::FromBytes(WithOtherBit(whole, bit)))
-            mainFrame.SetWindowPlacement(*read);
+            SetWindowPlacement(mainFrame, *read);
         EXPECT_TRUE(screen.contains(mainFrame.geometry())) << "bit " << bit;
         EXPECT_GE(mainFrame.width(), mainFrame.minimumSizeHint().width());
     }

@@ -19,6 +19,7 @@ constexpr MenuRow documentItems[] = {
     {"&Document\tCtrl+D", documentCommand}, {}, {"Recent", ID_FILE_MRU_FIRST}, {}, {"E&xit", 0}};
 constexpr MenuRow windowItems[] = {{"&New Window", ID_WINDOW_NEW}};
 constexpr MenuRow documentRows[] = {{"&File", 0, documentItems}, {"&Window", 0, windowItems}};
+constexpr unsigned paneSamples[] = {shownType, shownType};
 constexpr AcceleratorRow accelerators[] = {{"Ctrl+D", documentCommand}, {"Ctrl+W", mainCommand}};
 
 } // namespace
@@ -36,7 +37,7 @@ TestStrings::TestStrings() {
     AddStrings(testStrings);
 }
 
-TestMainFrame::TestMainFrame() {
+TestMainFrame::TestMainFrame() : Noting(paneSamples) {
     LoadFrame(ownMenu, accelerators);
     resize(640, 480);
     show();

@@ -1,0 +1,67 @@
+#include "framework/ui/DockedBars.h"
+
+#include "framework/core/CWinApp.h"
+#include "framework/core/SealedState.h"
+#include "framework/ui/CToolBar.h"
+
+#include <QMainWindow>
+#include <QStatusBar>
+
+#include <algorithm>
+
+namespace keltavlo {
+
+namespace {
+
+constexpr std::uint32_t stateVersion = 1; // raise it when the bars change
+constexpr const char* stateValue = "State";
+
+} // namespace
+
+void DockedBars::Dock(CToolBar& bar) {
+    window.addToolBar(Qt::TopToolBarArea, &bar);
+    bars.push_back(&bar);
+}
+
+void DockedBars::Dock(CDialogBar& bar, Qt::DockWidgetArea side) {
+    window.addDockWidget(side, &bar);
+    bars.push_back(&bar);
+}
+
+CControlBar* DockedBars::Find(unsigned barId) const {
+    const auto place = std::ranges::find(bars, barId, &CControlBar::GetBarId);
+    return place == bars.end() ? nullptr : *place;
+}
+
+void DockedBars::OnUpdateCmdUI() {
+    for (CControlBar* bar : bars) bar->OnUpdateCmdUI();
+}
+
+void DockedBars::SaveState(const std::string& profileName) const {
+    ProfileStore* profile = CWinApp::Get().GetProfile();
+    if (!profile) return;
+    const QByteArray statusBar(1, window.statusBar()->isHidden() ? '\0' : '\1');
+    profile->WriteBinary(profileName, stateValue, SealState(stateVersion, statusBar + window.saveState()));
+}
+
+// The toolkit crashes or hangs on a damaged state: it sees only what came back as it was written.
+void DockedBars::LoadState(const std::string& profileName) {
+    const ProfileStore* profile = CWinApp::Get().GetProfile();
+    const auto sealed = profile ? profile->ReadBinary(profileName, stateValue) : std::nullopt;
+    if (!sealed) return;
+    const QByteArray state = UnsealState(stateVersion, *sealed);
+    if (!state.isEmpty() && window.restoreState(state.mid(1)))
+        window.statusBar()->setVisible(state.front() != '\0');
+}
+
+// Window managers look for the window that another one belongs to only when they meet that other one.
+void DockedBars::LiftFloating() {
+    for (CControlBar* bar : bars) {
+        const auto* widget = dynamic_cast<QWidget*>(bar);
+        if (!widget || !widget->isWindow() || !bar->IsVisible()) continue;
+        bar->Show(false);
+        bar->Show(true);
+    }
+}
+
+} // namespace keltavlo

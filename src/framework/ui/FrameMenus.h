@@ -1,0 +1,41 @@
+#pragma once
+
+#include "framework/ui/CMenu.h"
+
+#include <QObject>
+
+#include <map>
+
+class QMainWindow;
+
+namespace keltavlo {
+
+// The menus of a main window by number; its menu bar shows one of them at a time. A menu is made when it is
+// first shown.
+class FrameMenus final : public QObject {
+public:
+    using Maker = std::function<std::unique_ptr<CMenu>(unsigned menuId)>;
+
+    FrameMenus(QMainWindow& mainWindow, Maker menuMaker);
+
+    void Show(unsigned menuId);
+    // The menu that the menu bar shows; null before the first one.
+    CMenu* GetCurrent() const { return current; }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QMainWindow& window;
+    Maker make;
+    std::map<unsigned, std::unique_ptr<CMenu>> menus;
+    CMenu* current = nullptr;
+};
+
+// Puts the recent files in the place of the menu's placeholder for them; where there are none the placeholder
+// is back.
+void UpdateRecentFileMenu(CMenu& menu, const std::vector<std::string>& paths);
+// Lists the main window's children below the Window menu's own items.
+void UpdateWindowMenu(CMenu& menu, const std::vector<std::string>& titles);
+
+} // namespace keltavlo
