@@ -7,8 +7,8 @@
 
 namespace keltavlo {
 
-// Remembers which list entry colours were matched to: one colour per slot, the newest replacing what the
-// slot held. Valid only while the list's colours stay as they are.
+// Remembers which list entry colors were matched to: one color per slot, the newest replacing what the
+// slot held. Valid only while the list's colors stay as they are.
 class NearestColorCache {
 public:
     // Throws std::invalid_argument when there is no slot.
@@ -16,7 +16,7 @@ public:
         if (slotCount == 0) throw std::invalid_argument("A nearest-color cache needs a slot.");
     }
 
-    // The entry stored for the colour, or null.
+    // The entry stored for the color, or null.
     const Color* Find(Color color) const {
         const Slot& slot = slots[color % slots.size()];
         return slot.key == color ? slot.match : nullptr;

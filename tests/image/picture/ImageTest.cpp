@@ -1,4 +1,5 @@
 #include "formats/CodecHarness.h"
+#include "image/picture/HalfSize.h"
 
 #include <gmock/gmock.h>
 #include <numeric>
@@ -54,6 +55,13 @@ TEST(ImageTest, HalvesEverySizeExactly) {
             picture.MakeHalfSize(half);
             ASSERT_EQ(half.GetWidth(), (width + 1) / 2);
             ASSERT_EQ(half.GetHeight(), (height + 1) / 2);
+            const auto columns = static_cast<std::size_t>(width),
+                       pairs = static_cast<std::size_t>(height / 2);
+            for (const HalfSizeKernels* kernels : AvailableKernels<HalfSizeKernels>()) {
+                std::vector<Color> rows(pairs * ((columns + 1) / 2));
+                HalveRowPairs({picture.Pixels().data(), columns, pairs, columns, rows.data()}, *kernels);
+                ASSERT_TRUE(std::ranges::equal(rows, half.Pixels().first(rows.size()))) << width;
+            }
             if (half.Pixels().empty()) continue;
             Image even = picture;
             even.Resize(2 * half.GetWidth(), 2 * half.GetHeight());
