@@ -27,6 +27,14 @@ std::vector<CMDIChildWnd*> FramesOf(const CDocument& document) {
     return frames;
 }
 
+std::vector<CView*> ViewsIn(const CMDIChildWnd& frame, const CDocument& document) {
+    std::vector<CView*> views;
+    for (DocumentView* view : document.GetViews())
+        if (auto* window = dynamic_cast<CView*>(view); window && window->GetParentFrame() == &frame)
+            views.push_back(window);
+    return views;
+}
+
 } // namespace
 
 CMDIChildWnd::CMDIChildWnd() {
@@ -98,12 +106,8 @@ void CMDIChildWnd::ActivateFrame() {
 }
 
 void CMDIChildWnd::InitialUpdate(bool visible) {
-    if (CDocument* document = GetActiveDocument()) {
-        const std::vector<DocumentView*> views = document->GetViews();
-        for (DocumentView* view : views)
-            if (auto* window = dynamic_cast<CView*>(view); window && window->GetParentFrame() == this)
-                window->OnInitialUpdate();
-    }
+    if (CDocument* document = GetActiveDocument())
+        for (CView* view : ViewsIn(*this, *document)) view->OnInitialUpdate();
     if (visible) ActivateFrame();
 }
 
@@ -125,11 +129,7 @@ void CMDIChildWnd::DetachViews() {
     if (!document) return;
     if (mdiFrame && mdiFrame->MDIGetActive() == this) mdiFrame->ChangeActiveView(nullptr, activeView);
     activeView = nullptr;
-    std::vector<CView*> own;
-    for (DocumentView* view : document->GetViews()) {
-        auto* window = dynamic_cast<CView*>(view);
-        if (window && window->GetParentFrame() == this) own.push_back(window);
-    }
+    const std::vector<CView*> own = ViewsIn(*this, *document);
     const bool documentStays = own.size() < document->GetViews().size();
     for (CView* view : own) view->Detach();
     if (documentStays) UpdateTitles(*document);
