@@ -12,10 +12,9 @@
 #include "image/picture/DibStream.h"
 #include "preview3d/MD2Document.h"
 #include "preview3d/MDLDocument.h"
-#include "resources/BrushDocument.h"
-#include "resources/BuiltInPalettes.h"
-#include "resources/ColorSpaceDocument.h"
-#include "resources/LMPDocument.h"
+#include "resources/Brush.h"
+#include "resources/BuiltInFiles.h"
+#include "resources/PaletteDocument.h"
 #include "resources/streams/ArchiveStream.h"
 
 #include <algorithm>

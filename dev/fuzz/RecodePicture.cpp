@@ -1,7 +1,7 @@
 #include "ReadingStream.h"
 #include "Scripts.h"
-#include "formats/Codec.h"
-#include "resources/BuiltInPalettes.h"
+#include "formats/TextureBytes.h"
+#include "resources/BuiltInFiles.h"
 
 #include <algorithm>
 #include <iterator>
@@ -16,18 +16,10 @@ constexpr std::string_view formats[] = {"MIPDocument", "BMPDocument", "PCXDocume
 constexpr std::size_t largestPicture = 65536; // pixels; larger ones cost more than they can show
 constexpr std::size_t fullPalette = 256;
 
-Texture Decode(const Codec& codec, InputStream& in) {
-    Texture texture;
-    codec.read(in, texture, &GetQuakeIIPalette());
-    return texture;
-}
-
 Texture DecodeOwn(const Codec& codec, Bytes bytes) {
     CMemFile file{std::span<std::byte>(bytes)};
-    CArchive archive(file, CArchive::load);
-    ArchiveStream stream(archive);
     try {
-        return Decode(codec, stream);
+        return DecodeTexture(codec, file, &GetQuakeIIPalette());
     } catch (const CException&) {
         throw std::logic_error("what was written is not read");
     }
@@ -64,7 +56,8 @@ std::optional<std::size_t> RecodePicture(std::span<const std::byte> bytes, Buffe
     if (bytes.empty()) return std::nullopt;
     const Codec& codec = *FindCodec(formats[std::to_integer<std::size_t>(bytes[0]) % std::size(formats)]);
     return WithStream(bytes.subspan(1), buffering, [&](InputStream& in, Digest& digest) {
-        const Texture texture = Decode(codec, in);
+        Texture texture;
+        codec.read(in, texture, &GetQuakeIIPalette());
         digest.Add(texture);
         // A shorter palette is written as it is, and files that end in one are not known by it.
         const bool shortPalette = texture.palette && texture.palette->GetCount() < fullPalette;

@@ -4,10 +4,9 @@
 #include "formats/GameTexture.h"
 #include "image/TextureChangeAction.h"
 #include "res/StringIds.h"
-#include "resources/BuiltInPalettes.h"
-#include "resources/BuiltInPath.h"
-#include "resources/ColorTableDocument.h"
+#include "resources/BuiltInFiles.h"
 #include "resources/DocTemplateRegistry.h"
+#include "resources/PaletteDocument.h"
 #include "resources/streams/OutputStream.h"
 
 namespace keltavlo {

@@ -4,7 +4,7 @@
 #include "image/TavloDocument.h"
 #include "res/CommandIds.h"
 #include "res/StringIds.h"
-#include "resources/BrushDocument.h"
+#include "resources/Brush.h"
 #include "resources/MenuItemList.h"
 #include "resources/PaletteDocument.h"
 #include "resources/Shell.h"

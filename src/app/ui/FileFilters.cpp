@@ -1,6 +1,6 @@
 #include "app/ui/FileFilters.h"
 
-#include "app/PictureTypes.h"
+#include "app/PictureFiles.h"
 #include "framework/core/CDocTemplate.h"
 #include "framework/core/StandardIds.h"
 #include "framework/core/StringTable.h"

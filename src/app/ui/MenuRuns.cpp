@@ -1,9 +1,8 @@
 #include "app/ui/MenuRuns.h"
 
 #include "res/CommandIds.h"
-#include "resources/BrushDocument.h"
-#include "resources/ColorSpaceDocument.h"
-#include "resources/ColorTableDocument.h"
+#include "resources/Brush.h"
+#include "resources/PaletteDocument.h"
 
 namespace keltavlo {
 

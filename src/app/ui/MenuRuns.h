@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/ui/ControlBarMenuList.h"
-#include "resources/DocumentMenuList.h"
+#include "resources/MenuItemList.h"
 
 namespace keltavlo {
 

@@ -1,6 +1,6 @@
 #include "app/ui/PicturePreview.h"
 
-#include "app/PreviewReader.h"
+#include "app/PictureFiles.h"
 #include "archives/ui/TypeName.h"
 #include "framework/core/Text.h"
 #include "image/TavloDocument.h"

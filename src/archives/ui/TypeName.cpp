@@ -3,7 +3,6 @@
 #include "archives/FolderDocument.h"
 #include "framework/core/CDocTemplate.h"
 #include "framework/core/CWinApp.h"
-#include "framework/core/ModulePath.h"
 #include "framework/core/Text.h"
 
 #include <QMimeDatabase>

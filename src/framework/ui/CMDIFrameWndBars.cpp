@@ -60,16 +60,14 @@ void CMDIFrameWnd::DockControlBar(CDialogBar& bar, Qt::DockWidgetArea side) {
 }
 
 void CMDIFrameWnd::SaveBarState(const std::string& profileName) const {
-    ProfileStore* profile = CWinApp::Get().GetProfile();
-    if (!profile) return;
     const QByteArray statusBar(1, statusBarWindow->isHidden() ? '\0' : '\1');
-    profile->WriteBinary(profileName, barStateValue, SealState(barStateVersion, statusBar + saveState()));
+    CWinApp::Get().GetProfile().WriteBinary(profileName, barStateValue,
+                                            SealState(barStateVersion, statusBar + saveState()));
 }
 
 // The toolkit crashes or hangs on a damaged state: it sees only what came back as it was written.
 void CMDIFrameWnd::LoadBarState(const std::string& profileName) {
-    const ProfileStore* profile = CWinApp::Get().GetProfile();
-    const auto sealed = profile ? profile->ReadBinary(profileName, barStateValue) : std::nullopt;
+    const auto sealed = CWinApp::Get().GetProfile().ReadBinary(profileName, barStateValue);
     if (!sealed) return;
     const QByteArray state = UnsealState(barStateVersion, *sealed);
     if (!state.isEmpty() && restoreState(state.mid(1))) statusBarWindow->setVisible(state.front() != '\0');
