@@ -1,6 +1,8 @@
 # cmake -DROOT=... [-DTABLE=...] -P CheckLayers.cmake: every #include of a header below ROOT/src must stay within what the layer
 # table (the project's own, or the file TABLE) allows, and nothing on the left may name a header of the windowing libraries.
-# Prints each offence and fails when there is one. A table with a cycle, or with a left row that uses a right one, fails too.
+# Within the layers that the table lists as CIRCLE_FREE (all without such a list), files must not include each other in a circle; a
+# header and its source count as one file. Prints each offence and fails when there is one. A table with a cycle, or with a left row
+# that uses a right one, fails too.
 cmake_minimum_required(VERSION 3.25)
 if(NOT DEFINED TABLE)
     set(TABLE "${CMAKE_CURRENT_LIST_DIR}/LayerTable.cmake")
@@ -38,6 +40,10 @@ foreach(row IN LISTS LAYERS)
     list(APPEND folders "${folder}")
 endforeach()
 
+if(NOT DEFINED CIRCLE_FREE)
+    set(CIRCLE_FREE ${folders})
+endif()
+
 set(offences 0)
 macro(offence text)
     message(STATUS "forbidden include: ${text}")
@@ -60,6 +66,33 @@ macro(check_foreign file folder header)
     endif()
 endmacro()
 
+# Layers form no cycles, so a circle lies within one layer: only includes from the file's own folder count.
+macro(note_use file folder header)
+    string(REGEX REPLACE "[.][a-z]+$" "" user "${file}")
+    string(REGEX REPLACE "[.][a-z]+$" "" used "${header}")
+    get_filename_component(usedFolder "${header}" DIRECTORY)
+    if("${folder}" STREQUAL "${usedFolder}" AND NOT user STREQUAL used)
+        list(APPEND uses_${user} "${used}")
+    endif()
+endmacro()
+
+# Leaves in `list` only those files of which a relation (uses_FILE or users_FILE) leads to another one in it.
+function(keep_related list relation)
+    set(left ${${list}})
+    set(before "(none yet)")
+    while(NOT "${left}" STREQUAL "${before}")
+        set(before "${left}")
+        foreach(file IN LISTS before)
+            set(unrelated ${left})
+            list(REMOVE_ITEM unrelated ${${relation}_${file}} ".")
+            if("${unrelated}" STREQUAL "${left}")
+                list(REMOVE_ITEM left "${file}")
+            endif()
+        endforeach()
+    endwhile()
+    set(${list} "${left}" PARENT_SCOPE)
+endfunction()
+
 file(GLOB_RECURSE files RELATIVE "${ROOT}/src" "${ROOT}/src/*.h" "${ROOT}/src/*.cpp" "${ROOT}/src/*.inc")
 foreach(file IN LISTS files)
     get_filename_component(folder "${file}" DIRECTORY)
@@ -78,10 +111,30 @@ foreach(file IN LISTS files)
         get_filename_component(target "${header}" DIRECTORY)
         if(mark STREQUAL "\"" OR target IN_LIST folders)
             check_own("${file}" "${folder}" "${header}")
+            note_use("${file}" "${folder}" "${header}")
         else()
             check_foreign("${file}" "${folder}" "${header}")
         endif()
     endforeach()
+endforeach()
+
+# What uses nothing that is left is in no circle, nor is what nothing that is left uses.
+foreach(folder IN LISTS CIRCLE_FREE)
+    set(circle ${files})
+    list(FILTER circle INCLUDE REGEX "^${folder}/[^/]*$")
+    list(TRANSFORM circle REPLACE "[.][a-z]+$" "")
+    list(REMOVE_DUPLICATES circle)
+    keep_related(circle uses)
+    foreach(file IN LISTS circle)
+        foreach(used IN LISTS uses_${file})
+            list(APPEND users_${used} "${file}")
+        endforeach()
+    endforeach()
+    keep_related(circle users)
+    if(circle)
+        list(JOIN circle ", " names)
+        offence("${names} include each other in a circle")
+    endif()
 endforeach()
 
 list(LENGTH files count)
