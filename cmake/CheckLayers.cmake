@@ -1,8 +1,8 @@
 # cmake -DROOT=... [-DTABLE=...] -P CheckLayers.cmake: checks every #include below ROOT/src against the layer table (the
-# project's own, or the file TABLE). No file on the left may include a header of the windowing libraries. No literal
-# number in framework/ may be the value of a constant in src/res/*.h, because that uses the resources without an
-# include. Prints each violation and then fails. A table with a cycle, or with a left row that uses a right one, fails
-# too.
+# project's own, or the file TABLE). No file on the left may include a header of the windowing libraries. Within a
+# layer, files must not include each other in a circle; a header and its source count as one file. No literal number in
+# framework/ may be the value of a constant in src/res/*.h, because that uses the resources without an include. Prints
+# each violation and then fails. A table with a cycle, or with a left row that uses a right one, fails too.
 cmake_minimum_required(VERSION 3.25)
 if(NOT DEFINED TABLE)
     set(TABLE "${CMAKE_CURRENT_LIST_DIR}/LayerTable.cmake")
@@ -88,6 +88,33 @@ macro(check_numbers file)
     endforeach()
 endmacro()
 
+# Layers form no cycles, so a circle lies within one layer: only includes from the file's own folder count.
+macro(note_use file folder header)
+    string(REGEX REPLACE "[.][a-z]+$" "" user "${file}")
+    string(REGEX REPLACE "[.][a-z]+$" "" used "${header}")
+    get_filename_component(usedFolder "${header}" DIRECTORY)
+    if("${folder}" STREQUAL "${usedFolder}" AND NOT user STREQUAL used)
+        list(APPEND uses_${user} "${used}")
+    endif()
+endmacro()
+
+# Leaves in `list` only those files of which a relation (uses_FILE or users_FILE) leads to another one in it.
+function(keep_related list relation)
+    set(left ${${list}})
+    set(before "(none yet)")
+    while(NOT "${left}" STREQUAL "${before}")
+        set(before "${left}")
+        foreach(file IN LISTS before)
+            set(unrelated ${left})
+            list(REMOVE_ITEM unrelated ${${relation}_${file}} ".")
+            if("${unrelated}" STREQUAL "${left}")
+                list(REMOVE_ITEM left "${file}")
+            endif()
+        endforeach()
+    endwhile()
+    set(${list} "${left}" PARENT_SCOPE)
+endfunction()
+
 file(GLOB_RECURSE files RELATIVE "${ROOT}/src" "${ROOT}/src/*.h" "${ROOT}/src/*.cpp" "${ROOT}/src/*.inc")
 foreach(file IN LISTS files)
     get_filename_component(folder "${file}" DIRECTORY)
@@ -109,10 +136,30 @@ foreach(file IN LISTS files)
         get_filename_component(target "${header}" DIRECTORY)
         if(mark STREQUAL "\"" OR target IN_LIST folders)
             check_own("${file}" "${folder}" "${header}")
+            note_use("${file}" "${folder}" "${header}")
         else()
             check_foreign("${file}" "${folder}" "${header}")
         endif()
     endforeach()
+endforeach()
+
+# What uses nothing that is left is in no circle, nor is what nothing that is left uses.
+foreach(folder IN LISTS folders)
+    set(circle ${files})
+    list(FILTER circle INCLUDE REGEX "^${folder}/[^/]*$")
+    list(TRANSFORM circle REPLACE "[.][a-z]+$" "")
+    list(REMOVE_DUPLICATES circle)
+    keep_related(circle uses)
+    foreach(file IN LISTS circle)
+        foreach(used IN LISTS uses_${file})
+            list(APPEND users_${used} "${file}")
+        endforeach()
+    endforeach()
+    keep_related(circle users)
+    if(circle)
+        list(JOIN circle ", " names)
+        violation("${names} include each other in a circle")
+    endif()
 endforeach()
 
 list(LENGTH files count)

@@ -1,8 +1,7 @@
 #include "builders/ModelBuilder.h"
-#include "framework/core/CArchive.h"
 #include "framework/core/DiskFile.h"
 #include "preview3d/MD2Document.h"
-#include "resources/streams/ArchiveStream.h"
+#include "resources/streams/ArchiveTransfer.h"
 
 #include <QTemporaryDir>
 
@@ -44,10 +43,8 @@ void ReadModel(benchmark::State& state) {
     const ModelFile& model = Largest();
     for (auto _ : state) {
         DiskFile file(model.path, CFile::modeRead);
-        CArchive archive(file, CArchive::load);
-        ArchiveStream stream(archive);
         MD2Document document;
-        document.ReadContents(stream);
+        ReadThroughArchive(file, [&](InputStream& in) { document.ReadContents(in); });
         benchmark::DoNotOptimize(document);
     }
 }

@@ -1,12 +1,9 @@
 #include "builders/PackBuilder.h"
-#include "formats/Codec.h"
-#include "framework/core/CArchive.h"
-#include "framework/core/CMemFile.h"
+#include "formats/TextureBytes.h"
 #include "framework/core/DiskFile.h"
 #include "image/picture/ColorList.h"
 #include "image/picture/DibSection.h"
 #include "image/picture/Texture.h"
-#include "resources/streams/ArchiveStream.h"
 
 #include <QTemporaryDir>
 
@@ -56,44 +53,32 @@ Texture MakePicture(int side, Color transparency) {
     return picture;
 }
 
-template <class Write>
-std::string Put(const std::string& name, Write write) {
-    const std::string path = PathTo(name);
-    CMemFile file;
-    CArchive archive(file, CArchive::store);
-    ArchiveStream out(archive);
-    write(out);
-    archive.Flush();
-    WriteFile(path, {file.Bytes().begin(), file.Bytes().end()});
-    return path;
+std::string Put(const std::string& name, const Bytes& bytes) {
+    WriteFile(PathTo(name), bytes);
+    return PathTo(name);
 }
 
 std::string PutPicture(const std::string& name, std::string_view documentClass, int side,
                        Color transparency = 0) {
-    return Put(name, [&](OutputStream& out) {
-        FindCodec(documentClass)->write(out, MakePicture(side, transparency), &Palette());
-    });
+    return Put(name, EncodeTexture(*FindCodec(documentClass), MakePicture(side, transparency), &Palette()));
 }
 
 std::string PutIndexedBitmap(const std::string& name) {
-    return Put(name, [](OutputStream& out) {
-        DibSection bitmap(largeSide, largeSide, 8);
-        bitmap.SetColorTable(0, Palette().Colors());
-        std::mt19937 random(3);
-        for (std::size_t i = 0; i < bitmap.GetImageSize(); ++i)
-            bitmap.GetBits()[i] = static_cast<std::uint8_t>(random());
-        bitmap.WriteStream(out, true);
-    });
+    return Put(name, WriteThroughArchive([](OutputStream& out) {
+                   DibSection bitmap(largeSide, largeSide, 8);
+                   bitmap.SetColorTable(0, Palette().Colors());
+                   std::mt19937 random(3);
+                   for (std::size_t i = 0; i < bitmap.GetImageSize(); ++i)
+                       bitmap.GetBits()[i] = static_cast<std::uint8_t>(random());
+                   bitmap.WriteStream(out, true);
+               }));
 }
 
 void Read(benchmark::State& state, const std::string& path, std::string_view documentClass) {
     const Codec& codec = *FindCodec(documentClass);
     for (auto _ : state) {
         DiskFile file(path, CFile::modeRead);
-        CArchive archive(file, CArchive::load);
-        ArchiveStream in(archive);
-        Texture texture;
-        codec.read(in, texture, &Palette());
+        const Texture texture = DecodeTexture(codec, file, &Palette());
         benchmark::DoNotOptimize(texture.Pixels().data());
     }
 }

@@ -11,11 +11,10 @@
 #include "image/ImageDocuments.h"
 #include "preview3d/MD2Document.h"
 #include "preview3d/MDLDocument.h"
-#include "resources/BrushDocument.h"
-#include "resources/BuiltInPalettes.h"
-#include "resources/ColorSpaceDocument.h"
+#include "resources/Brush.h"
+#include "resources/BuiltInFiles.h"
 #include "resources/DocTemplateRegistry.h"
-#include "resources/LMPDocument.h"
+#include "resources/PaletteDocument.h"
 #include "resources/streams/ArchiveStream.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 #include "ReadingStream.h"
 
 #include "app/HeadlessApplication.h"
-#include "formats/Codec.h"
-#include "resources/BuiltInPalettes.h"
+#include "formats/TextureBytes.h"
+#include "resources/BuiltInFiles.h"
 
 namespace keltavlo {
 
@@ -12,12 +12,7 @@ void NeedApplication() {
 
 Bytes EncodePicture(std::string_view documentClass, const Texture& texture) {
     NeedApplication();
-    CMemFile file;
-    CArchive archive(file, CArchive::store);
-    ArchiveStream stream(archive);
-    FindCodec(documentClass)->write(stream, texture, &GetQuakeIIPalette());
-    archive.Flush();
-    return {file.Bytes().begin(), file.Bytes().end()};
+    return EncodeTexture(*FindCodec(documentClass), texture, &GetQuakeIIPalette());
 }
 
 Texture MakePicture() {

@@ -1,10 +1,9 @@
 #pragma once
 
 #include "Readers.h"
-#include "framework/core/CMemFile.h"
 #include "image/picture/ColorList.h"
 #include "image/picture/Texture.h"
-#include "resources/streams/ArchiveStream.h"
+#include "resources/streams/ArchiveTransfer.h"
 #include "resources/streams/FileStream.h"
 
 namespace keltavlo {
@@ -59,9 +58,7 @@ Outcome WithStream(ByteSpan bytes, Buffering buffering, Action action) {
     Digest digest;
     try {
         if (buffering == Buffering::whole) {
-            CArchive archive(file, CArchive::load);
-            ArchiveStream stream(archive);
-            action(stream, digest);
+            ReadThroughArchive(file, [&](InputStream& in) { action(in, digest); });
         } else {
             FileStream stream(file);
             action(stream, digest);

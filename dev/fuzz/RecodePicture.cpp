@@ -1,7 +1,7 @@
 #include "ReadingStream.h"
 #include "Scripts.h"
-#include "formats/Codec.h"
-#include "resources/BuiltInPalettes.h"
+#include "formats/TextureBytes.h"
+#include "resources/BuiltInFiles.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -13,18 +13,10 @@ namespace {
 constexpr std::size_t largestPicture = 65536; // pixels; larger ones take too long
 constexpr std::size_t fullPalette = 256;
 
-Texture Decode(const Codec& codec, InputStream& in) {
-    Texture texture;
-    codec.read(in, texture, &GetQuakeIIPalette());
-    return texture;
-}
-
 Texture DecodeOwn(const Codec& codec, Bytes bytes) {
     CMemFile file{std::span<std::byte>(bytes)};
-    CArchive archive(file, CArchive::load);
-    ArchiveStream stream(archive);
     try {
-        return Decode(codec, stream);
+        return DecodeTexture(codec, file, &GetQuakeIIPalette());
     } catch (const CException&) {
         throw std::logic_error("what was written is not read");
     }
@@ -61,7 +53,8 @@ std::optional<std::size_t> RecodePicture(std::span<const std::byte> bytes, Buffe
     if (bytes.empty()) return std::nullopt;
     const Codec& codec = Codecs()[std::to_integer<std::size_t>(bytes[0]) % Codecs().size()];
     return WithStream(bytes.subspan(1), buffering, [&](InputStream& in, Digest& digest) {
-        const Texture texture = Decode(codec, in);
+        Texture texture;
+        codec.read(in, texture, &GetQuakeIIPalette());
         digest.Add(texture);
         // A shorter palette is written unchanged, and readers cannot recognize it at the end of a file.
         const bool shortPalette = texture.palette && texture.palette->GetCount() < fullPalette;

@@ -3,10 +3,8 @@
 #include "UrnSkin.h"
 #include "app/HeadlessApplication.h"
 #include "builders/PackBuilder.h"
-#include "formats/Codec.h"
-#include "framework/core/CMemFile.h"
-#include "resources/BuiltInPalettes.h"
-#include "resources/streams/ArchiveStream.h"
+#include "formats/TextureBytes.h"
+#include "resources/BuiltInFiles.h"
 
 #include <cstdio>
 
@@ -15,12 +13,7 @@ using namespace keltavlo;
 namespace {
 
 Bytes Encode(const Texture& texture, std::string_view documentClass) {
-    CMemFile file;
-    CArchive archive(file, CArchive::store);
-    ArchiveStream out(archive);
-    FindCodec(documentClass)->write(out, texture, &GetQuakeIIPalette());
-    archive.Flush();
-    return {file.Bytes().begin(), file.Bytes().end()};
+    return EncodeTexture(*FindCodec(documentClass), texture, &GetQuakeIIPalette());
 }
 
 Bytes BuildPack() {

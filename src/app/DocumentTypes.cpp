@@ -9,9 +9,8 @@
 #include "preview3d/MDLDocument.h"
 #include "res/Menus.h"
 #include "res/StringIds.h"
-#include "resources/BrushDocument.h"
-#include "resources/ColorSpaceDocument.h"
-#include "resources/LMPDocument.h"
+#include "resources/Brush.h"
+#include "resources/PaletteDocument.h"
 
 namespace keltavlo {
 

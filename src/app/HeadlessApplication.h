@@ -13,11 +13,18 @@ namespace keltavlo {
 class HeadlessApplication : public CWinApp, public UserInterface {
 public:
     // `show` receives each message for the user.
-    explicit HeadlessApplication(std::function<void(const std::string&)> show);
-    ~HeadlessApplication() override;
+    explicit HeadlessApplication(std::function<void(const std::string&)> show)
+        : CWinApp(ProfileStore()), showMessage(std::move(show)), workshop(*this) {}
+    // Documents need the workshop until they are gone.
+    ~HeadlessApplication() override { CloseAllDocuments(); }
 
     void ShowMessage(const std::string& text) override { showMessage(text); }
-    void ReportMemoryShortage() noexcept override;
+    void ReportMemoryShortage() noexcept override {
+        try {
+            showMessage(memoryMessage);
+        } catch (const std::bad_alloc&) { // the receiver lacks memory too
+        }
+    }
     SaveAnswer AskToSave(const std::string&) override { return saveAnswer; }
     std::optional<std::string> PromptFileName(const FileNameQuestion&) override { return fileName; }
     const CDocTemplate* PromptNewType() override { return newType; }

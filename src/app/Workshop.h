@@ -1,18 +1,23 @@
 #pragma once
 
+#include "app/BuiltInFileRows.h"
+#include "app/DocumentTypes.h"
 #include "archives/FileSystem.h"
+#include "res/DocumentStrings.h"
 #include "resources/DocTemplateRegistry.h"
 
 namespace keltavlo {
-
-class CWinApp;
 
 // What the program is without its windows: the service that resolves paths, the registry of document types,
 // and the tables of strings and built-in files. Make one beside the application and keep it for as long as
 // documents are open.
 class Workshop {
 public:
-    explicit Workshop(CWinApp& application);
+    explicit Workshop(CWinApp& application) {
+        AddStrings(DocumentStrings());
+        AddEmbeddedFiles(BuiltInFileRows());
+        RegisterDocumentTypes(application);
+    }
 
     FileSystem& GetFileSystem() { return fileSystem; }
 

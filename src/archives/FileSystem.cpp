@@ -2,7 +2,8 @@
 
 #include "archives/FolderDocument.h"
 #include "framework/core/CDocTemplate.h"
-#include "framework/core/Path.h"
+#include "framework/core/FileFailure.h"
+#include "framework/core/ReplacingFile.h"
 #include "resources/DocTemplateRegistry.h"
 
 namespace keltavlo {
@@ -47,6 +48,13 @@ FolderDocument* FindDiskArchive(const std::string& path) {
     return nullptr;
 }
 
+// Null for the archive means the disk.
+std::unique_ptr<CFile> OpenIn(FolderDocument* archive, const std::string& path, unsigned flags,
+                              CFileException* failure) {
+    if (archive) return archive->OpenEntry(path, flags, failure);
+    return FileOrNull(failure, [&] { return OpenDiskFile(path, flags); });
+}
+
 } // namespace
 
 FolderDocument* FileSystem::FindArchive(const std::string& path) const {
@@ -68,7 +76,7 @@ void FileSystem::GetStatus(const std::string& path, EntryStatus& status) {
         status = {true,         false,         true,         disk.fullName, disk.size, disk.attributes,
                   disk.created, disk.accessed, disk.modified};
     }
-    const bool isFile = status.exists && !(status.attributes & CFileStatus::directoryAttribute);
+    const bool isFile = status.exists && !status.IsDirectory();
     // Only a file of the disk can be the program; asking the disk about each entry would slow listings.
     const std::string name = status.onDisk ? status.fullName : std::string(FileNameOf(status.fullName));
     if (isFile && IsFolderType(name)) status.browsable = true;
@@ -76,8 +84,15 @@ void FileSystem::GetStatus(const std::string& path, EntryStatus& status) {
 
 std::unique_ptr<CFile> FileSystem::OpenFile(const std::string& path, unsigned flags,
                                             CFileException* failure) {
-    if (FolderDocument* archive = FindArchive(path)) return archive->OpenEntry(path, flags, failure);
-    return OpenDiskFile(path, flags, failure);
+    return OpenIn(FindArchive(path), path, flags, failure);
+}
+
+std::optional<std::unique_ptr<CFile>> FileSystem::OpenExisting(const std::string& path, unsigned flags,
+                                                               CFileException* failure) {
+    CFileStatus status;
+    FolderDocument* archive = FindArchive(path);
+    const bool exists = archive ? archive->FindEntry(path) != nullptr : CFile::GetStatus(path, status);
+    return exists ? std::optional(OpenIn(archive, path, flags, failure)) : std::nullopt;
 }
 
 void FileSystem::ListFolder(const std::string& path, FolderListing& listing) {

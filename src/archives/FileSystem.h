@@ -18,6 +18,8 @@ public:
     void GetStatus(const std::string& path, EntryStatus& status) override;
     std::unique_ptr<CFile> OpenFile(const std::string& path, unsigned flags,
                                     CFileException* failure) override;
+    std::optional<std::unique_ptr<CFile>> OpenExisting(const std::string& path, unsigned flags,
+                                                       CFileException* failure) override;
     // Names in an archive's folder; none for folders of the disk and for what is no folder.
     void ListFolder(const std::string& path, FolderListing& listing);
 };

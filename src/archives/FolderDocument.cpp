@@ -44,7 +44,7 @@ void FolderDocument::GetEntryStatus(const std::string& path, EntryStatus& status
     if (!entry) return;
     entry->GetStatus(status);
     status.fullName = path;
-    if (status.attributes & CFileStatus::directoryAttribute) return;
+    if (status.IsDirectory()) return;
     while (IsSeparator(status.fullName.back())) status.fullName.pop_back();
 }
 

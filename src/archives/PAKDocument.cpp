@@ -28,7 +28,7 @@ std::vector<PAKRecord> ReadDirectory(InputStream& in) {
     const std::size_t count = header.directoryLength / sizeof(PAKRecord);
     if (count > maximumRecordCount) in.Fail(StreamError::badIndex);
     in.Seek(header.directoryOffset);
-    if (header.directoryLength > in.GetRemaining()) throw CArchiveException(CArchiveException::endOfFile);
+    if (header.directoryLength > in.GetRemaining()) in.FailUnnamed(StreamError::endOfFile);
     std::vector<PAKRecord> records(count);
     in.Read(records.data(), header.directoryLength);
     return records;
@@ -45,7 +45,7 @@ void PAKDocument::ReadContents(InputStream& in) {
     const std::vector<PAKRecord> records = ReadDirectory(in);
     const std::uint64_t fileLength = in.GetLength();
     for (const PAKRecord& record : records) {
-        if (!IsBacked(record, fileLength)) throw CArchiveException(CArchiveException::endOfFile);
+        if (!IsBacked(record, fileLength)) in.FailUnnamed(StreamError::endOfFile);
         AddNamedEntry(record.GetPath(), std::make_unique<PAKEntry>(record));
     }
 }

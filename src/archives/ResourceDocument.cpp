@@ -1,12 +1,48 @@
 #include "archives/ResourceDocument.h"
 
-#include "archives/ResourceEntry.h"
+#include "archives/EntryFile.h"
+#include "framework/core/EmbeddedFiles.h"
 #include "framework/core/ModulePath.h"
-#include "framework/core/ProgramResources.h"
-#include "resources/BuiltInPath.h"
+#include "resources/BuiltInFiles.h"
 #include "resources/streams/OutputStream.h"
 
 namespace keltavlo {
+
+namespace {
+
+// A file inside the program; its bytes live as long as the process.
+class ResourceEntry final : public Entry {
+public:
+    ResourceEntry(std::string fileName, std::span<const std::byte> bytes)
+        : name(std::move(fileName)), data(bytes) {}
+
+    std::string GetName() const override { return name; }
+
+    void GetStatus(EntryStatus& status) const override {
+        status = {};
+        status.exists = true;
+        status.onDisk = false;
+        status.size = data.size();
+        status.attributes = CFileStatus::readOnlyAttribute | CFileStatus::hiddenAttribute;
+    }
+
+    // accessDenied when the flags ask for writing.
+    std::unique_ptr<CFile> OpenEntry(unsigned flags, CFileException* failure, FolderDocument&) override {
+        if (flags & (CFile::modeWrite | CFile::modeReadWrite)) {
+            if (failure) *failure = CFileException(CFileException::accessDenied, 0, name);
+            return nullptr;
+        }
+        const auto bytes = std::make_shared<EntryBytes>(data.begin(), data.end());
+        return std::make_unique<EntryFile>(
+            bytes, data.size(), [] {}, bytes);
+    }
+
+private:
+    std::string name;
+    std::span<const std::byte> data;
+};
+
+} // namespace
 
 bool ResourceDocument::OnDocumentReady() {
     if (!BaseDocument::OnDocumentReady()) return false;
@@ -15,12 +51,12 @@ bool ResourceDocument::OnDocumentReady() {
     SetRootName(GetTransferPath().empty() ? GetModulePath() : GetTransferPath());
     if (!IsModulePath(GetRootName())) return true;
     const std::string folder = JoinPath(GetRootName(), builtInFolder);
-    for (const unsigned id : EnumResources(builtInNameType)) {
+    for (const unsigned id : EmbeddedFileIds(builtInNameType)) {
         const std::string name = GetBuiltInName(id);
         const std::string_view extension = ExtensionOf(name);
         // A name without bytes would be a file that cannot be opened: it is left out.
-        const ResourceRow* row = extension.empty() ? nullptr : FindResource(id, extension.substr(1));
-        if (row) AddEntry(JoinPath(folder, name), std::make_unique<ResourceEntry>(name, row->data));
+        const EmbeddedFile* file = extension.empty() ? nullptr : FindEmbeddedFile(id, extension.substr(1));
+        if (file) AddEntry(JoinPath(folder, name), std::make_unique<ResourceEntry>(name, file->data));
     }
     return true;
 }

@@ -1,6 +1,7 @@
 #include "archives/StoredEntry.h"
 
 #include "archives/FolderDocument.h"
+#include "framework/core/FileFailure.h"
 
 namespace keltavlo {
 
@@ -21,21 +22,20 @@ void StoredEntry::GetStatus(EntryStatus& status) const {
 }
 
 std::unique_ptr<CFile> StoredEntry::OpenEntry(unsigned, CFileException* failure, FolderDocument& owner) {
-    try {
-        const std::shared_ptr<EntryBytes> bytes = Load(owner);
-        // The owner exists for as long as its entry.
-        const auto noteWrite = [life = std::weak_ptr(use), weak = std::weak_ptr(bytes), &owner,
-                                path = owner.GetRootName()] {
-            const std::shared_ptr<Use> entry = life.lock();
-            if (!entry) FolderDocument::ThrowChanged(path);
-            entry->changed = weak.lock();
-            owner.SetModifiedFlag();
-        };
-        return std::make_unique<EntryFile>(bytes, GetExtent().length, noteWrite, use);
-    } catch (const CFileException& exception) {
-        if (failure) *failure = exception;
-        return nullptr;
-    }
+    return FileOrNull(failure, [&] { return MakeFile(owner); });
+}
+
+std::unique_ptr<CFile> StoredEntry::MakeFile(FolderDocument& owner) {
+    const std::shared_ptr<EntryBytes> bytes = Load(owner);
+    // The owner exists for as long as its entry.
+    const auto noteWrite = [life = std::weak_ptr(use), weak = std::weak_ptr(bytes), &owner,
+                            path = owner.GetRootName()] {
+        const std::shared_ptr<Use> entry = life.lock();
+        if (!entry) FolderDocument::ThrowChanged(path);
+        entry->changed = weak.lock();
+        owner.SetModifiedFlag();
+    };
+    return std::make_unique<EntryFile>(bytes, GetExtent().length, noteWrite, use);
 }
 
 std::shared_ptr<EntryBytes> StoredEntry::Load(FolderDocument& owner) {

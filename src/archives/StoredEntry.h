@@ -23,6 +23,7 @@ protected:
     virtual Extent GetExtent() const = 0;
 
 private:
+    std::unique_ptr<CFile> MakeFile(FolderDocument& owner);
     std::shared_ptr<EntryBytes> Load(FolderDocument& owner);
 
     struct Use {

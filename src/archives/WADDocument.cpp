@@ -1,7 +1,9 @@
 #include "archives/WADDocument.h"
 
 #include "archives/ProgressMeter.h"
-#include "archives/WADEntry.h"
+#include "archives/StoredEntry.h"
+#include "framework/core/CWinApp.h"
+#include "framework/core/Text.h"
 #include "res/StringIds.h"
 #include "resources/streams/OutputStream.h"
 
@@ -17,6 +19,59 @@ struct Header {
     std::uint32_t directoryOffset; // bytes from the start of the file
 };
 static_assert(sizeof(Header) == 12);
+
+// A record of a WAD file's directory, as it lies in the file; little-endian.
+struct WADRecord {
+    std::uint32_t offset;   // bytes from the start of the file
+    std::uint32_t diskSize; // bytes that the lump takes in the file
+    std::uint32_t size;     // bytes of its data
+    std::uint8_t type;
+    std::uint8_t compression; // never looked at
+    std::uint8_t padding[2];
+    char name[16]; // ended by a NUL when shorter
+
+    std::string_view GetPath() const { return UpToNul({name, sizeof name}); }
+    // False when the name has no folder. Looks at the whole field and not for its end: one step for all 16
+    // characters, of which large files have tens of thousands.
+    bool MayHaveFolder() const {
+        unsigned found = 0;
+        for (const char c : name) found |= unsigned{c == '/'} | unsigned{c == '\\'} | unsigned{c == ':'};
+        return found != 0;
+    }
+};
+static_assert(sizeof(WADRecord) == 32);
+
+constexpr struct {
+    std::uint8_t lumpType;
+    std::string_view documentClass; // by name: pictures are documents of a higher layer
+} kinds[] = {{64, "LMPDocument"}, {67, "MIPDocument"}, {68, "MIPDocument"}};
+
+std::string ExtensionOfClass(std::string_view className) {
+    for (const CDocTemplate* type : CWinApp::Get().GetTemplates())
+        if (type->GetDocumentClass().name == className) return type->GetDocString(CDocTemplate::filterExt);
+    return {};
+}
+
+// A lump, its bytes as they lie in the file, cut or filled with zeros to the size that the record claims.
+class WADEntry final : public StoredEntry {
+public:
+    explicit WADEntry(const WADRecord& directoryRecord) : record(directoryRecord) {}
+    // The name with the extension of the document type that opens lumps of this kind.
+    std::string GetName() const override {
+        std::string name(FileNameOf(record.GetPath()));
+        for (const auto& [lumpType, documentClass] : kinds)
+            if (lumpType == record.type) return name + ExtensionOfClass(documentClass);
+        return name;
+    }
+
+protected:
+    Extent GetExtent() const override {
+        return {record.offset, std::min(record.diskSize, record.size), record.size};
+    }
+
+private:
+    WADRecord record;
+};
 
 constexpr std::string_view identifications[] = {"WAD2", "WAD3"};
 

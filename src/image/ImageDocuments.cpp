@@ -1,6 +1,6 @@
 #include "image/ImageDocuments.h"
 
-#include "resources/BuiltInPath.h"
+#include "resources/BuiltInFiles.h"
 
 namespace keltavlo {
 

@@ -5,13 +5,17 @@
 #include "res/CommandIds.h"
 #include "resources/DocTemplateRegistry.h"
 #include "resources/FileSource.h"
-#include "resources/ForeignFile.h"
 #include "resources/Shell.h"
 #include "resources/streams/ArchiveStream.h"
+
+#include <array>
+#include <string_view>
 
 namespace keltavlo {
 
 namespace {
+
+using namespace std::string_view_literals;
 
 // Sets a path for as long as it lives.
 class TransferScope {
@@ -25,14 +29,37 @@ private:
     std::string& target;
 };
 
-} // namespace
+struct ForeignKind {
+    std::string_view start;
+    const char* refusal;
+};
 
-void BaseDocument::WriteContents(OutputStream&) {
-    throw CArchiveException(CArchiveException::badClass, {}, CannotBeWritten(GetRuntimeClass()));
+constexpr ForeignKind foreignKinds[] = {
+    {"\x89PNG\r\n\x1A\n"sv, "This is a PNG picture, which is not supported."},
+    // Identifier and version of the first game's models.
+    {"IDPO\x06\0\0\0"sv, "This is a Quake model (IDPO), which is not supported."},
+};
+
+// A sentence that names the kind of a file that no document type reads, recognized by its first bytes; empty
+// for any other file. Moves the stream.
+std::string DescribeForeignFile(InputStream& in) {
+    std::array<char, 8> start{};
+    if (in.GetLength() < start.size()) return {};
+    in.Seek(0);
+    in.Read(start.data(), start.size());
+    for (const ForeignKind& kind : foreignKinds)
+        if (std::string_view(start.data(), start.size()) == kind.start) return kind.refusal;
+    return {};
 }
 
-void BaseDocument::ReadContents(InputStream&) {
-    throw CArchiveException(CArchiveException::badClass);
+} // namespace
+
+void BaseDocument::WriteContents(OutputStream& out) {
+    out.FailUnnamed(StreamError::badClass, CannotBeWritten(GetRuntimeClass()));
+}
+
+void BaseDocument::ReadContents(InputStream& in) {
+    in.FailUnnamed(StreamError::badClass);
 }
 
 void BaseDocument::OnActivateDocument(bool activate, BaseDocument* activated, BaseDocument*) {
@@ -58,10 +85,8 @@ bool BaseDocument::OnSaveDocument(const std::string& path) {
 
 std::unique_ptr<CFile> BaseDocument::GetFile(const std::string& path, unsigned flags,
                                              CFileException* failure) {
-    FileSource& source = FileSource::Get();
-    EntryStatus status;
-    source.GetStatus(path, status);
-    return status.exists ? source.OpenFile(path, flags, failure) : CDocument::GetFile(path, flags, failure);
+    auto existing = FileSource::Get().OpenExisting(path, flags, failure);
+    return existing ? std::move(*existing) : CDocument::GetFile(path, flags, failure);
 }
 
 void BaseDocument::SetTitle(const std::string& newTitle) {
@@ -86,7 +111,7 @@ bool BaseDocument::DoFileSaveAs() {
 }
 
 BaseDocument* BaseDocument::OpenReference(const std::string& path) {
-    return DocTemplateRegistry::Get().OpenDocument(path);
+    return dynamic_cast<BaseDocument*>(DocTemplateRegistry::Get().OpenDocument(path));
 }
 
 // References do not keep a document open: it stays until the program ends.

@@ -1,6 +1,8 @@
 #include "resources/Brush.h"
 
 #include "resources/Shell.h"
+#include "resources/streams/OutputStream.h"
+#include "resources/streams/TaggedFile.h"
 
 namespace keltavlo {
 
@@ -39,6 +41,21 @@ std::unique_ptr<Brush> Brush::Make(std::uint32_t kind) {
     default:
         return nullptr;
     }
+}
+
+void BrushDocument::Apply(BrushTarget& target, TexelPoint point, int strength, TexelPoint second) {
+    if (brush) brush->Apply(target, point, strength, second);
+}
+
+void BrushDocument::ReadContents(InputStream& in) {
+    const TaggedContents contents = ReadTaggedContents(in, tagged::brushType);
+    fixedTitle = contents.title;
+    brush = Brush::Make(contents.id);
+    if (!brush && contents.id != 0) in.FailUnnamed(StreamError::badSchema);
+}
+
+void BrushDocument::WriteContents(OutputStream& out) {
+    out.FailUnnamed(StreamError::generic);
 }
 
 } // namespace keltavlo

@@ -2,11 +2,9 @@
 
 #include "framework/core/CDocTemplate.h"
 #include "framework/core/CWinApp.h"
-#include "framework/core/ModulePath.h"
 #include "framework/core/StringTable.h"
 #include "framework/core/Text.h"
 #include "res/StringIds.h"
-#include "resources/BaseDocument.h"
 
 #include <algorithm>
 
@@ -51,8 +49,8 @@ bool DocTemplateRegistry::KnowsName(const std::string& name) const {
     return type && EqualNoCase(GetFilterExtension(*type), TypeExtensionOf(name));
 }
 
-BaseDocument* DocTemplateRegistry::OpenDocument(const std::string& path) const {
-    return dynamic_cast<BaseDocument*>(CWinApp::Get().OpenDocumentFile(path));
+CDocument* DocTemplateRegistry::OpenDocument(const std::string& path) const {
+    return CWinApp::Get().OpenDocumentFile(path);
 }
 
 std::string CannotBeWritten(const CRuntimeClass& documentClass) {

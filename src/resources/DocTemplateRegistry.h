@@ -6,8 +6,8 @@
 
 namespace keltavlo {
 
-class BaseDocument;
 class CDocTemplate;
+class CDocument;
 struct CRuntimeClass;
 
 // Finds the document type of a class or a path among the application's types, and opens documents by path. It
@@ -27,7 +27,7 @@ public:
     // Whether a type has the name's extension.
     bool KnowsName(const std::string& name) const;
     // The document open under the path, or the file read into a new one; null when that failed.
-    BaseDocument* OpenDocument(const std::string& path) const;
+    CDocument* OpenDocument(const std::string& path) const;
 };
 
 // The sentence that says that files of the class's type cannot be written.

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace keltavlo {
@@ -18,6 +19,8 @@ struct EntryStatus {
     std::uint64_t size = 0;       // bytes
     std::uint32_t attributes = 0; // as in CFileStatus
     CTime created, accessed, modified;
+
+    bool IsDirectory() const { return (attributes & CFileStatus::directoryAttribute) != 0; }
 };
 
 // Where documents get their files: the disk, and archives as if they were folders.
@@ -28,6 +31,9 @@ public:
     // Null on failure, with `*failure` filled when it is given. Flags: CFile::OpenFlags.
     virtual std::unique_ptr<CFile> OpenFile(const std::string& path, unsigned flags,
                                             CFileException* failure) = 0;
+    // What OpenFile returns for a path where something is; nothing for any other path.
+    virtual std::optional<std::unique_ptr<CFile>> OpenExisting(const std::string& path, unsigned flags,
+                                                               CFileException* failure) = 0;
 };
 
 } // namespace keltavlo

@@ -1,5 +1,6 @@
 #include "resources/MenuItemList.h"
 
+#include "framework/core/CWinApp.h"
 #include "framework/core/MenuItems.h"
 #include "framework/core/StringTable.h"
 #include "framework/core/Text.h"
@@ -85,6 +86,19 @@ void MenuItemList::SetTexts(MenuItems& menu) const {
 
 std::string MenuItemList::GetMessageString(CommandId) const {
     return std::string(Field(LoadString(placeholderId), '\n', 0));
+}
+
+void DocumentMenuList::Update(MenuItems& menu, BaseDocument* activeDocument) {
+    SetCount(0);
+    std::size_t count = 0;
+    for (CDocument* document : CWinApp::Get().GetDocuments())
+        if (document->IsKindOf(documentClass)) SetItem(count++, document);
+    MenuItemList::Update(menu, activeDocument);
+}
+
+std::string DocumentMenuList::GetItemText(CommandId id) const {
+    const auto* document = dynamic_cast<const CDocument*>(GetItem(id));
+    return document ? MenuText(document->GetTitle()) : std::string();
 }
 
 } // namespace keltavlo

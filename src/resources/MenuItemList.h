@@ -11,6 +11,7 @@ namespace keltavlo {
 class BaseDocument;
 class CObject;
 class MenuItems;
+struct CRuntimeClass;
 
 // A run of menu items that changes while the program runs: one item for each entry of the list, or "(None)".
 // A menu holds a placeholder until its first update, which puts the run in its place. Every list that was
@@ -55,6 +56,18 @@ private:
     CommandId endId = 0;
     CommandId limitId = 0;
     std::vector<CObject*> items; // entry i has the id firstId + i
+};
+
+// The open documents of a class and of those derived from it, by their titles.
+class DocumentMenuList final : public MenuItemList {
+public:
+    explicit DocumentMenuList(const CRuntimeClass& listedClass) : documentClass(listedClass) {}
+
+    void Update(MenuItems& menu, BaseDocument* activeDocument) override;
+    std::string GetItemText(CommandId id) const override;
+
+private:
+    const CRuntimeClass& documentClass;
 };
 
 } // namespace keltavlo

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/core/Path.h"
 #include "resources/BaseDocument.h"
 
 namespace keltavlo {
@@ -8,7 +9,10 @@ namespace keltavlo {
 // title.
 class ReferenceDocument : public Dynamic<"ReferenceDocument", ReferenceDocument, BaseDocument> {
 public:
-    void SetPathName(const std::string& path, bool addToRecentFiles = true) override;
+    void SetPathName(const std::string& path, bool = true) override {
+        BaseDocument::SetPathName(path, false);
+        SetTitle(fixedTitle.empty() ? std::string(BaseNameOf(path)) : fixedTitle);
+    }
 
 protected:
     std::string fixedTitle; // shown instead of the file name unless empty

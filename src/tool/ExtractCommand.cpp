@@ -1,10 +1,8 @@
-#include "formats/Codec.h"
-#include "framework/core/CMemFile.h"
+#include "formats/TextureBytes.h"
+#include "framework/core/FileFailure.h"
 #include "framework/core/Path.h"
 #include "framework/core/Text.h"
-#include "image/picture/Texture.h"
 #include "preview3d/MDLDocument.h"
-#include "resources/streams/ArchiveStream.h"
 #include "tool/OutputPlace.h"
 #include "tool/Tool.h"
 #include "tool/ToolCommands.h"
@@ -14,18 +12,12 @@ namespace keltavlo {
 
 namespace {
 
-std::vector<std::byte> ReadAll(Tool& tool, const std::string& path) {
-    CFileException failure;
-    const auto file = tool.GetApplication().GetFileSystem().OpenFile(path, CFile::modeRead, &failure);
-    if (!file) throw CFileException(failure);
-    std::vector<std::byte> bytes(file->GetLength());
-    bytes.resize(file->Read(bytes.data(), bytes.size()));
-    return bytes;
-}
-
 void ExtractFile(Tool& tool, const std::string& path, const std::string& target, OutputPlace& outputs) {
     try {
-        outputs.Write(target, ReadAll(tool, path));
+        const auto file = FileOrThrow([&](CFileException* failure) {
+            return tool.GetApplication().GetFileSystem().OpenFile(path, CFile::modeRead, failure);
+        });
+        outputs.Write(target, ReadAll(*file));
     } catch (const std::exception& failure) {
         tool.Fail(DescribeFailure(Direction::opening, path, failure));
     }
@@ -34,12 +26,7 @@ void ExtractFile(Tool& tool, const std::string& path, const std::string& target,
 std::vector<std::byte> ToTarga(const Image& picture) {
     Texture texture;
     static_cast<Image&>(texture) = picture;
-    CMemFile file;
-    CArchive archive(file, CArchive::store);
-    ArchiveStream out(archive);
-    FindCodec("TGADocument")->write(out, texture, nullptr);
-    archive.Flush();
-    return {file.Bytes().begin(), file.Bytes().end()};
+    return EncodeTexture(*FindCodec("TGADocument"), texture, nullptr);
 }
 
 // Writes each texture that the model carries, numbered from 1: the file does not say which names are theirs

@@ -2,7 +2,6 @@
 
 #include "archives/FolderDocument.h"
 #include "framework/core/CDocTemplate.h"
-#include "framework/core/ModulePath.h"
 #include "framework/core/Path.h"
 #include "framework/core/Text.h"
 #include "resources/DocTemplateRegistry.h"
@@ -18,10 +17,6 @@ namespace keltavlo {
 namespace {
 
 namespace fs = std::filesystem;
-
-bool IsFolder(const EntryStatus& status) {
-    return (status.attributes & CFileStatus::directoryAttribute) != 0;
-}
 
 // A component that stays where it is put: no way up, no separator, nothing hidden behind a NUL.
 bool StaysInside(const std::string& component) {
@@ -104,7 +99,7 @@ private:
                       prefix + newName + "\".");
         EntryStatus status;
         tool.GetApplication().GetFileSystem().GetStatus(path, status);
-        if (IsFolder(status)) return Walk(path, prefix + newName + "/", status);
+        if (status.IsDirectory()) return Walk(path, prefix + newName + "/", status);
         outputs.AddInput(path);
         found.push_back({path, prefix + newName});
     }
@@ -121,7 +116,7 @@ std::string TreePath(const std::string& argument) {
 }
 
 bool IsTree(const EntryStatus& status) {
-    return status.exists && (status.browsable || IsFolder(status));
+    return status.exists && (status.browsable || status.IsDirectory());
 }
 
 std::vector<TreeFile> ListTree(Tool& tool, const std::string& tree, OutputPlace& outputs) {

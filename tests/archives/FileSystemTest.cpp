@@ -3,7 +3,7 @@
 #include "framework/core/ModulePath.h"
 #include "framework/core/Path.h"
 #include "image/ImageDocuments.h"
-#include "resources/BuiltInPath.h"
+#include "resources/BuiltInFiles.h"
 #include "support/CauseOf.h"
 #include "support/TestApplication.h"
 

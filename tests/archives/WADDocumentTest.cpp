@@ -2,7 +2,7 @@
 
 #include "builders/WadBuilder.h"
 #include "image/ImageDocuments.h"
-#include "resources/LMPDocument.h"
+#include "resources/PaletteDocument.h"
 #include "support/FakeProgress.h"
 #include "support/TestApplication.h"
 

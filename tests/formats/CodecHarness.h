@@ -1,11 +1,8 @@
 #pragma once
 
 #include "builders/PackBuilder.h"
-#include "formats/Codec.h"
-#include "framework/core/CMemFile.h"
+#include "formats/TextureBytes.h"
 #include "image/picture/ColorList.h"
-#include "image/picture/Texture.h"
-#include "resources/streams/ArchiveStream.h"
 #include "support/CauseOf.h"
 
 #include <algorithm>
@@ -35,20 +32,10 @@ public:
     Texture Read(Bytes bytes, Texture texture = Texture()) const {
         bytes.shrink_to_fit(); // so that a reader past the end is noticed
         CMemFile file(bytes);
-        CArchive archive(file, CArchive::load);
-        ArchiveStream in(archive);
-        codec.read(in, texture, &Palette());
-        return texture;
+        return DecodeTexture(codec, file, &Palette(), std::move(texture));
     }
 
-    Bytes Write(const Texture& texture) const {
-        CMemFile file;
-        CArchive archive(file, CArchive::store);
-        ArchiveStream out(archive);
-        codec.write(out, texture, &Palette());
-        archive.Flush();
-        return {file.Bytes().begin(), file.Bytes().end()};
-    }
+    Bytes Write(const Texture& texture) const { return EncodeTexture(codec, texture, &Palette()); }
 
     // The CArchiveException::Cause, -1 for none.
     int ReadFailure(const Bytes& bytes, const Texture& texture = Texture()) const {

@@ -3,7 +3,7 @@
 #include "image/ImageDocuments.h"
 #include "image/TextureEdits.h"
 #include "res/CommandIds.h"
-#include "resources/BrushDocument.h"
+#include "resources/Brush.h"
 #include "support/FakeShell.h"
 #include "support/TestApplication.h"
 

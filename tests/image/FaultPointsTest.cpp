@@ -1,5 +1,5 @@
 #include "formats/CodecHarness.h"
-#include "framework/core/ReplacingFile.h"
+#include "framework/core/SaveJournal.h"
 #include "image/ImageDocuments.h"
 #include "support/Fault.h"
 #include "support/TestApplication.h"

@@ -1,10 +1,10 @@
 #include "formats/CodecHarness.h"
 #include "image/ImageDocuments.h"
 #include "res/CommandIds.h"
-#include "resources/BrushDocument.h"
-#include "resources/BuiltInPalettes.h"
-#include "resources/ColorTableDocument.h"
-#include "resources/DocumentMenuList.h"
+#include "resources/Brush.h"
+#include "resources/BuiltInFiles.h"
+#include "resources/MenuItemList.h"
+#include "resources/PaletteDocument.h"
 #include "support/TestApplication.h"
 
 namespace keltavlo {

@@ -2,7 +2,7 @@
 #include "image/TextureEdits.h"
 #include "image/picture/ColorList.h"
 #include "res/CommandIds.h"
-#include "resources/BuiltInPalettes.h"
+#include "resources/BuiltInFiles.h"
 #include "resources/PaletteDocument.h"
 #include "support/TestApplication.h"
 

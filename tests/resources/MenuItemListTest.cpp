@@ -1,7 +1,8 @@
+#include "resources/MenuItemList.h"
+
 #include "framework/core/MenuItems.h"
 #include "res/CommandIds.h"
-#include "resources/ColorTableDocument.h"
-#include "resources/DocumentMenuList.h"
+#include "resources/PaletteDocument.h"
 #include "support/TestApplication.h"
 
 #include <algorithm>

@@ -1,7 +1,6 @@
-#include "resources/BrushDocument.h"
-#include "resources/BuiltInPalettes.h"
-#include "resources/ColorSpaceDocument.h"
-#include "resources/LMPDocument.h"
+#include "resources/Brush.h"
+#include "resources/BuiltInFiles.h"
+#include "resources/PaletteDocument.h"
 #include "support/TestApplication.h"
 
 namespace keltavlo {

@@ -21,9 +21,8 @@ std::vector<std::string> WorkshopTest::NamesIn(const std::string& path) {
 std::string WorkshopTest::TextOf(const std::string& path) {
     const auto file = application.GetFileSystem().OpenFile(path, CFile::modeRead, nullptr);
     if (!file) return "(fails)";
-    std::string text(file->GetLength(), '\xFF');
-    file->Read(text.data(), text.size());
-    return text;
+    const Bytes bytes = ReadAll(*file);
+    return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
 }
 
 } // namespace keltavlo

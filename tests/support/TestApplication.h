@@ -2,7 +2,7 @@
 
 #include "app/HeadlessApplication.h"
 #include "builders/TextureBuilder.h"
-#include "resources/BuiltInPath.h"
+#include "resources/BuiltInFiles.h"
 #include "support/FolderTest.h"
 
 namespace keltavlo {

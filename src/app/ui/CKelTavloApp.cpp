@@ -13,7 +13,7 @@
 #include "formats/ui/EditPropertySheet.h"
 #include "framework/core/CDocTemplate.h"
 #include "framework/core/Path.h"
-#include "framework/core/ReplacingFile.h"
+#include "framework/core/SaveJournal.h"
 #include "framework/core/StringTable.h"
 #include "framework/core/Text.h"
 #include "framework/ui/ChildFrame.h"
@@ -33,14 +33,14 @@ namespace keltavlo {
 
 namespace {
 
-std::unique_ptr<ProfileStore> OfThisVersion(std::unique_ptr<ProfileStore> settings) {
-    CheckSettingsVersion(*settings);
+ProfileStore OfThisVersion(ProfileStore settings) {
+    CheckSettingsVersion(settings);
     return settings;
 }
 
 } // namespace
 
-CKelTavloApp::CKelTavloApp(std::unique_ptr<ProfileStore> settings)
+CKelTavloApp::CKelTavloApp(ProfileStore settings)
     : Dynamic(OfThisVersion(std::move(settings))), workshop(*this) {
     AddStrings(ShellStrings());
     RegisterWindowClasses();
@@ -51,7 +51,7 @@ CKelTavloApp::~CKelTavloApp() {
     CloseAllDocuments();
     GetFrameFactory()->SetMainFrame(nullptr);
     try {
-        WriteCustomColors(*GetProfile(), applicationSection, GetCustomColors());
+        WriteCustomColors(GetProfile(), applicationSection, GetCustomColors());
     } catch (const std::bad_alloc&) { // the old ones stay
     }
 }
@@ -68,7 +68,7 @@ void CKelTavloApp::RegisterWindowClasses() {
 
 bool CKelTavloApp::InitInstance(const std::vector<std::string>& paths) {
     RemoveAbandonedSaves();
-    if (const auto colors = ReadCustomColors(*GetProfile(), applicationSection)) SetCustomColors(*colors);
+    if (const auto colors = ReadCustomColors(GetProfile(), applicationSection)) SetCustomColors(*colors);
     mainFrame = std::make_unique<MainFrame>();
     GetFrameFactory()->SetMainFrame(mainFrame.get());
     mainFrame->ShowAsLeft();
@@ -166,7 +166,7 @@ void CKelTavloApp::OnUpdateRecentFile(CCmdUI& state) {
 }
 
 void CKelTavloApp::OnAppAbout() {
-    CAboutDialog(mainFrame.get(), GetProfile()->GetPath()).DoModal();
+    CAboutDialog(mainFrame.get(), GetProfile().GetPath()).DoModal();
 }
 
 void CKelTavloApp::OnAppExit() {

@@ -19,7 +19,7 @@ class CKelTavloApp : public Dynamic<"CKelTavloApp", CKelTavloApp, CWinApp>,
                      public Shell {
 public:
     // `settings` is where the program keeps what it remembers.
-    explicit CKelTavloApp(std::unique_ptr<ProfileStore> settings);
+    explicit CKelTavloApp(ProfileStore settings);
     ~CKelTavloApp() override;
 
     // Shows the main window, then opens the files, or asks for a new document when there are none. False when

@@ -1,7 +1,6 @@
 #include "app/ui/FileDialogServices.h"
 
-#include "app/PictureTypes.h"
-#include "app/PreviewReader.h"
+#include "app/PictureFiles.h"
 #include "archives/ui/FileTypeProvider.h"
 #include "framework/core/CDocTemplate.h"
 #include "framework/core/Path.h"

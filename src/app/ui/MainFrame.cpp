@@ -139,25 +139,23 @@ void MainFrame::OnFormatColor() {
 }
 
 void MainFrame::LoadSettings() {
-    const ProfileStore* profile = CWinApp::Get().GetProfile();
-    const auto bytes = profile ? profile->ReadBinary(mainSection, placementValue) : std::nullopt;
+    const ProfileStore& profile = CWinApp::Get().GetProfile();
+    const auto bytes = profile.ReadBinary(mainSection, placementValue);
     if (const auto placement = bytes ? WindowPlacement::FromBytes(*bytes) : std::nullopt) {
         showCommand = placement->showCommand;
         SetWindowPlacement(*this, *placement);
     }
-    if (const auto values = profile ? ReadGamma(*profile) : std::nullopt) gamma.SetValues(*values);
-    if (const auto colors = profile ? ReadCustomColors(*profile, mainSection) : std::nullopt)
-        SetCustomColors(*colors);
+    if (const auto values = ReadGamma(profile)) gamma.SetValues(*values);
+    if (const auto colors = ReadCustomColors(profile, mainSection)) SetCustomColors(*colors);
     GetBars().LoadState(barStateName);
 }
 
 void MainFrame::SaveSettings() {
     GetBars().SaveState(barStateName);
-    ProfileStore* profile = CWinApp::Get().GetProfile();
-    if (!profile) return;
-    WriteCustomColors(*profile, mainSection, GetCustomColors());
-    WriteGamma(*profile, gamma.GetValues());
-    profile->WriteBinary(mainSection, placementValue, GetWindowPlacement(*this).ToBytes());
+    ProfileStore& profile = CWinApp::Get().GetProfile();
+    WriteCustomColors(profile, mainSection, GetCustomColors());
+    WriteGamma(profile, gamma.GetValues());
+    profile.WriteBinary(mainSection, placementValue, GetWindowPlacement(*this).ToBytes());
 }
 
 // Written before anybody is asked whether documents are to be saved, and kept whatever the answer.

@@ -3,9 +3,8 @@
 #include "framework/core/MenuItems.h"
 #include "framework/ui/CControlBar.h"
 #include "res/CommandIds.h"
-#include "resources/BrushDocument.h"
-#include "resources/ColorSpaceDocument.h"
-#include "resources/ColorTableDocument.h"
+#include "resources/Brush.h"
+#include "resources/PaletteDocument.h"
 
 namespace keltavlo {
 

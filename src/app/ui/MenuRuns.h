@@ -1,6 +1,5 @@
 #pragma once
 
-#include "resources/DocumentMenuList.h"
 #include "resources/MenuItemList.h"
 
 namespace keltavlo {

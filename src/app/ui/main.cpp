@@ -60,7 +60,7 @@ int RunProgram(const CommandLine& line) {
         std::fprintf(stderr, "keltavlo: %s\n", line.error.c_str());
         return 1;
     }
-    CKelTavloApp program(std::make_unique<ProfileStore>("KelTavlo", "KelTavlo"));
+    CKelTavloApp program(ProfileStore("KelTavlo", "KelTavlo"));
     return program.InitInstance(line.paths) ? QCoreApplication::exec() : 1;
 }
 

@@ -25,7 +25,7 @@ constexpr const char* profileSection = "FileDialog";
 constexpr const char* profilePreview = "Preview"; // one byte, 1 while the preview is on
 
 bool IsFolder(const EntryStatus& status) {
-    return status.browsable || (status.attributes & CFileStatus::directoryAttribute) != 0;
+    return status.browsable || status.IsDirectory();
 }
 
 // An archive, or something in one.
@@ -120,12 +120,11 @@ void ArchiveFileDialog::AddPanels() {
 }
 
 void ArchiveFileDialog::SetUpPreview() {
-    ProfileStore* profile = CWinApp::Get().GetProfile();
-    if (!profile) return;
-    const auto stored = profile->ReadBinary(profileSection, profilePreview);
+    ProfileStore& profile = CWinApp::Get().GetProfile();
+    const auto stored = profile.ReadBinary(profileSection, profilePreview);
     preview->SetPreviewEnabled(stored && stored->size() == 1 && stored->front() == std::byte{1});
-    preview->onSwitch = [profile](bool enabled) {
-        profile->WriteBinary(profileSection, profilePreview, {std::byte{enabled}});
+    preview->onSwitch = [&profile](bool enabled) {
+        profile.WriteBinary(profileSection, profilePreview, {std::byte{enabled}});
     };
 }
 
@@ -173,7 +172,7 @@ void ArchiveFileDialog::Describe(ArchiveListItem& item) const {
     const std::string& name = listing.names[item.data];
     const ArchiveFreeze whilePainting;
     const EntryStatus status = StatusOf(JoinPath(archivePath, name));
-    const bool directory = (status.attributes & CFileStatus::directoryAttribute) != 0;
+    const bool directory = status.IsDirectory();
     if (!directory) item.size = SizeText(status);
     item.type = directory ? TypeNameOfFolder() : TypeNameOfFile(name);
     item.modified = TimeText(status.modified);
@@ -204,12 +203,12 @@ bool ArchiveFileDialog::OnFileNameOK() {
 }
 
 bool ArchiveFileDialog::IsFolderThere(const std::string& path) const {
-    return (StatusOf(path).attributes & CFileStatus::directoryAttribute) != 0;
+    return StatusOf(path).IsDirectory();
 }
 
 bool ArchiveFileDialog::IsFileThere(const std::string& path) const {
     const EntryStatus status = StatusOf(path);
-    return status.exists && !(status.attributes & CFileStatus::directoryAttribute);
+    return status.exists && !status.IsDirectory();
 }
 
 EntryStatus ArchiveFileDialog::StatusOf(const std::string& path) const {

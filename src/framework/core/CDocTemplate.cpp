@@ -10,6 +10,10 @@
 
 namespace keltavlo {
 
+std::string TypeExtensionOf(std::string_view path) {
+    return IsModulePath(path) ? ".exe" : std::string(ExtensionOf(path));
+}
+
 CDocTemplate::~CDocTemplate() = default;
 
 std::string CDocTemplate::GetDocString(DocString field) const {
@@ -80,7 +84,7 @@ bool CDocTemplate::FillDocument(CDocument& document, const std::string& path) {
     return true;
 }
 
-void CDocTemplate::RemoveDocument(CDocument& document) {
+void CDocTemplate::RemoveDocument(const CDocument& document) {
     const auto place = std::find_if(documents.begin(), documents.end(),
                                     [&](const auto& candidate) { return candidate.get() == &document; });
     if (place == documents.end()) return;

@@ -4,6 +4,10 @@
 
 namespace keltavlo {
 
+// The extension that picks a path's document type: ".exe" for the running program's file, whatever it is
+// called, and the path's own for every other. Does not ask the disk about a relative path.
+std::string TypeExtensionOf(std::string_view path);
+
 // One document type: its classes, its names and its open documents.
 class CDocTemplate : public Dynamic<"CDocTemplate", CDocTemplate, CCmdTarget> {
 public:
@@ -52,12 +56,12 @@ public:
     DocumentFrame* CreateNewFrame(CDocument& document) const;
     void CloseAllDocuments();
 
-private:
-    friend class CDocument;
+    // Deletes the document if it is of this type.
+    void RemoveDocument(const CDocument& document);
 
+private:
     CDocument& CreateNewDocument();
     bool FillDocument(CDocument& document, const std::string& path);
-    void RemoveDocument(CDocument& document);
 
     Row row;
     std::vector<std::unique_ptr<CDocument>> documents; // in the order of opening

@@ -1,8 +1,8 @@
 #include "framework/core/CDocument.h"
 
-#include "framework/core/CDocTemplate.h"
-#include "framework/core/CWinApp.h"
+#include "framework/core/FileFailure.h"
 #include "framework/core/Path.h"
+#include "framework/core/ReplacingFile.h"
 #include "framework/core/UserInterface.h"
 
 #include <algorithm>
@@ -42,7 +42,7 @@ void CDocument::SetModifiedFlag(bool on) {
 void CDocument::SetPathName(const std::string& path, bool addToRecentFiles) {
     pathName = FullPath(path);
     SetTitle(std::string(FileNameOf(pathName)));
-    if (addToRecentFiles) CWinApp::Get().AddToRecentFileList(pathName);
+    if (addToRecentFiles) DocumentHost::Get().AddToRecentFileList(pathName);
 }
 
 bool CDocument::OnNewDocument() {
@@ -54,9 +54,9 @@ bool CDocument::OnNewDocument() {
 
 bool CDocument::OnOpenDocument(const std::string& path) {
     try {
-        CFileException failure;
-        const std::unique_ptr<CFile> file = GetFile(path, CFile::modeRead | CFile::shareDenyWrite, &failure);
-        if (!file) throw CFileException(failure);
+        const std::unique_ptr<CFile> file = FileOrThrow([&](CFileException* failure) {
+            return GetFile(path, CFile::modeRead | CFile::shareDenyWrite, failure);
+        });
         DeleteContents();
         if (file->GetLength() > 0) {
             CArchive archive(*file, CArchive::load);
@@ -74,9 +74,9 @@ bool CDocument::OnOpenDocument(const std::string& path) {
 bool CDocument::OnSaveDocument(const std::string& path) {
     std::unique_ptr<CFile> file;
     try {
-        CFileException failure;
-        file = GetFile(path, CFile::modeCreate | CFile::modeReadWrite | CFile::shareExclusive, &failure);
-        if (!file) throw CFileException(failure);
+        file = FileOrThrow([&](CFileException* failure) {
+            return GetFile(path, CFile::modeCreate | CFile::modeReadWrite | CFile::shareExclusive, failure);
+        });
         CArchive archive(*file, CArchive::store);
         Serialize(archive);
         archive.Flush();
@@ -98,7 +98,7 @@ void CDocument::OnCloseDocument() {
         std::erase(views, &view); // a frame may end its views later than at once
     }
     DeleteContents();
-    if (docTemplate) docTemplate->RemoveDocument(*this); // deletes this
+    if (docTemplate) DocumentHost::Get().RemoveDocument(*this); // deletes this
 }
 
 bool CDocument::SaveModified() {
@@ -114,7 +114,7 @@ bool CDocument::SaveModified() {
 }
 
 std::unique_ptr<CFile> CDocument::GetFile(const std::string& path, unsigned flags, CFileException* failure) {
-    return OpenDiskFile(path, flags, failure);
+    return FileOrNull(failure, [&] { return OpenDiskFile(path, flags); });
 }
 
 void CDocument::AddView(DocumentView& view) {

@@ -3,6 +3,7 @@
 #include "framework/core/CArchive.h"
 #include "framework/core/CCmdTarget.h"
 #include "framework/core/DocumentView.h"
+#include "framework/core/Service.h"
 
 #include <memory>
 #include <string>
@@ -11,6 +12,15 @@
 namespace keltavlo {
 
 class CDocTemplate;
+class CDocument;
+
+// What documents ask of the application.
+class DocumentHost : public Service<DocumentHost> {
+public:
+    virtual void AddToRecentFileList(const std::string& path) = 0;
+    // Deletes the document, unless no document type owns it.
+    virtual void RemoveDocument(CDocument& document) = 0;
+};
 
 // A file's contents in memory, with a title, a path, a modified mark and the views that show it.
 class CDocument : public Dynamic<"CDocument", CDocument, CCmdTarget> {

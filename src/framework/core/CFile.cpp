@@ -1,8 +1,7 @@
 #include "framework/core/CFile.h"
 
-#include "framework/core/DiskFile.h"
 #include "framework/core/Path.h"
-#include "framework/core/ReplacingFile.h"
+#include "framework/core/Text.h"
 
 #include <cerrno>
 #include <sys/stat.h>
@@ -16,6 +15,17 @@ CTime ToTime(const timespec& time) {
     using namespace std::chrono;
     return system_clock::time_point(
         duration_cast<system_clock::duration>(seconds(time.tv_sec) + nanoseconds(time.tv_nsec)));
+}
+
+// Length of the leading part of a native path that names something on the disk other than a directory; the
+// whole length when there is no such part.
+std::size_t DiskLength(const std::string& native) {
+    for (std::size_t end = native.find('/', 1); end != std::string::npos; end = native.find('/', end + 1)) {
+        CFileStatus status;
+        if (!CFile::GetStatus(native.substr(0, end), status)) return native.size();
+        if (!status.IsDirectory()) return end;
+    }
+    return native.size();
 }
 
 } // namespace
@@ -37,20 +47,6 @@ bool CFile::GetStatus(const std::string& path, CFileStatus& status) {
     return true;
 }
 
-void CFile::Remove(const std::string& path) {
-    if (unlink(ToNativePath(path).c_str()) != 0) throw CFileException::FromErrno(errno, path);
-}
-
-std::unique_ptr<CFile> OpenDiskFile(const std::string& path, unsigned flags, CFileException* failure) {
-    try {
-        if (flags & CFile::modeCreate) return std::make_unique<ReplacingFile>(path);
-        return std::make_unique<DiskFile>(path, flags);
-    } catch (const CFileException& exception) {
-        if (failure) *failure = exception;
-        return nullptr;
-    }
-}
-
 std::uint64_t SeekTarget(const CFile& file, std::int64_t offset, CFile::From from) {
     const std::uint64_t base = from == CFile::From::begin     ? 0
                                : from == CFile::From::current ? file.GetPosition()
@@ -59,6 +55,27 @@ std::uint64_t SeekTarget(const CFile& file, std::int64_t offset, CFile::From fro
     if (__builtin_add_overflow(base, offset, &target) || target < 0)
         throw CFileException(CFileException::badSeek, CFileException::noOsError, file.GetFilePath());
     return static_cast<std::uint64_t>(target);
+}
+
+std::vector<std::byte> ReadAll(CFile& file) {
+    const std::uint64_t length = file.GetLength(), position = file.GetPosition();
+    std::vector<std::byte> bytes(position < length ? length - position : 0);
+    bytes.resize(file.Read(bytes.data(), bytes.size()));
+    return bytes;
+}
+
+bool MayWrite(const std::string& path, const struct stat& info) {
+    errno = EACCES;
+    return (info.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) != 0 && access(path.c_str(), W_OK) == 0;
+}
+
+bool SamePath(const std::string& a, const std::string& b) {
+    const std::string first = FullPath(a);
+    const std::string second = FullPath(b);
+    if (first == second) return true;
+    if (!EqualNoCase(first, second)) return false;
+    const std::size_t length = DiskLength(first);
+    return length < first.size() && first.compare(0, length, second, 0, length) == 0;
 }
 
 } // namespace keltavlo

@@ -8,6 +8,9 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
+
+struct stat;
 
 namespace keltavlo {
 
@@ -68,18 +71,22 @@ public:
     // identity tell.
     virtual bool IsUnchanged() const { return true; }
 
-    // False, and `status` untouched, when nothing is there.
+    // Returns false, with `status` untouched, when nothing is there.
     static bool GetStatus(const std::string& path, CFileStatus& status);
-    // CFileException when the file cannot be removed.
-    static void Remove(const std::string& path);
 };
-
-// Opens a file of the disk; only ordinary files (never a pipe or a device) open. Without modeCreate the file
-// must exist. With modeCreate the writes gather in memory and Close replaces the file by them in one step
-// (see ReplacingFile). On failure null, and `*failure` tells why when it is given.
-std::unique_ptr<CFile> OpenDiskFile(const std::string& path, unsigned flags, CFileException* failure);
 
 // Where a seek of this file leads; badSeek before the start or past the largest position.
 std::uint64_t SeekTarget(const CFile& file, std::int64_t offset, CFile::From from);
+
+// The bytes from the file's position to its end.
+std::vector<std::byte> ReadAll(CFile& file);
+
+// Whether this user may write the file with that status; errno says why not. A file without any write bit is
+// read-only even for root.
+bool MayWrite(const std::string& path, const struct stat& info);
+
+// One rule for "is this the same file": the part on the disk as the disk compares it, the part inside an
+// archive without regard to case, both kinds of separator alike.
+bool SamePath(const std::string& a, const std::string& b);
 
 } // namespace keltavlo

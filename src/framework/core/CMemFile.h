@@ -3,6 +3,7 @@
 #include "framework/core/CFile.h"
 
 #include <span>
+#include <utility>
 #include <vector>
 
 namespace keltavlo {
@@ -28,6 +29,11 @@ public:
     // Over a fixed buffer another file on the same bytes; else on a copy.
     std::unique_ptr<CFile> Duplicate() const override;
 
+    // The bytes of a file with a buffer of its own, which is empty then.
+    std::vector<std::byte> Detach() {
+        position = 0;
+        return std::exchange(own, {});
+    }
     std::span<const std::byte> Bytes() const { return fixed ? std::span<const std::byte>(attached) : own; }
 
 protected:

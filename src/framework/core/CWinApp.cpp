@@ -7,8 +7,7 @@
 
 namespace keltavlo {
 
-CWinApp::CWinApp(std::unique_ptr<ProfileStore> settings)
-    : profile(std::move(settings)), recentFiles(profile.get()) {}
+CWinApp::CWinApp(ProfileStore settings) : profile(std::move(settings)), recentFiles(profile) {}
 
 CWinApp::~CWinApp() {
     CloseAllDocuments();

@@ -9,10 +9,12 @@ namespace keltavlo {
 
 // The application without its windows: the document types, their open documents, the settings and the recent
 // files.
-class CWinApp : public Dynamic<"CWinApp", CWinApp, CCmdTarget>, public Service<CWinApp> {
+class CWinApp : public Dynamic<"CWinApp", CWinApp, CCmdTarget>, public Service<CWinApp>, public DocumentHost {
 public:
-    // Without settings nothing is remembered from one run to the next.
-    explicit CWinApp(std::unique_ptr<ProfileStore> settings);
+    using Service<CWinApp>::Get;
+    using Service<CWinApp>::Find;
+
+    explicit CWinApp(ProfileStore settings);
     ~CWinApp() override;
 
     void AddDocTemplate(std::unique_ptr<CDocTemplate> type) { templates.push_back(std::move(type)); }
@@ -31,16 +33,17 @@ public:
     CDocument* OnFileNew();
     // Opens entry n of the recent files; one that fails leaves the list.
     void OpenRecentFile(std::size_t n);
-    void AddToRecentFileList(const std::string& path) { recentFiles.Add(path); }
+    void AddToRecentFileList(const std::string& path) override { recentFiles.Add(path); }
+    void RemoveDocument(CDocument& document) override { document.GetDocTemplate()->RemoveDocument(document); }
     RecentFileList& GetRecentFiles() { return recentFiles; }
-    ProfileStore* GetProfile() { return profile.get(); } // may be null
+    ProfileStore& GetProfile() { return profile; }
 
     // Asks about every modified document; false as soon as one must stay.
     bool SaveAllModified();
     void CloseAllDocuments();
 
 private:
-    std::unique_ptr<ProfileStore> profile;
+    ProfileStore profile;
     RecentFileList recentFiles;
     std::vector<std::unique_ptr<CDocTemplate>> templates;
 };

@@ -19,11 +19,6 @@ int NativeFlags(unsigned flags) {
 
 } // namespace
 
-bool MayWrite(const std::string& path, const struct stat& info) {
-    errno = EACCES;
-    return (info.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) != 0 && access(path.c_str(), W_OK) == 0;
-}
-
 int Descriptor::Close() {
     return value < 0 ? 0 : ::close(std::exchange(value, -1));
 }

@@ -4,13 +4,7 @@
 
 #include <utility>
 
-struct stat;
-
 namespace keltavlo {
-
-// Whether this user may write the file with that status; errno says why not. A file without any write bit is
-// read-only even for root.
-bool MayWrite(const std::string& path, const struct stat& info);
 
 // Closes a descriptor of the operating system when it goes.
 class Descriptor {

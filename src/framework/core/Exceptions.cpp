@@ -2,7 +2,6 @@
 
 #include "framework/core/Path.h"
 
-#include <array>
 #include <cerrno>
 #include <new>
 
@@ -12,39 +11,57 @@ namespace {
 
 constexpr const char* memorySentence = "There is not enough memory.";
 
-std::string ArchiveSentence(CArchiveException::Cause cause) {
-    static constexpr std::array sentences{
-        "No error occurred.",
-        "This kind of file does not support the operation.",
-        "This kind of file can only be read.",
-        "The file ends too early.",
-        "This kind of file can only be written.",
-        "The file has a size, count or encoding that its format does not allow.",
-        "The file is not of the expected format.",
-        "The file is of a version that is not supported.",
-    };
-    return sentences.at(static_cast<std::size_t>(cause));
-}
+template <class Cause>
+struct SentenceRow {
+    Cause cause;
+    const char* sentence;
+};
 
-std::string FileSentence(CFileException::Cause cause) {
-    static constexpr std::array sentences{
-        "No error occurred.",
-        "The file could not be accessed.",
-        "The file was not found.",
-        "The path does not exist.",
-        "Too many files are open.",
-        "Access to the file was denied.",
-        "This is not an ordinary file.",
-        "The current folder cannot be removed.",
-        "The folder is full.",
-        "The file has no such position.",
-        "The device reported an error.",
-        "Another program is using the file.",
-        "Part of the file is locked.",
-        "The disk is full.",
-        "The file ends too early.",
-    };
-    return sentences.at(static_cast<std::size_t>(cause));
+constexpr const char* noErrorSentence = "No error occurred.";
+constexpr const char* endSentence = "The file ends too early.";
+
+constexpr SentenceRow<CArchiveException::Cause> archiveSentences[] = {
+    {CArchiveException::none, noErrorSentence},
+    {CArchiveException::generic, "This kind of file does not support the operation."},
+    {CArchiveException::readOnly, "This kind of file can only be read."},
+    {CArchiveException::endOfFile, endSentence},
+    {CArchiveException::writeOnly, "This kind of file can only be written."},
+    {CArchiveException::badIndex, "The file has a size, count or encoding that its format does not allow."},
+    {CArchiveException::badClass, "The file is not of the expected format."},
+    {CArchiveException::badSchema, "The file is of a version that is not supported."},
+};
+
+constexpr SentenceRow<CFileException::Cause> fileSentences[] = {
+    {CFileException::none, noErrorSentence},
+    {CFileException::generic, "The file could not be accessed."},
+    {CFileException::fileNotFound, "The file was not found."},
+    {CFileException::badPath, "The path does not exist."},
+    {CFileException::tooManyOpenFiles, "Too many files are open."},
+    {CFileException::accessDenied, "Access to the file was denied."},
+    {CFileException::invalidFile, "This is not an ordinary file."},
+    {CFileException::removeCurrentDir, "The current folder cannot be removed."},
+    {CFileException::directoryFull, "The folder is full."},
+    {CFileException::badSeek, "The file has no such position."},
+    {CFileException::hardIO, "The device reported an error."},
+    {CFileException::sharingViolation, "Another program is using the file."},
+    {CFileException::lockViolation, "Part of the file is locked."},
+    {CFileException::diskFull, "The disk is full."},
+    {CFileException::endOfFile, endSentence},
+};
+
+// Whether the table has a row for each cause up to the last one, in their order.
+template <class Cause, std::size_t count>
+constexpr bool IsWhole(const SentenceRow<Cause> (&rows)[count], Cause last) {
+    for (std::size_t i = 0; i < count; ++i)
+        if (rows[i].cause != static_cast<Cause>(i)) return false;
+    return rows[count - 1].cause == last;
+}
+static_assert(IsWhole(archiveSentences, CArchiveException::badSchema));
+static_assert(IsWhole(fileSentences, CFileException::endOfFile));
+
+template <class Cause, std::size_t count>
+std::string TextOr(std::string text, const SentenceRow<Cause> (&rows)[count], Cause cause) {
+    return text.empty() ? rows[cause].sentence : std::move(text);
 }
 
 CFileException::Cause CauseOfErrno(int error) {
@@ -81,18 +98,17 @@ CFileException::Cause CauseOfErrno(int error) {
 
 } // namespace
 
-CArchiveException::CArchiveException(Cause causeOfFailure, std::string file)
-    : CException(ArchiveSentence(causeOfFailure), std::move(file)), cause(causeOfFailure) {}
-
 CArchiveException::CArchiveException(Cause causeOfFailure, std::string file, std::string text)
-    : CException(std::move(text), std::move(file)), cause(causeOfFailure) {}
+    : CException(TextOr(std::move(text), archiveSentences, causeOfFailure), std::move(file)),
+      cause(causeOfFailure) {}
 
 CFileException::CFileException(Cause causeOfFailure, int osErrorNumber, std::string file)
-    : CException(FileSentence(causeOfFailure), std::move(file)), cause(causeOfFailure),
+    : CException(TextOr({}, fileSentences, causeOfFailure), std::move(file)), cause(causeOfFailure),
       osError(osErrorNumber) {}
 
 CFileException::CFileException(Cause causeOfFailure, std::string file, std::string text)
-    : CException(std::move(text), std::move(file)), cause(causeOfFailure), osError(noOsError) {}
+    : CException(TextOr(std::move(text), fileSentences, causeOfFailure), std::move(file)),
+      cause(causeOfFailure), osError(noOsError) {}
 
 CFileException CFileException::FromErrno(int error, std::string file) {
     return CFileException(CauseOfErrno(error), error, std::move(file));

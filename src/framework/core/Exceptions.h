@@ -10,23 +10,21 @@ namespace keltavlo {
 class CException : public std::exception {
 public:
     explicit CException(std::string text, std::string file = {})
-        : sentence(std::move(text)), fileName(std::move(file)) {}
+        : fileName(std::move(file)), sentence(std::move(text)) {}
     const char* what() const noexcept override { return sentence.c_str(); }
+
+    std::string fileName; // may be empty
 
 private:
     std::string sentence;
-
-public:
-    std::string fileName; // may be empty
 };
 
 class CArchiveException : public CException {
 public:
     enum Cause { none, generic, readOnly, endOfFile, writeOnly, badIndex, badClass, badSchema };
 
-    explicit CArchiveException(Cause cause = none, std::string file = {});
-    // With a sentence that tells more than the cause does.
-    CArchiveException(Cause cause, std::string file, std::string text);
+    // An empty text stands for the sentence of the cause.
+    explicit CArchiveException(Cause cause = none, std::string file = {}, std::string text = {});
 
     Cause cause;
 };
@@ -53,7 +51,7 @@ public:
     static constexpr int noOsError = -1;
 
     explicit CFileException(Cause cause = none, int osErrorNumber = noOsError, std::string file = {});
-    // With a sentence that tells more than the cause does.
+    // An empty text stands for the sentence of the cause.
     CFileException(Cause cause, std::string file, std::string text);
     // The exception for an errno value.
     static CFileException FromErrno(int error, std::string file);

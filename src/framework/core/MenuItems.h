@@ -23,6 +23,13 @@ public:
 };
 
 // A text as a menu item's: shown as it stands, "&" and tabs too.
-std::string MenuText(std::string_view text);
+inline std::string MenuText(std::string_view text) {
+    std::string shown;
+    for (const char c : text) {
+        if (c == '&') shown += '&';
+        shown += c == '\t' ? ' ' : c;
+    }
+    return shown;
+}
 
 } // namespace keltavlo

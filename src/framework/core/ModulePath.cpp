@@ -42,8 +42,4 @@ bool IsModulePath(std::string_view path) {
            info.st_dev == module.identity.st_dev;
 }
 
-std::string TypeExtensionOf(std::string_view path) {
-    return IsModulePath(path) ? ".exe" : std::string(ExtensionOf(path));
-}
-
 } // namespace keltavlo

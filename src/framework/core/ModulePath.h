@@ -12,8 +12,4 @@ const std::string& GetModulePath();
 // replaced. False for a relative path.
 bool IsModulePath(std::string_view path);
 
-// The extension that picks a path's document type: ".exe" for the running program's file, whatever it is
-// called, and the path's own for every other. Does not ask the disk about a relative path.
-std::string TypeExtensionOf(std::string_view path);
-
 } // namespace keltavlo

@@ -1,6 +1,5 @@
 #include "framework/core/Path.h"
 
-#include "framework/core/CFile.h"
 #include "framework/core/Text.h"
 
 #include <algorithm>
@@ -24,17 +23,6 @@ std::vector<std::string> AllComponents(const std::string& path) {
     PathParts parts = SplitPath(path);
     if (!parts.fileName.empty()) parts.directories.push_back(std::move(parts.fileName));
     return std::move(parts.directories);
-}
-
-// Length of the leading part of a native path that names something on the disk other than a directory; the
-// whole length when there is no such part.
-std::size_t DiskLength(const std::string& native) {
-    for (std::size_t end = native.find('/', 1); end != std::string::npos; end = native.find('/', end + 1)) {
-        CFileStatus status;
-        if (!CFile::GetStatus(native.substr(0, end), status)) return native.size();
-        if (!status.IsDirectory()) return end;
-    }
-    return native.size();
 }
 
 } // namespace
@@ -126,15 +114,6 @@ std::string FullPath(std::string_view path) {
     std::string text = full.lexically_normal().string();
     if (text.size() > 1 && text.back() == '/') text.pop_back();
     return text;
-}
-
-bool SamePath(const std::string& a, const std::string& b) {
-    const std::string first = FullPath(a);
-    const std::string second = FullPath(b);
-    if (first == second) return true;
-    if (!EqualNoCase(first, second)) return false;
-    const std::size_t length = DiskLength(first);
-    return length < first.size() && first.compare(0, length, second, 0, length) == 0;
 }
 
 } // namespace keltavlo

@@ -8,7 +8,7 @@
 namespace keltavlo {
 
 // Paths as the program's people write them: "\" and "/" both separate, runs of separators count as one, and
-// an archive is a folder. Nothing here asks the disk, save SamePath.
+// an archive is a folder. Nothing here asks the disk.
 
 bool IsSeparator(char c);
 
@@ -46,9 +46,5 @@ std::string ToNativePath(std::string_view path);  // what the operating system i
 std::string ToDisplayPath(std::string_view path); // what people see: native separators, valid UTF-8
 // Absolute, with single separators, "." and ".." resolved by their names alone.
 std::string FullPath(std::string_view path);
-
-// One rule for "is this the same file": the part on the disk as the disk compares it, the part inside an
-// archive without regard to case, both kinds of separator alike.
-bool SamePath(const std::string& a, const std::string& b);
 
 } // namespace keltavlo

@@ -1,7 +1,8 @@
 #include "framework/core/ProfileStore.h"
 
-#include "framework/core/CFile.h"
+#include "framework/core/DiskFile.h"
 #include "framework/core/Path.h"
+#include "framework/core/ReplacingFile.h"
 
 #include <QByteArray>
 #include <QDir>
@@ -16,8 +17,8 @@ namespace keltavlo {
 namespace {
 
 using Bytes = ProfileStore::Bytes;
-using Section = std::map<std::string, Bytes, std::less<>>;
-using Sections = std::map<std::string, Section, std::less<>>;
+using Section = ProfileStore::Section;
+using Sections = ProfileStore::Sections;
 
 // A larger file is none of ours.
 constexpr std::uint64_t largestFile = 1 << 20;
@@ -28,12 +29,10 @@ std::string DefaultPath(const std::string& company, const std::string& applicati
 }
 
 std::string ReadText(const std::string& path) {
-    CFileStatus status;
-    if (!CFile::GetStatus(path, status) || status.size > largestFile) return {};
-    const auto file = OpenDiskFile(path, CFile::modeRead, nullptr);
-    std::string text(file ? status.size : 0, '\0');
-    if (file) text.resize(file->Read(text.data(), text.size()));
-    return text;
+    DiskFile file(path, CFile::modeRead);
+    if (file.GetLength() > largestFile) return {};
+    const std::vector<std::byte> bytes = ReadAll(file);
+    return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
 }
 
 // Two hexadecimal digits a byte and nothing else; what is otherwise was not written here.
@@ -68,39 +67,37 @@ Sections Parse(std::string_view text) {
     return sections;
 }
 
-bool Store(const std::string& path, const Sections& sections) {
+std::string ToText(const Sections& sections) {
     std::string text;
     for (const auto& [sectionName, section] : sections) {
         text += "[" + sectionName + "]\n";
         for (const auto& [name, value] : section) text += name + "=" + ToHex(value) + "\n";
     }
+    return text;
+}
+
+bool WriteText(const std::string& path, const std::string& text) {
     try {
         QDir().mkpath(QFile::decodeName(ParentOf(path).c_str()));
-        const auto file = OpenDiskFile(path, CFile::modeWrite | CFile::modeCreate, nullptr);
-        if (!file) return false;
-        file->Write(text.data(), text.size());
-        file->Close();
+        ReplacingFile file(path);
+        file.Write(text.data(), text.size());
+        file.Close();
         return true;
     } catch (const std::exception&) {
         return false;
     }
 }
 
-Sections Load(const std::string& path) {
-    try {
-        return Parse(ReadText(path));
-    } catch (const std::exception&) {
-        return {};
-    }
-}
-
 } // namespace
 
 ProfileStore::ProfileStore(const std::string& company, const std::string& application)
-    : path(DefaultPath(company, application)) {}
+    : ProfileStore(DefaultPath(company, application)) {}
+
+ProfileStore::ProfileStore(std::string filePath) : path(std::move(filePath)) {
+    sections = Load();
+}
 
 std::optional<Bytes> ProfileStore::ReadBinary(const std::string& section, const std::string& name) const {
-    const Sections sections = Load(path);
     const auto place = sections.find(section);
     if (place == sections.end()) return std::nullopt;
     const auto value = place->second.find(name);
@@ -114,20 +111,37 @@ std::optional<Bytes> ProfileStore::GetProfileBinary(const std::string& section, 
 }
 
 bool ProfileStore::WriteBinary(const std::string& section, const std::string& name, const Bytes& data) {
-    Sections sections = Load(path);
-    const auto [place, isNew] = sections[section].try_emplace(name, data);
-    if (!isNew && std::exchange(place->second, data) == data) return true;
-    return Store(path, sections);
+    Sections changed = Load();
+    const auto [place, isNew] = changed[section].try_emplace(name, data);
+    const bool isKept = !isNew && std::exchange(place->second, data) == data;
+    if (!isKept) return Store(std::move(changed));
+    sections = std::move(changed);
+    return true;
 }
 
 bool ProfileStore::WriteSection(const std::string& section, const Section& values) {
-    Sections sections = Load(path);
-    sections[section] = values;
-    return Store(path, sections);
+    Sections changed = Load();
+    changed[section] = values;
+    return Store(std::move(changed));
 }
 
 bool ProfileStore::DeleteSubKeys() {
-    return Store(path, {});
+    return Store({});
+}
+
+Sections ProfileStore::Load() const {
+    if (path.empty()) return sections;
+    try {
+        return Parse(ReadText(path));
+    } catch (const std::exception&) {
+        return {};
+    }
+}
+
+bool ProfileStore::Store(Sections changed) {
+    if (!path.empty() && !WriteText(path, ToText(changed))) return false;
+    sections = std::move(changed);
+    return true;
 }
 
 } // namespace keltavlo

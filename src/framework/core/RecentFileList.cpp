@@ -1,6 +1,6 @@
 #include "framework/core/RecentFileList.h"
 
-#include "framework/core/Path.h"
+#include "framework/core/CFile.h"
 #include "framework/core/ProfileStore.h"
 
 #include <algorithm>
@@ -24,9 +24,9 @@ ProfileStore::Bytes ToBytes(const std::string& path) {
 
 } // namespace
 
-RecentFileList::RecentFileList(ProfileStore* settings) : profile(settings) {
-    for (std::size_t n = 0; profile && n < capacity; ++n) {
-        const auto bytes = profile->ReadBinary(section, ValueName(n));
+RecentFileList::RecentFileList(ProfileStore& settings) : profile(settings) {
+    for (std::size_t n = 0; n < capacity; ++n) {
+        const auto bytes = profile.ReadBinary(section, ValueName(n));
         if (bytes && !bytes->empty())
             paths.emplace_back(reinterpret_cast<const char*>(bytes->data()), bytes->size());
     }
@@ -47,10 +47,9 @@ void RecentFileList::Remove(const std::string& path) {
 }
 
 void RecentFileList::Write() {
-    if (!profile) return;
-    std::map<std::string, ProfileStore::Bytes, std::less<>> values;
+    ProfileStore::Section values;
     for (std::size_t n = 0; n < paths.size(); ++n) values[ValueName(n)] = ToBytes(paths[n]);
-    profile->WriteSection(section, values);
+    profile.WriteSection(section, values);
 }
 
 } // namespace keltavlo

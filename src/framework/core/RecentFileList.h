@@ -7,12 +7,12 @@ namespace keltavlo {
 
 class ProfileStore;
 
-// The files opened or saved last, newest first; kept in the user's settings where there are some.
+// The files opened or saved last, newest first; kept in the user's settings.
 class RecentFileList {
 public:
     static constexpr std::size_t capacity = 4;
 
-    explicit RecentFileList(ProfileStore* settings);
+    explicit RecentFileList(ProfileStore& settings);
 
     const std::vector<std::string>& GetPaths() const { return paths; }
     void Add(const std::string& path);
@@ -21,7 +21,7 @@ public:
 private:
     void Write();
 
-    ProfileStore* profile; // may be null
+    ProfileStore& profile;
     std::vector<std::string> paths;
 };
 

@@ -2,7 +2,7 @@
 
 #include "framework/core/DiskFile.h"
 #include "framework/core/Path.h"
-#include "framework/core/SaveJournal.h"
+#include "framework/core/TemporaryFile.h"
 
 #include <cerrno>
 #include <climits>
@@ -34,17 +34,11 @@ void WriteAll(int descriptor, std::span<const std::byte> bytes, const std::strin
     }
 }
 
-std::vector<std::byte> ReadAll(const std::string& path) {
-    DiskFile file(path, CFile::modeRead);
-    std::vector<std::byte> bytes(file.GetLength());
-    bytes.resize(file.Read(bytes.data(), bytes.size()));
-    return bytes;
-}
-
 // Overwrites the file where it lies. The room is reserved before the first old byte goes; when writing fails
 // all the same, the old bytes are put back.
 void WriteInPlace(const std::string& target, std::span<const std::byte> bytes) {
-    const std::vector<std::byte> old = ReadAll(target);
+    DiskFile oldFile(target, CFile::modeRead);
+    const std::vector<std::byte> old = ReadAll(oldFile);
     Descriptor file(open(target.c_str(), O_WRONLY | O_CLOEXEC));
     if (!file.IsOpen()) ThrowErrno(target);
     const auto length = static_cast<off_t>(bytes.size());
@@ -109,6 +103,11 @@ void ReplacingFile::Close() {
     if (fsync(temporary.GetDescriptor()) != 0) ThrowErrno(target);
     temporary.RenameTo(target);
     FlushFolder(ParentOf(target));
+}
+
+std::unique_ptr<CFile> OpenDiskFile(const std::string& path, unsigned flags) {
+    if (flags & CFile::modeCreate) return std::make_unique<ReplacingFile>(path);
+    return std::make_unique<DiskFile>(path, flags);
 }
 
 } // namespace keltavlo

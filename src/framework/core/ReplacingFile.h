@@ -22,8 +22,8 @@ private:
     std::string targetPath; // full, as the caller named it
 };
 
-// Removes the temporary files that killed saves of this user left; running saves keep theirs. Call once at
-// start.
-void RemoveAbandonedSaves();
+// Opens a file of the disk; CFileException if that fails. Only ordinary files open, never a pipe or a device.
+// With modeCreate the result is a ReplacingFile; without it the file must exist.
+std::unique_ptr<CFile> OpenDiskFile(const std::string& path, unsigned flags);
 
 } // namespace keltavlo

@@ -1,15 +1,9 @@
 #include "framework/core/SaveJournal.h"
 
-#include "framework/core/Path.h"
-#include "framework/core/ReplacingFile.h"
-
 #include <QStandardPaths>
 
 #include <algorithm>
-#include <cerrno>
-#include <chrono>
 #include <climits>
-#include <cstdio>
 #include <fcntl.h>
 #include <filesystem>
 #include <sys/file.h>
@@ -22,17 +16,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view temporarySuffix = ".keltavlo-save";
-
 fs::path JournalFolder() {
     return fs::path(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation).toStdString()) /
            "KelTavlo" / "saves";
-}
-
-// Unlike that of any other save, even of a process that was killed and had the same number.
-std::string UniqueName() {
-    const auto now = std::chrono::system_clock::now().time_since_epoch();
-    return std::to_string(getpid()) + "-" + std::to_string(now / std::chrono::nanoseconds(1));
 }
 
 bool WasRemoved(const Descriptor& file) {
@@ -62,28 +48,15 @@ std::string ReadRecord(const Descriptor& record) {
 
 } // namespace
 
-TemporaryFile::TemporaryFile(const std::string& target) {
-    const std::string name = UniqueName();
-    path = (fs::path(target).parent_path() / ("." + name + std::string(temporarySuffix))).string();
+SaveRecord::SaveRecord(const std::string& name, const std::string& temporary) {
     std::error_code failed;
     fs::create_directories(JournalFolder(), failed);
-    recordPath = JournalFolder() / name;
-    record = WriteRecord(recordPath, path);
-    descriptor = Descriptor(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
-    if (descriptor.IsOpen()) return;
-    const int error = errno;
-    if (record.IsOpen()) unlink(recordPath.c_str());
-    throw CFileException::FromErrno(error, target);
+    path = JournalFolder() / name;
+    file = WriteRecord(path, temporary);
 }
 
-TemporaryFile::~TemporaryFile() {
-    if (!path.empty()) unlink(path.c_str());
-    if (record.IsOpen()) unlink(recordPath.c_str());
-}
-
-void TemporaryFile::RenameTo(const std::string& target) {
-    if (rename(path.c_str(), target.c_str()) != 0) throw CFileException::FromErrno(errno, target);
-    path.clear();
+SaveRecord::~SaveRecord() {
+    if (file.IsOpen()) unlink(path.c_str());
 }
 
 void RemoveAbandonedSaves() {

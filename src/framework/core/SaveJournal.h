@@ -4,25 +4,29 @@
 
 namespace keltavlo {
 
-// A temporary file beside a file that is being saved. While it exists a record in the user's state folder
-// names it, so that the next start can remove it if this process is killed; a lock on the record tells that
-// the save still runs.
-class TemporaryFile {
+// The journal of running saves, a folder among the user's data.
+
+// The end of every temporary file's name.
+inline constexpr const char* temporarySuffix = ".keltavlo-save";
+
+// Names a temporary file in the journal for as long as it lives. A lock on the record shows that the save
+// still runs.
+class SaveRecord {
 public:
-    explicit TemporaryFile(const std::string& target);
-    ~TemporaryFile(); // removes the file, unless it was renamed, and the record
+    // `name` differs from that of every other record. Without effect if the journal cannot be written.
+    SaveRecord(const std::string& name, const std::string& temporary);
+    ~SaveRecord();
 
-    TemporaryFile(const TemporaryFile&) = delete;
-    TemporaryFile& operator=(const TemporaryFile&) = delete;
-
-    int GetDescriptor() const { return descriptor.Get(); }
-    void RenameTo(const std::string& target);
+    SaveRecord(const SaveRecord&) = delete;
+    SaveRecord& operator=(const SaveRecord&) = delete;
 
 private:
     std::string path;
-    Descriptor descriptor;
-    std::string recordPath;
-    Descriptor record; // not open when the state folder cannot be written
+    Descriptor file; // open while there is a record
 };
+
+// Removes the temporary files that killed saves of this user left; running saves keep theirs. Call once at
+// start.
+void RemoveAbandonedSaves();
 
 } // namespace keltavlo

@@ -38,16 +38,14 @@ void DockedBars::OnUpdateCmdUI() {
 }
 
 void DockedBars::SaveState(const std::string& profileName) const {
-    ProfileStore* profile = CWinApp::Get().GetProfile();
-    if (!profile) return;
     const QByteArray statusBar(1, window.statusBar()->isHidden() ? '\0' : '\1');
-    profile->WriteBinary(profileName, stateValue, SealState(stateVersion, statusBar + window.saveState()));
+    CWinApp::Get().GetProfile().WriteBinary(profileName, stateValue,
+                                            SealState(stateVersion, statusBar + window.saveState()));
 }
 
 // The toolkit crashes or hangs on a damaged state: it sees only what came back as it was written.
 void DockedBars::LoadState(const std::string& profileName) {
-    const ProfileStore* profile = CWinApp::Get().GetProfile();
-    const auto sealed = profile ? profile->ReadBinary(profileName, stateValue) : std::nullopt;
+    const auto sealed = CWinApp::Get().GetProfile().ReadBinary(profileName, stateValue);
     if (!sealed) return;
     const QByteArray state = UnsealState(stateVersion, *sealed);
     if (!state.isEmpty() && window.restoreState(state.mid(1)))

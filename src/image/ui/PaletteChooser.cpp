@@ -6,7 +6,7 @@
 #include "image/TavloDocument.h"
 #include "res/ShellStrings.h"
 #include "res/StringIds.h"
-#include "resources/ColorTableDocument.h"
+#include "resources/PaletteDocument.h"
 
 namespace keltavlo {
 

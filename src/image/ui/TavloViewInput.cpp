@@ -6,7 +6,7 @@
 #include "image/ui/TavloView.h"
 #include "image/ui/TavloViewFrame.h"
 #include "res/Menus.h"
-#include "resources/BrushDocument.h"
+#include "resources/Brush.h"
 #include "resources/MenuItemList.h"
 #include "resources/Shell.h"
 

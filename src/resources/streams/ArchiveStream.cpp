@@ -37,16 +37,13 @@ void ArchiveStream::Seek(std::int64_t offset, CFile::From from) {
     FlushedFile().Seek(offset, from);
 }
 
-void ArchiveStream::Fail(StreamError error) const {
-    throw CArchiveException(CauseOf(error), GetName());
-}
-
-void ArchiveStream::Fail(StreamError error, std::string sentence) const {
-    throw CArchiveException(CauseOf(error), GetName(), std::move(sentence));
-}
-
 void ArchiveStream::Read(void* buffer, std::size_t count) {
-    if (archive.Read(buffer, count) != count) throw CArchiveException(CArchiveException::endOfFile);
+    if (archive.Read(buffer, count) != count) FailUnnamed(StreamError::endOfFile);
+}
+
+std::exception_ptr ArchiveStream::MakeFailure(StreamError error, std::string name,
+                                              std::string sentence) const {
+    return std::make_exception_ptr(CArchiveException(CauseOf(error), std::move(name), std::move(sentence)));
 }
 
 // The file itself, standing where the archive stands.

@@ -16,14 +16,13 @@ public:
     using ByteStream::Seek;
     void Seek(std::int64_t offset, CFile::From from) override;
     std::unique_ptr<CFile> DuplicateFile() const override { return archive.GetFile().Duplicate(); }
-    [[noreturn]] void Fail(StreamError error) const override;
-    [[noreturn]] void Fail(StreamError error, std::string sentence) const override;
     using InputStream::Read;
     void Read(void* buffer, std::size_t count) override;
     using OutputStream::Write;
     void Write(const void* buffer, std::size_t count) override { archive.Write(buffer, count); }
 
 private:
+    std::exception_ptr MakeFailure(StreamError error, std::string name, std::string sentence) const override;
     CFile& FlushedFile() const;
 
     CArchive& archive;

@@ -4,6 +4,7 @@
 #include "resources/streams/StreamError.h"
 
 #include <cstdint>
+#include <exception>
 #include <memory>
 #include <string>
 
@@ -22,10 +23,20 @@ public:
     void Seek(std::uint64_t position) { Seek(static_cast<std::int64_t>(position), CFile::From::begin); }
     // Another file over the same bytes, to be read later than the stream lives.
     virtual std::unique_ptr<CFile> DuplicateFile() const = 0;
-    // Throws the exception of the stream's form for this error, with the stream's name.
-    [[noreturn]] virtual void Fail(StreamError error) const = 0;
-    // The same with a sentence that tells the user more than the error does.
-    [[noreturn]] virtual void Fail(StreamError error, std::string sentence) const = 0;
+    // Throws the exception of the stream's form for this error, with the stream's name. A sentence tells the
+    // user more than the error does.
+    [[noreturn]] void Fail(StreamError error, std::string sentence = {}) const {
+        std::rethrow_exception(MakeFailure(error, GetName(), std::move(sentence)));
+    }
+    // The same without the stream's name: for short reads and for kinds of file that go by their documents.
+    [[noreturn]] void FailUnnamed(StreamError error, std::string sentence = {}) const {
+        std::rethrow_exception(MakeFailure(error, {}, std::move(sentence)));
+    }
+
+private:
+    // An empty sentence stands for the error's own.
+    virtual std::exception_ptr MakeFailure(StreamError error, std::string name,
+                                           std::string sentence) const = 0;
 };
 
 } // namespace keltavlo

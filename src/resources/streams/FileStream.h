@@ -15,14 +15,23 @@ public:
     using ByteStream::Seek;
     void Seek(std::int64_t offset, CFile::From from) override { file.Seek(offset, from); }
     std::unique_ptr<CFile> DuplicateFile() const override { return file.Duplicate(); }
-    [[noreturn]] void Fail(StreamError error) const override;
-    [[noreturn]] void Fail(StreamError error, std::string sentence) const override;
     using InputStream::Read;
-    void Read(void* buffer, std::size_t count) override;
+    void Read(void* buffer, std::size_t count) override {
+        if (file.Read(buffer, count) != count) FailUnnamed(StreamError::endOfFile);
+    }
     using OutputStream::Write;
     void Write(const void* buffer, std::size_t count) override { file.Write(buffer, count); }
 
 private:
+    std::exception_ptr MakeFailure(StreamError error, std::string name, std::string sentence) const override {
+        return std::make_exception_ptr(CFileException(CauseOf(error), std::move(name), std::move(sentence)));
+    }
+    // File exceptions number their causes the same way, but have fewer of them.
+    static CFileException::Cause CauseOf(StreamError error) {
+        const bool known = error >= StreamError::generic && error <= StreamError::endOfFile;
+        return known ? static_cast<CFileException::Cause>(error) : CFileException::generic;
+    }
+
     CFile& file;
 };
 

@@ -1,6 +1,5 @@
 #include "resources/streams/TaggedFile.h"
 
-#include "framework/core/Exceptions.h"
 #include "framework/core/Text.h"
 #include "resources/streams/InputStream.h"
 
@@ -16,7 +15,7 @@ namespace {
 template <class Unit>
 std::vector<Unit> ReadTitle(InputStream& in) {
     const auto count = in.Read<std::uint32_t>();
-    if (count > in.GetRemaining() / sizeof(Unit)) throw CArchiveException(CArchiveException::endOfFile);
+    if (count > in.GetRemaining() / sizeof(Unit)) in.FailUnnamed(StreamError::endOfFile);
     std::vector<Unit> units(count);
     in.Read(std::span<Unit>(units));
     units.erase(std::find(units.begin(), units.end(), Unit{}), units.end());
@@ -31,7 +30,7 @@ std::uint32_t ReadTaggedHeader(InputStream& in, std::uint32_t expectedType) {
     const auto type = in.Read<std::uint32_t>();
     const auto chunkCount = in.Read<std::uint32_t>();
     if (!std::equal(std::begin(magic), std::end(magic), tagged::magic) || type != expectedType)
-        throw CArchiveException(CArchiveException::badClass);
+        in.FailUnnamed(StreamError::badClass);
     return chunkCount;
 }
 
@@ -52,7 +51,7 @@ TaggedContents ReadTaggedContents(InputStream& in, std::uint32_t expectedType,
         switch (in.Read<std::uint32_t>()) {
         case tagged::idChunk:
             contents.id = in.Read<std::uint32_t>();
-            if (onlyId && contents.id != *onlyId) throw CArchiveException(CArchiveException::badIndex);
+            if (onlyId && contents.id != *onlyId) in.FailUnnamed(StreamError::badIndex);
             break;
         case tagged::ansiTitleChunk:
             ReadAnsiTitle(in, contents.title);
@@ -61,7 +60,7 @@ TaggedContents ReadTaggedContents(InputStream& in, std::uint32_t expectedType,
             ReadWideTitle(in, contents.title);
             break;
         default:
-            throw CArchiveException(CArchiveException::badIndex);
+            in.FailUnnamed(StreamError::badIndex);
         }
     }
     return contents;

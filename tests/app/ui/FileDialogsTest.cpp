@@ -1,5 +1,5 @@
 // The file dialog as the program uses it, with the real documents behind it.
-#include "app/PreviewReader.h"
+#include "app/PictureFiles.h"
 #include "app/ui/FileDialogServices.h"
 #include "app/ui/HelpWindow.h"
 #include "image/TavloDocument.h"
@@ -182,7 +182,7 @@ TEST_F(FileDialogsTest, RemembersThatThePreviewIsOn) {
         return wasOn;
     };
     EXPECT_FALSE(switchPreview(program));
-    CKelTavloApp next(std::make_unique<ProfileStore>(PathTo("settings.ini")));
+    CKelTavloApp next(ProfileStore(PathTo("settings.ini")));
     next.InitInstance({textures + "a.wal"});
     EXPECT_TRUE(switchPreview(next));
 }

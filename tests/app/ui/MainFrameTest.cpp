@@ -101,8 +101,8 @@ TEST_F(MainFrameTest, SettingsAreWrittenBeforeTheQuestion) {
     CDocument* document = program.OpenDocumentFile(Put("a.wal", MakeWal(8, 8)));
     document->SetModifiedFlag();
     const DialogAnswer cancel([&](QDialog& dialog) {
-        EXPECT_TRUE(program.GetProfile()->ReadBinary("Main", "WindowPlacement"));
-        EXPECT_TRUE(program.GetProfile()->ReadBinary("ToolBarState", "State"));
+        EXPECT_TRUE(program.GetProfile().ReadBinary("Main", "WindowPlacement"));
+        EXPECT_TRUE(program.GetProfile().ReadBinary("ToolBarState", "State"));
         dialog.reject();
     });
     EXPECT_FALSE(GetMainFrame().close());
@@ -121,7 +121,7 @@ TEST_F(MainFrameTest, StaysWhileADialogIsOpen) {
 
 TEST_F(MainFrameTest, StartsAsItWasLeft) {
     const auto layoutOfNext = [&] {
-        CKelTavloApp next(std::make_unique<ProfileStore>(PathTo("settings.ini")));
+        CKelTavloApp next(ProfileStore(PathTo("settings.ini")));
         Start(next);
         return Layout(*next.GetMainFrame());
     };

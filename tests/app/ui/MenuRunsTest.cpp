@@ -2,7 +2,7 @@
 #include "framework/ui/CMenu.h"
 #include "image/ImageDocuments.h"
 #include "res/CommandIds.h"
-#include "resources/BrushDocument.h"
+#include "resources/Brush.h"
 #include "support/ui/ProgramFixture.h"
 
 #include <QColorDialog>

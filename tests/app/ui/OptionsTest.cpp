@@ -99,9 +99,9 @@ TEST_F(OptionsTest, GammaAndColorsOutliveTheProgram) {
     GetMainFrame().close();
     CustomColors older{}, newer{};
     newer[15] = 0x00332211;
-    WriteCustomColors(*program.GetProfile(), applicationSection, older);
-    WriteCustomColors(*program.GetProfile(), mainSection, newer); // read last
-    CKelTavloApp next(std::make_unique<ProfileStore>(PathTo("settings.ini")));
+    WriteCustomColors(program.GetProfile(), applicationSection, older);
+    WriteCustomColors(program.GetProfile(), mainSection, newer); // read last
+    CKelTavloApp next(ProfileStore(PathTo("settings.ini")));
     Start(next);
     EXPECT_EQ(next.GetMainFrame()->GetGamma().GetValues(), (GammaValues{0.3333, 1.5, 0}));
     EXPECT_EQ(GetCustomColors(), newer);

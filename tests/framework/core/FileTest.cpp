@@ -1,5 +1,6 @@
 #include "framework/core/CMemFile.h"
 #include "framework/core/ReplacingFile.h"
+#include "support/CauseOf.h"
 #include "support/FolderTest.h"
 
 #include <filesystem>
@@ -19,9 +20,8 @@ protected:
         file.Close();
     }
     CFileException::Cause OpenFailure(const std::string& name, unsigned flags = CFile::modeRead) const {
-        CFileException failure;
-        EXPECT_EQ(OpenDiskFile(PathTo(name), flags, &failure), nullptr);
-        return failure.cause;
+        return static_cast<CFileException::Cause>(
+            CauseOf<CFileException>([&] { OpenDiskFile(PathTo(name), flags); }));
     }
 };
 
@@ -38,7 +38,7 @@ TEST_F(FileTest, OpensOrdinaryFilesOnly) {
 }
 
 TEST_F(FileTest, DuplicatesKeepTheirOwnPosition) {
-    const auto file = OpenDiskFile(Put("a", ToBytes("0123456789")), CFile::modeRead, nullptr);
+    const auto file = OpenDiskFile(Put("a", ToBytes("0123456789")), CFile::modeRead);
     const auto second = file->Duplicate();
     file->Seek(4, CFile::From::begin);
     char got = 0;

@@ -21,8 +21,9 @@ TEST_F(ProfileStoreTest, KeepsValuesForTheNextRun) {
     EXPECT_FALSE(store.ReadBinary("Main", "Value"));
     EXPECT_TRUE(store.WriteBinary("Main", "Value", three));
     EXPECT_TRUE(ProfileStore(path).WriteBinary("Other", "Value", {}));
+    EXPECT_TRUE(store.WriteBinary("Main", "Second", three));
+    EXPECT_EQ(store.ReadBinary("Other", "Value"), ProfileStore::Bytes()) << "nobody undoes what others wrote";
     EXPECT_EQ(ProfileStore(path).ReadBinary("Main", "Value"), three);
-    EXPECT_EQ(store.ReadBinary("Other", "Value"), ProfileStore::Bytes());
     EXPECT_EQ(store.GetProfileBinary("Main", "Value", 3), three);
     for (const std::size_t other : {2U, 4U}) EXPECT_FALSE(store.GetProfileBinary("Main", "Value", other));
     EXPECT_TRUE(store.DeleteSubKeys());
@@ -36,13 +37,13 @@ TEST_F(ProfileStoreTest, DamagedFilesGiveWholeValuesOrNone) {
         std::string flipped = whole;
         flipped[bit / 8] = static_cast<char>(flipped[bit / 8] ^ 1 << bit % 8);
         WriteFile(path, ToBytes(flipped));
-        const auto gamma = store.ReadBinary("Main", "Gamma");
+        const auto gamma = ProfileStore(path).ReadBinary("Main", "Gamma");
         EXPECT_TRUE(!gamma || gamma->size() == 12) << flipped;
     }
     for (const char* foreign : {"Gamma=00", "[Main]\nGamma=0g", "[Main]\nGamma=@Variant(\\0\\0\\0\\t\\xff)",
                                 "[Main]\n=\n[]\n==\n[", "\n\n[Main]\nGamma=0"}) {
         WriteFile(path, ToBytes(foreign));
-        EXPECT_FALSE(store.ReadBinary("Main", "Gamma")) << foreign;
+        EXPECT_FALSE(ProfileStore(path).ReadBinary("Main", "Gamma")) << foreign;
     }
     EXPECT_TRUE(store.WriteBinary("Main", "Gamma", three)) << "a damaged file is written anew";
     EXPECT_EQ(store.ReadBinary("Main", "Gamma"), three);
@@ -50,19 +51,20 @@ TEST_F(ProfileStoreTest, DamagedFilesGiveWholeValuesOrNone) {
 
 TEST_F(ProfileStoreTest, WhatIsNoSettingsFileIsLeftAlone) {
     ASSERT_EQ(mkfifo(PathTo("pipe").c_str(), 0600), 0);
-    for (const std::string& none : {PathTo("pipe"), PathTo(""), std::string("/dev/full")}) {
+    for (const std::string& none : {PathTo("pipe"), PathTo(""), std::string("/dev/full"), std::string()}) {
         ProfileStore other(none);
         EXPECT_FALSE(other.ReadBinary("Main", "Value")) << none;
-        EXPECT_FALSE(other.WriteBinary("Main", "Value", three)) << none;
+        EXPECT_EQ(other.WriteBinary("Main", "Value", three), none.empty()) << none;
+        EXPECT_EQ(other.ReadBinary("Main", "Value").has_value(), none.empty()) << "a lost value is absent";
     }
     EXPECT_FALSE(ProfileStore(Put("large", Bytes((1 << 20) + 1))).ReadBinary("Main", "Value"));
 }
 
 TEST_F(ProfileStoreTest, RecentFilesHaveAValueEach) {
-    RecentFileList list(&store);
+    RecentFileList list(store);
     for (const char* recent : {"/a", "/b", "/c", "/d\xFF\n", "/e"}) list.Add(recent);
     list.Remove("/c");
-    EXPECT_EQ(RecentFileList(&store).GetPaths(), (std::vector<std::string>{"/e", "/d\xFF\n", "/b"}));
+    EXPECT_EQ(RecentFileList(store).GetPaths(), (std::vector<std::string>{"/e", "/d\xFF\n", "/b"}));
     EXPECT_EQ(store.ReadBinary("Recent File List", "File1")->size(), 2U);
     EXPECT_FALSE(store.ReadBinary("Recent File List", "File4"));
 }

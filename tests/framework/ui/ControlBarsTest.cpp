@@ -74,14 +74,14 @@ TEST_F(ControlBarsTest, TheStateComesBackWholeOrNotAtAll) {
     mainFrame.statusBar()->hide();
     const std::string saved = Layout();
     mainFrame.GetBars().SaveState("Bars");
-    const std::vector<std::byte> whole = *program.GetProfile()->ReadBinary("Bars", "State");
+    const std::vector<std::byte> whole = *program.GetProfile().ReadBinary("Bars", "State");
     tools.show();
     panel.setFloating(false);
     mainFrame.addDockWidget(Qt::LeftDockWidgetArea, &panel);
     mainFrame.addToolBar(Qt::LeftToolBarArea, &tools);
     const std::string before = Layout();
     const auto layoutOf = [&](const std::vector<std::byte>& state) {
-        program.GetProfile()->WriteBinary("Bars", "State", state);
+        program.GetProfile().WriteBinary("Bars", "State", state);
         mainFrame.GetBars().LoadState("Bars");
         return Layout();
     };

@@ -47,7 +47,7 @@ std::span<const MenuRow> TestMainFrame::GetMenuRows(unsigned menuId) const {
     return menuId == ownMenu ? std::span<const MenuRow>(ownRows) : std::span<const MenuRow>(documentRows);
 }
 
-TestProgram::TestProgram(const std::string& settings) : Noting(std::make_unique<ProfileStore>(settings)) {
+TestProgram::TestProgram(const std::string& settings) : Noting(ProfileStore(settings)) {
     GetFrameFactory()->SetMainFrame(&mainFrame);
     for (const CRuntimeClass* type :
          {&TestFrame::runtimeClass, &TestHiddenFrame::runtimeClass, &TestView::runtimeClass})

@@ -4,8 +4,8 @@
 #include "image/ImageDocuments.h"
 #include "image/ui/TavloView.h"
 #include "image/ui/TavloViewFrame.h"
-#include "resources/BrushDocument.h"
-#include "resources/BuiltInPath.h"
+#include "resources/Brush.h"
+#include "resources/BuiltInFiles.h"
 #include "support/ui/ProgramFixture.h"
 
 #include <QCoreApplication>

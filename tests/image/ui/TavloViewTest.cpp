@@ -1,7 +1,7 @@
 #include "framework/ui/CMenu.h"
 #include "image/ui/TavloViewFixture.h"
 #include "res/CommandIds.h"
-#include "resources/ColorTableDocument.h"
+#include "resources/PaletteDocument.h"
 #include "support/Fault.h"
 
 #include <QScrollBar>

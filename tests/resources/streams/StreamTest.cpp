@@ -1,6 +1,5 @@
 #include "builders/PackBuilder.h"
-#include "framework/core/CMemFile.h"
-#include "resources/streams/ArchiveStream.h"
+#include "resources/streams/ArchiveTransfer.h"
 #include "resources/streams/FileStream.h"
 #include "resources/streams/TaggedFile.h"
 #include "support/CauseOf.h"
@@ -19,9 +18,9 @@ Bytes Tagged(std::string_view type, char count, std::string_view chunks) {
 
 TaggedContents ReadBrush(Bytes bytes) {
     CMemFile file{std::span<std::byte>(bytes)};
-    CArchive archive(file, CArchive::load);
-    ArchiveStream stream(archive);
-    return ReadTaggedContents(stream, tagged::brushType);
+    TaggedContents contents;
+    ReadThroughArchive(file, [&](InputStream& in) { contents = ReadTaggedContents(in, tagged::brushType); });
+    return contents;
 }
 
 int BrushFailure(const Bytes& bytes) {

@@ -25,7 +25,7 @@ protected:
     bool Send(CommandId id) { return SendCommand(GetMainFrame(), id); }
     CCmdUI StateOf(CommandId id) { return AskCommand(GetMainFrame(), id); }
 
-    CKelTavloApp program{std::make_unique<ProfileStore>(PathTo("settings.ini"))};
+    CKelTavloApp program{ProfileStore(PathTo("settings.ini"))};
 };
 
 } // namespace keltavlo

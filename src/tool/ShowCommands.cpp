@@ -78,6 +78,25 @@ void DescribeDocument(std::ostream& out, const CDocument& document) {
 
 } // namespace
 
+void ListFolder(Tool& tool, const ToolArguments& arguments) {
+    FileSystem& files = tool.GetApplication().GetFileSystem();
+    const std::string folder = TreePath(arguments.paths.front());
+    EntryStatus status;
+    files.GetStatus(folder, status);
+    FolderListing listing;
+    files.ListFolder(folder, listing);
+    const bool inArchive = status.browsable || !status.onDisk;
+    if (!IsTree(status) || !inArchive)
+        return tool.Fail("\"" + ToDisplayPath(folder) + "\" is not an archive or a folder in one.");
+    for (const std::string& name : listing.names) {
+        files.GetStatus(JoinPath(folder, name), status);
+        const bool isFolder = status.IsDirectory();
+        const std::string type = isFolder ? "folder" : TypeNameOf(name);
+        tool.Output() << Format("%10s  %-38s  %s\n", isFolder ? "" : std::to_string(status.size).c_str(),
+                                type.c_str(), ToUtf8(name).c_str());
+    }
+}
+
 void ShowInfo(Tool& tool, const ToolArguments& arguments) {
     const std::string path = FullPath(arguments.paths.front());
     const CDocument* document = tool.GetApplication().OpenDocumentFile(path);

@@ -1,9 +1,11 @@
-#include "resources/BuiltInPath.h"
+#include "resources/BuiltInFiles.h"
 
+#include "framework/core/EmbeddedFiles.h"
 #include "framework/core/ModulePath.h"
 #include "framework/core/Path.h"
-#include "framework/core/ProgramResources.h"
 #include "framework/core/Text.h"
+#include "resources/DocTemplateRegistry.h"
+#include "resources/PaletteDocument.h"
 
 #include <QString>
 
@@ -22,16 +24,37 @@ std::string DecodeName(std::string_view bytes) {
     return FromQString(QString::fromStdU16String(units.substr(0, units.find(u'\0'))));
 }
 
+const ColorList& FilledOnce(ColorList& list, BuiltInFile file) {
+    if (list.GetCount() > 0) return list;
+    const std::string path = GetBuiltInPath(file);
+    const auto* document =
+        dynamic_cast<const ColorTableDocument*>(DocTemplateRegistry::Get().OpenDocument(path));
+    if (!document || document->GetColorCount() == 0)
+        throw CArchiveException(CArchiveException::generic, path,
+                                "The program is incomplete: a built-in palette is missing.");
+    return list = document->GetColors();
+}
+
 } // namespace
 
 std::string GetBuiltInName(unsigned id) {
-    const ResourceRow* row = FindResource(id, builtInNameType);
+    const EmbeddedFile* row = FindEmbeddedFile(id, builtInNameType);
     return row ? DecodeName({reinterpret_cast<const char*>(row->data.data()), row->data.size()})
                : std::string();
 }
 
 std::string GetBuiltInPath(unsigned id) {
     return JoinPath(JoinPath(GetModulePath(), builtInFolder), GetBuiltInName(id));
+}
+
+const ColorList& GetQuakePalette() {
+    static ColorList list;
+    return FilledOnce(list, quakePalette);
+}
+
+const ColorList& GetQuakeIIPalette() {
+    static ColorList list;
+    return FilledOnce(list, quake2Palette);
 }
 
 } // namespace keltavlo

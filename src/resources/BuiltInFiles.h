@@ -4,6 +4,8 @@
 
 namespace keltavlo {
 
+class ColorList;
+
 // Numbers of the files that the program carries inside itself.
 enum BuiltInFile : unsigned {
     quakePalette = 139,
@@ -27,5 +29,10 @@ std::string GetBuiltInName(unsigned id);
 
 // The path of the built-in file: the program's own path, "res", the name.
 std::string GetBuiltInPath(unsigned id);
+
+// The built-in palettes of the games, one list each for the whole run, filled on first use from the built-in
+// documents. CArchiveException when the program's own file cannot be read.
+const ColorList& GetQuakePalette();
+const ColorList& GetQuakeIIPalette();
 
 } // namespace keltavlo
