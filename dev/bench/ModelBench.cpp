@@ -1,8 +1,8 @@
-#include "builders/ModelBuilder.h"
 #include "framework/core/CArchive.h"
 #include "framework/core/DiskFile.h"
 #include "preview3d/MD2Document.h"
 #include "resources/streams/ArchiveStream.h"
+#include "support/builders/ModelBuilder.h"
 
 #include <QTemporaryDir>
 

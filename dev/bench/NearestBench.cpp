@@ -1,4 +1,3 @@
-#include "bench/PlainDiffusion.h"
 #include "formats/Codec.h"
 #include "framework/core/CMemFile.h"
 #include "image/picture/ColorList.h"
@@ -6,6 +5,7 @@
 #include "image/picture/NearestSearch.h"
 #include "image/picture/Texture.h"
 #include "resources/streams/ArchiveStream.h"
+#include "support/PlainDiffusion.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>

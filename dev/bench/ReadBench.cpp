@@ -1,4 +1,3 @@
-#include "builders/PackBuilder.h"
 #include "formats/Codec.h"
 #include "framework/core/CArchive.h"
 #include "framework/core/CMemFile.h"
@@ -8,6 +7,7 @@
 #include "image/picture/DibStream.h"
 #include "image/picture/Texture.h"
 #include "resources/streams/ArchiveStream.h"
+#include "support/builders/PackBuilder.h"
 
 #include <QTemporaryDir>
 

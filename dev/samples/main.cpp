@@ -2,11 +2,11 @@
 #include "UrnModel.h"
 #include "UrnSkin.h"
 #include "app/HeadlessApplication.h"
-#include "builders/PackBuilder.h"
 #include "formats/Codec.h"
 #include "framework/core/CMemFile.h"
 #include "resources/BuiltInPalettes.h"
 #include "resources/streams/ArchiveStream.h"
+#include "support/builders/PackBuilder.h"
 
 #include <cstdio>
 

@@ -6,8 +6,6 @@
 #include "framework/ui/SplitTracker.h"
 #include "image/ui/InfiniteScrollView.h"
 #include "res/CommandIds.h"
-#include "res/Menus.h"
-#include "res/ToolBars.h"
 #include "support/ui/ProgramFixture.h"
 
 #include <QDockWidget>
@@ -18,18 +16,6 @@
 namespace keltavlo {
 
 namespace {
-
-void ExpectTexts(CommandId id) {
-    EXPECT_TRUE(id == 0 || !CommandPrompt(id).empty()) << id;
-    EXPECT_TRUE(id == 0 || !CommandToolTip(id).empty()) << id;
-}
-
-void ExpectTexts(std::span<const MenuRow> rows) {
-    for (const MenuRow& row : rows) {
-        ExpectTexts(row.id);
-        ExpectTexts(row.items);
-    }
-}
 
 // What a restart is to bring back.
 std::string Layout(const MainFrame& frame) {
@@ -44,15 +30,6 @@ std::string Layout(const MainFrame& frame) {
 }
 
 using MainFrameTest = ProgramFixture;
-
-TEST_F(MainFrameTest, EveryCommandHasAPromptAndAToolTip) {
-    Start();
-    ExpectTexts(MenuBarRows(IDR_MAINFRAME));
-    ExpectTexts(MenuBarRows(IDR_DOCUMENT));
-    for (const AcceleratorRow& row : AcceleratorRows()) ExpectTexts(row.id);
-    for (const unsigned bar : {IDR_STANDARD_BAR, IDR_FILTER_BAR})
-        for (const ToolBarRow& row : ToolBarRows(bar)) ExpectTexts(row.id);
-}
 
 TEST_F(MainFrameTest, AltFOpensTheFileMenuEveryTime) {
     Start();

@@ -1,8 +1,8 @@
 #include "framework/ui/CMenu.h"
 #include "framework/ui/CStatusBar.h"
 #include "framework/ui/RecentFileMenu.h"
-#include "framework/ui/WindowFixture.h"
 #include "support/ui/DialogAnswer.h"
+#include "support/ui/WindowFixture.h"
 
 #include <QMdiArea>
 #include <QMdiSubWindow>

@@ -1,8 +1,8 @@
 #include "image/picture/DibStream.h"
 
-#include "formats/CodecHarness.h"
 #include "image/picture/DibSection.h"
 #include "resources/streams/FileStream.h"
+#include "support/CodecHarness.h"
 
 namespace keltavlo {
 

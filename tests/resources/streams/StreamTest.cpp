@@ -1,9 +1,9 @@
-#include "builders/PackBuilder.h"
 #include "framework/core/CMemFile.h"
 #include "resources/streams/ArchiveStream.h"
 #include "resources/streams/FileStream.h"
 #include "resources/streams/TaggedFile.h"
 #include "support/CauseOf.h"
+#include "support/builders/PackBuilder.h"
 
 #include <gtest/gtest.h>
 

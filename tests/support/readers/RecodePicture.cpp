@@ -1,7 +1,7 @@
-#include "ReadingStream.h"
-#include "Scripts.h"
 #include "formats/Codec.h"
 #include "resources/BuiltInPalettes.h"
+#include "support/readers/ReadingStream.h"
+#include "support/readers/Scripts.h"
 
 #include <algorithm>
 #include <iterator>

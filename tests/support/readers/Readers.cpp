@@ -1,12 +1,7 @@
-#include "Readers.h"
+#include "support/readers/Readers.h"
 
-#include "ReadingStream.h"
-#include "Scripts.h"
 #include "archives/PAKDocument.h"
 #include "archives/WADDocument.h"
-#include "builders/ModelBuilder.h"
-#include "builders/TextureBuilder.h"
-#include "builders/WadBuilder.h"
 #include "image/ImageDocuments.h"
 #include "image/picture/DibSection.h"
 #include "image/picture/DibStream.h"
@@ -17,6 +12,11 @@
 #include "resources/ColorSpaceDocument.h"
 #include "resources/LMPDocument.h"
 #include "resources/streams/ArchiveStream.h"
+#include "support/builders/ModelBuilder.h"
+#include "support/builders/TextureBuilder.h"
+#include "support/builders/WadBuilder.h"
+#include "support/readers/ReadingStream.h"
+#include "support/readers/Scripts.h"
 
 #include <algorithm>
 #include <stdexcept>

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "builders/PackBuilder.h"
 #include "formats/Codec.h"
 #include "framework/core/CMemFile.h"
 #include "image/picture/ColorList.h"
 #include "image/picture/Texture.h"
 #include "resources/streams/ArchiveStream.h"
 #include "support/CauseOf.h"
+#include "support/builders/PackBuilder.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "Readers.h"
 #include "framework/core/CMemFile.h"
 #include "image/picture/ColorList.h"
 #include "image/picture/DibSection.h"
 #include "image/picture/Texture.h"
 #include "resources/streams/ArchiveStream.h"
 #include "resources/streams/FileStream.h"
+#include "support/readers/Readers.h"
 
 namespace keltavlo {
 
