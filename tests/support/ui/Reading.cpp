@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <tuple>
 #include <vector>
 
 namespace keltavlo {
@@ -68,10 +69,10 @@ std::string ReadingOf(const QWidget& window) {
         if (!text.isEmpty()) items.push_back({place.y(), place.x(), text});
     }
     constexpr int sameRow = 8; // pixels
-    std::ranges::stable_sort(items, {}, &Item::y);
+    std::ranges::sort(items, {}, &Item::y);
     for (std::size_t i = 1; i < items.size(); ++i)
         if (items[i].y - items[i - 1].y < sameRow) items[i].y = items[i - 1].y;
-    std::ranges::stable_sort(items, {}, [](const Item& item) { return std::pair(item.y, item.x); });
+    std::ranges::sort(items, {}, [](const Item& item) { return std::tie(item.y, item.x, item.text); });
     QString reading = window.windowTitle();
     for (std::size_t i = 0; i < items.size(); ++i)
         reading += (i > 0 && items[i].y == items[i - 1].y ? "   " : "\n") + items[i].text;
