@@ -1,9 +1,9 @@
 #include "app/HeadlessApplication.h"
 #include "archives/FolderDocument.h"
-#include "builders/WadBuilder.h"
 #include "framework/core/DiskFile.h"
 #include "framework/core/Path.h"
 #include "framework/core/Text.h"
+#include "support/builders/WadBuilder.h"
 
 #include <QTemporaryDir>
 

@@ -1,7 +1,7 @@
-#include "builders/ModelBuilder.h"
 #include "framework/core/DiskFile.h"
 #include "preview3d/MD2Document.h"
 #include "resources/streams/ArchiveTransfer.h"
+#include "support/builders/ModelBuilder.h"
 
 #include <QTemporaryDir>
 

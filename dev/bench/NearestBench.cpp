@@ -1,8 +1,8 @@
-#include "bench/PlainDiffusion.h"
 #include "formats/TextureBytes.h"
 #include "image/picture/ColorList.h"
 #include "image/picture/Image.h"
 #include "image/picture/NearestSearch.h"
+#include "support/PlainDiffusion.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>

@@ -1,9 +1,9 @@
-#include "builders/PackBuilder.h"
 #include "formats/TextureBytes.h"
 #include "framework/core/DiskFile.h"
 #include "image/picture/ColorList.h"
 #include "image/picture/DibSection.h"
 #include "image/picture/Texture.h"
+#include "support/builders/PackBuilder.h"
 
 #include <QTemporaryDir>
 

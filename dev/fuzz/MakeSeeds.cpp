@@ -1,6 +1,6 @@
 // MakeSeeds FOLDER: writes FOLDER/READER/seed1 and so on for every reader, and prints the readers' names.
 
-#include "Readers.h"
+#include "support/readers/Readers.h"
 
 #include <cstdio>
 #include <filesystem>

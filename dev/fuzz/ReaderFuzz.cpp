@@ -1,7 +1,7 @@
 // One fuzz target for each reader; FUZZ_READER names it.
 
 #include "MemoryWatch.h"
-#include "Readers.h"
+#include "support/readers/Readers.h"
 
 #include <algorithm>
 #include <cstdio>

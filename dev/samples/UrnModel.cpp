@@ -1,7 +1,7 @@
 #include "UrnModel.h"
 
 #include "UrnSkin.h"
-#include "builders/ModelBuilder.h"
+#include "support/builders/ModelBuilder.h"
 
 #include <cmath>
 #include <iterator>

@@ -2,9 +2,9 @@
 #include "UrnModel.h"
 #include "UrnSkin.h"
 #include "app/HeadlessApplication.h"
-#include "builders/PackBuilder.h"
 #include "formats/TextureBytes.h"
 #include "resources/BuiltInFiles.h"
+#include "support/builders/PackBuilder.h"
 
 #include <cstdio>
 

@@ -1,14 +1,10 @@
-#include "Readers.h"
+#include "support/readers/Readers.h"
 
 #include <gtest/gtest.h>
 
 namespace keltavlo {
 
-namespace {
-
 class MutatedFiles : public testing::TestWithParam<Reader> {};
-
-} // namespace
 
 // Whatever is done to a file, its reader gives a result or one of the program's own exceptions, and the same
 // through a buffer as without one.

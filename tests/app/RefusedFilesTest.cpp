@@ -1,5 +1,6 @@
-#include "ReadingStream.h"
+#include "resources/streams/StreamError.h" // before the sentences, some of which are called like its values
 #include "support/TestApplication.h"
+#include "support/readers/ReadingStream.h"
 
 #include <cstring>
 

@@ -5,8 +5,6 @@
 
 namespace keltavlo {
 
-namespace {
-
 class SettingsTest : public FolderTest {
 protected:
     ProfileStore store{PathTo("settings.ini")};
@@ -47,6 +45,7 @@ TEST_F(SettingsTest, EverySliderPositionSurvivesStoring) {
 TEST(GammaSettingsTest, MapsChannelsThroughGamma) {
     EXPECT_EQ(GammaChannel(64, 2), 128);
     EXPECT_EQ(GammaChannel(128, 2), 181);
+    EXPECT_EQ(GammaChannel(2, 2), 23) << "rounded from 22.63";
     for (int value = 0; value < 256; ++value) EXPECT_EQ(GammaChannel(value, 1), value);
     GammaSettings settings;
     settings.SetValues({5, 1, 0});
@@ -54,7 +53,5 @@ TEST(GammaSettingsTest, MapsChannelsThroughGamma) {
     EXPECT_EQ(settings.GetTable()[7] >> 24, 7U);
     EXPECT_EQ(ApplyGamma({1, 1, 0}, 0x80102030), 0x80102000U);
 }
-
-} // namespace
 
 } // namespace keltavlo

@@ -6,8 +6,6 @@ namespace keltavlo {
 
 using testing::HasSubstr;
 
-namespace {
-
 class PAKDocumentTest : public WorkshopTest {
 protected:
     std::string OpenPack(const Bytes& bytes) { return Try<PAKDocument>(bytes, ".pak"); }
@@ -17,8 +15,6 @@ protected:
         return pack.Build();
     }
 };
-
-} // namespace
 
 TEST_F(PAKDocumentTest, TakesAtMost4096Records) {
     EXPECT_EQ(OpenPack(Pack(0)), "");

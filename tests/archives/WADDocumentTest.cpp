@@ -1,17 +1,15 @@
 #include "archives/WADDocument.h"
 
-#include "builders/WadBuilder.h"
 #include "image/ImageDocuments.h"
 #include "resources/PaletteDocument.h"
 #include "support/FakeProgress.h"
 #include "support/TestApplication.h"
+#include "support/builders/WadBuilder.h"
 
 namespace keltavlo {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
-
-namespace {
 
 class WADDocumentTest : public WorkshopTest {
 protected:
@@ -28,8 +26,6 @@ protected:
         return wad.size() - (3 - record) * WadBuilder::recordSize + field;
     }
 };
-
-} // namespace
 
 TEST_F(WADDocumentTest, NamesFollowTheLumpTypes) {
     WadBuilder wad("WAD2");

@@ -1,4 +1,4 @@
-# Without a display, the program prints one sentence and ends with exit code 1.
+# Without a display, the program prints one sentence and ends with exit code 1, but it answers on the console.
 # cmake -DPROGRAM=<keltavlo> -P StartTest.cmake
 cmake_minimum_required(VERSION 3.25)
 foreach(variable DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM QT_QPA_PLATFORM_PLUGIN_PATH)
@@ -11,3 +11,15 @@ foreach(display "" ":4095")
         message(SEND_ERROR "DISPLAY=${display}: exit code ${result}, and:\n${output}")
     endif()
 endforeach()
+
+# expect_answer(ARGUMENT CODE ANSWER)
+function(expect_answer argument code answer)
+    set(ENV{QT_QPA_PLATFORM} offscreen)
+    execute_process(COMMAND "${PROGRAM}" ${argument} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+    if(NOT result EQUAL code OR NOT output MATCHES "${answer}")
+        message(SEND_ERROR "${argument}: exit code ${result}, and:\n${output}")
+    endif()
+endfunction()
+expect_answer(--version 0 "^KelTavlo 0[.]23 [(]Alpha[)]\n$")
+expect_answer(--help 0 "^Usage: .*workshop.*The file to open")
+expect_answer(--bogus 1 "keltavlo: [^\n]*bogus[^\n]*\n$")

@@ -1,17 +1,13 @@
-#include "formats/CodecHarness.h"
+#include "support/CodecHarness.h"
 
 namespace keltavlo {
 
 // What every format promises.
 
-namespace {
-
 class CodecLaws : public testing::TestWithParam<Codec> {
 protected:
     CodecHarness codec{GetParam()};
 };
-
-} // namespace
 
 TEST_P(CodecLaws, WhatIsWrittenIsReadBack) {
     for (const auto& [width, height] :

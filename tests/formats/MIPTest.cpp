@@ -1,4 +1,4 @@
-#include "formats/CodecHarness.h"
+#include "support/CodecHarness.h"
 
 namespace keltavlo {
 

@@ -1,10 +1,10 @@
-#include "formats/CodecHarness.h"
+#include "support/CodecHarness.h"
 
 namespace keltavlo {
 
 namespace {
 
-constexpr std::size_t offsetsOffset = 40, nextFrameOffset = 56;
+constexpr std::size_t offsetsOffset = 40, nextFrameOffset = 56, flagsOffset = 88;
 
 class WALTest : public testing::Test {
 protected:
@@ -31,8 +31,12 @@ TEST_F(WALTest, LevelsFollowTheHeader) {
     }
 }
 
-TEST_F(WALTest, NamesKeepANulWhenWritten) {
+TEST_F(WALTest, FlagsAndValueFollowTheNamesWhichKeepANulWhenWritten) {
+    texture.quake2 = {"", "", 0x80000001, 0x40000002, 0xFFFFFFFD};
     Bytes bytes = wal.Write(texture);
+    EXPECT_EQ(Bytes(bytes.begin() + flagsOffset, bytes.begin() + 100),
+              Words({0x80000001, 0x40000002, 0xFFFFFFFD}));
+    EXPECT_EQ(wal.Read(bytes).quake2, texture.quake2);
     std::fill_n(bytes.begin(), 32, std::byte{'n'});
     std::fill_n(bytes.begin() + nextFrameOffset, 32, std::byte{'f'});
     const Texture read = wal.Read(bytes);

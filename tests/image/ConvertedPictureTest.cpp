@@ -1,7 +1,6 @@
 #include "image/ConvertedPicture.h"
 
-#include "formats/CodecHarness.h"
-#include "support/Fault.h"
+#include "support/CodecHarness.h"
 
 namespace keltavlo {
 
@@ -49,26 +48,6 @@ TEST_P(ConvertedPictureTest, StrokesConvertOnlyWhatTheyMust) {
                 const bool told = row == run.row && column >= run.first && column < run.first + run.count;
                 ASSERT_TRUE(told || after.GetPixel(column, row) == before.GetPixel(column, row));
             }
-    }
-}
-
-// Neither half a picture nor tables of another palette.
-TEST_P(ConvertedPictureTest, LacksOfMemoryLeaveNothingBehind) {
-    if (!allocationsCanFail) GTEST_SKIP();
-    const ColorList other{0xFF102030, 0xFFFFFF00};
-    bool hit = true;
-    for (unsigned first = 1; hit && !HasFailure(); ++first) {
-        SCOPED_TRACE(first);
-        converted.Get(picture, GetParam(), &other);
-        {
-            const Fault fault(Step::allocation, first, false);
-            try {
-                converted.Get(picture, GetParam(), &list);
-            } catch (const std::bad_alloc&) {
-            }
-            hit = fault.HasHit();
-        }
-        EXPECT_TRUE(SamePixels(converted.Get(picture, GetParam(), &list), ConvertAnew()));
     }
 }
 

@@ -1,8 +1,9 @@
 // Every allocation of an edit fails once, and from then on: the edit is made whole or not at all.
-#include "formats/CodecHarness.h"
+#include "image/ConvertedPicture.h"
 #include "image/ImageDocuments.h"
 #include "image/TextureEdits.h"
 #include "res/CommandIds.h"
+#include "support/CodecHarness.h"
 #include "support/Fault.h"
 #include "support/TestApplication.h"
 
@@ -117,5 +118,29 @@ TEST_P(EditFaults, AnEditIsMadeWholeOrNotAtAll) {
 
 INSTANTIATE_TEST_SUITE_P(Edits, EditFaults, testing::ValuesIn(edits),
                          [](const auto& edit) { return std::string(edit.param.name); });
+
+// A picture for a view: neither half of one nor tables of another palette.
+TEST(ConvertedPictureFaults, LeaveNothingBehind) {
+    const Image picture = RandomTexture(7, 5);
+    const ColorList list{0xFF000000, 0xFF80FF00, 0xFFFFFFFF}, other{0xFF102030, 0xFFFFFF00};
+    for (const auto conversion : {PictureConversion::nearest, PictureConversion::errorDiffusion}) {
+        ConvertedPicture converted, undisturbed;
+        bool hit = allocationsCanFail;
+        for (unsigned first = 1; hit && !testing::Test::HasFailure(); ++first) {
+            converted.Get(picture, conversion, &other);
+            {
+                const Fault fault(Step::allocation, first, false);
+                try {
+                    converted.Get(picture, conversion, &list);
+                } catch (const std::bad_alloc&) {
+                }
+                hit = fault.HasHit();
+            }
+            EXPECT_TRUE(SamePixels(converted.Get(picture, conversion, &list),
+                                   undisturbed.Get(picture, conversion, &list)))
+                << first;
+        }
+    }
+}
 
 } // namespace keltavlo

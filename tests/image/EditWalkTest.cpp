@@ -1,9 +1,9 @@
 // Random edits, strokes, undos and redos against a plain model of what a history means.
-#include "formats/CodecHarness.h"
 #include "image/ImageDocuments.h"
 #include "image/TextureEdits.h"
 #include "res/CommandIds.h"
 #include "resources/Brush.h"
+#include "support/CodecHarness.h"
 #include "support/FakeShell.h"
 #include "support/TestApplication.h"
 

@@ -34,13 +34,16 @@ protected:
 TEST_F(TavloDocumentTest, NewDocuments) {
     auto& wal = New<WALDocument>();
     EXPECT_EQ(wal.GetTitle(), "wal1");
-    EXPECT_EQ(wal.GetTexture().GetWidth(), 64);
+    EXPECT_EQ(std::pair(wal.GetTexture().GetWidth(), wal.GetTexture().GetHeight()), std::pair(64, 64));
     EXPECT_EQ(wal.GetCurrentPalette()->GetTitle(), "Quake II");
     EXPECT_EQ(New<MIPDocument>().GetCurrentPalette()->GetTitle(), "Quake");
     auto& bitmap = New<BMPDocument>();
     EXPECT_FALSE(bitmap.HasPalette() || bitmap.HasBrush() || bitmap.IsModified());
-    EXPECT_EQ(bitmap.GetReferences().at(1)->GetTitle(), "Color Picker");
-    EXPECT_EQ(bitmap.GetReferences().at(8)->GetTitle(), "RGBA");
+    std::vector<std::string> titles;
+    for (const auto* reference : bitmap.GetReferences()) titles.push_back(reference->GetTitle());
+    EXPECT_THAT(titles,
+                testing::ElementsAre("Texel Brush", "Color Picker", "Gray Scale Colors", "Quake", "Quake II",
+                                     "Hexen II", "Internet Safe Colors", "Alpha Scale Colors", "RGBA"));
     EXPECT_EQ(New<WALDocument>().GetTitle(), "wal2");
 }
 
@@ -100,26 +103,72 @@ TEST_F(TavloDocumentTest, UndoAndRedoNameWhatTheyExchange) {
     EXPECT_EQ(StateOf(document, ID_EDIT_REDO).text, "Can't &Redo\tCtrl+Y");
 }
 
-TEST_F(TavloDocumentTest, PropertiesMarkTheDocumentAndPicturesTellTheViews) {
-    auto& document = *Open<WALDocument>(Put("floor.wal", MakeWal(16, 8)));
-    CountingView view;
-    document.AddView(view);
-    ResizePicture(document, 16, 8);
-    ChangeQuake2Names(document, document.GetQuake2Names());
-    EXPECT_FALSE(document.IsModified()) << "what changes nothing is no change";
-    ChangeQuake2Names(document, {"new", "next"});
-    document.SetModifiedFlag(false);
-    document.GetHistory().Undo();
-    EXPECT_TRUE(document.IsModified());
-    EXPECT_EQ(document.GetQuake2Names(), (Quake2Names{"test", ""}));
-    EXPECT_EQ(view.updates, 0);
-    PastePicture(document, Image(3, 2));
-    const int before = view.updates;
-    EXPECT_GT(before, 0);
-    document.GetHistory().Undo();
-    EXPECT_GT(view.updates, before);
-    document.RemoveView(view); // the last view: the document goes with it
-    EXPECT_TRUE(DocTemplateRegistry::Get().FindTemplate(WALDocument::runtimeClass)->GetDocuments().empty());
+TEST_F(TavloDocumentTest, EveryChangeMarksTheDocumentAndIsTakenBack) {
+    struct Edit {
+        std::string name;
+        void (*make)(TavloDocument&);
+        bool (*isMade)(const Texture&);
+        bool ofPicture = false;
+    };
+    const auto isGray = [](const Texture& texture) {
+        return (texture.GetPixel(15, 7) & 0xFFFFFF) % 0x10101 == 0;
+    };
+    const Edit edits[] = {
+        {"Resize", [](TavloDocument& document) { ResizePicture(document, 3, 5); },
+         [](const Texture& texture) { return texture.GetWidth() == 3 && texture.GetHeight() == 5; }, true},
+        {"Paste", [](TavloDocument& document) { PastePicture(document, Image(3, 2)); },
+         [](const Texture& texture) { return texture.GetWidth() == 3 && texture.quake2.name.empty(); }, true},
+        {"Quake Name", [](TavloDocument& document) { ChangeQuakeName(document, "a"); },
+         [](const Texture& texture) { return texture.quakeName == "a"; }},
+        {"Quake II Name",
+         [](TavloDocument& document) {
+             ChangeQuake2Names(document, {"a", "b"});
+         },
+         [](const Texture& texture) {
+             return texture.quake2 == Quake2Properties{"a", "b", 0, 0, 0};
+         }},
+        {"Quake II Surface", [](TavloDocument& document) { ChangeSurfaceFlags(document, 7); },
+         [](const Texture& texture) {
+             return texture.quake2 == Quake2Properties{"test", "", 7, 0, 0};
+         }},
+        {"Quake II Contents", [](TavloDocument& document) { ChangeContents(document, 7); },
+         [](const Texture& texture) {
+             return texture.quake2 == Quake2Properties{"test", "", 0, 7, 0};
+         }},
+        {"Quake II Value", [](TavloDocument& document) { ChangeValue(document, 7); },
+         [](const Texture& texture) {
+             return texture.quake2 == Quake2Properties{"test", "", 0, 0, 7};
+         }},
+        {"Nearest Color", [](TavloDocument& document) { document.OnCmdMsg(ID_FORMAT_NEAREST, nullptr); },
+         isGray, true},
+        {"Error Diffusion Dithering",
+         [](TavloDocument& document) { document.OnCmdMsg(ID_FORMAT_DITHER, nullptr); }, isGray, true},
+    };
+    for (const auto& [name, make, isMade, ofPicture] : edits) {
+        auto& document = *Open<WALDocument>(Put(name + ".wal", MakeWal(16, 8)));
+        document.SetCurrentPalette(OpenBuiltIn<PaletteDocument>(grayScaleColors));
+        CountingView view;
+        document.AddView(view);
+        const auto check = [&, name = name, isMade = isMade, ofPicture = ofPicture](bool made) {
+            EXPECT_EQ(isMade(document.GetTexture()), made) << name;
+            EXPECT_TRUE(document.IsModified()) << name;
+            EXPECT_EQ(view.updates > 0, ofPicture) << name;
+            document.SetModifiedFlag(false);
+            view.updates = 0;
+        };
+        make(document);
+        check(true);
+        document.GetHistory().Undo();
+        check(false);
+        document.GetHistory().Redo();
+        check(true);
+        EXPECT_EQ(document.GetHistory().TopUndoName(), name);
+        make(document);
+        EXPECT_EQ(document.IsModified(), name == "Paste") << "what changes nothing is no change: " << name;
+        document.RemoveView(view); // the last view: the document goes with it
+        EXPECT_TRUE(
+            DocTemplateRegistry::Get().FindTemplate(WALDocument::runtimeClass)->GetDocuments().empty());
+    }
 }
 
 TEST_F(TavloDocumentTest, SaveAsksForANameWhereItMust) {

@@ -1,15 +1,13 @@
 #include "preview3d/MD2Document.h"
 
-#include "builders/ModelBuilder.h"
 #include "support/TestApplication.h"
+#include "support/builders/ModelBuilder.h"
 
 #include <cstring>
 
 namespace keltavlo {
 
 using testing::ElementsAre;
-
-namespace {
 
 class MD2DocumentTest : public WorkshopTest {
 protected:
@@ -25,8 +23,6 @@ protected:
                 .vertices = 3};
     }
 };
-
-} // namespace
 
 TEST_F(MD2DocumentTest, ReadsEveryPartAlsoInAPack) {
     Bytes bytes = Small().Build();

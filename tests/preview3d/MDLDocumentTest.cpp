@@ -1,13 +1,11 @@
 #include "preview3d/MDLDocument.h"
 
-#include "builders/ModelBuilder.h"
 #include "support/TestApplication.h"
+#include "support/builders/ModelBuilder.h"
 
 namespace keltavlo {
 
 using testing::HasSubstr;
-
-namespace {
 
 class MDLDocumentTest : public WorkshopTest {
 protected:
@@ -20,8 +18,6 @@ protected:
     }
     static Bytes Small() { return MdlBuilder{{{4, 2}, {16, 16}}}.Build(); }
 };
-
-} // namespace
 
 TEST_F(MDLDocumentTest, DecodesEachTextureThroughItsPalette) {
     auto* model = Open<MDLDocument>(Put("a.mdl", Small()));

@@ -1,12 +1,10 @@
 #include "preview3d/TextureBuffer.h"
 
-#include "formats/CodecHarness.h"
 #include "image/ImageDocuments.h"
+#include "support/CodecHarness.h"
 #include "support/TestApplication.h"
 
 namespace keltavlo {
-
-namespace {
 
 class TextureBufferTest : public WorkshopTest {
 protected:
@@ -18,8 +16,6 @@ protected:
     }
     static Color LastColor() { return TakeLastPicture().GetPixel(5, 5); }
 };
-
-} // namespace
 
 TEST_F(TextureBufferTest, SidesArePowersOfTwoFrom16To256) {
     const int sides[][2] = {{1, 16},    {8, 16},    {16, 16},   {17, 32},  {64, 64},

@@ -8,11 +8,7 @@ namespace keltavlo {
 using namespace std::literals;
 using testing::HasSubstr;
 
-namespace {
-
 class ReferenceDocumentsTest : public WorkshopTest {};
-
-} // namespace
 
 TEST_F(ReferenceDocumentsTest, PaletteLumps) {
     Bytes lump = Words({0xFF563412});

@@ -32,7 +32,7 @@ long Call(Step step, long number, Arguments... arguments) noexcept {
 
 } // namespace
 
-// In place of the system's own, for all tests.
+// In place of the system's own, for all tests of the program.
 extern "C" {
 ssize_t pread(int file, void* bytes, std::size_t count, off_t offset) {
     return Call(Step::read, SYS_pread64, file, bytes, count, offset);

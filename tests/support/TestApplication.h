@@ -1,9 +1,9 @@
 #pragma once
 
 #include "app/HeadlessApplication.h"
-#include "builders/TextureBuilder.h"
 #include "resources/BuiltInFiles.h"
 #include "support/FolderTest.h"
+#include "support/builders/TextureBuilder.h"
 
 namespace keltavlo {
 

@@ -1,9 +1,8 @@
 #include "tool/Tool.h"
 
-#include "builders/ModelBuilder.h"
-#include "builders/TextureBuilder.h"
-#include "support/Fault.h"
 #include "support/FolderTest.h"
+#include "support/builders/ModelBuilder.h"
+#include "support/builders/TextureBuilder.h"
 
 #include <filesystem>
 #include <sstream>
@@ -12,8 +11,6 @@ namespace keltavlo {
 
 namespace fs = std::filesystem;
 using testing::HasSubstr;
-
-namespace {
 
 class ToolTest : public FolderTest {
 protected:
@@ -39,8 +36,6 @@ protected:
     const std::string pack = PathTo("a.pak"), floor = pack + "/textures/floor.wal";
     std::string out, err;
 };
-
-} // namespace
 
 TEST_F(ToolTest, RefusesWhatItDoesNotUnderstand) {
     using Command = std::vector<std::string>;
@@ -139,23 +134,6 @@ TEST_F(ToolTest, FilesWithTheNameOfAFolderAreAllWritten) {
         EXPECT_EQ(ReadFile(PathTo("out/" + std::string(file))), ToBytes(text)) << file;
     EXPECT_EQ(Run({"extract", twins + "/a/", PathTo("one")}), 0);
     EXPECT_EQ(ReadFile(PathTo("one/b")), ToBytes("a/b"));
-}
-
-TEST_F(ToolTest, SaysWhenMemoryRunsOut) {
-    if (!allocationsCanFail) GTEST_SKIP();
-    bool hit = true;
-    for (unsigned first = 1; hit && !HasFailure(); ++first) {
-        SCOPED_TRACE(first);
-        std::ostringstream output, errors(std::string(1000, ' ')); // which takes no more memory
-        Tool tool(output, errors, false);
-        const std::vector<std::string> arguments{"convert", "--force", floor, PathTo("new.tga")};
-        const Fault fault(Step::allocation, first, false);
-        const int code = tool.Run(arguments);
-        hit = fault.HasHit();
-        EXPECT_TRUE(code == 0 || errors.str().find("not enough memory.") != std::string::npos)
-            << errors.str();
-        EXPECT_LE(code, 1);
-    }
 }
 
 TEST_F(ToolTest, ConvertsTreesAndNamesWhatWasLeftOut) {

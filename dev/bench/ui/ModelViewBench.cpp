@@ -1,5 +1,4 @@
 #include "app/HeadlessApplication.h"
-#include "builders/ModelBuilder.h"
 #include "framework/ui/CSplitterWnd.h"
 #include "framework/ui/CView.h"
 #include "image/TavloDocument.h"
@@ -9,6 +8,7 @@
 #include "preview3d/ui/OffScreenSurface.h"
 #include "preview3d/ui/PixelFormat.h"
 #include "preview3d/ui/RenderingContext.h"
+#include "support/builders/ModelBuilder.h"
 
 #include <QApplication>
 #include <QTemporaryDir>

@@ -18,8 +18,6 @@ namespace keltavlo {
 
 namespace fs = std::filesystem;
 
-namespace {
-
 using CKelTavloAppTest = ProgramFixture;
 
 TEST_F(CKelTavloAppTest, AsksForATypeWhenThereIsNothingToOpen) {
@@ -88,7 +86,5 @@ TEST(CommandLineTest, TellsPathsFromOptions) {
         EXPECT_FALSE(ParseCommandLine({"keltavlo", option}).error.empty()) << option;
     EXPECT_EQ(HelpText().find("--help-all"), std::string::npos);
 }
-
-} // namespace
 
 } // namespace keltavlo

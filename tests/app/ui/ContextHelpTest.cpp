@@ -1,7 +1,7 @@
 #include "framework/ui/CMenu.h"
 #include "framework/ui/CStatusBar.h"
-#include "image/ui/TavloViewFixture.h"
 #include "res/CommandIds.h"
+#include "support/ui/TavloViewFixture.h"
 
 #include <QDockWidget>
 #include <QTextBrowser>
@@ -10,8 +10,6 @@
 #include <QUrl>
 
 namespace keltavlo {
-
-namespace {
 
 // The program with a texture; each test asks for help on parts of its window.
 class ContextHelpTest : public TavloViewFixture {
@@ -77,7 +75,5 @@ TEST_F(ContextHelpTest, EscapeEndsIt) {
     EXPECT_TRUE(document->IsModified());
     EXPECT_EQ(TakePage(), "none");
 }
-
-} // namespace
 
 } // namespace keltavlo

@@ -7,8 +7,6 @@
 #include "framework/ui/SplitTracker.h"
 #include "image/ui/InfiniteScrollView.h"
 #include "res/CommandIds.h"
-#include "res/Menus.h"
-#include "res/ToolBars.h"
 #include "support/ui/ProgramFixture.h"
 
 #include <QDockWidget>
@@ -19,18 +17,6 @@
 namespace keltavlo {
 
 namespace {
-
-void ExpectTexts(CommandId id) {
-    EXPECT_TRUE(id == 0 || !CommandPrompt(id).empty()) << id;
-    EXPECT_TRUE(id == 0 || !CommandToolTip(id).empty()) << id;
-}
-
-void ExpectTexts(std::span<const MenuRow> rows) {
-    for (const MenuRow& row : rows) {
-        ExpectTexts(row.id);
-        ExpectTexts(row.items);
-    }
-}
 
 // What a restart is to bring back.
 std::string Layout(const MainFrame& frame) {
@@ -45,15 +31,6 @@ std::string Layout(const MainFrame& frame) {
 }
 
 using MainFrameTest = ProgramFixture;
-
-TEST_F(MainFrameTest, EveryCommandHasAPromptAndAToolTip) {
-    Start();
-    ExpectTexts(MenuBarRows(IDR_MAINFRAME));
-    ExpectTexts(MenuBarRows(IDR_DOCUMENT));
-    for (const AcceleratorRow& row : AcceleratorRows()) ExpectTexts(row.id);
-    for (const auto rows : {StandardBarRows(), FilterBarRows()})
-        for (const ToolBarRow& row : rows) ExpectTexts(row.id);
-}
 
 TEST_F(MainFrameTest, AltFOpensTheFileMenuEveryTime) {
     Start();

@@ -9,8 +9,6 @@
 
 namespace keltavlo {
 
-namespace {
-
 // The program with a texture open.
 class MenuRunsTest : public ProgramFixture {
 protected:
@@ -20,6 +18,14 @@ protected:
     }
 
     QAction* Item(CommandId id) { return GetMainFrame().GetCurrentMenu().FindItem(id); }
+    // The items of that popup with a check mark, as the menu shows them.
+    QStringList CheckedAround(CommandId id) {
+        GetMainFrame().GetCurrentMenu().UpdateAll();
+        QStringList texts;
+        for (const QAction* item : qobject_cast<QMenu*>(Item(id)->parent())->actions())
+            if (item->isChecked()) texts += item->text();
+        return texts;
+    }
     // The texts of the popup in which the item stands.
     QStringList TextsAround(CommandId id) {
         return Item(id) ? ItemTexts(*qobject_cast<QMenu*>(Item(id)->parent())) : QStringList();
@@ -27,8 +33,6 @@ protected:
 
     WALDocument* document = nullptr;
 };
-
-} // namespace
 
 TEST_F(MenuRunsTest, ListWhatIsOpen) {
     EXPECT_EQ(TextsAround(ID_BRUSH_NONE), QStringList({"Texel Brush", "Color Picker", "", "None"}));
@@ -40,9 +44,12 @@ TEST_F(MenuRunsTest, ListWhatIsOpen) {
     EXPECT_EQ(third.statusTip(), "Select this brush for the active document");
     third.trigger();
     EXPECT_EQ(document->GetCurrentBrush()->GetTitle(), "R&B");
-    GetMainFrame().GetCurrentMenu().UpdateAll();
-    EXPECT_TRUE(third.isChecked());
-    EXPECT_EQ(third.text(), "R&&B");
+    EXPECT_EQ(CheckedAround(ID_BRUSH_NONE), QStringList("R&&B"));
+    EXPECT_EQ(CheckedAround(ID_PALETTE_NONE), QStringList("&None"));
+    Send(ID_BRUSH_NONE);
+    Send(ID_COLOR_TABLE_FIRST + 1);
+    EXPECT_EQ(CheckedAround(ID_BRUSH_NONE), QStringList("&None"));
+    EXPECT_EQ(CheckedAround(ID_PALETTE_NONE), QStringList(Item(ID_COLOR_TABLE_FIRST + 1)->text()));
     EXPECT_EQ(Item(ID_WINDOW_CHILD_FIRST)->statusTip(), "Activate this window");
     EXPECT_FALSE(StateOf(ID_COLOR_SPACE_FIRST).enabled) << "color spaces are listed, not chosen";
 }

@@ -1,9 +1,9 @@
 #include "app/Settings.h"
 #include "app/ui/CGammaSettingsDialog.h"
 #include "framework/ui/ColorPrompt.h"
-#include "image/ui/TavloViewFixture.h"
 #include "res/CommandIds.h"
 #include "res/ControlIds.h"
+#include "support/ui/TavloViewFixture.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -72,7 +72,11 @@ TEST_F(OptionsTest, UnlinkedSlidersDifferAndApplyKeepsTheSheet) {
             QTest::keyClick(&Slider(dialog, IDC_SLIDER_BLUE), Qt::Key_PageUp);
             dialog.accept();
         });
+        QCoreApplication::processEvents();
+        const PaintSpy painted(*view);
         Press(sheet, QDialogButtonBox::Apply);
+        QCoreApplication::processEvents();
+        EXPECT_FALSE(painted.region.isEmpty());
         EXPECT_FALSE(IsApplyEnabled(sheet));
         EXPECT_EQ(Gamma().GetValues(), (GammaValues{5, 1, 2}));
         EXPECT_EQ(ColorShownAt(5, 5), ApplyGamma({5, 1, 2}, GetTexture().GetPixel(5, 5)));
@@ -101,10 +105,18 @@ TEST_F(OptionsTest, GammaAndColorsOutliveTheProgram) {
     newer[15] = 0x00332211;
     WriteCustomColors(program.GetProfile(), applicationSection, older);
     WriteCustomColors(program.GetProfile(), mainSection, newer); // read last
-    CKelTavloApp next(ProfileStore(PathTo("settings.ini")));
-    Start(next);
-    EXPECT_EQ(next.GetMainFrame()->GetGamma().GetValues(), (GammaValues{0.3333, 1.5, 0}));
-    EXPECT_EQ(GetCustomColors(), newer);
+    {
+        CKelTavloApp next(ProfileStore(PathTo("settings.ini")));
+        Start(next);
+        EXPECT_EQ(next.GetMainFrame()->GetGamma().GetValues(), (GammaValues{0.3333, 1.5, 0}));
+        EXPECT_EQ(GetCustomColors(), newer);
+        SetCustomColors(older);
+        next.GetMainFrame()->close();
+        EXPECT_EQ(ReadCustomColors(next.GetProfile(), mainSection), older);
+        SetCustomColors(newer);
+    }
+    const ProfileStore written(PathTo("settings.ini"));
+    EXPECT_EQ(ReadCustomColors(written, applicationSection), newer);
 }
 
 } // namespace keltavlo

@@ -129,6 +129,21 @@ TEST_F(ArchiveFileDialogTest, ListsTheSelectedArchive) {
     EXPECT_TRUE(lower.isEnabled());
     EXPECT_EQ(Column(1), QStringList({"2KB", "0KB", "", "0KB"})) << "folders have no size";
     EXPECT_FALSE(Column(2).contains(""));
+    const QAbstractItemModel& model = *View().model();
+    QStringList titles;
+    for (int column = 0; column < model.columnCount(); ++column) {
+        titles += model.headerData(column, Qt::Horizontal).toString();
+        for (const QVariant& alignment : {model.headerData(column, Qt::Horizontal, Qt::TextAlignmentRole),
+                                          model.index(0, column).data(Qt::TextAlignmentRole)})
+            EXPECT_EQ((alignment.value<Qt::Alignment>() & Qt::AlignRight) != 0, column == 1);
+        EXPECT_EQ(model.index(0, column).data(Qt::DecorationRole).isNull(), column > 0);
+    }
+    EXPECT_EQ(titles, QStringList({"Name", "Size", "Type", "Modified"}));
+    const auto iconOf = [&](int row) {
+        return model.index(row, 0).data(Qt::DecorationRole).value<QIcon>().cacheKey();
+    };
+    EXPECT_TRUE(iconOf(1) == iconOf(2) && iconOf(0) == iconOf(3) && iconOf(0) != iconOf(1))
+        << "folders and files";
     Select("plain.wal");
     EXPECT_TRUE(Names().isEmpty());
     EXPECT_FALSE(lower.isEnabled());

@@ -1,8 +1,8 @@
 #include "formats/ui/EditPropertySheet.h"
 
-#include "image/ui/TavloViewFixture.h"
 #include "res/CommandIds.h"
 #include "res/ControlIds.h"
+#include "support/ui/TavloViewFixture.h"
 
 #include <QAbstractSpinBox>
 #include <QCheckBox>

@@ -10,8 +10,6 @@ namespace keltavlo {
 
 namespace fs = std::filesystem;
 
-namespace {
-
 class FileTest : public FolderTest {
 protected:
     static void Replace(const std::string& path, std::string_view text) {
@@ -24,8 +22,6 @@ protected:
             CauseOf<CFileException>([&] { OpenDiskFile(PathTo(name), flags); }));
     }
 };
-
-} // namespace
 
 TEST_F(FileTest, OpensOrdinaryFilesOnly) {
     constexpr unsigned create = CFile::modeCreate | CFile::modeWrite;

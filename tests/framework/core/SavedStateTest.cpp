@@ -1,12 +1,10 @@
-#include "builders/PackBuilder.h"
 #include "framework/core/SealedState.h"
 #include "framework/core/WindowPlacement.h"
+#include "support/builders/PackBuilder.h"
 
 #include <gtest/gtest.h>
 
 namespace keltavlo {
-
-namespace {
 
 TEST(WindowPlacementTest, IsElevenWords) {
     WindowPlacement placement;
@@ -33,7 +31,5 @@ TEST(SealedStateTest, OpensOnlyItsVersionWithoutMore) {
     sealed.push_back({});
     EXPECT_TRUE(UnsealState(7, sealed).isNull());
 }
-
-} // namespace
 
 } // namespace keltavlo

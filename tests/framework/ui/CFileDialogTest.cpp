@@ -12,8 +12,6 @@
 
 namespace keltavlo {
 
-namespace {
-
 class CFileDialogTest : public testing::Test {
 protected:
     CFileDialogTest() {
@@ -85,7 +83,5 @@ TEST_F(CFileDialogTest, ShowsLabelsAndFiltersByPatterns) {
     QTest::keyClick(types, Qt::Key_Down);
     EXPECT_TRUE(holds(6));
 }
-
-} // namespace
 
 } // namespace keltavlo

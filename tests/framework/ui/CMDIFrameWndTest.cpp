@@ -1,7 +1,7 @@
 #include "framework/ui/CMenu.h"
 #include "framework/ui/CStatusBar.h"
-#include "framework/ui/WindowFixture.h"
 #include "support/ui/DialogAnswer.h"
+#include "support/ui/WindowFixture.h"
 
 #include <QMdiArea>
 #include <QMdiSubWindow>

@@ -2,7 +2,7 @@
 
 #include "framework/ui/SplitHandle.h"
 #include "framework/ui/SplitTracker.h"
-#include "framework/ui/WindowFixture.h"
+#include "support/ui/WindowFixture.h"
 
 #include <QScrollBar>
 
@@ -90,6 +90,15 @@ TEST_F(CSplitterWndTest, TheSplitCommandWorksWithKeysAlone) {
     EXPECT_TRUE(Send(ID_WINDOW_SPLIT));
     SplitTracker& tracker = splitter.GetTracker();
     ASSERT_TRUE(tracker.isVisible());
+    const QImage lines = tracker.grab().toImage();
+    const int x = splitter.GetExtent(columns) / 2, y = splitter.GetExtent(rows) / 2;
+    for (const int thick : {0, SplitHandle::thickness - 1})
+        EXPECT_TRUE(lines.pixel(9, y + thick) == lines.pixel(x, 9) &&
+                    lines.pixel(x + thick, 9) == lines.pixel(x, 9));
+    for (const int beside : {-1, +SplitHandle::thickness})
+        EXPECT_TRUE(lines.pixel(9, y + beside) == lines.pixel(9, 9) &&
+                    lines.pixel(x + beside, 9) == lines.pixel(9, 9));
+    EXPECT_NE(lines.pixel(x, 9), lines.pixel(9, 9));
     QTest::keyClick(&tracker, Qt::Key_Escape);
     EXPECT_FALSE(tracker.isVisible());
     EXPECT_EQ(document.GetViews().size(), 1U);

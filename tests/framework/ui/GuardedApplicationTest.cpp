@@ -1,5 +1,5 @@
-#include "framework/ui/WindowFixture.h"
 #include "support/ui/DialogAnswer.h"
+#include "support/ui/WindowFixture.h"
 
 #include <QDropEvent>
 #include <QMimeData>

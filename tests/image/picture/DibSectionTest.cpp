@@ -1,6 +1,6 @@
 #include "image/picture/DibSection.h"
 
-#include "formats/CodecHarness.h"
+#include "support/CodecHarness.h"
 
 #include <limits>
 

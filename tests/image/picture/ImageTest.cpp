@@ -1,5 +1,5 @@
-#include "formats/CodecHarness.h"
 #include "image/picture/HalfSize.h"
+#include "support/CodecHarness.h"
 
 #include <gmock/gmock.h>
 #include <numeric>

@@ -1,8 +1,8 @@
 #include "image/picture/NearestSearch.h"
 
-#include "bench/PlainDiffusion.h"
 #include "image/picture/ColorList.h"
 #include "image/picture/NearestKernels.h"
+#include "support/PlainDiffusion.h"
 
 #include <gtest/gtest.h>
 #include <random>

@@ -1,6 +1,6 @@
-#include "formats/CodecHarness.h"
 #include "image/picture/DibSection.h"
 #include "resources/streams/FileStream.h"
+#include "support/CodecHarness.h"
 
 namespace keltavlo {
 

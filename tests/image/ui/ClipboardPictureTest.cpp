@@ -2,8 +2,8 @@
 
 #include "framework/ui/CClipboard.h"
 #include "image/picture/ColorList.h"
-#include "image/ui/TavloViewFixture.h"
 #include "res/CommandIds.h"
+#include "support/ui/TavloViewFixture.h"
 
 #include <QBuffer>
 #include <QClipboard>

@@ -8,8 +8,6 @@
 
 namespace keltavlo {
 
-namespace {
-
 class PaletteBarTest : public ProgramFixture {
 protected:
     PaletteBarTest() {
@@ -120,7 +118,5 @@ TEST_F(PaletteBarTest, LeavesTheListsOfClosedDocumentsAlone) {
     EXPECT_EQ(palette->GetPlanes().GetMode(), PalettePlanes::none);
     EXPECT_EQ(chooser->count(), 3);
 }
-
-} // namespace
 
 } // namespace keltavlo

@@ -1,8 +1,7 @@
-#include "image/ui/TavloViewFixture.h"
 #include "res/CommandIds.h"
+#include "support/ui/TavloViewFixture.h"
 
 #include <QContextMenuEvent>
-#include <QPaintEvent>
 #include <QWindow>
 
 namespace keltavlo {
@@ -10,17 +9,6 @@ namespace keltavlo {
 namespace {
 
 constexpr Color red = 0xFFFF0000;
-
-// Gathers what a widget repaints.
-class PaintSpy : public QObject {
-public:
-    explicit PaintSpy(QWidget& widget) { widget.installEventFilter(this); }
-    bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() == QEvent::Paint) region += static_cast<QPaintEvent*>(event)->region();
-        return false;
-    }
-    QRegion region;
-};
 
 class TavloViewBrushTest : public TavloViewFixture {
 protected:
@@ -138,7 +126,8 @@ TEST_F(TavloViewBrushTest, TheContextMenuComesByMouseAndKeyboard) {
             EXPECT_EQ(ItemTexts(menu), QStringList({"Brush", "Color...", "Zoom", "Properties", "Cancel"}));
             EXPECT_EQ(ItemTexts(*menu.actions().front()->menu()),
                       QStringList({"Texel Brush", "Color Picker", "", "None"}));
-        });
+        },
+        [](const QMenu& menu) { EXPECT_EQ(menu.actions().size(), 5); });
     const QPoint inWindow = view->mapTo(view->window(), QPoint(20, 20));
     QTest::mouseClick(view->window()->windowHandle(), Qt::RightButton, {}, inWindow);
     QCoreApplication::processEvents();
@@ -147,6 +136,7 @@ TEST_F(TavloViewBrushTest, TheContextMenuComesByMouseAndKeyboard) {
     // What the windowing system makes of the menu key.
     QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, {}, view->mapToGlobal(QPoint()));
     QCoreApplication::sendEvent(view, &menuKey);
+    QTest::keyClick(view, Qt::Key_F10, Qt::ShiftModifier);
 }
 
 } // namespace keltavlo

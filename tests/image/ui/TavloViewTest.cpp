@@ -1,8 +1,7 @@
 #include "framework/ui/CMenu.h"
-#include "image/ui/TavloViewFixture.h"
 #include "res/CommandIds.h"
 #include "resources/PaletteDocument.h"
-#include "support/Fault.h"
+#include "support/ui/TavloViewFixture.h"
 
 #include <QScrollBar>
 #include <QWheelEvent>
@@ -75,20 +74,18 @@ TEST_F(TavloViewTest, ScrollingGoesRound) {
     }
 }
 
-TEST_F(TavloViewTest, ShiftF10OpensTheContextMenu) {
-    const PopupAnswer answer([](const QMenu& menu) {
-        EXPECT_EQ(ItemTexts(menu), QStringList({"Brush", "Color...", "Zoom", "Properties", "Cancel"}));
-    });
-    QTest::keyClick(view, Qt::Key_F10, Qt::ShiftModifier);
-}
-
 TEST_F(TavloViewTest, PaintsTheTilingFromTheScrollPosition) {
-    Send(ID_ZOOM_400);
-    GetMainFrame().GetCurrentMenu().UpdateAll();
-    for (const CommandId id : {ID_ZOOM_100, ID_ZOOM_200, ID_ZOOM_400, ID_ZOOM_800, ID_ZOOM_1600}) {
-        const QAction& item = *GetMainFrame().GetCurrentMenu().FindItem(id);
-        EXPECT_TRUE(item.isCheckable() && item.actionGroup()) << id;
-        EXPECT_EQ(item.isChecked(), id == ID_ZOOM_400);
+    const std::pair<CommandId, int> zooms[] = {
+        {ID_ZOOM_100, 1}, {ID_ZOOM_200, 2}, {ID_ZOOM_800, 8}, {ID_ZOOM_1600, 16}, {ID_ZOOM_400, 4}};
+    for (const auto& [chosen, zoom] : zooms) {
+        Send(chosen);
+        EXPECT_EQ(frame->GetZoom(), zoom);
+        GetMainFrame().GetCurrentMenu().UpdateAll();
+        for (const auto& [id, itemZoom] : zooms) {
+            const QAction& item = *GetMainFrame().GetCurrentMenu().FindItem(id);
+            EXPECT_EQ(item.isChecked(), id == chosen) << id;
+            EXPECT_TRUE(!item.isChecked() || item.actionGroup()) << id;
+        }
     }
     view->SetScrollX(3);
     view->SetScrollY(30);
@@ -179,31 +176,6 @@ TEST_F(TavloViewFilterTest, StrokesShowAtOnceThroughTheFilter) {
     expected.ConvertByErrorDiffusion(ColorList{black, white});
     for (int x = 0; x < 64; ++x) ASSERT_EQ(shown.pixel(x, 1), expected.GetPixel(x, 1)) << x;
     EXPECT_EQ(GetTexture().GetPixel(2, 1), 0xFF101010U);
-}
-
-TEST_F(TavloViewFilterTest, WithoutMemoryAViewSaysSoAndEditsChangeNothing) {
-    if (!allocationsCanFail) GTEST_SKIP();
-    GetTexture().SetSize(256, 256);
-    std::ranges::fill(GetTexture().Pixels(), 0xFF808080);
-    document->SetCurrentPalette(whiteOnly);
-    document->UpdateAllViews(nullptr);
-    Send(ID_FILTER_NEAREST);
-    {
-        const DialogAnswer answer([](const QDialog& dialog) {
-            EXPECT_TRUE(dynamic_cast<const QMessageBox&>(dialog).text().contains("not enough memory"));
-            Press(dialog, QDialogButtonBox::Ok);
-        });
-        const Fault fault(Step::largeAllocation, 1, true);
-        const QImage picture = view->grab().toImage();
-        QImage plain = picture;
-        plain.fill(picture.pixelColor(0, 0));
-        EXPECT_NE(picture, plain) << "a sentence on a plain ground";
-        EXPECT_FALSE(Send(ID_FORMAT_NEAREST));
-        QTest::qWait(200);
-    }
-    EXPECT_FALSE(document->IsModified() || document->GetHistory().CanUndo());
-    EXPECT_EQ(GetTexture().GetPixel(9, 9), 0xFF808080);
-    EXPECT_EQ(ColorShownAt(9, 9), white);
 }
 
 } // namespace keltavlo

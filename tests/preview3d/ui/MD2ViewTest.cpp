@@ -1,8 +1,8 @@
 #include "preview3d/ui/MD2View.h"
 
-#include "builders/ModelBuilder.h"
 #include "image/TavloDocument.h"
 #include "res/CommandIds.h"
+#include "support/builders/ModelBuilder.h"
 #include "support/ui/GLErrors.h"
 #include "support/ui/ProgramFixture.h"
 #include "support/ui/RayCaster.h"

@@ -1,10 +1,10 @@
-#include "builders/ModelBuilder.h"
 #include "framework/ui/CSplitterWnd.h"
 #include "framework/ui/ChildFrame.h"
 #include "framework/ui/WindowClasses.h"
 #include "monkey/ToolkitComplaints.h"
 #include "preview3d/ui/ModelView.h"
 #include "res/CommandIds.h"
+#include "support/builders/ModelBuilder.h"
 #include "support/ui/GLErrors.h"
 #include "support/ui/ProgramFixture.h"
 

@@ -1,8 +1,8 @@
-#include "builders/PackBuilder.h"
 #include "resources/streams/ArchiveTransfer.h"
 #include "resources/streams/FileStream.h"
 #include "resources/streams/TaggedFile.h"
 #include "support/CauseOf.h"
+#include "support/builders/PackBuilder.h"
 
 #include <gtest/gtest.h>
 

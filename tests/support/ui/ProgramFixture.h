@@ -2,9 +2,9 @@
 
 #include "app/ui/CKelTavloApp.h"
 #include "app/ui/MainFrame.h"
-#include "builders/TextureBuilder.h"
 #include "framework/ui/Commands.h"
 #include "support/FolderTest.h"
+#include "support/builders/TextureBuilder.h"
 #include "support/ui/DialogAnswer.h"
 
 #include <QTest>

@@ -1,4 +1,4 @@
-#include "builders/TextureBuilder.h"
+#include "support/builders/TextureBuilder.h"
 
 namespace keltavlo {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Readers.h"
+#include "support/readers/Readers.h"
 
 namespace keltavlo {
 

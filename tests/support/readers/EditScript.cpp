@@ -1,7 +1,7 @@
-#include "ReadingStream.h"
-#include "Scripts.h"
 #include "image/ImageDocuments.h"
 #include "image/TextureEdits.h"
+#include "support/readers/ReadingStream.h"
+#include "support/readers/Scripts.h"
 
 #include <deque>
 #include <stdexcept>

@@ -1,7 +1,7 @@
-#include "ReadingStream.h"
-#include "Scripts.h"
 #include "formats/TextureBytes.h"
 #include "resources/BuiltInFiles.h"
+#include "support/readers/ReadingStream.h"
+#include "support/readers/Scripts.h"
 
 #include <algorithm>
 #include <stdexcept>

@@ -1,15 +1,14 @@
-#include "formats/CodecHarness.h"
 #include "framework/core/SaveJournal.h"
 #include "image/ImageDocuments.h"
+#include "support/ChildProcess.h"
+#include "support/CodecHarness.h"
 #include "support/Fault.h"
 #include "support/TestApplication.h"
 
 #include <filesystem>
 #include <new>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <thread>
-#include <unistd.h>
 
 namespace keltavlo {
 
@@ -32,22 +31,7 @@ struct Attempt {
     bool wasHit = false;
 };
 
-class SaveFaults : public WorkshopTest {
-protected:
-    // A process that repeats the action until it is killed.
-    template <class Action>
-    static pid_t Fork(Action action) {
-        const pid_t child = fork();
-        if (child == 0)
-            for (unsigned number = 0;; ++number) action(number);
-        return child;
-    }
-    static void Kill(pid_t child) {
-        ASSERT_GT(child, 0);
-        kill(child, SIGKILL);
-        waitpid(child, nullptr, 0);
-    }
-};
+using SaveFaults = WorkshopTest;
 
 class FaultPoints : public WorkshopTest, public testing::WithParamInterface<Codec> {
 protected:
@@ -174,18 +158,25 @@ TEST_F(SaveFaults, AKilledSaveLeavesTheOldFileOrTheNew) {
         return document->OnSaveDocument(path);
     };
     // Programs that start meanwhile clear up behind the killed ones, not behind the others.
-    const pid_t starting = Fork([](unsigned) { RemoveAbandonedSaves(); });
+    std::optional<ChildProcess> starting(std::in_place, [] {
+        for (;;) RemoveAbandonedSaves();
+        return 0;
+    });
     for (unsigned number = 0; number < 1000; ++number) ASSERT_TRUE(save(number)) << messages.front();
     std::mt19937 random(1);
     for (int round = 0; round < 300; ++round) {
-        const pid_t saving = Fork([&](unsigned number) { save(number); });
-        std::this_thread::sleep_for(std::chrono::microseconds(random() % 0x2000));
-        Kill(saving);
+        {
+            const ChildProcess saving([&] {
+                for (unsigned number = 0;; ++number) save(number);
+                return 0;
+            });
+            std::this_thread::sleep_for(std::chrono::microseconds(random() % 0x2000));
+        }
         const Bytes wal = ReadFile(path);
         ASSERT_EQ(wal.size(), 5540U) << round;
         ASSERT_EQ(std::count(wal.begin() + 100, wal.end(), wal.back()), 5440) << round;
     }
-    Kill(starting);
+    starting.reset();
     RemoveAbandonedSaves();
     EXPECT_EQ(CountFiles(PathTo("")), 1U);
 }
@@ -200,19 +191,16 @@ TEST_F(SaveFaults, PlacesThatCannotBeWrittenStayAsTheyWere) {
     for (const auto& [path, mode] :
          {std::pair(PathTo(""), 0755), {readOnly, 0444}, {writable, 0666}, {locked, 0555}})
         chmod(path.c_str(), static_cast<mode_t>(mode));
-    const pid_t child = fork();
-    if (child == 0) { // root is allowed everything, so this acts as somebody else
+    ChildProcess child([&] { // root is allowed everything, so this acts as somebody else
         int failures = geteuid() == 0 && setuid(65534) != 0;
         for (const std::string& path : {readOnly, locked + "/new.wal", PathTo("removed/new.wal"), locked}) {
             document->SetModifiedFlag();
             messages.clear();
             if (document->OnSaveDocument(path) || messages.size() != 1 || !document->IsModified()) ++failures;
         }
-        _exit(failures + !document->OnSaveDocument(writable));
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    EXPECT_EQ(status, 0);
+        return failures + !document->OnSaveDocument(writable);
+    });
+    EXPECT_EQ(child.Wait(), 0);
     EXPECT_EQ(ReadFile(readOnly), ToBytes("old"));
     EXPECT_EQ(ReadFile(writable).size(), 5540U) << "the file itself could be written";
     EXPECT_EQ(CountFiles(locked), 2U);

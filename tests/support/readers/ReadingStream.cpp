@@ -1,4 +1,4 @@
-#include "ReadingStream.h"
+#include "support/readers/ReadingStream.h"
 
 #include "app/HeadlessApplication.h"
 #include "formats/TextureBytes.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "builders/PackBuilder.h"
+#include "support/builders/PackBuilder.h"
 
 namespace keltavlo {
 

@@ -9,8 +9,20 @@
 #include "support/ui/ProgramFixture.h"
 
 #include <QCoreApplication>
+#include <QPaintEvent>
 
 namespace keltavlo {
+
+// Gathers what a widget repaints.
+class PaintSpy : public QObject {
+public:
+    explicit PaintSpy(QWidget& widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint) region += static_cast<QPaintEvent*>(event)->region();
+        return false;
+    }
+    QRegion region;
+};
 
 // The program with a 64 x 32 texture in one window.
 class TavloViewFixture : public ProgramFixture {

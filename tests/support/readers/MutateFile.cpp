@@ -1,4 +1,4 @@
-#include "Readers.h"
+#include "support/readers/Readers.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,4 +1,4 @@
-#include "builders/PackBuilder.h"
+#include "support/builders/PackBuilder.h"
 
 #include <algorithm>
 #include <cstring>

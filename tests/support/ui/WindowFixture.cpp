@@ -1,4 +1,4 @@
-#include "framework/ui/WindowFixture.h"
+#include "support/ui/WindowFixture.h"
 
 #include "framework/core/StringTable.h"
 

@@ -1,4 +1,4 @@
-#include "bench/PlainDiffusion.h"
+#include "support/PlainDiffusion.h"
 
 #include "image/picture/ColorList.h"
 

@@ -1,4 +1,4 @@
-#include "builders/ModelBuilder.h"
+#include "support/builders/ModelBuilder.h"
 
 #include <bit>
 #include <cstring>

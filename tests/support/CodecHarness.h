@@ -1,9 +1,9 @@
 #pragma once
 
-#include "builders/PackBuilder.h"
 #include "formats/TextureBytes.h"
 #include "image/picture/ColorList.h"
 #include "support/CauseOf.h"
+#include "support/builders/PackBuilder.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

@@ -1,12 +1,7 @@
-#include "Readers.h"
+#include "support/readers/Readers.h"
 
-#include "ReadingStream.h"
-#include "Scripts.h"
 #include "archives/PAKDocument.h"
 #include "archives/WADDocument.h"
-#include "builders/ModelBuilder.h"
-#include "builders/TextureBuilder.h"
-#include "builders/WadBuilder.h"
 #include "formats/Codec.h"
 #include "image/ImageDocuments.h"
 #include "preview3d/MD2Document.h"
@@ -16,6 +11,11 @@
 #include "resources/DocTemplateRegistry.h"
 #include "resources/PaletteDocument.h"
 #include "resources/streams/ArchiveStream.h"
+#include "support/builders/ModelBuilder.h"
+#include "support/builders/TextureBuilder.h"
+#include "support/builders/WadBuilder.h"
+#include "support/readers/ReadingStream.h"
+#include "support/readers/Scripts.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Readers.h"
 #include "image/picture/ColorList.h"
 #include "image/picture/Texture.h"
 #include "resources/streams/ArchiveTransfer.h"
 #include "resources/streams/FileStream.h"
+#include "support/readers/Readers.h"
 
 namespace keltavlo {
 

@@ -1,4 +1,4 @@
-#include "builders/WadBuilder.h"
+#include "support/builders/WadBuilder.h"
 
 #include <cstring>
 

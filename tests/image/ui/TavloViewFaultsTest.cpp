@@ -1,0 +1,36 @@
+#include "res/CommandIds.h"
+#include "resources/PaletteDocument.h"
+#include "support/Fault.h"
+#include "support/ui/TavloViewFixture.h"
+
+namespace keltavlo {
+
+using TavloViewFaults = TavloViewFixture;
+
+TEST_F(TavloViewFaults, WithoutMemoryAViewSaysSoAndEditsChangeNothing) {
+    if (!allocationsCanFail) GTEST_SKIP();
+    document->SetCurrentPalette(dynamic_cast<PaletteDocument*>(
+        program.OpenDocumentFile(Put("white.kelcolors", Words({0xFFFFFFFF})))));
+    GetTexture().SetSize(256, 256);
+    std::ranges::fill(GetTexture().Pixels(), 0xFF808080);
+    document->UpdateAllViews(nullptr);
+    Send(ID_FILTER_NEAREST);
+    {
+        const DialogAnswer answer([](const QDialog& dialog) {
+            EXPECT_TRUE(dynamic_cast<const QMessageBox&>(dialog).text().contains("not enough memory"));
+            Press(dialog, QDialogButtonBox::Ok);
+        });
+        const Fault fault(Step::largeAllocation, 1, true);
+        const QImage picture = view->grab().toImage();
+        QImage plain = picture;
+        plain.fill(picture.pixelColor(0, 0));
+        EXPECT_NE(picture, plain) << "a sentence on a plain ground";
+        EXPECT_FALSE(Send(ID_FORMAT_NEAREST));
+        QTest::qWait(200);
+    }
+    EXPECT_FALSE(document->IsModified() || document->GetHistory().CanUndo());
+    EXPECT_EQ(GetTexture().GetPixel(9, 9), 0xFF808080);
+    EXPECT_EQ(ColorShownAt(9, 9), 0xFFFFFFFF);
+}
+
+} // namespace keltavlo

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <csignal>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <utility>
+
+namespace keltavlo {
+
+// A process that carries out an action. It ends with this object, or with the test's process if that is
+// killed.
+class ChildProcess {
+public:
+    // The action returns the exit code.
+    template <class Action>
+    explicit ChildProcess(Action action) : id(fork()) {
+        if (id == 0) Run(action);
+    }
+    ChildProcess(const ChildProcess&) = delete;
+    ChildProcess& operator=(const ChildProcess&) = delete;
+    ~ChildProcess() {
+        if (id > 0) kill(id, SIGKILL);
+        Wait();
+    }
+    // The status as waitpid has it, -1 without a process.
+    int Wait() {
+        int status = -1;
+        if (const pid_t ended = std::exchange(id, -1); ended > 0) waitpid(ended, &status, 0);
+        return status;
+    }
+
+private:
+    // An exception must not leave: the child would go on with the parent's tests.
+    template <class Action>
+    [[noreturn]] static void Run(Action& action) noexcept {
+        prctl(PR_SET_PDEATHSIG, SIGKILL);
+        _exit(action());
+    }
+
+    pid_t id;
+};
+
+} // namespace keltavlo

@@ -1,0 +1,31 @@
+#include "support/Fault.h"
+#include "support/FolderTest.h"
+#include "support/builders/TextureBuilder.h"
+#include "tool/Tool.h"
+
+#include <sstream>
+
+namespace keltavlo {
+
+using ToolFaults = FolderTest;
+
+TEST_F(ToolFaults, SaysWhenMemoryRunsOut) {
+    PackBuilder pack;
+    pack.Add("floor.wal", MakeWal(64, 32));
+    const std::vector<std::string> command{"convert", "--force", Put("a.pak", pack.Build()) + "/floor.wal",
+                                           PathTo("new.tga")};
+    bool hit = allocationsCanFail;
+    for (unsigned first = 1; hit && !HasFailure(); ++first) {
+        SCOPED_TRACE(first);
+        std::ostringstream output, errors(std::string(1000, ' ')); // which takes no more memory
+        Tool tool(output, errors, false);
+        const Fault fault(Step::allocation, first, false);
+        const int code = tool.Run(command);
+        hit = fault.HasHit();
+        EXPECT_TRUE(code == 0 || errors.str().find("not enough memory.") != std::string::npos)
+            << errors.str();
+        EXPECT_LE(code, 1);
+    }
+}
+
+} // namespace keltavlo
