@@ -3,6 +3,7 @@
 #include "support/ui/Reading.h"
 #include "support/ui/TavloViewFixture.h"
 
+#include <QPlainTextEdit>
 #include <QTabWidget>
 
 #include <fstream>
@@ -38,7 +39,14 @@ protected:
 
 // The file beside this one says what every dialog shows; a change that is meant changes it, too.
 TEST_F(DialogsTest, SayWhatTheyAreKnownToSay) {
-    ReadDialog(ID_APP_ABOUT, [&](QDialog& dialog) { Read(dialog); });
+    ReadDialog(ID_APP_ABOUT, [&](QDialog& dialog) {
+        Read(dialog);
+        const QString information = dialog.findChild<QPlainTextEdit*>()->toPlainText();
+        for (const std::string& part :
+             {PathTo("settings.ini"), std::string(qVersion()), std::string("OpenGL: ")})
+            EXPECT_TRUE(information.contains(part.c_str())) << part;
+        EXPECT_FALSE(information.contains("not available"));
+    });
     ReadDialog(ID_FILE_NEW, [&](QDialog& dialog) { Read(dialog); });
     ReadDialog(ID_EDIT_PROPERTIES, [&](QDialog& dialog) { ReadPages(dialog); });
     ReadDialog(ID_TOOLS_OPTIONS, [&](QDialog& dialog) {
