@@ -80,14 +80,14 @@ TEST_F(TavloDocumentTest, AFileThatNobodyMayWriteIsSavedUnderANameThatIsAskedFor
 
 TEST_F(TavloDocumentTest, SavingFitsTheSizeAsAnUndoableChange) {
     auto& document = New<WALDocument>();
-    document.GetTexture().SetSize(60, 61);
-    document.GetTexture().SetPixel(59, 60, 0xFFFFFFFF);
+    document.GetTexture().SetSize(64, 61); // one side fits already
+    document.GetTexture().SetPixel(63, 60, 0xFFFFFFFF);
     ASSERT_TRUE(document.OnSaveDocument(PathTo("new.wal")));
     EXPECT_FALSE(document.IsModified());
     EXPECT_EQ(document.GetTexture().GetPixel(63, 63), 0xFFFFFFFF);
     EXPECT_EQ(StateOf(document, ID_EDIT_UNDO).text, "&Undo Reformating for File Save\tCtrl+Z");
     document.OnCmdMsg(ID_EDIT_UNDO, nullptr);
-    EXPECT_EQ(document.GetTexture().GetWidth(), 60);
+    EXPECT_EQ(document.GetTexture().GetHeight(), 61);
     EXPECT_TRUE(document.IsModified());
 }
 
