@@ -92,10 +92,10 @@ TEST_F(CSplitterWndTest, TheSplitCommandWorksWithKeysAlone) {
     ASSERT_TRUE(tracker.isVisible());
     const QImage lines = tracker.grab().toImage();
     const int x = splitter.GetExtent(columns) / 2, y = splitter.GetExtent(rows) / 2;
-    for (const int thick : {0, SplitHandle::thickness - 1})
+    for (const int thick : {0, Splitter::lineThickness - 1})
         EXPECT_TRUE(lines.pixel(9, y + thick) == lines.pixel(x, 9) &&
                     lines.pixel(x + thick, 9) == lines.pixel(x, 9));
-    for (const int beside : {-1, +SplitHandle::thickness})
+    for (const int beside : {-1, +Splitter::lineThickness})
         EXPECT_TRUE(lines.pixel(9, y + beside) == lines.pixel(9, 9) &&
                     lines.pixel(x + beside, 9) == lines.pixel(9, 9));
     EXPECT_NE(lines.pixel(x, 9), lines.pixel(9, 9));
