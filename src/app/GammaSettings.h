@@ -14,7 +14,7 @@ struct GammaValues {
     bool operator==(const GammaValues&) const = default;
 };
 
-// What a person can choose: 0 to this.
+// The largest value that the user can choose; the smallest is 0.
 inline constexpr double largestGamma = 5.0;
 // The positions of a slider, 0 to 100, over that scale.
 inline constexpr int gammaPositions = 100;

@@ -13,7 +13,7 @@ class ProfileStore;
 // What the program keeps in the user's settings beside the state of its windows. Values are little-endian;
 // one of another size than here, or that makes no sense, counts as absent.
 
-// Sixteen colours, 0x00BBGGRR each.
+// Sixteen colors, 0x00BBGGRR each.
 using CustomColors = std::array<std::uint32_t, 16>;
 
 inline constexpr const char* applicationSection = "Application";

@@ -56,7 +56,7 @@ protected:
     // The first step of reading an archive: an empty tree under the name of what is read, whose bytes stay at
     // hand.
     void BeginReading(InputStream& in);
-    // AddEntry for a name that stands in an archive's directory.
+    // AddEntry for a name from an archive's directory.
     void AddNamedEntry(std::string_view name, std::unique_ptr<Entry> entry);
     // The same for a name that is known to have no folder.
     void AddRootEntry(std::unique_ptr<Entry> entry) { root.Append(std::move(entry)); }

@@ -14,7 +14,7 @@ class Texture;
 // The palette that a paletted format falls back on when the texture has none.
 enum class DefaultPalette { none, quake, quake2 };
 
-// One picture format: the document class that stands for it, and how it is read and written. A reader
+// One picture format: its document class, and how it is read and written. A reader
 // replaces what the file carries and leaves the rest of the texture; both throw the stream's exceptions.
 // `palette` is the default palette of the row (null for none).
 struct Codec {

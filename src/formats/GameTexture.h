@@ -23,7 +23,7 @@ constexpr int levelCount = 4;
 constexpr int sideUnit = 8; // sides are multiples of it, so that level 3 has whole texels
 constexpr int maximumSide = 256;
 
-// The side that a picture's side is brought to before it is saved.
+// The side that a picture gets before it is saved.
 constexpr int FittingSide(int side) {
     const int rounded = (side + sideUnit - 1) / sideUnit * sideUnit;
     return rounded < sideUnit ? sideUnit : rounded > maximumSide ? maximumSide : rounded;
@@ -39,7 +39,7 @@ void CheckSides(const OutputStream& out, const Image& picture);
 // The palette that the indices of a file refer to: the texture's own, else the default one.
 const ColorList& PaletteOf(const Texture& texture, const ColorList* fallback);
 // Calls Fail(badIndex) for a palette that bytes cannot be indices of: an empty one, or of more than 256
-// colours.
+// colors.
 void CheckPalette(const OutputStream& out, const ColorList& palette);
 
 // Offsets of the four levels when the first lies at `start` and they follow one another.
@@ -49,7 +49,7 @@ std::array<std::uint32_t, levelCount> LevelOffsets(std::uint32_t start, int widt
 // an index past the end of the palette; endOfFile before the picture is made when there are too few.
 void ReadIndices(InputStream& in, Image& picture, int width, int height, const ColorList& palette);
 
-// Writes the picture and its three half sizes as indices of the nearest palette colours.
+// Writes the picture and its three half sizes as indices of the nearest palette colors.
 void WriteMipLevels(OutputStream& out, const Image& picture, const ColorList& palette);
 
 // The text of a name's field: up to its first NUL, or all of it.

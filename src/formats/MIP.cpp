@@ -23,7 +23,7 @@ struct Header {
 };
 static_assert(sizeof(Header) == 40);
 
-// After the levels: a signed 16-bit count, then red, green and blue of so many colours. A full palette is
+// After the levels: a signed 16-bit count, then red, green and blue of so many colors. A full palette is
 // what makes the end of a file a palette; some tools fill it up to a multiple of four bytes.
 constexpr std::int16_t fullCount = 256;
 constexpr std::int64_t fullTrailerSize = sizeof fullCount + fullCount * rgbTripleSize;

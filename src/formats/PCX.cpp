@@ -79,7 +79,7 @@ std::string RefusalOf(const Header& header) {
     return {};
 }
 
-// In this order: the first fault decides what the user is told.
+// In this order, because the first fault decides the message.
 void CheckHeader(const InputStream& in, const Header& header) {
     if (header.manufacturer != expectedManufacturer) in.Fail(StreamError::badClass);
     if (header.version != expectedVersion) in.Fail(StreamError::badSchema);
@@ -200,7 +200,7 @@ void ReadPCX(InputStream& in, Texture& texture, const ColorList* palette) {
 }
 
 void WritePCX(OutputStream& out, const Texture& texture, const ColorList* palette) {
-    constexpr int maximumWidth = 65534; // rows are brought to an even number of bytes, which is 16 bits wide
+    constexpr int maximumWidth = 65534; // rows have an even number of bytes, stored in 16 bits
     const ColorList& colors = PaletteOf(texture, palette);
     if (texture.GetWidth() < 1 || texture.GetWidth() > maximumWidth || texture.GetHeight() < 1)
         out.Fail(StreamError::badIndex);

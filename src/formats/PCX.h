@@ -8,7 +8,7 @@ class OutputStream;
 class Texture;
 
 // Paintbrush pictures (".pcx") of version 5 with 8 bits a pixel in one plane: a 128-byte header, run-length
-// coded rows of palette indices and a palette of 256 colours at the end.
+// coded rows of palette indices and a palette of 256 colors at the end.
 
 // Reads the picture and the palette, which is `palette` when the file has none. badClass for a file of
 // another kind, badSchema for another version, badIndex for other encodings, depths and rows of an odd number

@@ -30,7 +30,7 @@ constexpr std::uint8_t eightAlphaBits = 8;
 
 // As it lies in the file; little-endian, without gaps.
 struct [[gnu::packed]] Header {
-    std::uint8_t identifierLength; // bytes between the header and the colour map
+    std::uint8_t identifierLength; // bytes between the header and the color map
     std::uint8_t colorMapType;     // 0 none, 1 one
     std::uint8_t imageType;
     std::uint16_t colorMapFirst, colorMapLength; // entries

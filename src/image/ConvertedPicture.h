@@ -11,17 +11,17 @@ namespace keltavlo {
 
 class NearestSearch;
 
-// The ways in which a picture is brought to the colours of a list.
+// The ways to convert a picture to the colors of a list.
 enum class PictureConversion { none, nearest, errorDiffusion };
 
-// A picture as it looks in the colours of a list. It is made when it is first asked for after a change and
+// A picture as it looks in the colors of a list. It is made when it is first asked for after a change and
 // kept until the next one, so painting it again costs nothing.
 class ConvertedPicture {
 public:
     ConvertedPicture();
     ~ConvertedPicture();
 
-    // The picture itself without a conversion and without colours (null). The list may be another one each
+    // The picture itself without a conversion and without colors (null). The list may be another one each
     // time; it is not empty.
     const Image& Get(const Image& picture, PictureConversion newConversion, const ColorList* list);
     // The picture may have changed anywhere.

@@ -9,7 +9,7 @@
 namespace keltavlo {
 
 // What the palette bar shows, in pixels: a plane with a grid of cells or with red and green, and two strips
-// below it. The pictures hold the colours that are picked, the bitmaps what is seen of them.
+// below it. The pictures hold the colors that are picked, the bitmaps what is seen of them.
 class PalettePlanes {
 public:
     enum Mode { none, colorTable, rgba };
@@ -17,7 +17,7 @@ public:
     static constexpr int side = 256; // of the plane, and the strips' width
     static constexpr int stripHeight = 16;
 
-    // The colours of sunken edges, from the outside of their upper left corner to that of their lower right.
+    // The colors of sunken edges, from the outside of their upper left corner to that of their lower right.
     struct Look {
         Color face = 0; // what the last strip and cells without an entry lie on
         Color shadow = 0, darkShadow = 0, light = 0, highlight = 0;
@@ -29,13 +29,13 @@ public:
     // The table that the mode `colorTable` shows, from its first 256 entries.
     void SetColors(const ColorList& list) { colors = list; }
 
-    // Fills the pictures for the current colour.
+    // Fills the pictures for the current color.
     void Rebuild(Color current);
-    // Brings the bitmaps up to date through the channel table of 256 entries; null shows colours as they are.
+    // Brings the bitmaps up to date through the channel table of 256 entries; null shows colors as they are.
     void Render(const std::uint32_t* gammaTable, const Look& look);
 
     const DibSection& GetBitmap(Part part) const;
-    // The colour of the picture's pixel, untouched by gamma; nothing outside the picture.
+    // The color of the picture's pixel, untouched by gamma; nothing outside the picture.
     std::optional<Color> HitTest(Part part, int x, int y) const;
 
 private:

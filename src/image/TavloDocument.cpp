@@ -26,7 +26,7 @@ constexpr BuiltInFile builtInReferences[] = {
     hexen2Palette,  internetSafeColors, alphaScaleColors, rgbaColorSpace,
 };
 
-// badIndex for a class that stands for no picture format.
+// badIndex for a class without a picture format.
 const Codec& CodecOf(const CRuntimeClass* documentClass) {
     const Codec* codec = documentClass ? FindCodec(documentClass->name) : nullptr;
     if (codec) return *codec;
@@ -219,7 +219,7 @@ void TavloDocument::OnPalette(CommandId id) {
     if (MenuItemList::FindList(id)) SelectPalette(dynamic_cast<PaletteDocument*>(ListedUnder(id)));
 }
 
-// Views that show the palette's colours show other ones by it.
+// Views that show the palette's colors show other ones by it.
 void TavloDocument::SelectPalette(PaletteDocument* palette) {
     SetCurrentPalette(palette);
     UpdateAllViews(nullptr);

@@ -71,8 +71,8 @@ public:
     void SetCurrentBrush(BrushDocument* brush) { currentBrush = brush; }
     PaletteDocument* GetCurrentPalette() const { return currentPalette; }
     void SetCurrentPalette(PaletteDocument* palette) { currentPalette = palette; }
-    // The colours of the chosen palette to which a picture can be brought; null without a palette and for one
-    // that lists no colours.
+    // The colors of the chosen palette to which a picture can be brought; null without a palette and for one
+    // that lists no colors.
     const ColorList* GetPaletteColors() const;
 
     // Replaces the texture as an undoable change of that name.
@@ -91,7 +91,7 @@ private:
     // Brings the sides to what the games allow, as an undoable change.
     void ReformatForSave();
 
-    // Brings the picture to the palette's colours, as an undoable change unless it has only such already.
+    // Brings the picture to the palette's colors, as an undoable change unless it has only such already.
     void ConvertPicture(unsigned nameId, void (Image::*convert)(const ColorList&));
 
     void OnEditUndo() { history.Undo(); }

@@ -9,7 +9,7 @@ class Image;
 class TavloDocument;
 struct Quake2Names;
 
-// The undoable changes of a texture that a person asks for with a value. One that changes nothing records
+// The undoable changes of a texture that the user asks for with a value. One that changes nothing records
 // nothing, and one that memory is too small for changes nothing.
 
 // Crops the picture or repeats its edges.

@@ -147,7 +147,7 @@ bool BaseDocument::Save(const std::string& path) {
     return true;
 }
 
-// The document's path, or its title as far as it can stand in a file name, with the type's extension.
+// The document's path, or the part of its title that a file name can contain, with the type's extension.
 std::string BaseDocument::ProposeFileName() const {
     if (!GetPathName().empty()) return GetPathName();
     const std::string name = GetTitle().substr(0, GetTitle().find_first_of(" #%;/\\"));

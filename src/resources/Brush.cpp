@@ -8,7 +8,7 @@ namespace keltavlo {
 
 namespace {
 
-// Paints single texels with the current colour.
+// Paints single texels with the current color.
 class TexelBrush final : public Brush {
 public:
     TexelBrush() : Brush(pencilCursor) {}
@@ -18,7 +18,7 @@ public:
     }
 };
 
-// Takes the colour under the mouse as the current one.
+// Takes the color under the mouse as the current one.
 class ColorPickerBrush final : public Brush {
 public:
     ColorPickerBrush() : Brush(pipetteCursor) {}

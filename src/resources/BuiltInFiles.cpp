@@ -13,7 +13,7 @@ namespace keltavlo {
 
 namespace {
 
-constexpr char16_t wideMarker = 0xFFFE; // stands before a name in UTF-16
+constexpr char16_t wideMarker = 0xFFFE; // precedes a name in UTF-16
 
 std::string DecodeName(std::string_view bytes) {
     char16_t first = 0;

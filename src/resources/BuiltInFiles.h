@@ -19,7 +19,7 @@ enum BuiltInFile : unsigned {
     alphaScaleColors = 186
 };
 
-// The resource type under which the files' names stand.
+// The resource type of the files' names.
 inline constexpr const char* builtInNameType = "DIR";
 // The folder below the program's path that holds them.
 inline constexpr const char* builtInFolder = "res";

@@ -15,7 +15,7 @@ struct CRuntimeClass;
 
 // A run of menu items that changes while the program runs: one item for each entry of the list, or "(None)".
 // A menu holds a placeholder until its first update, which puts the run in its place. Every list that was
-// initialised is found by its ids for as long as it lives.
+// initialized is found by its ids for as long as it lives.
 class MenuItemList {
 public:
     MenuItemList() = default;
@@ -42,7 +42,7 @@ public:
 
     // The list to which the id belongs, the last one of several, or null.
     static MenuItemList* FindList(CommandId id);
-    // Updates every list's run in the menu, in the order in which the lists were initialised.
+    // Updates every list's run in the menu, in the order in which the lists were initialized.
     static void UpdateAll(MenuItems& menu, BaseDocument* activeDocument);
 
 private:

@@ -24,18 +24,18 @@ public:
     virtual void UpdatePaletteBar(unsigned hint) = 0;
     // The status bar's pane for positions, in texels.
     virtual void SetPositionText(double x, double y) = 0;
-    // The status bar's pane for colours, 0xAARRGGBB.
+    // The status bar's pane for colors, 0xAARRGGBB.
     virtual void SetColorText(std::uint32_t color) = 0;
 
-    // The colour that brushes paint with and pick, 0xAARRGGBB.
+    // The color that brushes paint with and pick, 0xAARRGGBB.
     virtual std::uint32_t GetCurrentColor() const = 0;
     virtual void SetCurrentColor(std::uint32_t color) = 0;
     // 256 entries: the channel table through which pictures are shown; null before there is a main window.
     virtual const std::uint32_t* GetGammaTable() const = 0;
 
-    // Lets the person edit what a texture document stores beside its pixels.
+    // Lets the user edit what a texture document stores beside its pixels.
     virtual void EditProperties(BaseDocument&) {}
-    // Shows a text above a bar. While the window is there the person can do nothing else. Null where nothing
+    // Shows a text above a bar. While the window is there the user can do nothing else. Null where nothing
     // is shown.
     virtual std::unique_ptr<ProgressWindow> OpenProgressWindow(const std::string&, const Progress&) {
         return nullptr;

@@ -22,7 +22,7 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-// Options may stand anywhere; behind "--" everything is a path.
+// Options may appear anywhere; after "--" everything is a path.
 ToolArguments ParseToolArguments(const std::vector<std::string>& arguments);
 
 } // namespace keltavlo

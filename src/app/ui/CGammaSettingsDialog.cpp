@@ -43,7 +43,7 @@ constexpr Sample sampleRows[] = {{"R", IDC_SAMPLE_RED, 0xFF800000},
                                  {"RGB", IDC_SAMPLE_RGB, 0xFF808080}};
 
 // Every other pixel black, every other one fully lit: from afar as bright as half the light, whatever the
-// screen makes of the values between. The gamma is right when the colour beside it looks the same.
+// screen makes of the values between. The gamma is right when the color beside it looks the same.
 QImage MakeBitmap(std::uint32_t color) {
     constexpr int side = 32;
     const std::uint32_t lit =

@@ -29,7 +29,7 @@ public:
     MainFrame* GetMainFrame() const { return mainFrame.get(); }
 
     std::optional<std::string> PromptFileName(const FileNameQuestion& question) override;
-    // Tells the person that the program lacks this.
+    // Tells the user that the program lacks this feature.
     void NotImplemented(const std::string& what);
 
     void UpdateMenus(BaseDocument* activeDocument) override;

@@ -63,7 +63,7 @@ HelpWindow::HelpWindow() : topics(new QListWidget), browser(new QTextBrowser) {
     panes->setSizes({topics->sizeHintForColumn(0) + 3 * character, width()});
 }
 
-// The titles stand in the pages.
+// The pages contain their titles.
 void HelpWindow::FillTopics() {
     for (const char* page : pages) {
         browser->setSource(UrlOf(QString::fromLatin1(page)));

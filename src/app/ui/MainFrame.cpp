@@ -128,7 +128,7 @@ void MainFrame::OnToolsOptions() {
     OnViewRefresh();
 }
 
-// The dialog knows no alpha: the colour keeps its own.
+// The dialog knows no alpha: the color keeps its own.
 void MainFrame::OnFormatColor() {
     Shell& shell = Shell::Get();
     const std::uint32_t alpha = shell.GetCurrentColor() & alphaMask;

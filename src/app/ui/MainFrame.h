@@ -22,7 +22,7 @@ public:
 
     // The status bar's pane for positions, in texels.
     void SetPositionText(double x, double y);
-    // The status bar's pane for colours, 0xAARRGGBB.
+    // The status bar's pane for colors, 0xAARRGGBB.
     void SetColorText(std::uint32_t argb);
     // Tells every view of every open document but the sender.
     void UpdateAllDocuments(DocumentView* sender, std::intptr_t hint, CObject* hintObject);
@@ -31,7 +31,7 @@ public:
     // Brings the runs of the menu bar's menu up to date.
     void UpdateMenus(BaseDocument* activeDocument);
     GammaSettings& GetGamma() { return gamma; }
-    // Shows the window, as it stands normally and then as it was left, and paints it.
+    // Shows the window in its normal place, then as it was left, and paints it.
     void ShowAsLeft();
     bool OnCmdMsg(CommandId id, CCmdUI* state) override;
 

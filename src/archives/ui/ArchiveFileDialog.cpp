@@ -96,7 +96,7 @@ void ArchiveFileDialog::GoToLastFolder(bool intoArchive) {
     if (ShowSelection(GetPathName()) && IsFolderThere(folder)) FillLowerList(folder);
 }
 
-// A file that was taken counts, wherever the lists stand.
+// If a file was chosen, its folder counts, whatever the lists show.
 void ArchiveFileDialog::done(int result) {
     const std::string inner = GetSelectedInnerPath();
     const std::string shown = archivePath.empty() ? FromQString(directory().absolutePath()) : archivePath;
@@ -106,7 +106,7 @@ void ArchiveFileDialog::done(int result) {
     CFileDialog::done(result);
 }
 
-// The lower list stands below the standard part, preview and help beside the two.
+// The lower list is below the standard part; preview and help are beside both.
 void ArchiveFileDialog::AddPanels() {
     QGridLayout& grid = GetGrid();
     const int below = grid.rowCount(), beside = grid.columnCount();
@@ -217,7 +217,7 @@ EntryStatus ArchiveFileDialog::StatusOf(const std::string& path) const {
     return status;
 }
 
-// False when an archive on the way cannot be read: the person has been told.
+// False when an archive on the way cannot be read: after telling the user.
 bool ArchiveFileDialog::CanBeResolved(const std::string& path) const {
     return !LeadsThroughFile(path) || services.fileSystem.FindArchive(path);
 }

@@ -28,7 +28,7 @@ public:
     struct Services {
         FileSystem& fileSystem;
         std::function<Preview(const std::string& path)> readPreview;
-        std::function<void(const std::string& what)> notImplemented; // tells the person
+        std::function<void(const std::string& what)> notImplemented; // tells the user
         std::function<bool(const std::string& path)> mayTake;        // the last word on a path
         FileDialogMemory& memory;
     };
@@ -51,7 +51,7 @@ private:
     void SetUpPreview();
     void GoToLastFolder(bool intoArchive);
     QString TitleOf(const std::string& path) const;
-    // False when an archive on the way cannot be read: the person has been told.
+    // Returns false, after telling the user, when an archive on the way cannot be read.
     bool ShowSelection(const std::string& path);
     void FillLowerList(const std::string& path);
     void Describe(ArchiveListItem& item) const;

@@ -44,7 +44,7 @@ void ProgressDialog::SetPosition(std::int32_t position) {
     HandleSystemEvents();
 }
 
-// Closing a window and dropping files on it are not among the events that count as a person's input
+// Closing a window and dropping files on it are not among the events that count as the user's input
 // everywhere.
 bool ProgressDialog::eventFilter(QObject*, QEvent* event) {
     switch (event->type()) {

@@ -9,7 +9,7 @@ class QProgressBar;
 namespace keltavlo {
 
 // The modeless window of a progress meter: a text above a bar. While it is there the program does what the
-// system asks of its windows, such as drawing them, and nothing that a person asks of it: the work goes on in
+// system asks of its windows, such as drawing them, and nothing that the user asks of it: the work goes on in
 // the middle of something.
 class ProgressDialog final : public QDialog, public ProgressWindow {
 public:

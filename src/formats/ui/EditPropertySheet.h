@@ -38,7 +38,7 @@ private:
     std::string name; // as stored, in bytes of any kind
 };
 
-// Edits what the game formats store with a texture besides its pixels. Each group of values that the person
+// Edits what the game formats store with a texture besides its pixels. Each group of values that the user
 // changed becomes one undoable change when the sheet is confirmed.
 class EditPropertySheet : public CPropertySheet, public EditTarget {
 public:

@@ -8,7 +8,7 @@ namespace keltavlo {
 // Something that commands are offered to: a view, a document, a frame, the application.
 class CCmdTarget : public Dynamic<"CCmdTarget", CCmdTarget, CObject> {
 public:
-    // Offers a command. With `state` the command is only asked how it stands; without, it is carried out.
+    // Offers a command. With `state`, only asks for the command's state; without, carries it out.
     // False when nothing here handles the id. Routers override it to pass the command on.
     virtual bool OnCmdMsg(CommandId id, CCmdUI* state) {
         const CommandRow* row = GetCommandMap().Find(id);

@@ -8,7 +8,7 @@ namespace keltavlo {
 
 using CommandId = std::uint32_t;
 
-// How a command stands: filled by the handler's class, shown by menus, tool buttons and accelerators.
+// The state of a command: filled by the handler's class, shown by menus, tool buttons and accelerators.
 class CCmdUI {
 public:
     explicit CCmdUI(CommandId commandId) : id(commandId) {}

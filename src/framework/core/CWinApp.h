@@ -26,7 +26,7 @@ public:
     // The type that fits the path best: the most confident, first of equals; null when none would try.
     // `openDocument` receives the document open under the path, or null.
     CDocTemplate* FindBestTemplate(const std::string& path, CDocument*& openDocument) const;
-    // The document open under the path, its window brought to the front; else the file read into a new
+    // The document open under the path, after its window comes to the front; else the file read into a new
     // document. Null when that failed (the user has been told).
     virtual CDocument* OpenDocumentFile(const std::string& path);
     // Asks for a type when there is a choice, then makes a new document. Null when cancelled or failed.

@@ -23,7 +23,7 @@ class CArchiveException : public CException {
 public:
     enum Cause { none, generic, readOnly, endOfFile, writeOnly, badIndex, badClass, badSchema };
 
-    // An empty text stands for the sentence of the cause.
+    // An empty text means the sentence of the cause.
     explicit CArchiveException(Cause cause = none, std::string file = {}, std::string text = {});
 
     Cause cause;
@@ -51,7 +51,7 @@ public:
     static constexpr int noOsError = -1;
 
     explicit CFileException(Cause cause = none, int osErrorNumber = noOsError, std::string file = {});
-    // An empty text stands for the sentence of the cause.
+    // An empty text means the sentence of the cause.
     CFileException(Cause cause, std::string file, std::string text);
     // The exception for an errno value.
     static CFileException FromErrno(int error, std::string file);

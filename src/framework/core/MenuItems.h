@@ -22,7 +22,7 @@ public:
     virtual void SetItemPrompt(CommandId id, const std::string& prompt) = 0;
 };
 
-// A text as a menu item's: shown as it stands, "&" and tabs too.
+// A text as a menu item's: shown unchanged, "&" and tabs too.
 inline std::string MenuText(std::string_view text) {
     std::string shown;
     for (const char c : text) {

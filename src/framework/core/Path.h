@@ -14,7 +14,7 @@ bool IsSeparator(char c);
 
 struct PathParts {
     std::string drive;                    // up to and with the last ":", or empty
-    bool rooted = false;                  // a separator stands first
+    bool rooted = false;                  // begins with a separator
     std::vector<std::string> directories; // without the final component
     std::string fileName;                 // the final component; empty when the path has none
 };
@@ -29,7 +29,7 @@ std::string WithExtension(std::string_view path, std::string_view extension,
                           std::span<const std::string> known);
 // Without the final component and the separators before it; a root stays ("/a" gives "/", "a" gives "").
 std::string ParentOf(std::string_view path);
-// "\" stands between the two unless the folder path ends in a separator.
+// Puts "\" between the two unless the folder path ends in a separator.
 std::string JoinPath(std::string_view folder, std::string_view name);
 
 // The directories and the file name that a path has below a root: same drive (case counts), the root's

@@ -7,7 +7,7 @@
 
 namespace keltavlo {
 
-// A picture as rows of letters, one a pixel: "#" is the colour of texts, "w" that of paper, "g" lies between
+// A picture as rows of letters, one a pixel: "#" is the color of texts, "w" that of paper, "g" lies between
 // text and ground, "b", "y", "r" and "n" are blue, yellow, red and green, anything else is see-through.
 using PixelArt = std::span<const std::string_view>;
 

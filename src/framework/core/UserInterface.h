@@ -21,7 +21,7 @@ struct FileNameQuestion {
     const CDocTemplate* type = nullptr; // whose filter and extension come first; may be null
 };
 
-// The person at the program, as documents and the application's core see them.
+// The user at the program, as documents and the application's core see them.
 class UserInterface : public Service<UserInterface> {
 public:
     virtual void ShowMessage(const std::string& text) = 0;
@@ -29,9 +29,9 @@ public:
     virtual void ReportMemoryShortage() noexcept = 0;
     // "Save changes to NAME?"
     virtual SaveAnswer AskToSave(const std::string& name) = 0;
-    // The path chosen, or nothing when the person cancelled.
+    // The path chosen, or nothing when the user cancelled.
     virtual std::optional<std::string> PromptFileName(const FileNameQuestion& question) = 0;
-    // Which of the named document types a new document is to have; null when the person cancelled.
+    // Which of the named document types a new document is to have; null when the user cancelled.
     virtual const CDocTemplate* PromptNewType() = 0;
     // The pointer shows that the program is at work between the two.
     virtual void BeginWaitCursor() = 0;

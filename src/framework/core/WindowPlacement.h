@@ -7,7 +7,7 @@
 
 namespace keltavlo {
 
-// Where a window stands and how it is shown, as the settings keep it: 44 bytes, eleven little-endian 32-bit
+// Where a window is and how it is shown, as stored in the settings: 44 bytes, eleven little-endian 32-bit
 // words. Coordinates are pixels of the desktop.
 struct WindowPlacement {
     enum ShowCommand : std::uint32_t { showNormal = 1, showMinimized = 2, showMaximized = 3, show = 5 };

@@ -155,7 +155,7 @@ void CFileDialog::TidyName() {
 }
 
 void CFileDialog::accept() {
-    if (deciding) return; // a second press of the key, while the person is told about the first
+    if (deciding) return; // a second press of the key, while the message about the first is open
     const QScopedValueRollback<bool> now(deciding, true);
     TidyName();
     if (!open) CompleteName();

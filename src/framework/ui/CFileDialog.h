@@ -18,7 +18,7 @@ struct FileFilter {
 };
 
 // Asks for a file name, to open or to save. A typed path may lead into an archive, where the disk knows
-// nothing. A derived dialog adds controls of its own and follows what the person selects.
+// nothing. A derived dialog adds controls of its own and follows what the user selects.
 class CFileDialog : public QFileDialog {
 public:
     // The first filter is the selected one.
@@ -32,14 +32,14 @@ protected:
 
     // Another file or folder is selected in the list.
     virtual void OnFileNameChange(const std::string&) {}
-    // The person pressed the button, and the path is no folder of the disk. False keeps the dialog open.
+    // The user pressed the button, and the path is no folder of the disk. False keeps the dialog open.
     virtual bool OnFileNameOK() { return MayTake(GetPathName()); }
-    // Whether there is a file of that path, which the person would replace.
+    // Whether there is a file of that path, which the user would replace.
     virtual bool IsFileThere(const std::string& path) const;
     // Whether there is a folder of that path, which a name is not completed to a file's.
     virtual bool IsFolderThere(const std::string& path) const;
 
-    // Whether the path will do for what the dialog was opened for; tells the person why not.
+    // Whether the path will do for what the dialog was opened for; tells the user why not.
     bool MayTake(const std::string& path) const;
     // Whether a part of the path before its last is a file: an archive, as far as the disk can tell.
     static bool LeadsThroughFile(const std::string& path);
@@ -62,7 +62,7 @@ private:
     std::string typeExtension; // of the document's type; may be empty
     bool open;
     bool mustExist;
-    bool deciding = false; // about a name; the person may have been asked
+    bool deciding = false; // about a name; the user may have been asked
 };
 
 } // namespace keltavlo

@@ -15,7 +15,7 @@ namespace keltavlo {
 class CCmdTarget;
 
 // The popups of a menu table. Items are known by their command ids: a chosen item sends its command to the
-// target, and an opened popup shows how its commands stand. Keys in an item's text are only shown.
+// target, and an opened popup shows the states of its commands. Keys in an item's text are only shown.
 class CMenu : public MenuItems {
 public:
     // Prompts of items go to the owner, as status tips.
@@ -23,10 +23,10 @@ public:
 
     // The popups in the order of the table, which hang in a menu bar or open beside the pointer.
     const std::vector<std::unique_ptr<QMenu>>& GetPopups() const { return popups; }
-    // Called before a popup's items are asked how they stand: a place to renew items that change.
+    // Called before a popup's items are updated: a place to renew items that change.
     void SetInitPopup(std::function<void(CMenu&)> handler) { initPopup = std::move(handler); }
 
-    // The first item of that id, wherever it stands, or null.
+    // The first item of that id, or null.
     QAction* FindItem(CommandId id) const;
     bool HasItem(CommandId id) const override { return FindItem(id) != nullptr; }
     void ModifyItem(CommandId id, CommandId newId, const std::string& text) override;

@@ -13,7 +13,7 @@ namespace keltavlo {
 
 class CPropertySheet;
 
-// A page of a property sheet. A page that a person never looked at is neither filled nor applied.
+// A page of a property sheet. A page that the user never looked at is neither filled nor applied.
 class CPropertyPage : public QWidget, public DialogControls {
 public:
     // The title is on the page's tab.
@@ -28,7 +28,7 @@ public:
 
     // The page is about to be seen for the first time. Here: fills the controls.
     virtual void OnInitDialog() { UpdateData(false); }
-    // The page is to be left, or the sheet confirmed. False, the person having been told, keeps it. Here:
+    // The page is to be left, or the sheet confirmed. False, the user having been told, keeps it. Here:
     // reads the controls.
     virtual bool OnKillActive() { return UpdateData(true); }
     // The sheet is confirmed. False keeps it open. Here: nothing is left to apply.
@@ -52,7 +52,7 @@ public:
     CPropertySheet(const QString& caption, QWidget* dialogOwner);
     ~CPropertySheet() override;
 
-    // Pages stand in the order in which they are added; they stay the caller's.
+    // Pages appear in the order in which they are added; the caller keeps owning them.
     void AddPage(CPropertyPage& page);
     void RemovePage(CPropertyPage& page);
     // The page that is on top; null before the sheet is seen.

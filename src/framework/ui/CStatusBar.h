@@ -11,7 +11,7 @@ class QLabel;
 namespace keltavlo {
 
 // A status bar of text panes: pane 0 takes the room that the others leave, and shows the prompt of the
-// command that a person points at for as long as there is one.
+// command that the user points at for as long as there is one.
 class CStatusBar : public QStatusBar {
 public:
     // A further pane for each sample, as wide as the sample's text.

@@ -7,7 +7,7 @@
 
 namespace keltavlo {
 
-// A toolbar from a table: its buttons know only command ids, send them to the target and show how they stand.
+// A toolbar from a table: its buttons know only command ids, send them to the target and show their states.
 // It may be docked at any side.
 class CToolBar : public QToolBar, public Dynamic<"CToolBar", CToolBar, CControlBar> {
 public:

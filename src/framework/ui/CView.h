@@ -42,7 +42,7 @@ public:
     // The bar beside the view's pane; panes of a row or a column share theirs. Only in panes that have bars.
     QScrollBar& GetScrollBar(Qt::Orientation orientation) const;
 
-    // Called once, when the view stands in its pane and has its document, which may still be empty.
+    // Called once, when the view is in its pane and has its document, which may still be empty.
     virtual void OnCreate() {}
     // Called once, before the view leaves its document and ends, while every class that it derives from is
     // there.
@@ -52,7 +52,7 @@ public:
     // Here: repaints everything.
     void OnUpdate(DocumentView* sender, std::intptr_t hint, CObject* hintObject) override;
     // The view became the active one (`activate`), or stopped to be. Either view may be null; a view that
-    // ends is told with a null `activated`.
+    // ends gets a null `activated`.
     virtual void OnActivateView(bool activate, CView* activated, CView* deactivated);
     // The view's own commands, then its document's.
     bool OnCmdMsg(CommandId id, CCmdUI* state) override;

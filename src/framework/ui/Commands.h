@@ -8,12 +8,12 @@ namespace keltavlo {
 
 class CCmdTarget;
 
-// How the command stands for the target and those behind it; disabled when nobody handles it.
+// The state of the command for the target and those behind it; disabled when nobody handles it.
 CCmdUI AskCommand(CCmdTarget& target, CommandId id);
 // Carries the command out if it is enabled at this moment; false when it is not, and when memory ran out, of
-// which the user is told.
+// which is reported to the user.
 bool SendCommand(CCmdTarget& target, CommandId id);
-// What the command's string says to a person: the prompt stands before a line break, the tool tip behind it.
+// What the command's string says to the user: the prompt before a line break, the tool tip behind it.
 std::string CommandPrompt(CommandId id);
 std::string CommandToolTip(CommandId id);
 

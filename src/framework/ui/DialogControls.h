@@ -16,7 +16,7 @@ namespace keltavlo {
 
 class DialogControls;
 
-// One exchange between controls and members, in one of the two directions. Only edits whose text the person
+// One exchange between controls and members, in one of the two directions. Only edits whose text the user
 // changed are read and checked, so a value that no edit would take stays as it is when it is left alone.
 // After the first value that is refused nothing more is exchanged.
 class CDataExchange {
@@ -37,14 +37,14 @@ public:
     void Check(unsigned id, bool& member);
 
     bool WasRefused() const { return refusedEdit != nullptr; }
-    // What to tell the person, and which edit to show; only after a refusal.
+    // What to tell the user, and which edit to show; only after a refusal.
     const std::string& GetRefusal() const { return refusal; }
     QLineEdit& GetRefusedEdit() const { return *refusedEdit; }
 
 private:
     QLineEdit& GetEdit(unsigned id) const;
     void Fill(unsigned id, const QString& text);
-    // What the person put into the edit; none when nothing is to be read.
+    // What the user put into the edit; none when nothing is to be read.
     std::optional<QString> ReadChanged(unsigned id) const;
     std::int64_t ExchangeNumber(unsigned id, std::int64_t value, Range range);
     void Refuse(unsigned id, std::string message);
@@ -65,8 +65,8 @@ public:
     // The control of that id; there must be one.
     QWidget& GetDlgItem(unsigned id) const { return *controls.at(id); }
 
-    // Fills the controls from the members, or (`saveAndValidate`) reads into the members what the person
-    // changed. False when a value is refused: the person has been told and the control has the keys.
+    // Fills the controls from the members, or (`saveAndValidate`) reads into the members what the user
+    // changed. False when a value is refused: the user has been told and the control has the keys.
     bool UpdateData(bool saveAndValidate);
 
 protected:

@@ -35,7 +35,7 @@ void MDIClientArea::Place(CMDIChildWnd& child, int number) const {
     child.move(number % steps * step, number % steps * step);
 }
 
-// Up to three windows stand in one line; more fill a grid column by column, of which the last columns hold
+// Up to three windows share one line; more fill a grid column by column, of which the last columns hold
 // one more where the windows do not come out even.
 void MDIClientArea::Tile(Qt::Orientation orientation) {
     std::vector<CMDIChildWnd*> tiles = GetChildren();

@@ -17,10 +17,10 @@ public:
     CMDIChildWnd* GetCurrentChild() const;
     // Puts a new child below and beside the ones before it, of which there are `number`.
     void Place(CMDIChildWnd& child, int number) const;
-    // Lays the children that are not minimised one above the other (Qt::Vertical) or side by side; from four
+    // Lays the children that are not minimized one above the other (Qt::Vertical) or side by side; from four
     // on, in a grid.
     void Tile(Qt::Orientation orientation);
-    // Puts the minimised children in rows at the lower edge.
+    // Puts the minimized children in rows at the lower edge.
     void ArrangeIcons();
 
 private:

@@ -7,7 +7,7 @@ class QWidget;
 
 namespace keltavlo {
 
-// Message boxes over the window in which a person works now. Texts show as they stand.
+// Message boxes over the window in which the user works now. Texts are shown unchanged.
 void ShowMessageBox(const std::string& text, unsigned titleId = AFX_IDS_APP_TITLE);
 // Yes or No; No is the default.
 bool AskYesNo(const std::string& text);

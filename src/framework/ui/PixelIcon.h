@@ -6,7 +6,7 @@
 
 namespace keltavlo {
 
-// The picture as an icon that takes its colours from the palette in use. Its pixels stay sharp where they
+// The picture as an icon that takes its colors from the palette in use. Its pixels stay sharp where they
 // come out as whole ones of the screen. The rows must live as long as the program.
 QIcon MakePixelIcon(PixelArt art);
 

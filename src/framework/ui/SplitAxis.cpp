@@ -44,7 +44,7 @@ SplitAxis::Span SplitAxis::GetSpan(int part, int extent) const {
     return {first + thickness, std::max(0, room - first)};
 }
 
-// The bars of the rows stand at the right edge, those of the columns at the lower one. The box from which
+// The bars of the rows are at the right edge, those of the columns at the lower one. The box from which
 // people pull the second part lies at the start of the only bar.
 void SplitAxis::LayOut(int extent, int across, int barThickness) {
     const auto place = [&](QWidget& widget, int start, int length, int edge, int depth) {

@@ -25,7 +25,7 @@ public:
     virtual void SetSplit(Direction direction, int extent) = 0;
 };
 
-// Shows over a splitter where its lines would come to lie while a person drags one, or places both with the
+// Shows over a splitter where its lines would be while the user drags one, or places both with the
 // keyboard: arrow keys move (with Ctrl by a pixel), Enter or a click splits, Escape leaves things as they
 // were.
 class SplitTracker final : public QWidget {

@@ -6,7 +6,7 @@
 
 namespace keltavlo {
 
-// The person at the program, met through dialogs over its windows.
+// The user at the program, met through dialogs over its windows.
 class WindowedUserInterface : public UserInterface {
 public:
     void ShowMessage(const std::string& text) override;

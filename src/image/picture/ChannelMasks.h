@@ -18,7 +18,7 @@ struct ChannelMasks {
         return bitCount == 16 ? ChannelMasks{0x7C00, 0x03E0, 0x001F} : ChannelMasks{};
     }
 
-    // The opaque colour of a pixel value.
+    // The opaque color of a pixel value.
     constexpr Color ToColor(std::uint32_t value) const {
         return Compose(Extract(value, red), Extract(value, green), Extract(value, blue));
     }

@@ -5,7 +5,7 @@
 
 namespace keltavlo {
 
-// A colour with alpha, 0xAARRGGBB. Every pixel, palette entry and colour-table entry is one.
+// A color with alpha, 0xAARRGGBB. Every pixel, palette entry and color-table entry is one.
 using Color = std::uint32_t;
 
 // Bitmaps and textures take the bytes as they lie in memory: blue, green, red, alpha.
@@ -35,13 +35,13 @@ constexpr std::uint32_t Blue(Color color) {
     return color & blueMask;
 }
 
-// The colour of four channels of 0 to 255 each.
+// The color of four channels of 0 to 255 each.
 constexpr Color Compose(std::uint32_t red, std::uint32_t green, std::uint32_t blue,
                         std::uint32_t alpha = opaqueAlpha) {
     return red << 16 | green << 8 | blue | alpha << 24;
 }
 
-// A colour reference keeps red in the lowest byte (0x00BBGGRR) and knows no alpha: the colour is opaque.
+// A color reference keeps red in the lowest byte (0x00BBGGRR) and knows no alpha: the color is opaque.
 constexpr Color ColorFromColorRef(std::uint32_t reference) {
     return (reference & 0xFF) << 16 | (reference & greenMask) | (reference & redMask) >> 16 | alphaMask;
 }

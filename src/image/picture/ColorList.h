@@ -12,7 +12,7 @@ namespace keltavlo {
 
 class NearestColorCache;
 
-// A palette or colour table: entry i is the colour of index i. Copies take the colours only, never the
+// A palette or color table: entry i is the color of index i. Copies take the colors only, never the
 // cache.
 class ColorList {
 public:
@@ -33,7 +33,7 @@ public:
     Color GetColor(std::size_t index) const { return colors.at(index); }
     Color operator[](std::size_t index) const { return colors.at(index); }
 
-    // What changes the colours destroys the cache, whose slots point at them.
+    // What changes the colors destroys the cache, whose slots point at them.
     void SetColor(std::size_t index, Color color);
     void Append(Color color);
     // New entries are 0.

@@ -34,7 +34,7 @@ static_assert(sizeof(Header) == DibHeader::storedSize + masksSize);
 
 enum Compression : std::uint32_t { runs8 = 1, runs4 = 2, jpeg = 4, png = 5 };
 
-// Reads the fields that a header of this size has and leaves the others; the stream stands behind the size
+// Reads the fields that a header of this size has and leaves the others; the stream is behind the size
 // and, afterwards, behind the header.
 template <class Fields>
 void ReadFields(InputStream& in, Fields& header, std::uint32_t size) {
@@ -107,7 +107,7 @@ void CheckMasks(const InputStream& in, const ChannelMasks& masks, int bitCount) 
     if (together == 0 || overlap || !areRuns || !fit) in.Fail(StreamError::badIndex);
 }
 
-// The entries that an index can reach; the stream stands behind all of them afterwards.
+// The entries that an index can reach; the stream is behind all of them afterwards.
 ColorList ReadColors(InputStream& in, const DibHeader& header, std::size_t entrySize) {
     const std::size_t entries = header.bitCount <= 8 ? header.ColorTableEntries() : header.colorsUsed;
     const std::size_t reached = header.bitCount <= 8 ? std::size_t{1} << header.bitCount : 0;
@@ -120,7 +120,7 @@ ColorList ReadColors(InputStream& in, const DibHeader& header, std::size_t entry
     return ColorList(std::move(colors));
 }
 
-// From the size of the information header to the end of the colour table.
+// From the size of the information header to the end of the color table.
 DibDescription ReadInformation(InputStream& in) {
     constexpr std::size_t oldEntrySize = 3;
     constexpr std::size_t entrySize = 4;

@@ -43,7 +43,7 @@ PixelVector AllocateRows(const DibHeader& header, std::size_t wordCount) {
     }
 }
 
-ColorList GreyRamp(std::size_t count, std::size_t levels) {
+ColorList GrayRamp(std::size_t count, std::size_t levels) {
     ColorList ramp(count);
     for (std::size_t i = 0; i < count; ++i) {
         const auto level = static_cast<std::uint32_t>(i * 255 / (levels - 1));
@@ -52,11 +52,11 @@ ColorList GreyRamp(std::size_t count, std::size_t levels) {
     return ramp;
 }
 
-// The colour counts of a header may claim more entries than an index can reach.
+// The color counts of a header may claim more entries than an index can reach.
 ColorList InitialColorTable(const DibHeader& header) {
     if (header.bitCount > 8) return {};
     const std::size_t levels = std::size_t{1} << header.bitCount;
-    return GreyRamp(std::min<std::size_t>(header.ColorTableEntries(), levels), levels);
+    return GrayRamp(std::min<std::size_t>(header.ColorTableEntries(), levels), levels);
 }
 
 // Where the index of a column lies: the first column is in the highest bits of a byte.

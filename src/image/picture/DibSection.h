@@ -30,11 +30,11 @@ public:
     DibSection(int width, int height, int bitCount) { Create(width, height, bitCount); }
 
     // All pixel bytes 0; bottom-up rows for a positive height, top-down ones for a negative. Up to 8 bits
-    // the colour table is a ramp of greys from black to white; 16 bits are five bits a channel. Throws
+    // the color table is a ramp of grays from black to white; 16 bits are five bits a channel. Throws
     // BitmapError, with the bitmap unchanged, for other bit counts, for no pixels, for sizes beyond the
     // limits of pictures and when memory is short.
     void Create(int width, int height, int bitCount);
-    // The same from a whole header, whose resolutions and colour counts are kept and whose image size is set
+    // The same from a whole header, whose resolutions and color counts are kept and whose image size is set
     // to the bytes of the rows. Bit fields, in 16 and 32 bits, start with the masks given.
     void Create(const DibHeader& header, const ChannelMasks& fieldMasks);
     void Destroy();
@@ -55,7 +55,7 @@ public:
     std::uint8_t* GetBits();
     const std::uint8_t* GetBits() const;
 
-    // Whether pixels are colour values that Row gives access to.
+    // Whether pixels are color values that Row gives access to.
     bool HasColorRows() const { return GetBitCount() == 32 && description.masks == ChannelMasks{}; }
     // Row y of the picture, counted from its top. Only while HasColorRows.
     std::span<Color> Row(int y) { return {words.data() + RowOffset(y) / sizeof(Color), Columns()}; }
@@ -66,10 +66,10 @@ public:
     // Row y of the picture as it is stored, at any depth.
     std::span<const std::uint8_t> StoredRow(int y) const { return {GetBits() + RowOffset(y), stride}; }
 
-    // The opaque color of the pixel, row 0 at the top; unchecked. An index beyond the colour table is
+    // The opaque color of the pixel, row 0 at the top; unchecked. An index beyond the color table is
     // black.
     Color GetPixel(int x, int y) const;
-    // Stores the colour as nearly as the depth allows: the nearest table entry up to 8 bits, alpha only at
+    // Stores the color as nearly as the depth allows: the nearest table entry up to 8 bits, alpha only at
     // 32 bits.
     void SetPixel(int x, int y, Color color);
 

@@ -14,7 +14,7 @@ class ColorList;
 class DibSection;
 class InputStream;
 
-// A picture in 32-bit colour: width x height pixels, rows top first, no padding. Pixel access is unchecked:
+// A picture in 32-bit color: width x height pixels, rows top first, no padding. Pixel access is unchecked:
 // the caller keeps 0 <= x < width and 0 <= y < height.
 class Image {
 public:
@@ -62,7 +62,7 @@ public:
     // are averaged along the edge.
     void MakeHalfSize(Image& output) const;
 
-    // Replaces every pixel by the nearest colour of the list. Throws std::out_of_range when the list is
+    // Replaces every pixel by the nearest color of the list. Throws std::out_of_range when the list is
     // empty and the picture is not.
     void ConvertToNearest(const ColorList& list);
     // The same with the error of red, green and blue carried to the next pixel of the row.

@@ -93,7 +93,7 @@ std::int32_t ScoreAtOrigin(Color color, Color origin, std::int32_t alphaDistance
     return static_cast<std::int32_t>(ColorDistance(color & ~alphaMask, origin)) + alphaDistance;
 }
 
-// Its lowest score for any colour of the cell.
+// Its lowest score for any color of the cell.
 std::int32_t LowestScore(Color color, Color origin, std::int32_t alphaDistance) {
     std::int32_t score = ScoreAtOrigin(color, origin, alphaDistance);
     for (const int shift : channelShifts) {
@@ -110,7 +110,7 @@ NearestBlock NearestBlock::Empty() {
     return block;
 }
 
-// A part of the colour cube; the half of its side is a power of two.
+// A part of the color cube; the half of its side is a power of two.
 struct NearestGrid::Box {
     Color origin;
     int half;

@@ -13,7 +13,7 @@ namespace keltavlo {
 
 struct NearestKernels;
 
-// Eight entries of a list that may be nearest somewhere in a box of the colour cube, in the list's order.
+// Eight entries of a list that may be nearest somewhere in a box of the color cube, in the list's order.
 // Lanes without an entry are farther than any.
 struct alignas(32) NearestCandidates {
     static constexpr std::size_t laneCount = 8;
@@ -32,8 +32,8 @@ struct alignas(32) NearestCandidates {
     std::uint32_t left = 0;
 };
 
-// Eight candidates of a cell as they are scored: an entry's score for a colour is its base minus twice the
-// sum of the products of its channels and the colour's offsets in the cell. For every colour that is the
+// Eight candidates of a cell as they are scored: an entry's score for a color is its base minus twice the
+// sum of the products of its channels and the color's offsets in the cell. For every color that is the
 // distance less a number that all entries share; it fits 16 bits, and the first lowest score wins.
 struct alignas(64) NearestBlock {
     static constexpr int channelShift = 128;
@@ -50,15 +50,15 @@ struct alignas(64) NearestBlock {
 };
 static_assert(sizeof(NearestBlock) == 64, "one cache line");
 
-// The colour cube in 16 x 16 x 16 cells, each with the entries of a list that are nearest to some colour in
-// it. Cells are filled when they are first asked for: few colours need few.
+// The color cube in 16 x 16 x 16 cells, each with the entries of a list that are nearest to some color in
+// it. Cells are filled when they are first asked for: few colors need few.
 class NearestGrid {
 public:
     static constexpr std::size_t cellCount = 4096;
     // Blocks have 16 bits for an index.
     static constexpr std::size_t maximumColors = 65536;
 
-    // For colours of that alpha; where all entries have the same one, it tells nothing and any colour will
+    // For colors of that alpha; where all entries have the same one, it tells nothing and any color will
     // do. The list has 1 to maximumColors entries.
     NearestGrid(std::span<const Color> list, std::uint32_t alpha, const NearestKernels& useKernels);
 

@@ -13,7 +13,7 @@ class ColorList;
 struct NearestKernels;
 struct NearestTables;
 
-// Finds for many colours what ColorList::FindNearest finds for one, the first of the nearest entries, many
+// Finds for many colors what ColorList::FindNearest finds for one, the first of the nearest entries, many
 // times faster. The list must stay as it is for as long as the search is used. Operations throw
 // std::out_of_range when they have something to find and the list is empty.
 class NearestSearch {

@@ -7,7 +7,7 @@ namespace keltavlo {
 
 namespace {
 
-// Where the grid is too small for the list's indices, it serves no colour: no masked colour is this one.
+// Where the grid is too small for the list's indices, it serves no color: no masked color is this one.
 constexpr Color noAlpha = 1;
 
 bool HasOneAlpha(std::span<const Color> colors) {

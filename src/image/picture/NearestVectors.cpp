@@ -28,7 +28,7 @@ template <typename Lanes>
     return _mm_cvtsi128_si32(least);
 }
 
-// Eight colours less another one, 16 bits for each channel.
+// Eight colors less another one, 16 bits for each channel.
 struct Differences {
     __m256i blueRed;
     // And zeros.
@@ -93,7 +93,7 @@ private:
     }
 }
 
-// The doubled offsets of a colour, eight times.
+// The doubled offsets of a color, eight times.
 struct Offsets {
     __m128i blueGreen;
     __m128i red;
@@ -132,7 +132,7 @@ struct Offsets {
     return bestBlock->indices[best >> 16];
 }
 
-// The lowest sum of a colour's products with the groups and their bases.
+// The lowest sum of a color's products with the groups and their bases.
 [[gnu::target("avx2")]] inline std::int32_t ScanRun(std::span<const NearestScanGroup> groups,
                                                     __m256i blueGreen, __m256i redAlpha) {
     __m256i least = _mm256_set1_epi32(std::numeric_limits<std::int32_t>::max());
@@ -145,7 +145,7 @@ struct Offsets {
     return Least(least);
 }
 
-// Compares a colour with the whole list.
+// Compares a color with the whole list.
 [[gnu::target("avx2"), gnu::noinline]] std::size_t Scan(const NearestTables& tables, Color color) {
     constexpr std::size_t groupsInRun = NearestScanGroup::scale / 8;
     constexpr std::int32_t numberMask = NearestScanGroup::scale - 1;

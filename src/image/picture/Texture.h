@@ -24,7 +24,7 @@ public:
     // Replaces the palette by a copy of the list.
     void SetPalette(const ColorList& list);
 
-    // The picture's own palette, or none for a true-colour picture.
+    // The picture's own palette, or none for a true-color picture.
     std::unique_ptr<ColorList> palette;
     // The name of a Quake MIP texture.
     std::string quakeName;

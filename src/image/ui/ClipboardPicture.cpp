@@ -105,7 +105,7 @@ bool IsPictureFormat(const QString& format) {
     return format == toolkitFormat || supported.contains(format.toLatin1());
 }
 
-// Those that keep every colour first; the toolkit's own last, which it makes by asking for one after another.
+// Those that keep every color first; the toolkit's own last, which it makes by asking for one after another.
 QStringList PictureFormats(const QStringList& offered) {
     QStringList formats;
     for (const QString& format : {bitmapFormat, pngFormat})

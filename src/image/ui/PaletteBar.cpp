@@ -150,7 +150,7 @@ void PaletteBar::showEvent(QShowEvent* event) {
     CDialogBar::showEvent(event);
 }
 
-// The edges and the ground take their colours from the palette of the desktop.
+// The edges and the ground take their colors from the palette of the desktop.
 void PaletteBar::changeEvent(QEvent* event) {
     CDialogBar::changeEvent(event);
     if (event->type() == QEvent::PaletteChange && widget()) Renew();

@@ -10,7 +10,7 @@ namespace keltavlo {
 class CObject;
 class PaletteChooser;
 
-// The bar in which the current colour is picked: from the entries of a colour table, from the palette of an
+// The bar in which the current color is picked: from the entries of a color table, from the palette of an
 // open picture, or from planes of red, green, blue and alpha.
 class PaletteBar final : public Dynamic<"PaletteBar", PaletteBar, CDialogBar> {
 public:
@@ -19,7 +19,7 @@ public:
 
     PaletteBar(unsigned barId, QWidget* parent);
 
-    // The current colour changed, or anything else that the bar shows.
+    // The current color changed, or anything else that the bar shows.
     virtual void OnUpdate(const QWidget* sender, unsigned hint, CObject* hintObject);
     void SetMode(PalettePlanes::Mode mode);
     const PalettePlanes& GetPlanes() const { return planes; }
@@ -36,7 +36,7 @@ private:
     void ChooserSelected();
     void Pick(const QPoint& point);
     void ShowColorAt(const QPoint& point) const;
-    // The colour under a point of the bar's contents, if there is one.
+    // The color under a point of the bar's contents, if there is one.
     std::optional<Color> HitTest(const QPoint& point) const;
     PalettePlanes::Look GetLook() const;
 

@@ -47,7 +47,7 @@ PaletteChooser::PaletteChooser(QWidget* parent) : QComboBox(parent) {
     setMinimumContentsLength(10);
 }
 
-// The item that was chosen stays so, wherever it stands now; when it is gone the bar keeps its colours.
+// The chosen item stays chosen at its new place; when it is gone the bar keeps its colors.
 void PaletteChooser::FillChooser() {
     const QVariant chosen = currentData();
     const std::vector<Entry> entries = CollectLists();

@@ -9,8 +9,8 @@ namespace keltavlo {
 
 class ColorList;
 
-// The list of what the palette bar can show: three fixed modes, then every open colour table and every open
-// picture's palette. The value of an item is a mode's number, or the address of a colour list, which may
+// The list of what the palette bar can show: three fixed modes, then every open color table and every open
+// picture's palette. The value of an item is a mode's number, or the address of a color list, which may
 // belong to a document that has closed since.
 class PaletteChooser final : public QComboBox {
 public:
@@ -20,7 +20,7 @@ public:
     void FillChooser();
     // Values below 256 are modes.
     std::uintptr_t GetSelectedValue() const;
-    // The colour list of that value, if a document that is open holds it still; else null.
+    // The color list of that value, if a document that is open holds it still; else null.
     static const ColorList* FindList(std::uintptr_t value);
 
 protected:

@@ -82,7 +82,7 @@ void TavloView::ShowBrushCursor() {
     setCursor(LoadBrushCursor(wanted, devicePixelRatioF()));
 }
 
-// Position and colour in the status bar; the texel is the one that a brush would change.
+// Position and color in the status bar; the texel is the one that a brush would change.
 void TavloView::ShowTexel(const TexelPoint& texel) const {
     if (!shown) return;
     const Texture& texture = shown->GetTexture();

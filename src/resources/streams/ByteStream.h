@@ -34,7 +34,7 @@ public:
     }
 
 private:
-    // An empty sentence stands for the error's own.
+    // An empty sentence means the error's own.
     virtual std::exception_ptr MakeFailure(StreamError error, std::string name,
                                            std::string sentence) const = 0;
 };
