@@ -1,4 +1,3 @@
-#include "app/ui/MainFrame.h"
 
 #include "framework/core/Text.h"
 #include "framework/ui/CSplitterWnd.h"
@@ -6,7 +5,6 @@
 #include "framework/ui/PlaceWindow.h"
 #include "framework/ui/SplitTracker.h"
 #include "image/ui/InfiniteScrollView.h"
-#include "res/CommandIds.h"
 #include "support/ui/ProgramFixture.h"
 
 #include <QDockWidget>
