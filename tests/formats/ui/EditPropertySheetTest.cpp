@@ -157,7 +157,7 @@ TEST_F(EditPropertySheetTest, RefusesValuesOutsideTheirRangesAndStays) {
 TEST_F(EditPropertySheetTest, StepsStayWithinTheRanges) {
     GetTexture().SetSize(1023, 2000);
     const std::tuple<unsigned, unsigned, QString, Qt::Key, QString> steps[] = {
-        // typed: empty, as it was
+        // an empty text leaves what is there
         {IDC_WIDTH, IDC_WIDTH_SPIN, "", Qt::Key_Up, "1024"},
         {IDC_WIDTH, IDC_WIDTH_SPIN, "", Qt::Key_Up, "1024"},
         {IDC_WIDTH, IDC_WIDTH_SPIN, "1", Qt::Key_Down, "1"},
