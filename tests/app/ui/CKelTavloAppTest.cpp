@@ -2,16 +2,13 @@
 
 #include "app/ui/CommandLine.h"
 #include "app/ui/FileDialogServices.h"
-#include "res/CommandIds.h"
 #include "support/ui/ProgramFixture.h"
 
 #include <QDropEvent>
 #include <QListWidget>
 #include <QMimeData>
-#include <QUrl>
 #include <QWindow>
 
-#include <algorithm>
 #include <filesystem>
 
 namespace keltavlo {

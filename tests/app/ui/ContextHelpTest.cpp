@@ -1,19 +1,13 @@
-#include "framework/ui/CMenu.h"
-#include "framework/ui/CStatusBar.h"
-#include "res/CommandIds.h"
 #include "support/ui/TavloViewFixture.h"
 
 #include <QDockWidget>
 #include <QTextBrowser>
 #include <QToolBar>
-#include <QToolButton>
-#include <QUrl>
 
 namespace keltavlo {
 
 // The program with a texture; each test asks for help on parts of its window.
-class ContextHelpTest : public TavloViewFixture {
-protected:
+struct ContextHelpTest : TavloViewFixture {
     static bool IsAsking() {
         const QCursor* cursor = QGuiApplication::overrideCursor();
         return cursor && cursor->shape() == Qt::WhatsThisCursor;

@@ -1,18 +1,82 @@
 #include "app/ui/HelpWindow.h"
-#include "res/CommandIds.h"
-#include "support/ui/Reading.h"
+#include "framework/ui/DialogControls.h"
 #include "support/ui/TavloViewFixture.h"
 
+#include <QAccessible>
+#include <QMetaEnum>
 #include <QPlainTextEdit>
-#include <QTabWidget>
 
 #include <fstream>
 #include <sstream>
 
 namespace keltavlo {
 
-class DialogsTest : public TavloViewFixture {
-protected:
+namespace {
+
+bool IsItem(const DialogControls& controls, unsigned id, const QWidget& control) try {
+    return &controls.GetDlgItem(id) == &control;
+} catch (const std::out_of_range&) {
+    return false;
+}
+
+QString IdOf(const QWidget& control) {
+    for (QWidget* parent = control.parentWidget(); parent; parent = parent->parentWidget())
+        if (const auto* controls = dynamic_cast<const DialogControls*>(parent))
+            for (unsigned id = 1000; id < 2850; id += id == 1100 ? 1700 : 1)
+                if (IsItem(*controls, id, control)) return QString(" #%1").arg(id);
+    return {};
+}
+
+// Empty for what has nothing to say.
+QString Describe(QWidget& widget) {
+    QAccessibleInterface* face = QAccessible::queryAccessibleInterface(&widget);
+    if (!face || face->role() == QAccessible::ScrollBar) return {};
+    QString text;
+    for (const auto part :
+         {QAccessible::Name, QAccessible::Accelerator, QAccessible::Description, QAccessible::Value})
+        if (const QString said = face->text(part); !said.isEmpty() && !said.contains('\n'))
+            text += " '" + said + '\'';
+    if (QAccessibleValueInterface* value = face->valueInterface())
+        text += QString(" %1..%2 by %3")
+                    .arg(value->minimumValue().toInt())
+                    .arg(value->maximumValue().toInt())
+                    .arg(value->minimumStepSize().toInt());
+    if (!widget.statusTip().isEmpty()) text += " prompt '" + widget.statusTip() + '\'';
+    if (text.isEmpty()) return text;
+    const QAccessible::State state = face->state();
+    for (const auto& [holds, name] : {std::pair(bool(state.disabled), " disabled"),
+                                      {bool(state.checked), " checked"},
+                                      {bool(state.readOnly), " read-only"},
+                                      {bool(state.focusable), " focusable"}})
+        if (holds) text += name;
+    return QMetaEnum::fromType<QAccessible::Role>().valueToKey(face->role()) + text + IdOf(widget);
+}
+
+struct Item {
+    int y, x;
+    QString text;
+};
+
+// The visible controls of a window row by row, as a screen reader reads them, with their ids.
+std::string ReadingOf(const QWidget& window) {
+    std::vector<Item> items;
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+        const QString text = widget->isVisibleTo(&window) ? Describe(*widget) : QString();
+        const QPoint place = widget->mapTo(&window, widget->rect().center());
+        if (!text.isEmpty()) items.push_back({place.y(), place.x(), text});
+    }
+    constexpr int sameRow = 8; // pixels
+    std::ranges::sort(items, {}, &Item::y);
+    for (std::size_t i = 1; i < items.size(); ++i)
+        if (items[i].y - items[i - 1].y < sameRow) items[i].y = items[i - 1].y;
+    std::ranges::sort(items, {}, [](const Item& item) { return std::tie(item.y, item.x, item.text); });
+    QString reading = window.windowTitle();
+    for (std::size_t i = 0; i < items.size(); ++i)
+        reading += (i > 0 && items[i].y == items[i - 1].y ? "   " : "\n") + items[i].text;
+    return reading.toStdString() + '\n';
+}
+
+struct DialogsTest : TavloViewFixture {
     void Read(const QWidget& window) { reading += ReadingOf(window) + '\n'; }
     // Reads the dialog of the command by what the test does to it.
     void ReadDialog(CommandId id, const std::function<void(QDialog&)>& read) {
@@ -22,7 +86,6 @@ protected:
         });
         EXPECT_TRUE(Send(id));
     }
-    // Every page of every sheet in the dialog.
     void ReadPages(QDialog& dialog) {
         Read(dialog);
         for (auto* tabs : dialog.findChildren<QTabWidget*>())
@@ -55,8 +118,7 @@ TEST_F(DialogsTest, SayWhatTheyAreKnownToSay) {
             Read(gamma);
             gamma.reject();
         });
-        for (auto* button : dialog.findChildren<QPushButton*>())
-            if (button->text().contains("Gamma")) button->click();
+        FindButton(dialog, "&Gamma Settings...").click();
     });
     ReadDialog(ID_FILE_OPEN, [&](QDialog& dialog) {
         for (const char* part : {"lowerList", "enablePreview"})
@@ -70,5 +132,7 @@ TEST_F(DialogsTest, SayWhatTheyAreKnownToSay) {
     known << std::ifstream(DIALOG_READINGS).rdbuf();
     EXPECT_EQ(reading, known.str());
 }
+
+} // namespace
 
 } // namespace keltavlo

@@ -3,20 +3,14 @@
 #include "app/ui/FileDialogServices.h"
 #include "app/ui/HelpWindow.h"
 #include "image/TavloDocument.h"
-#include "res/CommandIds.h"
 #include "support/ui/ProgramFixture.h"
 
-#include <QCheckBox>
-#include <QComboBox>
 #include <QFile>
 #include <QFileDialog>
-#include <QListView>
 #include <QListWidget>
 #include <QStackedWidget>
 #include <QTextBlock>
 #include <QTextBrowser>
-#include <QToolButton>
-#include <QTreeView>
 
 #include <set>
 
@@ -25,10 +19,7 @@ namespace keltavlo {
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-namespace {
-
-class FileDialogsTest : public ProgramFixture {
-protected:
+struct FileDialogsTest : ProgramFixture {
     FileDialogsTest() {
         QApplication::setQuitOnLastWindowClosed(false); // there may be another program after this one
         PackBuilder pack;
@@ -41,7 +32,6 @@ protected:
         EXPECT_TRUE(program.InitInstance({textures + "a.wal"}));
     }
 
-    // Enters the name of a texture in the archive.
     auto Enter(const std::string& name, QDialogButtonBox::StandardButton button) {
         return [=, path = QString::fromStdString(textures + name)](QDialog& dialog) {
             EnterName(dialog, path, button);
@@ -50,12 +40,6 @@ protected:
 
     const std::string textures = PathTo("pak0.pak/textures/");
 };
-
-TEST_F(FileDialogsTest, OpensWhatIsChosenInAnArchive) {
-    const DialogAnswer answer(Enter("large.wal", QDialogButtonBox::Open));
-    Send(ID_FILE_OPEN);
-    EXPECT_EQ(program.GetRecentFiles().GetPaths().front(), textures + "large.wal");
-}
 
 TEST_F(FileDialogsTest, SavesOverAnEntryAndTellsAtTheEndThatArchivesAreReadOnly) {
     const Bytes before = ReadFile(PathTo("pak0.pak"));
@@ -144,47 +128,35 @@ TEST_F(FileDialogsTest, AsksBeforeAnUnknownExtensionMakesABitmap) {
     EXPECT_EQ(ReadFile(PathTo("x.png")).at(0), std::byte{'B'});
 }
 
-TEST_F(FileDialogsTest, StartsWhereTheLastOneEnded) {
-    const auto details = [](const QDialog& dialog) {
-        for (auto* button : dialog.findChildren<QToolButton*>())
-            if (button->accessibleName() == "Details") return button;
-        throw std::runtime_error("no such button");
-    };
+TEST_F(FileDialogsTest, StartsAsTheLastOneEnded) {
     {
-        const DialogAnswer answers([&](QDialog& dialog) {
-            EnterName(dialog, QString::fromStdString(textures), QDialogButtonBox::Open);
-            details(dialog)->click();
-            dialog.reject();
-        });
+        const DialogAnswer answers(
+            [&](QDialog& dialog) {
+                EnterName(dialog, QString::fromStdString(textures), QDialogButtonBox::Open);
+                FindButton(dialog, "Details").click();
+                auto* preview = dialog.findChild<QCheckBox*>("enablePreview");
+                EXPECT_FALSE(preview->isChecked());
+                preview->click();
+                dialog.reject();
+            },
+            [&](QDialog& dialog) {
+                EXPECT_TRUE(FindButton(dialog, "Details").isChecked());
+                auto* list = dialog.findChild<QStackedWidget*>("lowerList")->findChild<QTreeView*>();
+                ASSERT_TRUE(list && list->model()->rowCount() == 4);
+                list->setCurrentIndex(list->model()->index(3, 0));
+                Press(dialog, QDialogButtonBox::Open);
+            });
         Send(ID_FILE_OPEN);
+        Send(ID_FILE_OPEN);
+        EXPECT_EQ(program.GetRecentFiles().GetPaths().front(), textures + "large.wal");
     }
-    const DialogAnswer answers([&](QDialog& dialog) {
-        EXPECT_TRUE(details(dialog)->isChecked());
-        auto* list = dialog.findChild<QStackedWidget*>("lowerList")->findChild<QTreeView*>();
-        ASSERT_TRUE(list && list->model()->rowCount() == 4);
-        list->setCurrentIndex(list->model()->index(3, 0));
-        Press(dialog, QDialogButtonBox::Open);
-    });
-    Send(ID_FILE_OPEN);
-    EXPECT_EQ(program.GetRecentFiles().GetPaths().front(), textures + "large.wal");
-}
-
-TEST_F(FileDialogsTest, RemembersThatThePreviewIsOn) {
-    const auto switchPreview = [](CKelTavloApp& run) {
-        bool wasOn = false;
-        const DialogAnswer answer([&](QDialog& dialog) {
-            auto* enable = dialog.findChild<QCheckBox*>("enablePreview");
-            wasOn = enable->isChecked();
-            enable->click();
-            dialog.reject();
-        });
-        EXPECT_TRUE(SendCommand(*run.GetMainFrame(), ID_FILE_OPEN));
-        return wasOn;
-    };
-    EXPECT_FALSE(switchPreview(program));
     CKelTavloApp next(ProfileStore(PathTo("settings.ini")));
     next.InitInstance({textures + "a.wal"});
-    EXPECT_TRUE(switchPreview(next));
+    const DialogAnswer answer([](QDialog& dialog) {
+        EXPECT_TRUE(dialog.findChild<QCheckBox*>("enablePreview")->isChecked());
+        dialog.reject();
+    });
+    EXPECT_TRUE(SendCommand(*next.GetMainFrame(), ID_FILE_OPEN));
 }
 
 TEST_F(FileDialogsTest, PreviewsPicturesAndNothingElse) {
@@ -203,7 +175,6 @@ TEST_F(FileDialogsTest, PreviewsPicturesAndNothingElse) {
               dynamic_cast<TavloDocument&>(*document).GetTexture().GetPixel(7, 0));
 }
 
-// Every page that is linked to and every picture is there.
 TEST(HelpWindowTest, HasEveryPageAndPicture) {
     HelpWindow help;
     help.ShowPage("models.html");
@@ -228,7 +199,5 @@ TEST(HelpWindowTest, HasEveryPageAndPicture) {
     QTest::keyClick(&help, Qt::Key_Escape);
     EXPECT_FALSE(help.isVisible());
 }
-
-} // namespace
 
 } // namespace keltavlo

@@ -1,4 +1,3 @@
-#include "app/ui/MainFrame.h"
 
 #include "framework/core/Text.h"
 #include "framework/ui/CSplitterWnd.h"
@@ -6,7 +5,6 @@
 #include "framework/ui/PlaceWindow.h"
 #include "framework/ui/SplitTracker.h"
 #include "image/ui/InfiniteScrollView.h"
-#include "res/CommandIds.h"
 #include "support/ui/ProgramFixture.h"
 
 #include <QDockWidget>
@@ -73,26 +71,24 @@ TEST_F(MainFrameTest, PanesOfARowScrollTogether) {
     EXPECT_EQ(pane(0, 0)->GetScrollY() + pane(0, 1)->GetScrollY(), 2 * 33);
 }
 
-TEST_F(MainFrameTest, SettingsAreWrittenBeforeTheQuestion) {
+TEST_F(MainFrameTest, WritesItsSettingsBeforeTheQuestionAndStaysWhileADialogIsOpen) {
     Start();
     CDocument* document = program.OpenDocumentFile(Put("a.wal", MakeWal(8, 8)));
     document->SetModifiedFlag();
-    const DialogAnswer cancel([&](QDialog& dialog) {
-        EXPECT_TRUE(program.GetProfile().ReadBinary("Main", "WindowPlacement"));
-        EXPECT_TRUE(program.GetProfile().ReadBinary("ToolBarState", "State"));
-        dialog.reject();
-    });
+    EXPECT_FALSE(program.GetProfile().ReadBinary("Main", "WindowPlacement"));
+    const DialogAnswer cancel(
+        [&](QDialog& question) {
+            EXPECT_TRUE(program.GetProfile().ReadBinary("Main", "WindowPlacement"));
+            EXPECT_TRUE(program.GetProfile().ReadBinary("ToolBarState", "State"));
+            question.reject();
+        },
+        [&](QDialog& options) {
+            EXPECT_FALSE(GetMainFrame().close());
+            options.reject();
+        });
     EXPECT_FALSE(GetMainFrame().close());
     EXPECT_TRUE(GetMainFrame().isVisible());
     document->SetModifiedFlag(false);
-}
-
-TEST_F(MainFrameTest, StaysWhileADialogIsOpen) {
-    Start();
-    const DialogAnswer cancel([&](QDialog& dialog) {
-        EXPECT_FALSE(GetMainFrame().close());
-        dialog.reject();
-    });
     Send(ID_TOOLS_OPTIONS);
 }
 

@@ -1,7 +1,4 @@
-#include "framework/ui/CMDIChildWnd.h"
-#include "framework/ui/CMenu.h"
 #include "image/ImageDocuments.h"
-#include "res/CommandIds.h"
 #include "resources/Brush.h"
 #include "support/ui/ProgramFixture.h"
 
@@ -9,9 +6,7 @@
 
 namespace keltavlo {
 
-// The program with a texture open.
-class MenuRunsTest : public ProgramFixture {
-protected:
+struct MenuRunsTest : ProgramFixture {
     MenuRunsTest() {
         program.InitInstance({Put("floor.wal", MakeWal(16, 8))});
         document = dynamic_cast<WALDocument*>(GetMainFrame().MDIGetActive()->GetActiveDocument());
@@ -26,7 +21,6 @@ protected:
             if (item->isChecked()) texts += item->text();
         return texts;
     }
-    // The texts of the popup in which the item stands.
     QStringList TextsAround(CommandId id) {
         return Item(id) ? ItemTexts(*qobject_cast<QMenu*>(Item(id)->parent())) : QStringList();
     }
@@ -37,7 +31,7 @@ protected:
 TEST_F(MenuRunsTest, ListWhatIsOpen) {
     EXPECT_EQ(TextsAround(ID_BRUSH_NONE), QStringList({"Texel Brush", "Color Picker", "", "None"}));
     EXPECT_EQ(TextsAround(ID_PALETTE_NONE).front(), "RGBA");
-    EXPECT_EQ(TextsAround(ID_PALETTE_NONE).count("Quake II"), 1) << "palettes are colour tables too";
+    EXPECT_EQ(TextsAround(ID_PALETTE_NONE).count("Quake II"), 1) << "palettes are color tables too";
     program.OpenDocumentFile(Put("R&B.kelbrush", ToBytes("KEL\xE5\xD0TAVBrsh" + std::string(4, '\0'))));
     EXPECT_EQ(TextsAround(ID_BRUSH_NONE), QStringList({"Texel Brush", "RB", "Color Picker", "", "None"}));
     QAction& third = *Item(ID_BRUSH_FIRST + 2);

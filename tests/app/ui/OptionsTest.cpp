@@ -1,22 +1,14 @@
 #include "app/Settings.h"
 #include "app/ui/CGammaSettingsDialog.h"
 #include "framework/ui/ColorPrompt.h"
-#include "res/CommandIds.h"
 #include "res/ControlIds.h"
 #include "support/ui/TavloViewFixture.h"
 
-#include <QCheckBox>
-#include <QLabel>
 #include <QSlider>
-#include <QTabWidget>
 
 namespace keltavlo {
 
-namespace {
-
-class OptionsTest : public TavloViewFixture {
-protected:
-    // Runs the options and presses the button at last.
+struct OptionsTest : TavloViewFixture {
     void RunOptions(QDialogButtonBox::StandardButton button, const std::function<void(QDialog&)>& whatToDo) {
         const DialogAnswer answer([&](QDialog& sheet) {
             sheet.findChild<QTabWidget*>()->setCurrentIndex(1);
@@ -28,20 +20,16 @@ protected:
     static void RunGamma(QDialog& sheet, const std::function<void(CGammaSettingsDialog&)>& whatToDo) {
         const DialogAnswer answer(
             [&](QDialog& dialog) { whatToDo(dynamic_cast<CGammaSettingsDialog&>(dialog)); });
-        for (auto* button : sheet.findChildren<QPushButton*>())
-            if (button->text() == "&Gamma Settings...") QTest::keyClick(button, Qt::Key_Space);
+        QTest::keyClick(&FindButton(sheet, "&Gamma Settings..."), Qt::Key_Space);
     }
     static bool IsApplyEnabled(QDialog& sheet) {
         return sheet.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Apply)->isEnabled();
     }
+    static QSlider& Slider(CGammaSettingsDialog& dialog, unsigned id) {
+        return dynamic_cast<QSlider&>(dialog.GetDlgItem(id));
+    }
     GammaSettings& Gamma() { return GetMainFrame().GetGamma(); }
 };
-
-QSlider& Slider(CGammaSettingsDialog& dialog, unsigned id) {
-    return dynamic_cast<QSlider&>(dialog.GetDlgItem(id));
-}
-
-} // namespace
 
 TEST_F(OptionsTest, GammaIsChosenWithLinkedSlidersAndShownAtOnce) {
     RunOptions(QDialogButtonBox::Ok, [](QDialog& sheet) {

@@ -1,7 +1,6 @@
 // Each row of the menus, keys, tools and strings.
 #include "app/ui/HelpPages.h"
 #include "framework/core/StringTable.h"
-#include "res/CommandIds.h"
 #include "res/DocumentStrings.h"
 #include "res/Menus.h"
 #include "res/ShellStrings.h"
@@ -29,8 +28,7 @@ void Collect(std::span<const MenuRow> rows, std::vector<MenuRow>& all) {
     }
 }
 
-class ResourceTablesTest : public TavloViewFixture {
-protected:
+struct ResourceTablesTest : TavloViewFixture {
     ResourceTablesTest() {
         for (const auto& rows :
              {MenuBarRows(IDR_MAINFRAME), MenuBarRows(IDR_DOCUMENT), ImageContextMenuRows()})

@@ -7,28 +7,18 @@
 #include "support/TestApplication.h"
 #include "support/ui/DialogAnswer.h"
 
-#include <QAbstractItemView>
-#include <QCheckBox>
 #include <QCompleter>
-#include <QLabel>
-#include <QListView>
-#include <QPushButton>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
-#include <QTest>
-#include <QToolButton>
-#include <QTreeView>
 
 #include <ctime>
-#include <utility>
 
 namespace keltavlo {
 
 namespace {
 
 // A folder with two packs, a bad one and a picture, and a dialog on it.
-class ArchiveFileDialogTest : public WorkshopTest {
-protected:
+struct ArchiveFileDialogTest : WorkshopTest {
     ArchiveFileDialogTest() {
         AddStrings(ShellStrings());
         PackBuilder small, large;
@@ -54,7 +44,7 @@ protected:
     // The middle of that line, once it is there.
     static QPoint PlaceOf(const QAbstractItemView& view, const QString& name) {
         QRect area;
-        EXPECT_TRUE(QTest::qWaitFor([&] {
+        EXPECT_TRUE(WaitFor([&] {
             const QModelIndex first = view.model()->index(0, 0, view.rootIndex());
             const auto found = view.model()->match(first, Qt::DisplayRole, name, 1, Qt::MatchExactly);
             area = found.isEmpty() ? QRect() : view.visualRect(found.front());
@@ -76,22 +66,17 @@ protected:
     }
 
     QAbstractItemView& View() const { return dynamic_cast<QAbstractItemView&>(*lower.currentWidget()); }
-    QStringList Column(int column) const {
+    QStringList Column(int column = 0) const {
         QStringList texts;
         for (int row = 0; row < View().model()->rowCount(); ++row)
             texts += View().model()->index(row, column).data().toString();
         return texts;
     }
-    QStringList Names() const { return Column(0); }
-    QToolButton& Tool(const QString& tip) const {
-        for (QToolButton* button : dialog.findChildren<QToolButton*>())
-            if (button->accessibleName() == tip) return *button;
-        throw std::runtime_error("no such button");
-    }
+    QAbstractButton& Tool(const QString& tip) const { return FindButton(dialog, tip); }
     QString NameBox() const { return dialog.findChild<QLineEdit*>("nameBox")->text(); }
     void Type(const QString& name) {
         auto* edit = dialog.findChild<QLineEdit*>("fileNameEdit");
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        ASSERT_TRUE(WaitFor([&] { return dialog.isActiveWindow(); }));
         edit->setCompleter(nullptr); // its list takes the focus on the offscreen platform
         edit->setFocus();
         edit->selectAll();
@@ -125,7 +110,7 @@ TEST_F(ArchiveFileDialogTest, ListsTheSelectedArchive) {
     EXPECT_FALSE(lower.isEnabled());
     EXPECT_FALSE(Tool("Up One Level").isEnabled());
     Select("pak0.pak");
-    EXPECT_EQ(Names(), QStringList({"apple.wal", "inner.pak", "textures", "zebra.txt"}));
+    EXPECT_EQ(Column(), QStringList({"apple.wal", "inner.pak", "textures", "zebra.txt"}));
     EXPECT_TRUE(lower.isEnabled());
     EXPECT_EQ(Column(1), QStringList({"2KB", "0KB", "", "0KB"})) << "folders have no size";
     EXPECT_FALSE(Column(2).contains(""));
@@ -145,7 +130,7 @@ TEST_F(ArchiveFileDialogTest, ListsTheSelectedArchive) {
     EXPECT_TRUE(iconOf(1) == iconOf(2) && iconOf(0) == iconOf(3) && iconOf(0) != iconOf(1))
         << "folders and files";
     Select("plain.wal");
-    EXPECT_TRUE(Names().isEmpty());
+    EXPECT_TRUE(Column().isEmpty());
     EXPECT_FALSE(lower.isEnabled());
 }
 
@@ -153,7 +138,7 @@ TEST_F(ArchiveFileDialogTest, WalksIntoFoldersAndArchivesAndTakesTheFileChosenTh
     Show("pak0.pak");
     EXPECT_FALSE(PressOK()) << "an archive alone is no answer";
     DoubleClick("textures");
-    EXPECT_EQ(Names(), QStringList({"e1", "Wall.wal"}));
+    EXPECT_EQ(Column(), QStringList({"e1", "Wall.wal"}));
     Click("e1");
     EXPECT_FALSE(PressOK());
     Click("Wall.wal");
@@ -175,7 +160,7 @@ TEST_F(ArchiveFileDialogTest, EntersAFolderOfAFilesName) {
     pack.Add("a/b.wal", MakeWal(8, 8));
     Put("twins.pak", pack.Build());
     Show("twins.pak");
-    EXPECT_EQ(Names(), QStringList({"a", "a"}));
+    EXPECT_EQ(Column(), QStringList({"a", "a"}));
     EXPECT_EQ(Column(1), QStringList({"2KB", ""}));
     const QRect folderLine = View().visualRect(View().model()->index(1, 0));
     QTest::mouseClick(View().viewport(), Qt::LeftButton, {}, folderLine.center());
@@ -209,7 +194,7 @@ TEST_F(ArchiveFileDialogTest, IsUsedWithTheKeyboardAlone) {
     QWidget& view = View();
     QTest::keyClicks(&view, "tex");
     QTest::keyClick(&view, Qt::Key_Return);
-    EXPECT_EQ(Names(), QStringList({"e1", "Wall.wal"}));
+    EXPECT_EQ(Column(), QStringList({"e1", "Wall.wal"}));
     QTest::qWait(QApplication::keyboardInputInterval() + 1); // else it goes on with the word
     QTest::keyClicks(&view, "w");
     EXPECT_EQ(NameBox(), "Wall.wal");
@@ -228,13 +213,13 @@ TEST_F(ArchiveFileDialogTest, SwitchesBetweenListAndDetails) {
     EXPECT_EQ(View().currentIndex().row(), 0);
     Tool("Up One Level").click();
     EXPECT_EQ(missing, std::vector<std::string>{"Up One Level"});
-    EXPECT_EQ(Names().size(), 4U);
+    EXPECT_EQ(Column().size(), 4U);
 }
 
 TEST_F(ArchiveFileDialogTest, ReadsABadArchiveOnceForEachActOfThePerson) {
     Show("bad.pak");
     EXPECT_NE(TakeMessage().find("bad.pak"), std::string::npos);
-    EXPECT_TRUE(Names().isEmpty());
+    EXPECT_TRUE(Column().isEmpty());
     EXPECT_FALSE(PressOK());
     EXPECT_TRUE(messages.empty());
     Type("bad.pak/x.wal");
@@ -243,7 +228,7 @@ TEST_F(ArchiveFileDialogTest, ReadsABadArchiveOnceForEachActOfThePerson) {
         TakeMessage();
     }
     Select("pak1.pak");
-    EXPECT_EQ(Names(), QStringList("c.wal"));
+    EXPECT_EQ(Column(), QStringList("c.wal"));
 }
 
 TEST_F(ArchiveFileDialogTest, ReadsPreviewsOnlyWhileTheyAreSwitchedOn) {
@@ -271,7 +256,7 @@ TEST_F(ArchiveFileDialogTest, ListsATypedFolderOfAnArchiveAndNamesIt) {
         EXPECT_EQ(title->text(), shown);
         Type(typed);
         EXPECT_FALSE(PressOK());
-        EXPECT_EQ(Names(), QStringList({"e1", "Wall.wal"}));
+        EXPECT_EQ(Column(), QStringList({"e1", "Wall.wal"}));
         EXPECT_EQ(title->text(), "Contents of pak0.pak/textures:");
     }
     DoubleClick("e1");
@@ -284,15 +269,16 @@ TEST_F(ArchiveFileDialogTest, ListsATypedFolderOfAnArchiveAndNamesIt) {
 TEST_F(ArchiveFileDialogTest, EnterClosesTheListOfCompletions) {
     Show();
     auto* edit = dialog.findChild<QLineEdit*>("fileNameEdit");
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    ASSERT_TRUE(WaitFor([&] { return dialog.isActiveWindow(); }));
     edit->setFocus();
     const QWidget& popup = *edit->completer()->popup();
+    PlaceOf(upper, "pak0.pak"); // completions come from the list
     for (const char* typed : {"pak", "0.pak"}) {
         QTest::keyClicks(edit, typed);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return popup.isVisible(); }));
+        ASSERT_TRUE(WaitFor([&] { return popup.isVisible(); })) << typed;
     }
     QTest::keyClick(edit->completer()->popup(), Qt::Key_Return);
-    EXPECT_EQ(Names().size(), 4);
+    EXPECT_EQ(Column().size(), 4);
     EXPECT_FALSE(popup.isVisible());
 }
 
@@ -305,7 +291,7 @@ TEST_F(ArchiveFileDialogTest, CutsNoColumnOfTheUpperListWhileThereIsRoom) {
     PlaceOf(tree, "plain.wal");
     for (const int width : {900, 1200}) {
         dialog.resize(width, 700);
-        EXPECT_TRUE(QTest::qWaitFor([&] {
+        EXPECT_TRUE(WaitFor([&] {
             for (int column = 0; column < tree.model()->columnCount(); ++column)
                 if (tree.columnWidth(column) < lines.sizeHintForColumn(column)) return false;
             return !tree.horizontalScrollBar()->isVisible();
@@ -321,7 +307,7 @@ TEST_F(ArchiveFileDialogTest, DetailsOfManyLinesNeedNoScrollingAside) {
     Tool("Details").click();
     for (const int width : {1200, 800}) {
         dialog.resize(width, 700);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !View().horizontalScrollBar()->isVisible(); })) << width;
+        EXPECT_TRUE(WaitFor([&] { return !View().horizontalScrollBar()->isVisible(); })) << width;
         EXPECT_TRUE(View().verticalScrollBar()->isVisible());
     }
 }
@@ -367,7 +353,7 @@ TEST_F(ArchiveFileDialogTest, AFolderOfManyFilesKeepsTheWindowAlive) {
     });
     tick.start(5);
     Show();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return upper.model()->rowCount(upper.rootIndex()) >= files; }, 20000));
+    EXPECT_TRUE(WaitFor([&] { return upper.model()->rowCount(upper.rootIndex()) >= files; }));
     EXPECT_LT(longestPause, 0.15) << "seconds";
 }
 

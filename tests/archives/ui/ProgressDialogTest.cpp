@@ -13,7 +13,6 @@ namespace keltavlo {
 
 namespace {
 
-// Notes what reaches it.
 class Owner : public QWidget {
 public:
     Owner() {

@@ -1,12 +1,9 @@
 #include "formats/ui/EditPropertySheet.h"
 
-#include "res/CommandIds.h"
 #include "res/ControlIds.h"
 #include "support/ui/TavloViewFixture.h"
 
 #include <QAbstractSpinBox>
-#include <QCheckBox>
-#include <QTabWidget>
 
 namespace keltavlo {
 
@@ -20,7 +17,6 @@ struct Sheet {
         tabs[0]->setCurrentIndex(std::min(index, 2));
         if (index >= 2) tabs[1]->setCurrentIndex(index - 2);
     }
-    // A control of the page that is shown.
     template <class Control>
     Control& Get(unsigned id) const {
         CPropertyPage* page = nullptr;
@@ -39,8 +35,7 @@ struct Sheet {
     QDialog& dialog;
 };
 
-class EditPropertySheetTest : public TavloViewFixture {
-protected:
+struct EditPropertySheetTest : TavloViewFixture {
     void Run(const std::function<void(const Sheet&)>& whatToDo) {
         const DialogAnswer answer([&](QDialog& dialog) {
             whatToDo({dialog});
@@ -122,13 +117,7 @@ TEST_F(EditPropertySheetTest, OnlyValuesThatDifferAtTheEndAreTaken) {
 }
 
 TEST_F(EditPropertySheetTest, RefusesValuesOutsideTheirRangesAndStays) {
-    struct Case {
-        int page;
-        unsigned control;
-        QString text;
-        const char* message;
-    };
-    const Case cases[] = {
+    const std::tuple<int, unsigned, QString, const char*> cases[] = {
         {0, IDC_WIDTH, "0", "between 1 and 1024"},
         {0, IDC_HEIGHT, "1025", "between 1 and 1024"},
         {0, IDC_HEIGHT, "", "whole number"},
@@ -167,13 +156,8 @@ TEST_F(EditPropertySheetTest, RefusesValuesOutsideTheirRangesAndStays) {
 
 TEST_F(EditPropertySheetTest, StepsStayWithinTheRanges) {
     GetTexture().SetSize(1023, 2000);
-    struct Step {
-        unsigned edit, spin;
-        QString typed; // empty: as it was
-        Qt::Key key;
-        const char* then;
-    };
-    const Step steps[] = {
+    const std::tuple<unsigned, unsigned, QString, Qt::Key, QString> steps[] = {
+        // an empty text leaves what is there
         {IDC_WIDTH, IDC_WIDTH_SPIN, "", Qt::Key_Up, "1024"},
         {IDC_WIDTH, IDC_WIDTH_SPIN, "", Qt::Key_Up, "1024"},
         {IDC_WIDTH, IDC_WIDTH_SPIN, "1", Qt::Key_Down, "1"},

@@ -1,22 +1,13 @@
 #include "framework/ui/CFileDialog.h"
 
+#include "support/FolderTest.h"
 #include "support/ui/DialogAnswer.h"
-
-#include <QComboBox>
-#include <QFile>
-#include <QListView>
-#include <QTemporaryDir>
-#include <QTest>
-
-#include <gtest/gtest.h>
 
 namespace keltavlo {
 
-class CFileDialogTest : public testing::Test {
-protected:
+struct CFileDialogTest : FolderTest {
     CFileDialogTest() {
-        for (const char* name : {"pak0.pak", "README"})
-            EXPECT_TRUE(QFile(folder.filePath(name)).open(QIODevice::WriteOnly));
+        for (const char* name : {"pak0.pak", "README"}) Put(name, {});
     }
 
     // Types the name and presses the button; the path that the dialog takes, or nothing when it stays open.
@@ -30,19 +21,16 @@ protected:
         if (dialog.isVisible()) return std::nullopt;
         return dialog.GetPathName();
     }
-    std::string Path(const char* name) const { return folder.filePath(name).toStdString(); }
-
-    QTemporaryDir folder;
 };
 
 TEST_F(CFileDialogTest, TakesPathsThatLeadIntoAnArchive) {
     for (const bool open : {true, false}) {
-        EXPECT_EQ(Type(open, "pak0.pak/textures/a.wal"), Path("pak0.pak/textures/a.wal"));
-        EXPECT_EQ(Type(open, "pak0.pak\\textures\\a.wal"), Path("pak0.pak/textures/a.wal"));
-        EXPECT_EQ(Type(open, folder.filePath("pak0.pak/b.wal")), Path("pak0.pak/b.wal"));
+        EXPECT_EQ(Type(open, "pak0.pak/textures/a.wal"), PathTo("pak0.pak/textures/a.wal"));
+        EXPECT_EQ(Type(open, "pak0.pak\\textures\\a.wal"), PathTo("pak0.pak/textures/a.wal"));
+        EXPECT_EQ(Type(open, folder.filePath("pak0.pak/b.wal")), PathTo("pak0.pak/b.wal"));
     }
-    EXPECT_EQ(Type(true, "README"), Path("README"));
-    EXPECT_EQ(Type(false, "new.wal"), Path("new.wal"));
+    EXPECT_EQ(Type(true, "README"), PathTo("README"));
+    EXPECT_EQ(Type(false, "new.wal"), PathTo("new.wal"));
 }
 
 TEST_F(CFileDialogTest, RefusesWhatIsNotThereAndAsksBeforeItReplacesAFile) {
@@ -52,7 +40,7 @@ TEST_F(CFileDialogTest, RefusesWhatIsNotThereAndAsksBeforeItReplacesAFile) {
           {false, "README", QDialogButtonBox::No, false},
           {false, "README", QDialogButtonBox::Yes, true}}) {
         const DialogAnswer noted(Press(answer));
-        EXPECT_EQ(Type(open, name), taken ? std::optional(Path(name)) : std::nullopt);
+        EXPECT_EQ(Type(open, name), taken ? std::optional(PathTo(name)) : std::nullopt);
     }
 }
 
@@ -62,14 +50,13 @@ TEST_F(CFileDialogTest, ProposesANameInItsFolderOrTheWayThroughAnArchive) {
     for (const auto& [name, path] : {std::pair{"/bitmap1.bmp", "bitmap1.bmp"},
                                      {"/pak0.pak\\textures\\a.wal", "pak0.pak/textures/a.wal"}}) {
         question.proposal = folder.path().toStdString() + name;
-        EXPECT_EQ(CFileDialog(nullptr, question, {}).GetPathName(), Path(path));
+        EXPECT_EQ(CFileDialog(nullptr, question, {}).GetPathName(), PathTo(path));
     }
 }
 
 // The patterns are not what the label says; one that ends with a separator has no empty pattern behind it.
 TEST_F(CFileDialogTest, ShowsLabelsAndFiltersByPatterns) {
-    for (const char* name : {"a.wal", "b.tga", "c.x", "noise"})
-        QFile(folder.filePath(name)).open(QIODevice::WriteOnly);
+    for (const char* name : {"a.wal", "b.tga", "c.x", "noise"}) Put(name, {});
     CFileDialog dialog(nullptr, {}, {{"Targa (*.x)", "*tga;*.pak;"}, {"All Files (*.*)", "*.*"}});
     dialog.setDirectory(folder.path());
     dialog.show();
@@ -77,7 +64,7 @@ TEST_F(CFileDialogTest, ShowsLabelsAndFiltersByPatterns) {
     EXPECT_EQ(types->itemText(0), "Targa (*.x)");
     const auto* list = dialog.findChild<QListView*>("listView");
     const auto holds = [&](int count) {
-        return QTest::qWaitFor([&] { return list->model()->rowCount(list->rootIndex()) == count; });
+        return WaitFor([&] { return list->model()->rowCount(list->rootIndex()) == count; });
     };
     EXPECT_TRUE(holds(2)) << "b.tga and pak0.pak";
     QTest::keyClick(types, Qt::Key_Down);

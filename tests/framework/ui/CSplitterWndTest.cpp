@@ -8,16 +8,12 @@
 
 namespace keltavlo {
 
-namespace {
-
 constexpr auto rows = CSplitterWnd::rows;
 constexpr auto columns = CSplitterWnd::columns;
 
-class CSplitterWndTest : public WindowFixture {
-protected:
+struct CSplitterWndTest : WindowFixture {
     CSplitterWndTest() { frame.resize(400, 300); }
 
-    // Presses a handle, moves the mouse and lets go.
     static void Drag(QWidget& handle, const QPoint& way) {
         const QPoint start = handle.rect().center();
         QTest::mousePress(&handle, Qt::LeftButton, {}, start);
@@ -126,7 +122,5 @@ TEST_F(CSplitterWndTest, NextPaneGoesRoundRowByRow) {
     splitter.SetSplit(columns, splitter.GetExtent(columns));
     EXPECT_EQ(frame.GetActiveView(), splitter.GetPane(0, 0));
 }
-
-} // namespace
 
 } // namespace keltavlo

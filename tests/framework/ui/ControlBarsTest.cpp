@@ -1,15 +1,11 @@
 #include "framework/core/Text.h"
-#include "framework/ui/CStatusBar.h"
 #include "framework/ui/CToolBar.h"
 #include "framework/ui/PixelIcon.h"
 #include "framework/ui/PlaceWindow.h"
 #include "support/ui/WindowFixture.h"
 
-#include <QAction>
-#include <QLabel>
 #include <QStatusBar>
 #include <QStatusTipEvent>
-#include <QToolButton>
 
 namespace keltavlo {
 
@@ -23,8 +19,7 @@ std::vector<std::byte> WithOtherBit(std::vector<std::byte> bytes, std::size_t bi
     return bytes;
 }
 
-class ControlBarsTest : public WindowFixture {
-protected:
+struct ControlBarsTest : WindowFixture {
     ControlBarsTest() {
         tools.LoadToolBar(rows, mainFrame);
         mainFrame.GetBars().Dock(tools);

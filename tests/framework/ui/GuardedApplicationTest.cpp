@@ -1,10 +1,7 @@
-#include "support/ui/DialogAnswer.h"
 #include "support/ui/WindowFixture.h"
 
 #include <QDropEvent>
 #include <QMimeData>
-
-#include <new>
 
 #ifdef __SANITIZE_ADDRESS__
 #include <sanitizer/lsan_interface.h>
@@ -14,7 +11,6 @@ namespace keltavlo {
 
 namespace {
 
-// Runs out of memory while it handles events of one kind.
 class HungryWidget final : public QWidget {
 public:
     QEvent::Type failing = QEvent::None;
@@ -26,8 +22,7 @@ protected:
     }
 };
 
-class GuardedApplicationTest : public WindowFixture {
-protected:
+struct GuardedApplicationTest : WindowFixture {
     // What the toolkit has allocated for the event leaks when an exception passes through it.
     bool Fails(QEvent&& event) {
 #ifdef __SANITIZE_ADDRESS__

@@ -2,7 +2,6 @@
 
 #include "framework/ui/CClipboard.h"
 #include "image/picture/ColorList.h"
-#include "res/CommandIds.h"
 #include "support/ui/TavloViewFixture.h"
 
 #include <QBuffer>
@@ -45,8 +44,7 @@ QByteArray Encode(const QImage& image, const char* format) {
     return buffer.data();
 }
 
-class ClipboardPictureTest : public TavloViewFixture {
-protected:
+struct ClipboardPictureTest : TavloViewFixture {
     ~ClipboardPictureTest() override { QGuiApplication::clipboard()->clear(); }
 
     static void Offer(const QStringList& formats, const QByteArray& bytes, int milliseconds = 0) {

@@ -1,6 +1,5 @@
 #include "image/ui/PaletteBar.h"
 
-#include "framework/ui/CStatusBar.h"
 #include "image/ui/PaletteChooser.h"
 #include "support/ui/ProgramFixture.h"
 
@@ -8,8 +7,7 @@
 
 namespace keltavlo {
 
-class PaletteBarTest : public ProgramFixture {
-protected:
+struct PaletteBarTest : ProgramFixture {
     PaletteBarTest() {
         Start();
         bar = GetMainFrame().findChild<QDockWidget*>("bar59401");

@@ -1,4 +1,3 @@
-#include "res/CommandIds.h"
 #include "support/ui/TavloViewFixture.h"
 
 #include <QContextMenuEvent>
@@ -6,12 +5,9 @@
 
 namespace keltavlo {
 
-namespace {
-
 constexpr Color red = 0xFFFF0000;
 
-class TavloViewBrushTest : public TavloViewFixture {
-protected:
+struct TavloViewBrushTest : TavloViewFixture {
     TavloViewBrushTest() { program.SetCurrentColor(red); }
 
     void Press(const QPoint& place) { QTest::mousePress(view, Qt::LeftButton, {}, place); }
@@ -23,8 +19,6 @@ protected:
     }
     Color TexelAt(int x, int y) { return GetTexture().GetPixel(x, y); }
 };
-
-} // namespace
 
 TEST_F(TavloViewBrushTest, StrokesGoAcrossTheSeam) {
     Choose(texelBrushFile);
@@ -70,7 +64,7 @@ TEST_F(TavloViewBrushTest, StrokesRepaintWhatTheyChangeInAllViews) {
     EXPECT_FALSE(paintedToo.region.contains(QPoint(24, 8)));
     painted.region = {};
     Drag({10, 6});
-    EXPECT_TRUE(painted.region.isEmpty()) << "the texel has that colour already";
+    EXPECT_TRUE(painted.region.isEmpty()) << "the texel has that color already";
     Release({10, 6});
 }
 

@@ -1,4 +1,3 @@
-#include "res/CommandIds.h"
 #include "resources/PaletteDocument.h"
 #include "support/Fault.h"
 #include "support/ui/TavloViewFixture.h"

@@ -1,5 +1,3 @@
-#include "framework/ui/CMenu.h"
-#include "res/CommandIds.h"
 #include "resources/PaletteDocument.h"
 #include "support/ui/TavloViewFixture.h"
 
@@ -8,12 +6,9 @@
 
 namespace keltavlo {
 
-namespace {
-
 constexpr Color black = 0xFF000000, white = 0xFFFFFFFF;
 
-class TavloViewTest : public TavloViewFixture {
-protected:
+struct TavloViewTest : TavloViewFixture {
     void Wheel(int delta, Qt::KeyboardModifiers keys = Qt::NoModifier,
                Qt::MouseButtons buttons = Qt::NoButton) {
         const QPointF place(10, 10);
@@ -23,25 +18,20 @@ protected:
     }
 };
 
-// The texture is grey all over; the palettes know black and white only.
-class TavloViewFilterTest : public TavloViewFixture {
-protected:
+// The texture is gray all over; the palettes know black and white only.
+struct TavloViewFilterTest : TavloViewFixture {
     TavloViewFilterTest() {
         std::ranges::fill(GetTexture().Pixels(), 0xFF808080);
         document->UpdateAllViews(nullptr);
     }
 
-    PaletteDocument* OpenTable(const char* name, std::vector<Color> colors) {
-        Bytes bytes;
-        for (std::size_t i = 0; i < colors.size(); ++i) PutU32(bytes, 4 * i, colors[i]);
+    PaletteDocument* OpenTable(const char* name, const Bytes& bytes) {
         return dynamic_cast<PaletteDocument*>(program.OpenDocumentFile(Put(name, bytes)));
     }
 
-    PaletteDocument* blackAndWhite = OpenTable("bw.kelcolors", {black, white});
-    PaletteDocument* whiteOnly = OpenTable("w.kelcolors", {white});
+    PaletteDocument* blackAndWhite = OpenTable("bw.kelcolors", Words({black, white}));
+    PaletteDocument* whiteOnly = OpenTable("w.kelcolors", Words({white}));
 };
-
-} // namespace
 
 TEST_F(TavloViewTest, ScrollingGoesRound) {
     QScrollBar& bar = view->GetScrollBar(Qt::Horizontal);
@@ -92,7 +82,7 @@ TEST_F(TavloViewTest, PaintsTheTilingFromTheScrollPosition) {
     EXPECT_EQ(ColorShownAt(9, 5), GetTexture().GetPixel(5, 31));
     EXPECT_EQ(ColorShownAt(9, 8), GetTexture().GetPixel(5, 0));
     GetTexture().SetSize(8, 8);
-    GetTexture().SetPixel(7, 6, 0x00FF8040); // alpha does not hide colours
+    GetTexture().SetPixel(7, 6, 0x00FF8040); // alpha does not hide colors
     document->UpdateAllViews(nullptr);
     EXPECT_EQ(view->GetScrollY(), 30) << "the position is not wrapped again when the picture shrinks";
     EXPECT_EQ(view->GetScrollBar(Qt::Vertical).maximum(), 7);
@@ -143,7 +133,7 @@ TEST_F(TavloViewFilterTest, ShowsThePictureInThePalettesColors) {
     EXPECT_TRUE(StateOf(ID_FILTER_NEAREST).checked && StateOf(ID_FILTER_DITHER).checked);
     EXPECT_EQ(ColorShownAt(1, 0), black) << "dithering wins";
     QTest::mouseMove(view, {1, 0});
-    EXPECT_EQ(PaneText(3), "rgb: 80 80 80") << "the document's own colour";
+    EXPECT_EQ(PaneText(3), "rgb: 80 80 80") << "the document's own color";
     EXPECT_FALSE(document->IsModified());
     for (CommandId id = ID_COLOR_TABLE_FIRST; document->GetCurrentPalette() != whiteOnly; ++id)
         ASSERT_TRUE(Send(id));

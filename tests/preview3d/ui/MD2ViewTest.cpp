@@ -1,7 +1,6 @@
 #include "preview3d/ui/MD2View.h"
 
 #include "image/TavloDocument.h"
-#include "res/CommandIds.h"
 #include "support/builders/ModelBuilder.h"
 #include "support/ui/GLErrors.h"
 #include "support/ui/ProgramFixture.h"
@@ -17,7 +16,7 @@ namespace {
 
 using Shade = std::function<QRgb(const QVector3D&)>;
 
-constexpr QRgb grey = qRgb(0x80, 0x80, 0x80);
+constexpr QRgb gray = qRgb(0x80, 0x80, 0x80);
 const QVector3D scale{0.25F, 0.5F, 0.25F}, translate{-30, 40, -30};
 
 // In vertices before they are scaled, with places in the texture: one before the other, the nearer tilted and
@@ -57,7 +56,6 @@ Bytes BuildScene() {
     return model.Build();
 }
 
-// A colour that no other texel has.
 Color TexelColor(int x, int y) {
     return 0xFF000000 | static_cast<Color>(x) << 16 | static_cast<Color>(y) << 8 | 0x40;
 }
@@ -72,14 +70,12 @@ auto TextureShade(int width, int height, int side) {
     };
 }
 
-// Draws all in one colour.
 auto PlainShade(QRgb color) {
     return [color](const QVector3D&) { return color; };
 }
 
-class MD2ViewTest : public ProgramFixture {
-protected:
-    // An open texture, every texel in a colour of its own.
+struct MD2ViewTest : ProgramFixture {
+    // An open texture, every texel in a color of its own.
     TavloDocument& OpenTexture(const std::string& name, int width, int height) {
         auto* document = dynamic_cast<TavloDocument*>(program.OpenDocumentFile(Put(name, MakeWal(8, 8))));
         document->GetTexture().SetSize(width, height);
@@ -109,16 +105,6 @@ protected:
 
 } // namespace
 
-TEST_F(MD2ViewTest, DrawsTheModelWithThePicture) {
-    OpenTexture("floor.wal", 64, 64);
-    MD2View& view = OpenModel();
-    ExpectScene(view);
-    view.window()->resize(700, 900);
-    QCoreApplication::processEvents();
-    ExpectScene(view);
-    ExpectNoGLErrors(view);
-}
-
 TEST_F(MD2ViewTest, ShowsEachTexelOfAnOddPictureInItsPlace) {
     OpenTexture("skin.wal", 200, 194);
     MD2View& view = OpenModel();
@@ -147,9 +133,14 @@ TEST_F(MD2ViewTest, MovesByTheKeyboard) {
     expectAt(1, 1);
 }
 
-TEST_F(MD2ViewTest, KeepsThePictureOfWhenItWasMade) {
+TEST_F(MD2ViewTest, DrawsTheModelWithThePictureOfWhenItWasMade) {
     TavloDocument& floor = OpenTexture("floor.wal", 64, 64);
     MD2View& view = OpenModel();
+    ExpectScene(view);
+    view.window()->resize(700, 900);
+    QCoreApplication::processEvents();
+    ExpectScene(view);
+    ExpectNoGLErrors(view);
     floor.GetTexture().SetSize(1, 1);
     floor.GetTexture().SetPixel(0, 0, 0xFF102030);
     floor.UpdateAllViews(nullptr);
@@ -161,16 +152,16 @@ TEST_F(MD2ViewTest, KeepsThePictureOfWhenItWasMade) {
     ExpectScene(view);
 }
 
-TEST_F(MD2ViewTest, IsGreyWithoutAPictureAndRedWithoutTexture) {
+TEST_F(MD2ViewTest, IsGrayWithoutAPictureAndRedWithoutTexture) {
     MD2View& view = OpenModel();
-    ExpectScene(view, PlainShade(grey));
+    ExpectScene(view, PlainShade(gray));
     EXPECT_TRUE(StateOf(ID_3D_TEXTURED).checked);
     EXPECT_TRUE(Send(ID_3D_SOLID));
     ExpectScene(view, PlainShade(qRgb(255, 0, 0)));
     EXPECT_TRUE(StateOf(ID_3D_SOLID).radio);
     EXPECT_FALSE(StateOf(ID_3D_TEXTURED).checked);
     EXPECT_TRUE(Send(ID_3D_TEXTURED));
-    ExpectScene(view, PlainShade(grey));
+    ExpectScene(view, PlainShade(gray));
     EXPECT_FALSE(StateOf(ID_3D_WIREFRAME).enabled);
 }
 

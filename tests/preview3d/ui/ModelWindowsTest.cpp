@@ -3,7 +3,6 @@
 #include "framework/ui/WindowClasses.h"
 #include "monkey/ToolkitComplaints.h"
 #include "preview3d/ui/ModelView.h"
-#include "res/CommandIds.h"
 #include "support/builders/ModelBuilder.h"
 #include "support/ui/GLErrors.h"
 #include "support/ui/ProgramFixture.h"
@@ -31,8 +30,7 @@ long MemoryInUse() {
     return file.readAll().split(' ')[1].toLong() * 4096;
 }
 
-class ModelWindowsTest : public ProgramFixture {
-protected:
+struct ModelWindowsTest : ProgramFixture {
     ModelWindowsTest() {
         Md2Builder model;
         model.texCoords = model.vertices = 3;

@@ -70,7 +70,6 @@ private:
     void Note(const std::string& step) { log.push_back(IsAnyCurrent() ? step : step + ", not current"); }
 };
 
-// Asks for more than any system has.
 class GreedyCtrl final : public OpenGLCtrl {
     void AdjustPixelFormat(PixelFormat& format) override { format.colorBits = 4096; }
 };
@@ -87,7 +86,7 @@ extern "C" EGLSurface eglCreatePbufferSurface(EGLDisplay display, EGLConfig conf
 
 namespace {
 
-// The cube that the control draws, its corners in the colours that are their places; three sides are seen.
+// The cube that the control draws, its corners in the colors that are their places; three sides are seen.
 void ExpectCube(OpenGLCtrl& control) {
     const auto corner = [](float x, float y, float z) { return RayCaster::Corner{{x, y, z}, {x, y, z}}; };
     const RayCaster cube{{4, 4, 4},

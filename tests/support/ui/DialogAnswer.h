@@ -1,13 +1,21 @@
 #pragma once
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QDialogButtonBox>
+#include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QTabWidget>
+#include <QTest>
 #include <QTimer>
+#include <QToolButton>
+#include <QTreeView>
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -55,6 +63,12 @@ using DialogAnswer = WindowAnswer<QDialog, &QApplication::activeModalWidget>;
 // Closes the menu after the answer.
 using PopupAnswer = WindowAnswer<QMenu, &QApplication::activePopupWidget>;
 
+// Whether the condition comes to hold, on a machine with much else to do, too.
+template <class Condition>
+bool WaitFor(Condition holds) {
+    return QTest::qWaitFor(holds, 30000);
+}
+
 // Presses the button of a message box or another dialog.
 inline void Press(const QDialog& dialog, QDialogButtonBox::StandardButton button) {
     const auto* box = dialog.findChild<QDialogButtonBox*>();
@@ -69,6 +83,13 @@ inline auto Press(QDialogButtonBox::StandardButton button) {
 inline void EnterName(const QDialog& dialog, const QString& name, QDialogButtonBox::StandardButton button) {
     dialog.findChild<QLineEdit*>("fileNameEdit")->setText(name);
     Press(dialog, button);
+}
+
+// The button with that text or, without a text, with that name.
+inline QAbstractButton& FindButton(const QWidget& window, const QString& name) {
+    for (auto* button : window.findChildren<QAbstractButton*>())
+        if (button->text() == name || button->accessibleName() == name) return *button;
+    throw std::runtime_error("no such button");
 }
 
 // The texts of the menu's items, without the marks of their mnemonics; a separator is empty.

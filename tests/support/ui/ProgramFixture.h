@@ -2,19 +2,18 @@
 
 #include "app/ui/CKelTavloApp.h"
 #include "app/ui/MainFrame.h"
+#include "framework/ui/CMenu.h"
+#include "framework/ui/CStatusBar.h"
 #include "framework/ui/Commands.h"
+#include "res/CommandIds.h"
 #include "support/FolderTest.h"
 #include "support/builders/TextureBuilder.h"
 #include "support/ui/DialogAnswer.h"
 
-#include <QTest>
-
 namespace keltavlo {
 
 // The program with its windows and a folder for files.
-class ProgramFixture : public FolderTest {
-protected:
-    // Starts the program without a document.
+struct ProgramFixture : FolderTest {
     void Start() { Start(program); }
     static void Start(CKelTavloApp& anyProgram) {
         const DialogAnswer cancel([](QDialog& dialog) { dialog.reject(); });

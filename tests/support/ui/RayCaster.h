@@ -14,13 +14,13 @@ namespace keltavlo {
 struct RayCaster {
     struct Corner {
         QVector3D place;
-        QVector3D values; // whatever the colour depends on, spread over the triangles
+        QVector3D values; // whatever the color depends on, spread over the triangles
     };
     // Counter-clockwise from outside and wholly before the camera; two triangles that share the first corner.
     using Quad = std::array<Corner, 4>;
 
-    // The colours must be the same within `tolerance` of each channel. Few pixels may differ, where the
-    // colour changes within a small part of a pixel. What no quad covers is black.
+    // The colors must be the same within `tolerance` of each channel. Few pixels may differ, where the
+    // color changes within a small part of a pixel. What no quad covers is black.
     void ExpectSeenIn(QWidget& widget, int tolerance = 0) const;
 
     QVector3D eye;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "framework/ui/CStatusBar.h"
 #include "image/ImageDocuments.h"
 #include "image/ui/TavloView.h"
 #include "image/ui/TavloViewFrame.h"
@@ -8,7 +7,6 @@
 #include "resources/BuiltInFiles.h"
 #include "support/ui/ProgramFixture.h"
 
-#include <QCoreApplication>
 #include <QPaintEvent>
 
 namespace keltavlo {
@@ -25,8 +23,7 @@ public:
 };
 
 // The program with a 64 x 32 texture in one window.
-class TavloViewFixture : public ProgramFixture {
-protected:
+struct TavloViewFixture : ProgramFixture {
     TavloViewFixture() {
         program.InitInstance({Put("floor.wal", MakeWal(64, 32))});
         for (CDocument* open : program.GetDocuments())

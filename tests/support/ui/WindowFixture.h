@@ -4,16 +4,13 @@
 #include "framework/core/CWinApp.h"
 #include "framework/core/StandardIds.h"
 #include "framework/ui/CMDIFrameWnd.h"
+#include "framework/ui/CStatusBar.h"
 #include "framework/ui/CView.h"
 #include "framework/ui/ChildFrame.h"
 #include "framework/ui/Commands.h"
 #include "framework/ui/WindowedUserInterface.h"
-
-#include <QApplication>
-#include <QTemporaryDir>
-#include <QTest>
-
-#include <gmock/gmock.h>
+#include "support/FolderTest.h"
+#include "support/ui/DialogAnswer.h"
 
 namespace keltavlo {
 
@@ -99,16 +96,14 @@ public:
     TestMainFrame mainFrame;
 };
 
-class WindowFixture : public testing::Test {
-protected:
+struct WindowFixture : FolderTest {
     WindowFixture();
 
     TestDocument& NewDocument(std::size_t type = 0);
     bool Send(CommandId id) { return SendCommand(mainFrame, id); }
     static CMDIChildWnd& FrameOf(const CDocument& document);
 
-    QTemporaryDir folder;
-    TestProgram program{folder.filePath("settings.ini").toStdString()};
+    TestProgram program{PathTo("settings.ini")};
     TestMainFrame& mainFrame = program.mainFrame;
 };
 
