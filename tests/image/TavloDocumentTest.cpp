@@ -118,31 +118,32 @@ TEST_F(TavloDocumentTest, EveryChangeMarksTheDocumentAndIsTakenBack) {
         {"Nearest Color", Send<ID_FORMAT_NEAREST>, "16x8,,test,,0,0,0 gray", true},
         {"Error Diffusion Dithering", Send<ID_FORMAT_DITHER>, "16x8,,test,,0,0,0 gray", true},
     };
-    for (const auto& [name, make, result, ofPicture] : edits) {
-        auto& document = *Open<WALDocument>(Put(name + ".wal", MakeWal(16, 8)));
+    for (const Edit& edit : edits) {
+        auto& document = *Open<WALDocument>(Put(edit.name + ".wal", MakeWal(16, 8)));
         document.SetCurrentPalette(OpenBuiltIn<PaletteDocument>(grayScaleColors));
         CountingView view;
         document.AddView(view);
-        const auto check = [&, name = name, ofPicture = ofPicture](const std::string& expected) {
-            EXPECT_EQ(Describe(document.GetTexture()), expected) << name;
-            EXPECT_TRUE(document.IsModified()) << name;
-            EXPECT_EQ(view.updates > 0, ofPicture) << name;
+        const auto check = [&](const std::string& expected) {
+            EXPECT_EQ(Describe(document.GetTexture()), expected) << edit.name;
+            EXPECT_TRUE(document.IsModified()) << edit.name;
+            EXPECT_EQ(view.updates > 0, edit.ofPicture) << edit.name;
             document.SetModifiedFlag(false);
             view.updates = 0;
         };
-        make(document);
-        check(result);
-        EXPECT_EQ(StateOf(document, ID_EDIT_UNDO).text, "&Undo " + name + "\tCtrl+Z");
+        edit.make(document);
+        check(edit.result);
+        EXPECT_EQ(StateOf(document, ID_EDIT_UNDO).text, "&Undo " + edit.name + "\tCtrl+Z");
         EXPECT_EQ(StateOf(document, ID_EDIT_REDO).text, "Can't &Redo\tCtrl+Y");
         document.GetHistory().Undo();
         check("16x8,,test,,0,0,0");
         EXPECT_FALSE(StateOf(document, ID_EDIT_UNDO).enabled);
         EXPECT_EQ(StateOf(document, ID_EDIT_UNDO).text, "Can't &Undo\tCtrl+Z");
-        EXPECT_EQ(StateOf(document, ID_EDIT_REDO).text, "&Redo " + name + "\tCtrl+Y");
+        EXPECT_EQ(StateOf(document, ID_EDIT_REDO).text, "&Redo " + edit.name + "\tCtrl+Y");
         document.GetHistory().Redo();
-        check(result);
-        make(document);
-        EXPECT_EQ(document.IsModified(), name == "Paste") << "what changes nothing is no change: " << name;
+        check(edit.result);
+        edit.make(document);
+        EXPECT_EQ(document.IsModified(), edit.name == "Paste")
+            << "what changes nothing is no change: " << edit.name;
         document.RemoveView(view); // the last view: the document goes with it
         EXPECT_TRUE(
             DocTemplateRegistry::Get().FindTemplate(WALDocument::runtimeClass)->GetDocuments().empty());
