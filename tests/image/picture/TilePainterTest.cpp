@@ -32,8 +32,10 @@ std::vector<Color> FillRects(const std::vector<ScreenRect>& rects) {
     std::vector<Color> pixels(viewPixels);
     for (const ScreenRect& rect : rects)
         for (int y = rect.top; y < rect.top + rect.height; ++y)
-            for (int x = rect.left; x < rect.left + rect.width; ++x)
-                ++pixels.at(static_cast<std::size_t>(y * view.width + x));
+            for (int x = rect.left; x < rect.left + rect.width; ++x) {
+                const int place = y * view.width + x;
+                ++pixels.at(static_cast<std::size_t>(place));
+            }
     return pixels;
 }
 
