@@ -16,11 +16,6 @@ using testing::HasSubstr;
 
 class FileSystemTest : public WorkshopTest {
 protected:
-    EntryStatus StatusOf(const std::string& path) {
-        EntryStatus status;
-        application.GetFileSystem().GetStatus(path, status);
-        return status;
-    }
     CFileException::Cause OpenFailure(const std::string& path, unsigned flags = CFile::modeRead) {
         CFileException failure;
         EXPECT_EQ(application.GetFileSystem().OpenFile(path, flags, &failure), nullptr);

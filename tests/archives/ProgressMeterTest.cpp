@@ -8,8 +8,6 @@
 
 namespace keltavlo {
 
-namespace {
-
 struct Look {
     std::int64_t second;
     std::int32_t position;
@@ -34,8 +32,6 @@ protected:
     FakeClock clock;
     ProgressShell shell;
 };
-
-} // namespace
 
 TEST_F(ProgressMeterTest, ShowsWorkThatWillTakeTwoSeconds) {
     const std::string open = "open Working... 0..100 at ";

@@ -1,7 +1,5 @@
 #include "support/CodecHarness.h"
 
-#include <gmock/gmock.h>
-
 namespace keltavlo {
 
 namespace {
@@ -88,10 +86,7 @@ TEST_F(BMPTest, ReadsEveryDepth) {
     EXPECT_THAT(Pixels(MakeBmp({40, 2, 1, 16}, {}, FromNumbers({0x08, 0x42, 0xFF, 0xFF}))),
                 ElementsAre(0xFF848442, 0xFFFFFFFF));
     EXPECT_THAT(Pixels(MakeBmp({40, 1, 1, 24}, {}, FromNumbers({1, 2, 3, 0}))), ElementsAre(0xFF030201));
-}
-
-TEST_F(BMPTest, ColorTablesMayBeShorterThanTheIndices) {
-    Put(bits, colorsUsed, 1);
+    Put(bits, colorsUsed, 1); // fewer than the indices
     EXPECT_THAT(Pixels(bits), ElementsAre(0xFF112233, 0xFF000000));
     EXPECT_EQ(FailureWith(bits, colorsUsed, 0xFFFFFFFF), -1);
 }

@@ -2,8 +2,6 @@
 
 namespace keltavlo {
 
-namespace {
-
 constexpr std::size_t offsetsOffset = 24, endOfLevels = 40 + 64 * 64 * 85 / 64;
 
 class MIPTest : public testing::Test {
@@ -18,8 +16,6 @@ protected:
     CodecHarness mip{"MIPDocument"};
     Texture texture = RandomTexture(64, 64);
 };
-
-} // namespace
 
 TEST_F(MIPTest, WritesAPaletteOnlyForATextureThatHasOne) {
     EXPECT_EQ(mip.Write(texture).size(), endOfLevels);

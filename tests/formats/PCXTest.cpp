@@ -1,12 +1,8 @@
 #include "support/CodecHarness.h"
 
-#include <gmock/gmock.h>
-
 namespace keltavlo {
 
 using testing::ElementsAre;
-
-namespace {
 
 constexpr std::size_t headerSize = 128, trailerSize = 769;
 
@@ -30,8 +26,6 @@ protected:
 
     CodecHarness pcx{"PCXDocument"};
 };
-
-} // namespace
 
 TEST_F(PCXTest, CodesEveryPixelByItselfAndEvenRows) {
     Texture texture(3, 1);

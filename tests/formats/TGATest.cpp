@@ -1,10 +1,6 @@
 #include "support/CodecHarness.h"
 
-#include <gmock/gmock.h>
-
 namespace keltavlo {
-
-namespace {
 
 constexpr std::size_t headerSize = 18, footerSize = 26;
 
@@ -26,8 +22,6 @@ protected:
     CodecHarness tga{"TGADocument"};
     Texture picture;
 };
-
-} // namespace
 
 TEST_F(TGATest, WritesAlphaOnlyWhereThereIsSome) {
     Bytes bytes = tga.Write(picture);

@@ -2,8 +2,6 @@
 
 namespace keltavlo {
 
-namespace {
-
 constexpr std::size_t offsetsOffset = 40, nextFrameOffset = 56, flagsOffset = 88;
 
 class WALTest : public testing::Test {
@@ -11,8 +9,6 @@ protected:
     CodecHarness wal{"WALDocument"};
     Texture texture = RandomTexture(64, 64);
 };
-
-} // namespace
 
 TEST_F(WALTest, LevelsFollowTheHeader) {
     const Bytes bytes = wal.Write(texture);

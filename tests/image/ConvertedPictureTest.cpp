@@ -4,8 +4,6 @@
 
 namespace keltavlo {
 
-namespace {
-
 constexpr int width = 7, height = 5;
 
 class ConvertedPictureTest : public testing::TestWithParam<PictureConversion> {
@@ -53,7 +51,5 @@ TEST_P(ConvertedPictureTest, StrokesConvertOnlyWhatTheyMust) {
 
 INSTANTIATE_TEST_SUITE_P(Conversions, ConvertedPictureTest,
                          testing::Values(PictureConversion::nearest, PictureConversion::errorDiffusion));
-
-} // namespace
 
 } // namespace keltavlo

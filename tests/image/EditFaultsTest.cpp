@@ -16,11 +16,6 @@ struct Edit {
     void (*make)(TavloDocument&);
 };
 
-template <CommandId id>
-void Send(TavloDocument& document) {
-    document.OnCmdMsg(id, nullptr);
-}
-
 const std::string longName = "a name that takes memory of its own";
 
 constexpr Edit edits[] = {
@@ -70,8 +65,7 @@ protected:
     // Makes the edit, or does without, in a new document that can be undone and redone and is shown in two
     // views.
     Outcome Run(bool makeEdit, unsigned first, bool lasting) {
-        application.newType = DocTemplateRegistry::Get().FindTemplate(WALDocument::runtimeClass);
-        auto& document = dynamic_cast<TavloDocument&>(*application.OnFileNew());
+        auto& document = New<WALDocument>();
         document.GetTexture().SetSize(8, 8);
         document.GetTexture().SetPixel(1, 1, 0xFF123456);
         ResizePicture(document, 9, 9);
@@ -80,18 +74,11 @@ protected:
         document.SetModifiedFlag(false);
         std::array<View, 2> views;
         for (View& view : views) document.AddView(view);
-        Outcome outcome{};
-        {
-            const Fault fault(Step::allocation, first, lasting);
-            try {
-                if (makeEdit) GetParam().make(document);
-            } catch (const std::bad_alloc&) {
-                outcome.failed = true;
-            }
-            outcome.hit = fault.HasHit();
-        }
-        outcome.toldLastView = views.back().told;
-        outcome.description = Describe(document);
+        const auto [hit, failed] = RunWithFault(Step::allocation, first, lasting, [&] {
+            if (makeEdit) GetParam().make(document);
+        });
+        const bool toldLastView = views.back().told;
+        const Outcome outcome{Describe(document), failed, toldLastView, hit};
         for (View& view : views) document.RemoveView(view); // which ends the document
         return outcome;
     }
@@ -128,14 +115,9 @@ TEST(ConvertedPictureFaults, LeaveNothingBehind) {
         bool hit = allocationsCanFail;
         for (unsigned first = 1; hit && !testing::Test::HasFailure(); ++first) {
             converted.Get(picture, conversion, &other);
-            {
-                const Fault fault(Step::allocation, first, false);
-                try {
-                    converted.Get(picture, conversion, &list);
-                } catch (const std::bad_alloc&) {
-                }
-                hit = fault.HasHit();
-            }
+            hit = RunWithFault(Step::allocation, first, false, [&] {
+                      converted.Get(picture, conversion, &list);
+                  }).wasHit;
             EXPECT_TRUE(SamePixels(converted.Get(picture, conversion, &list),
                                    undisturbed.Get(picture, conversion, &list)))
                 << first;

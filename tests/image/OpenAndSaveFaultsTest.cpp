@@ -6,7 +6,6 @@
 #include "support/TestApplication.h"
 
 #include <filesystem>
-#include <new>
 #include <sys/stat.h>
 #include <thread>
 
@@ -25,10 +24,8 @@ std::size_t CountFiles(const std::string& where) {
     return static_cast<std::size_t>(std::distance(fs::directory_iterator(where), {}));
 }
 
-struct Attempt {
-    bool succeeded = false;
-    bool ranOutOfMemory = false; // and did not tell, but throw
-    bool wasHit = false;
+struct Attempt : FaultOutcome {
+    bool succeeded;
 };
 
 using SaveFaults = WorkshopTest;
@@ -50,25 +47,17 @@ protected:
     }
     template <class Action>
     Attempt Try(Step step, unsigned first, bool lasting, Action action) {
-        Attempt attempt;
         messageCount = 0;
-        {
-            const Fault fault(step, first, lasting);
-            try {
-                attempt.succeeded = action();
-            } catch (const std::bad_alloc&) {
-                attempt.ranOutOfMemory = true;
-            }
-            attempt.wasHit = fault.HasHit();
-        }
+        bool succeeded = false;
+        const FaultOutcome outcome = RunWithFault(step, first, lasting, [&] { succeeded = action(); });
+        const Attempt attempt{outcome, succeeded};
         EXPECT_TRUE(attempt.succeeded || messageCount > 0 || attempt.ranOutOfMemory);
         std::vector<std::string>().swap(messages);
         return attempt;
     }
 
     TavloDocument& MakeDocument(int side) {
-        application.newType = DocTemplateRegistry::Get().FindTemplate(WALDocument::runtimeClass);
-        auto& document = dynamic_cast<TavloDocument&>(*application.OnFileNew());
+        auto& document = New<WALDocument>();
         Texture& texture = document.GetTexture();
         texture.SetSize(side, side);
         for (Color color = 0xFF000000; Color & pixel : texture.Pixels()) pixel = color += 0x10305;

@@ -5,8 +5,6 @@
 
 namespace keltavlo {
 
-namespace {
-
 constexpr auto plane = PalettePlanes::plane;
 constexpr auto strip1 = PalettePlanes::strip1;
 constexpr auto strip2 = PalettePlanes::strip2;
@@ -88,7 +86,5 @@ TEST_F(PalettePlanesTest, OutsideNothingIsHit) {
          {std::tuple{plane, -1, 0}, {plane, 0, 256}, {plane, 256, 0}, {strip1, 0, 16}, {strip2, 5, -1}})
         EXPECT_FALSE(planes.HitTest(part, x, y)) << part << " " << x << " " << y;
 }
-
-} // namespace
 
 } // namespace keltavlo

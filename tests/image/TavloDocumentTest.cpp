@@ -6,6 +6,7 @@
 #include "resources/PaletteDocument.h"
 #include "support/TestApplication.h"
 
+#include <sstream>
 #include <sys/stat.h>
 
 namespace keltavlo {
@@ -20,14 +21,18 @@ struct CountingView : DocumentView {
     int updates = 0;
 };
 
-class TavloDocumentTest : public WorkshopTest {
-protected:
-    template <class Document>
-    Document& New() {
-        application.newType = DocTemplateRegistry::Get().FindTemplate(Document::runtimeClass);
-        return dynamic_cast<Document&>(*application.OnFileNew());
-    }
-};
+// Sides, names and numbers, and whether a texel is gray.
+std::string Describe(const Texture& texture) {
+    std::ostringstream text;
+    text << texture.GetWidth() << 'x' << texture.GetHeight() << ',' << texture.quakeName;
+    for (const std::string& name : {texture.quake2.name, texture.quake2.nextFrameName}) text << ',' << name;
+    for (const auto number : {texture.quake2.surfaceFlags, texture.quake2.contents, texture.quake2.value})
+        text << ',' << number;
+    text << ((texture.GetPixelWrapped(15, 7) & 0xFFFFFF) % 0x10101 == 0 ? " gray" : "");
+    return text.str();
+}
+
+using TavloDocumentTest = WorkshopTest;
 
 } // namespace
 
@@ -91,84 +96,86 @@ TEST_F(TavloDocumentTest, SavingFitsTheSizeAsAnUndoableChange) {
     EXPECT_TRUE(document.IsModified());
 }
 
-TEST_F(TavloDocumentTest, UndoAndRedoNameWhatTheyExchange) {
-    auto& document = New<BMPDocument>();
-    EXPECT_EQ(StateOf(document, ID_EDIT_UNDO).text, "Can't &Undo\tCtrl+Z");
-    PastePicture(document, Image(3, 2));
-    EXPECT_EQ(StateOf(document, ID_EDIT_UNDO).text, "&Undo Paste\tCtrl+Z");
-    document.GetHistory().Undo();
-    EXPECT_FALSE(StateOf(document, ID_EDIT_UNDO).enabled);
-    EXPECT_EQ(StateOf(document, ID_EDIT_REDO).text, "&Redo Paste\tCtrl+Y");
-    PastePicture(document, Image(2, 3));
-    EXPECT_EQ(StateOf(document, ID_EDIT_REDO).text, "Can't &Redo\tCtrl+Y");
-}
-
 TEST_F(TavloDocumentTest, EveryChangeMarksTheDocumentAndIsTakenBack) {
     struct Edit {
         std::string name;
         void (*make)(TavloDocument&);
-        bool (*isMade)(const Texture&);
+        std::string result;
         bool ofPicture = false;
     };
-    const auto isGray = [](const Texture& texture) {
-        return (texture.GetPixel(15, 7) & 0xFFFFFF) % 0x10101 == 0;
-    };
     const Edit edits[] = {
-        {"Resize", [](TavloDocument& document) { ResizePicture(document, 3, 5); },
-         [](const Texture& texture) { return texture.GetWidth() == 3 && texture.GetHeight() == 5; }, true},
-        {"Paste", [](TavloDocument& document) { PastePicture(document, Image(3, 2)); },
-         [](const Texture& texture) { return texture.GetWidth() == 3 && texture.quake2.name.empty(); }, true},
-        {"Quake Name", [](TavloDocument& document) { ChangeQuakeName(document, "a"); },
-         [](const Texture& texture) { return texture.quakeName == "a"; }},
+        {"Resize", [](auto& document) { ResizePicture(document, 3, 5); }, "3x5,,test,,0,0,0 gray", true},
+        {"Paste", [](auto& document) { PastePicture(document, Image(3, 2)); }, "3x2,,,,0,0,0 gray", true},
+        {"Quake Name", [](auto& document) { ChangeQuakeName(document, "a"); }, "16x8,a,test,,0,0,0"},
         {"Quake II Name",
-         [](TavloDocument& document) {
+         [](auto& document) {
              ChangeQuake2Names(document, {"a", "b"});
          },
-         [](const Texture& texture) {
-             return texture.quake2 == Quake2Properties{"a", "b", 0, 0, 0};
-         }},
-        {"Quake II Surface", [](TavloDocument& document) { ChangeSurfaceFlags(document, 7); },
-         [](const Texture& texture) {
-             return texture.quake2 == Quake2Properties{"test", "", 7, 0, 0};
-         }},
-        {"Quake II Contents", [](TavloDocument& document) { ChangeContents(document, 7); },
-         [](const Texture& texture) {
-             return texture.quake2 == Quake2Properties{"test", "", 0, 7, 0};
-         }},
-        {"Quake II Value", [](TavloDocument& document) { ChangeValue(document, 7); },
-         [](const Texture& texture) {
-             return texture.quake2 == Quake2Properties{"test", "", 0, 0, 7};
-         }},
-        {"Nearest Color", [](TavloDocument& document) { document.OnCmdMsg(ID_FORMAT_NEAREST, nullptr); },
-         isGray, true},
-        {"Error Diffusion Dithering",
-         [](TavloDocument& document) { document.OnCmdMsg(ID_FORMAT_DITHER, nullptr); }, isGray, true},
+         "16x8,,a,b,0,0,0"},
+        {"Quake II Surface", [](auto& document) { ChangeSurfaceFlags(document, 7); }, "16x8,,test,,7,0,0"},
+        {"Quake II Contents", [](auto& document) { ChangeContents(document, 7); }, "16x8,,test,,0,7,0"},
+        {"Quake II Value", [](auto& document) { ChangeValue(document, 7); }, "16x8,,test,,0,0,7"},
+        {"Nearest Color", Send<ID_FORMAT_NEAREST>, "16x8,,test,,0,0,0 gray", true},
+        {"Error Diffusion Dithering", Send<ID_FORMAT_DITHER>, "16x8,,test,,0,0,0 gray", true},
     };
-    for (const auto& [name, make, isMade, ofPicture] : edits) {
-        auto& document = *Open<WALDocument>(Put(name + ".wal", MakeWal(16, 8)));
+    for (const Edit& edit : edits) {
+        auto& document = *Open<WALDocument>(Put(edit.name + ".wal", MakeWal(16, 8)));
         document.SetCurrentPalette(OpenBuiltIn<PaletteDocument>(grayScaleColors));
         CountingView view;
         document.AddView(view);
-        const auto check = [&, name = name, isMade = isMade, ofPicture = ofPicture](bool made) {
-            EXPECT_EQ(isMade(document.GetTexture()), made) << name;
-            EXPECT_TRUE(document.IsModified()) << name;
-            EXPECT_EQ(view.updates > 0, ofPicture) << name;
+        const auto check = [&](const std::string& expected) {
+            EXPECT_EQ(Describe(document.GetTexture()), expected) << edit.name;
+            EXPECT_TRUE(document.IsModified()) << edit.name;
+            EXPECT_EQ(view.updates > 0, edit.ofPicture) << edit.name;
             document.SetModifiedFlag(false);
             view.updates = 0;
         };
-        make(document);
-        check(true);
+        edit.make(document);
+        check(edit.result);
+        EXPECT_EQ(StateOf(document, ID_EDIT_UNDO).text, "&Undo " + edit.name + "\tCtrl+Z");
+        EXPECT_EQ(StateOf(document, ID_EDIT_REDO).text, "Can't &Redo\tCtrl+Y");
         document.GetHistory().Undo();
-        check(false);
+        check("16x8,,test,,0,0,0");
+        EXPECT_FALSE(StateOf(document, ID_EDIT_UNDO).enabled);
+        EXPECT_EQ(StateOf(document, ID_EDIT_UNDO).text, "Can't &Undo\tCtrl+Z");
+        EXPECT_EQ(StateOf(document, ID_EDIT_REDO).text, "&Redo " + edit.name + "\tCtrl+Y");
         document.GetHistory().Redo();
-        check(true);
-        EXPECT_EQ(document.GetHistory().TopUndoName(), name);
-        make(document);
-        EXPECT_EQ(document.IsModified(), name == "Paste") << "what changes nothing is no change: " << name;
+        check(edit.result);
+        edit.make(document);
+        EXPECT_EQ(document.IsModified(), edit.name == "Paste")
+            << "what changes nothing is no change: " << edit.name;
         document.RemoveView(view); // the last view: the document goes with it
         EXPECT_TRUE(
             DocTemplateRegistry::Get().FindTemplate(WALDocument::runtimeClass)->GetDocuments().empty());
     }
+}
+
+TEST_F(TavloDocumentTest, StrokesBelongToThePictureAndNotToOtherChanges) {
+    auto& document = New<WALDocument>();
+    Texture& texture = document.GetTexture();
+    UndoHistory& history = document.GetHistory();
+    const auto isPainted = [&](int place) { return texture.GetPixel(place, place) == 0xFFABCDEF; };
+    const auto paint = [&](int place) { texture.SetPixel(place, place, 0xFFABCDEF); };
+    ResizePicture(document, 9, 9);
+    paint(1);
+    ChangeValue(document, 5);
+    paint(2);
+    history.Undo();
+    EXPECT_TRUE(isPainted(1) && isPainted(2));
+    history.Undo();
+    EXPECT_FALSE(isPainted(1) || isPainted(2));
+    paint(3);
+    history.Redo();
+    history.Redo();
+    EXPECT_TRUE(isPainted(1) && isPainted(2) && !isPainted(3));
+    history.Undo();
+    history.Undo();
+    EXPECT_TRUE(isPainted(3));
+    for (unsigned value = 1; value <= 20; ++value) ChangeValue(document, value);
+    EXPECT_FALSE(history.CanRedo());
+    for (int change = 0; change < 16; ++change) history.Undo();
+    EXPECT_FALSE(history.CanUndo()) << "the oldest changes are forgotten";
+    EXPECT_EQ(texture.quake2.value, 4U);
 }
 
 TEST_F(TavloDocumentTest, SaveAsksForANameWhereItMust) {

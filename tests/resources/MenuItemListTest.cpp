@@ -1,15 +1,11 @@
 #include "resources/MenuItemList.h"
 
 #include "framework/core/MenuItems.h"
-#include "res/CommandIds.h"
-#include "resources/PaletteDocument.h"
 #include "support/TestApplication.h"
 
 #include <algorithm>
 
 namespace keltavlo {
-
-namespace {
 
 constexpr CommandId placeholder = 7, first = 100, limit = 110;
 
@@ -55,8 +51,6 @@ protected:
     FakeMenu menu;
 };
 
-} // namespace
-
 TEST_F(MenuItemListTest, NewItemsComeDirectlyBehindTheFirst) {
     for (const auto& [count, run] : {std::pair(0U, "[(None)]"),
                                      {2, "[0][1]"},
@@ -91,19 +85,6 @@ TEST_F(MenuItemListTest, IdsLeadToEntriesAndLists) {
     EXPECT_EQ(MenuItemList::FindList(limit), nullptr);
     list.Show(menu, 300);
     EXPECT_EQ(menu.items.size(), limit - first + 2) << "other ids belong to others";
-}
-
-TEST_F(MenuItemListTest, DocumentsAreListedWithThoseOfDerivedClasses) {
-    DocumentMenuList documents(ColorTableDocument::runtimeClass);
-    documents.Init(placeholder + 1, limit, limit + 256);
-    menu.items[1].first = placeholder + 1;
-    OpenBuiltIn<BaseDocument>(quakePalette);
-    OpenBuiltIn<BaseDocument>(rgbaColorSpace);
-    Open<BaseDocument>(Put("R&B.kelcolors", Bytes(800)));
-    Open<BaseDocument>(Put("R&B.kelcolors", Bytes(800)));
-    MenuItemList::UpdateAll(menu, nullptr);
-    EXPECT_EQ(menu.Run(), "[R&&B][Quake]");
-    EXPECT_EQ(dynamic_cast<CDocument*>(documents.GetItem(limit + 1))->GetTitle(), "Quake");
 }
 
 } // namespace keltavlo

@@ -8,7 +8,7 @@ namespace keltavlo {
 using namespace std::literals;
 using testing::HasSubstr;
 
-class ReferenceDocumentsTest : public WorkshopTest {};
+using ReferenceDocumentsTest = WorkshopTest;
 
 TEST_F(ReferenceDocumentsTest, PaletteLumps) {
     Bytes lump = Words({0xFF563412});
@@ -30,18 +30,14 @@ TEST_F(ReferenceDocumentsTest, ColorTables) {
     EXPECT_THAT(Try<ColorTableDocument>(Bytes(6), ".kelcolors"), HasSubstr(".kelcolors"));
 }
 
-TEST_F(ReferenceDocumentsTest, BuiltInTablesFollowTheirRules) {
+TEST_F(ReferenceDocumentsTest, BuiltInColorsFollowTheirRulesOrTheGames) {
     const auto& safe = *OpenBuiltIn<ColorTableDocument>(internetSafeColors);
     EXPECT_EQ(safe.GetColorCount(), 216U);
     for (const auto& [index, color] :
          {std::pair(1U, 0xFF003300U), {6, 0xFF330000}, {36, 0xFF000033}, {215, 0xFFFFFFFF}})
         EXPECT_EQ(safe.GetColor(index), color) << index;
-    const auto& alpha = *OpenBuiltIn<ColorTableDocument>(alphaScaleColors);
-    EXPECT_EQ(alpha.GetColor(254), 0xFEFEFEFEU);
+    EXPECT_EQ(OpenBuiltIn<ColorTableDocument>(alphaScaleColors)->GetColor(254), 0xFEFEFEFEU);
     EXPECT_FALSE(OpenBuiltIn<ColorSpaceDocument>(rgbaColorSpace)->IsColorTable());
-}
-
-TEST_F(ReferenceDocumentsTest, BuiltInPalettesAreThoseOfTheGames) {
     EXPECT_EQ(GetQuakeIIPalette()[255], 0xFF9F5B53U);
     EXPECT_EQ(GetQuakePalette()[252], 0xFFFFF393U);
     EXPECT_EQ(OpenBuiltIn<LMPDocument>(hexen2Palette)->GetColor(253), 0xFFFC8000U);

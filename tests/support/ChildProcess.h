@@ -12,10 +12,12 @@ namespace keltavlo {
 // killed.
 class ChildProcess {
 public:
-    // The action returns the exit code.
+    // The action returns the exit code. An exception must not leave: the child would go on with the tests.
     template <class Action>
     explicit ChildProcess(Action action) : id(fork()) {
-        if (id == 0) Run(action);
+        if (id != 0) return;
+        prctl(PR_SET_PDEATHSIG, SIGKILL);
+        [&]() noexcept { _exit(action()); }();
     }
     ChildProcess(const ChildProcess&) = delete;
     ChildProcess& operator=(const ChildProcess&) = delete;
@@ -31,13 +33,6 @@ public:
     }
 
 private:
-    // An exception must not leave: the child would go on with the parent's tests.
-    template <class Action>
-    [[noreturn]] static void Run(Action& action) noexcept {
-        prctl(PR_SET_PDEATHSIG, SIGKILL);
-        _exit(action());
-    }
-
     pid_t id;
 };
 

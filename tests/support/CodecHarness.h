@@ -6,7 +6,7 @@
 #include "support/builders/PackBuilder.h"
 
 #include <algorithm>
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 #include <random>
 
 namespace keltavlo {

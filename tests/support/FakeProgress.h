@@ -1,7 +1,7 @@
 #pragma once
 
 #include "archives/ProgressMeter.h"
-#include "support/FakeShell.h"
+#include "resources/Shell.h"
 
 #include <string>
 #include <vector>
@@ -21,8 +21,14 @@ public:
 };
 
 // A main window that notes what progress windows come, show and go.
-class ProgressShell final : public FakeShell {
-public:
+struct ProgressShell final : Shell {
+    void UpdateMenus(BaseDocument*) override {}
+    void UpdatePaletteBar(unsigned) override {}
+    void SetPositionText(double, double) override {}
+    void SetColorText(std::uint32_t) override {}
+    std::uint32_t GetCurrentColor() const override { return 0; }
+    void SetCurrentColor(std::uint32_t) override {}
+    const std::uint32_t* GetGammaTable() const override { return nullptr; }
     std::unique_ptr<ProgressWindow> OpenProgressWindow(const std::string& text,
                                                        const Progress& progress) override {
         log.push_back("open " + text + " " + std::to_string(progress.minimum) + ".." +
@@ -32,7 +38,6 @@ public:
 
     std::vector<std::string> log;
 
-private:
     struct Window final : ProgressWindow {
         explicit Window(std::vector<std::string>& notes) : log(notes) {}
         ~Window() override { log.emplace_back("close"); }

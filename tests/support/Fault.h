@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <cstddef>
+#include <new>
 
 namespace keltavlo {
 
@@ -27,6 +28,22 @@ private:
     bool lasting;
     unsigned count = 0;
 };
+
+struct FaultOutcome {
+    bool wasHit, ranOutOfMemory;
+};
+
+// Whether the action met the fault and left by an exception.
+template <class Action>
+FaultOutcome RunWithFault(Step step, unsigned first, bool lasting, Action action) {
+    const Fault fault(step, first, lasting);
+    try {
+        action();
+    } catch (const std::bad_alloc&) {
+        return {fault.HasHit(), true};
+    }
+    return {fault.HasHit(), false};
+}
 
 // AddressSanitizer's allocations cannot fail.
 #ifdef __SANITIZE_ADDRESS__

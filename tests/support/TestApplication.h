@@ -1,9 +1,12 @@
 #pragma once
 
 #include "app/HeadlessApplication.h"
+#include "archives/FolderDocument.h"
 #include "resources/BuiltInFiles.h"
 #include "support/FolderTest.h"
 #include "support/builders/TextureBuilder.h"
+
+#include <utility>
 
 namespace keltavlo {
 
@@ -20,6 +23,11 @@ inline CCmdUI StateOf(CCmdTarget& target, CommandId id) {
     return state;
 }
 
+template <CommandId id, class Target>
+void Send(Target& target) {
+    target.OnCmdMsg(id, nullptr);
+}
+
 // The program without windows and a folder for files, made afresh for each test.
 class WorkshopTest : public FolderTest {
 protected:
@@ -32,6 +40,11 @@ protected:
     Document* OpenBuiltIn(BuiltInFile file) {
         return Open<Document>(GetBuiltInPath(file));
     }
+    template <class Document>
+    Document& New() {
+        application.newType = DocTemplateRegistry::Get().FindTemplate(Document::runtimeClass);
+        return dynamic_cast<Document&>(*application.OnFileNew());
+    }
     // Opens the bytes as a new file: empty when that goes well, else the message.
     template <class Document>
     std::string Try(const Bytes& bytes, const std::string& extension) {
@@ -39,11 +52,29 @@ protected:
         return Open<Document>(path) ? std::string() : TakeMessage();
     }
     // The one message since the last call; none and several are failures of the test.
-    std::string TakeMessage();
+    std::string TakeMessage() {
+        EXPECT_EQ(messages.size(), 1U);
+        const std::vector<std::string> taken = std::exchange(messages, {});
+        return taken.empty() ? std::string() : taken.front();
+    }
     // What the file system has in a folder or archive.
-    std::vector<std::string> NamesIn(const std::string& path);
+    std::vector<std::string> NamesIn(const std::string& path) {
+        FolderListing listing;
+        application.GetFileSystem().ListFolder(path, listing);
+        return listing.names;
+    }
+    EntryStatus StatusOf(const std::string& path) {
+        EntryStatus status;
+        application.GetFileSystem().GetStatus(path, status);
+        return status;
+    }
     // The bytes that lie under a path of the file system; "(fails)" when it does not open.
-    std::string TextOf(const std::string& path);
+    std::string TextOf(const std::string& path) {
+        const auto file = application.GetFileSystem().OpenFile(path, CFile::modeRead, nullptr);
+        if (!file) return "(fails)";
+        const Bytes bytes = ReadAll(*file);
+        return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
+    }
 
     std::vector<std::string> messages;
     int messageCount = 0; // those included that memory was too small to keep

@@ -7,8 +7,6 @@
 
 namespace keltavlo {
 
-namespace {
-
 class ProfileStoreTest : public FolderTest {
 protected:
     const std::string path = PathTo("made/settings.ini");
@@ -68,7 +66,5 @@ TEST_F(ProfileStoreTest, RecentFilesHaveAValueEach) {
     EXPECT_EQ(store.ReadBinary("Recent File List", "File1")->size(), 2U);
     EXPECT_FALSE(store.ReadBinary("Recent File List", "File4"));
 }
-
-} // namespace
 
 } // namespace keltavlo

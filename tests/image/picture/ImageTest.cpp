@@ -1,7 +1,6 @@
 #include "image/picture/HalfSize.h"
 #include "support/CodecHarness.h"
 
-#include <gmock/gmock.h>
 #include <numeric>
 
 namespace keltavlo {
