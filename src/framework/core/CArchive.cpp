@@ -20,7 +20,7 @@ std::size_t CArchive::ReadThrough(std::byte* target, std::size_t count) {
     used = filled = 0;
     target += ahead;
     count -= ahead;
-    // Large reads go straight to where the caller wants them.
+    // A large read skips the buffer and fills the caller's memory directly.
     if (count >= buffer.size()) return ahead + file.Read(target, count);
     filled = file.Read(buffer.data(), buffer.size());
     used = std::min(count, filled);

@@ -7,7 +7,7 @@
 
 namespace keltavlo {
 
-// A buffered, one-way run of bytes over a file: loading or storing.
+// A buffer over a file for reading or writing it from front to back: an archive either loads or stores.
 class CArchive {
 public:
     enum Mode { load, store };
@@ -19,7 +19,7 @@ public:
     CFile& GetFile() const { return file; }
     bool IsStoring() const { return mode == store; }
 
-    // Reads up to `count` bytes; fewer only at the end of the file.
+    // Reads up to `count` bytes. Returns fewer only at the end of the file.
     std::size_t Read(void* target, std::size_t count) {
         if (count == 0) return 0; // an empty target may be null
         if (count <= filled - used) {
@@ -38,8 +38,8 @@ public:
             WriteThrough(source, count);
         }
     }
-    // Brings the file to where the archive is: writes what is buffered, or seeks back over what was read
-    // ahead.
+    // Moves the file to the archive's position: writes what is buffered, or seeks back over what was
+    // read ahead.
     void Flush();
 
 private:
@@ -48,7 +48,7 @@ private:
 
     CFile& file;
     Mode mode;
-    std::size_t used = 0;   // loading: bytes handed out; storing: bytes gathered
+    std::size_t used = 0;   // loading: bytes handed out; storing: bytes collected
     std::size_t filled = 0; // loading only: bytes in the buffer
     std::array<std::byte, 16384> buffer;
 };

@@ -5,11 +5,11 @@
 
 namespace keltavlo {
 
-// Something that commands are offered to: a view, a document, a frame, the application.
+// Base of everything that receives commands: views, documents, frames, the application.
 class CCmdTarget : public Dynamic<"CCmdTarget", CCmdTarget, CObject> {
 public:
-    // Offers a command. With `state`, only asks for the command's state; without, carries it out.
-    // False when nothing here handles the id. Routers override it to pass the command on.
+    // Carries out the command if `state` is null; otherwise only fills `state`. Returns false if nothing here
+    // handles the id. Classes that forward commands override this function.
     virtual bool OnCmdMsg(CommandId id, CCmdUI* state) {
         const CommandRow* row = GetCommandMap().Find(id);
         if (!row) return false;
@@ -23,7 +23,7 @@ public:
     }
 
 protected:
-    // The class's own commands and, behind them, its base's. A class with commands overrides it:
+    // The class's own commands, followed by those of its base. A class with commands overrides this function:
     //     const CommandMap& GetCommandMap() const override;
     virtual const CommandMap& GetCommandMap() const {
         static const CommandMap map;

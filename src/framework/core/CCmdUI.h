@@ -8,14 +8,15 @@ namespace keltavlo {
 
 using CommandId = std::uint32_t;
 
-// The state of a command: filled by the handler's class, shown by menus, tool buttons and accelerators.
+// The state of a command. The class that handles the command fills it; menus, tool buttons and accelerators
+// show it.
 class CCmdUI {
 public:
     explicit CCmdUI(CommandId commandId) : id(commandId) {}
 
     void Enable(bool on) { enabled = on; }
     void SetCheck(bool on) { checked = on; }
-    // For a choice of several: a dot instead of a tick.
+    // For one of several alternatives: shows a dot instead of a check mark.
     void SetRadio(bool on) {
         checked = on;
         radio = true;
@@ -23,10 +24,10 @@ public:
     void SetText(std::string newText) { text = std::move(newText); }
 
     CommandId id;
-    bool enabled = false; // a command that nobody handles stays disabled
+    bool enabled = false; // stays false if nothing handles the command
     bool checked = false;
     bool radio = false;
-    std::optional<std::string> text; // none: the item keeps its own
+    std::optional<std::string> text; // null: the item keeps its own text
 };
 
 } // namespace keltavlo

@@ -46,7 +46,7 @@ CDocument* CDocTemplate::OpenDocumentFile(const std::string& path) {
             if (frame) frame->InitialUpdate(true);
             return &document;
         }
-    } catch (...) { // out of memory: a document that is half made must not stay
+    } catch (...) { // out of memory: a half-made document must not stay
         document.OnCloseDocument();
         throw;
     }
@@ -88,7 +88,7 @@ void CDocTemplate::RemoveDocument(const CDocument& document) {
     const auto place = std::find_if(documents.begin(), documents.end(),
                                     [&](const auto& candidate) { return candidate.get() == &document; });
     if (place == documents.end()) return;
-    const std::unique_ptr<CDocument> ending = std::move(*place); // deleted when the list no longer shows it
+    const std::unique_ptr<CDocument> ending = std::move(*place); // destroyed after the list is updated
     documents.erase(place);
 }
 

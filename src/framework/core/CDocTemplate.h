@@ -4,14 +4,14 @@
 
 namespace keltavlo {
 
-// The extension that picks a path's document type: ".exe" for the running program's file, whatever it is
-// called, and the path's own for every other. Does not ask the disk about a relative path.
+// Returns the extension that selects a path's document type: ".exe" for the file of the running program,
+// whatever its name, and otherwise the path's own. Does not access the disk for a relative path.
 std::string TypeExtensionOf(std::string_view path);
 
 // One document type: its classes, its names and its open documents.
 class CDocTemplate : public Dynamic<"CDocTemplate", CDocTemplate, CCmdTarget> {
 public:
-    // Fields of the document string, which "\n" separates.
+    // Fields of the document string, separated by newlines.
     enum DocString {
         windowTitle,
         docName,
@@ -31,7 +31,7 @@ public:
         yesAlreadyOpen
     };
 
-    // The frame and view classes go by name: a program without windows has none of them.
+    // Frame and view classes are given by name, because a program without windows does not have them.
     struct Row {
         unsigned stringId;
         unsigned menuId;
@@ -47,12 +47,12 @@ public:
     std::string GetDocString(DocString field) const;
     std::vector<CDocument*> GetDocuments() const;
 
-    // `openDocument` receives the document that is open under the path, or null.
+    // Sets `openDocument` to the document that is open under the path, or to null.
     virtual Confidence MatchDocType(const std::string& path, CDocument*& openDocument) const;
-    // Reads the file into a new document, with a frame where there are windows. An empty path makes a new,
-    // untitled document. Null when that failed or was refused (the user has been told).
+    // Reads the file into a new document and gives it a frame if there are windows. An empty path makes a
+    // new, untitled document. Returns null, after telling the user why, if that failed or was refused.
     virtual CDocument* OpenDocumentFile(const std::string& path);
-    // A further frame on an open document; null where there are no windows.
+    // Opens another frame on an open document. Returns null if there are no windows.
     DocumentFrame* CreateNewFrame(CDocument& document) const;
     void CloseAllDocuments();
 

@@ -95,7 +95,7 @@ void CDocument::OnCloseDocument() {
     while (!views.empty()) {
         DocumentView& view = *views.back();
         view.GetFrame()->DestroyFrame();
-        std::erase(views, &view); // a frame may end its views later than at once
+        std::erase(views, &view); // a frame may keep its views a little longer
     }
     DeleteContents();
     if (docTemplate) DocumentHost::Get().RemoveDocument(*this); // deletes this

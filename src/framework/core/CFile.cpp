@@ -17,8 +17,8 @@ CTime ToTime(const timespec& time) {
         duration_cast<system_clock::duration>(seconds(time.tv_sec) + nanoseconds(time.tv_nsec)));
 }
 
-// Length of the leading part of a native path that names something on the disk other than a directory; the
-// whole length when there is no such part.
+// Returns the length of the leading part of a native path that names an existing file and not a folder, or
+// the whole length if there is no such part.
 std::size_t DiskLength(const std::string& native) {
     for (std::size_t end = native.find('/', 1); end != std::string::npos; end = native.find('/', end + 1)) {
         CFileStatus status;
@@ -31,7 +31,7 @@ std::size_t DiskLength(const std::string& native) {
 } // namespace
 
 bool CFile::GetStatus(const std::string& path, CFileStatus& status) {
-    const std::string native = FullPath(path); // a separator at the end makes no difference
+    const std::string native = FullPath(path); // without a separator at the end
     struct stat info {};
     if (native.empty() || stat(native.c_str(), &info) != 0) return false;
     status = {};

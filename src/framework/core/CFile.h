@@ -14,10 +14,10 @@ struct stat;
 
 namespace keltavlo {
 
-// A point in time, or none when it is not known.
+// A point in time, or null if unknown.
 using CTime = std::optional<std::chrono::system_clock::time_point>;
 
-// What the operating system tells about a path.
+// What the operating system reports about a path.
 struct CFileStatus {
     static constexpr std::uint32_t readOnlyAttribute = 1;
     static constexpr std::uint32_t hiddenAttribute = 2;
@@ -32,7 +32,8 @@ struct CFileStatus {
     bool IsReadOnly() const { return (attributes & readOnlyAttribute) != 0; }
 };
 
-// A seekable run of bytes: a file on disk, in memory or inside an archive. Errors are CFileException.
+// A file on the disk, in memory or inside an archive: bytes that can be read and written at any position.
+// Errors are thrown as CFileException.
 class CFile {
 public:
     enum OpenFlags : unsigned {
@@ -50,43 +51,44 @@ public:
     CFile& operator=(const CFile&) = delete;
     virtual ~CFile() = default;
 
-    // Empty when the bytes have no path of their own.
+    // Empty if the bytes have no path of their own.
     virtual std::string GetFilePath() const = 0;
-    // Reads up to `count` bytes; fewer only at the end of the file.
+    // Reads up to `count` bytes. Returns fewer only at the end of the file.
     virtual std::size_t Read(void* buffer, std::size_t count) = 0;
     virtual void Write(const void* buffer, std::size_t count) = 0;
-    // The new position from the start. A position before the start is badSeek; one past the end is allowed.
+    // Returns the new position from the start. Throws badSeek for a position before the start; a position
+    // past the end is allowed.
     virtual std::uint64_t Seek(std::int64_t offset, From from) = 0;
     virtual std::uint64_t GetPosition() const = 0;
     virtual std::uint64_t GetLength() const = 0;
     virtual void SetLength(std::uint64_t length) = 0;
-    // Every byte written is where it is to stay, or an exception tells.
+    // Returns only when every byte is in place; throws otherwise.
     virtual void Close() = 0;
-    // Gives the file up: what was written need not stay.
+    // Closes the file without making sure that the written bytes are kept.
     virtual void Abort() noexcept = 0;
-    // Another file over the same bytes with a position of its own; both may be used and closed in any order.
+    // Another file over the same bytes, with its own position. Both may be used and closed in any order.
     virtual std::unique_ptr<CFile> Duplicate() const = 0;
 
-    // False when the file's path now leads to other bytes than when it was opened, as far as size, time and
-    // identity tell.
+    // Returns false if the path now leads to other bytes than when it was opened, judging by
+    // size, time and identity.
     virtual bool IsUnchanged() const { return true; }
 
-    // Returns false, with `status` untouched, when nothing is there.
+    // Returns false and leaves `status` unchanged if nothing exists at the path.
     static bool GetStatus(const std::string& path, CFileStatus& status);
 };
 
-// Where a seek of this file leads; badSeek before the start or past the largest position.
+// Returns the position that a seek leads to. Throws badSeek before the start or past the largest position.
 std::uint64_t SeekTarget(const CFile& file, std::int64_t offset, CFile::From from);
 
-// The bytes from the file's position to its end.
+// Reads from the file's position to its end.
 std::vector<std::byte> ReadAll(CFile& file);
 
-// Whether this user may write the file with that status; errno says why not. A file without any write bit is
-// read-only even for root.
+// Returns whether this user may write the file, whose status is `info`; otherwise errno says why not. A file
+// without any write bit is read-only even for root.
 bool MayWrite(const std::string& path, const struct stat& info);
 
-// One rule for "is this the same file": the part on the disk as the disk compares it, the part inside an
-// archive without regard to case, both kinds of separator alike.
+// Returns whether both paths lead to the same file. The part on the disk compares as the disk does; the part
+// inside an archive ignores case. Both kinds of separator are equal.
 bool SamePath(const std::string& a, const std::string& b);
 
 } // namespace keltavlo

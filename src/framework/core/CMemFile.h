@@ -8,7 +8,7 @@
 
 namespace keltavlo {
 
-// A file in memory: either over a buffer of the caller's, whose length is then fixed, or over one of its own
+// A file in memory: over a buffer of the caller's, whose length is then fixed, or over a buffer of its own
 // that grows.
 class CMemFile : public CFile {
 public:
@@ -17,19 +17,19 @@ public:
 
     std::string GetFilePath() const override { return {}; }
     std::size_t Read(void* buffer, std::size_t count) override;
-    // CMemoryException when a fixed buffer is full; the bytes that still fit are written.
+    // Throws CMemoryException if a fixed buffer is full, after writing the bytes that still fit.
     void Write(const void* buffer, std::size_t count) override;
     std::uint64_t Seek(std::int64_t offset, From from) override;
     std::uint64_t GetPosition() const override { return position; }
     std::uint64_t GetLength() const override { return Bytes().size(); }
-    // CMemoryException on a fixed buffer, unless the length stays.
+    // Throws CMemoryException if the length of a fixed buffer would change.
     void SetLength(std::uint64_t length) override;
     void Close() override {}
     void Abort() noexcept override {}
-    // Over a fixed buffer another file on the same bytes; else on a copy.
+    // Returns another file over the same fixed buffer, or over a copy of the file's own buffer.
     std::unique_ptr<CFile> Duplicate() const override;
 
-    // The bytes of a file with a buffer of its own, which is empty then.
+    // Returns the bytes of the file's own buffer and leaves the file empty.
     std::vector<std::byte> Detach() {
         position = 0;
         return std::exchange(own, {});
@@ -37,7 +37,7 @@ public:
     std::span<const std::byte> Bytes() const { return fixed ? std::span<const std::byte>(attached) : own; }
 
 protected:
-    // What the user reads when a fixed buffer is full.
+    // The sentence shown to the user when a fixed buffer is full.
     virtual const char* GetFullSentence() const { return "The file cannot grow."; }
 
 private:

@@ -45,7 +45,7 @@ CDocTemplate* CWinApp::FindBestTemplate(const std::string& path, CDocument*& ope
 
 CDocument* CWinApp::OpenDocumentFile(const std::string& path) {
     const std::string fullPath = FullPath(path);
-    if (fullPath.empty()) { // a template would take it for a new document
+    if (fullPath.empty()) { // to a template, an empty path means a new document
         const CFileException failure(CFileException::fileNotFound, CFileException::noOsError, path);
         UserInterface::Get().ShowMessage(DescribeFailure(Direction::opening, path, failure));
         return nullptr;
@@ -68,7 +68,7 @@ CDocument* CWinApp::OnFileNew() {
 void CWinApp::OpenRecentFile(std::size_t n) {
     const std::vector<std::string>& paths = recentFiles.GetPaths();
     if (n >= paths.size()) return;
-    const std::string path = paths[n]; // opening reorders the list
+    const std::string path = paths[n]; // a copy, because opening reorders the list
     if (!OpenDocumentFile(path)) recentFiles.Remove(path);
 }
 

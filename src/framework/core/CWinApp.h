@@ -18,27 +18,27 @@ public:
     ~CWinApp() override;
 
     void AddDocTemplate(std::unique_ptr<CDocTemplate> type) { templates.push_back(std::move(type)); }
-    // In the order of registration.
+    // Returns the types in the order of registration.
     std::vector<CDocTemplate*> GetTemplates() const;
-    // All open documents, by type and then in the order of opening.
+    // Returns all open documents, by type and then in the order of opening.
     std::vector<CDocument*> GetDocuments() const;
 
-    // The type that fits the path best: the most confident, first of equals; null when none would try.
-    // `openDocument` receives the document open under the path, or null.
+    // Returns the type that fits the path best, the first of equals, or null if no type accepts it. Sets
+    // `openDocument` to the document that is open under the path, or to null.
     CDocTemplate* FindBestTemplate(const std::string& path, CDocument*& openDocument) const;
-    // The document open under the path, after its window comes to the front; else the file read into a new
-    // document. Null when that failed (the user has been told).
+    // If the path is already open, brings that document to the front; otherwise reads the file into a new
+    // document. Returns the document, or null, after telling the user why, if that failed.
     virtual CDocument* OpenDocumentFile(const std::string& path);
-    // Asks for a type when there is a choice, then makes a new document. Null when cancelled or failed.
+    // Asks for a type if there is a choice, then makes a new document. Returns null if cancelled or failed.
     CDocument* OnFileNew();
-    // Opens entry n of the recent files; one that fails leaves the list.
+    // Opens entry n of the recent files and removes it from the list if that fails.
     void OpenRecentFile(std::size_t n);
     void AddToRecentFileList(const std::string& path) override { recentFiles.Add(path); }
     void RemoveDocument(CDocument& document) override { document.GetDocTemplate()->RemoveDocument(document); }
     RecentFileList& GetRecentFiles() { return recentFiles; }
     ProfileStore& GetProfile() { return profile; }
 
-    // Asks about every modified document; false as soon as one must stay.
+    // Asks about each modified document. Returns false as soon as one must stay open.
     bool SaveAllModified();
     void CloseAllDocuments();
 

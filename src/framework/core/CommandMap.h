@@ -9,12 +9,12 @@ namespace keltavlo {
 
 class CCmdTarget;
 
-// One row of a class's command table: an id or a range of ids, what carries the command out, and what tells
-// how it stands.
+// One row of a class's command table: an id or a range of ids, the function that carries the command out and
+// the function that updates its state.
 struct CommandRow {
     CommandId first, last;
     void (*execute)(CCmdTarget&, CommandId);
-    void (*update)(CCmdTarget&, CCmdUI&); // null: always enabled
+    void (*update)(CCmdTarget&, CCmdUI&); // null: the command is always enabled
 };
 
 class CommandMap {
@@ -23,7 +23,7 @@ public:
     CommandMap(const CommandMap& baseMap, std::initializer_list<CommandRow> ownRows)
         : base(&baseMap), rows(ownRows) {}
 
-    // The row for the id, the class's own before its base's; or null.
+    // Returns the row for the id, or null. The class's own rows come before those of its base.
     const CommandRow* Find(CommandId id) const {
         for (const CommandMap* map = this; map; map = map->base)
             for (const CommandRow& row : map->rows)
@@ -65,7 +65,7 @@ struct Bound<handler> {
 
 } // namespace command_detail
 
-// Rows are written with these: Command<&Class::OnEditUndo, &Class::OnUpdateEditUndo>(ID_EDIT_UNDO). The
+// Rows are written like this: Command<&Class::OnEditUndo, &Class::OnUpdateEditUndo>(ID_EDIT_UNDO). The
 // handler takes nothing or the id; the update handler takes the CCmdUI.
 template <auto handler>
 CommandRow Command(CommandId id) {

@@ -24,7 +24,7 @@ int Descriptor::Close() {
 }
 
 DiskFile::DiskFile(const std::string& path, unsigned flags) : filePath(FullPath(path)) {
-    // O_NONBLOCK: opening a pipe must answer at once, so that it can be refused.
+    // O_NONBLOCK, because opening a pipe must return at once, so that the pipe can be refused.
     descriptor = Descriptor(::open(ToNativePath(path).c_str(), NativeFlags(flags) | O_NONBLOCK | O_CLOEXEC));
     if (!descriptor.IsOpen()) ThrowErrno();
     struct stat info {};
@@ -76,7 +76,7 @@ void DiskFile::SetLength(std::uint64_t length) {
 }
 
 void DiskFile::Close() {
-    // Some disks tell only here that bytes were lost.
+    // Some disks report lost bytes only when the file is closed.
     if (descriptor.Close() != 0) ThrowErrno();
 }
 

@@ -6,7 +6,7 @@
 
 namespace keltavlo {
 
-// Closes a descriptor of the operating system when it goes.
+// Owns a file descriptor of the operating system and closes it on destruction.
 class Descriptor {
 public:
     explicit Descriptor(int number = -1) : value(number) {}
@@ -19,17 +19,17 @@ public:
 
     bool IsOpen() const { return value >= 0; }
     int Get() const { return value; }
-    // What close() answers; 0 when nothing was open.
+    // Returns the result of close(), or 0 if nothing was open.
     int Close();
 
 private:
     int value;
 };
 
-// An ordinary file on disk, read and written where it lies.
+// An ordinary file on the disk, read and written in place.
 class DiskFile final : public CFile {
 public:
-    // Opens an existing ordinary file; CFileException else.
+    // Opens an existing ordinary file. Throws CFileException on failure.
     DiskFile(const std::string& path, unsigned flags);
 
     std::string GetFilePath() const override { return filePath; }
@@ -45,10 +45,10 @@ public:
     bool IsUnchanged() const override;
 
 private:
-    // What tells one state of one file from another.
+    // Identifies a file and the state it is in.
     struct Fingerprint {
         std::uint64_t device = 0, inode = 0, size = 0;
-        std::int64_t seconds = 0, nanoseconds = 0; // of the last change
+        std::int64_t seconds = 0, nanoseconds = 0; // of the last change of the contents
         bool operator==(const Fingerprint&) const = default;
     };
     static Fingerprint FingerprintOf(const struct stat& info);
@@ -60,7 +60,7 @@ private:
     Descriptor descriptor;
     std::string filePath;       // full
     Fingerprint fingerprint;    // when it was opened
-    std::uint64_t position = 0; // ours, not the descriptor's, so that duplicates do not disturb each other
+    std::uint64_t position = 0; // not the descriptor's, so that duplicates do not disturb each other
 };
 
 } // namespace keltavlo

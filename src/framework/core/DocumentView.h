@@ -8,23 +8,24 @@ namespace keltavlo {
 
 class CDocument;
 
-// The window round a document's views, as the document sees it.
+// The window around a document's views, as the document sees it.
 class DocumentFrame {
 public:
     virtual ~DocumentFrame() = default;
     // Shows the frame and brings it to the front; a hidden document's frame stays hidden.
     virtual void ActivateFrame() = 0;
-    // The first update of the views of a new or just opened document, then the showing when `visible`.
+    // Updates the views of a new or newly opened document for the first time, then shows the
+    // frame if `visible`.
     virtual void InitialUpdate(bool visible) = 0;
-    // Ends the window and its views without a question.
+    // Closes the window and its views without asking.
     virtual void DestroyFrame() = 0;
-    // The title or the modified mark of the document changed.
+    // Called when the document's title or modified mark changes.
     virtual void OnTitleChanged() = 0;
-    // Whether people see the frame (false for hidden documents).
+    // Returns whether the user sees the frame (false for hidden documents).
     virtual bool IsShown() const = 0;
 };
 
-// A view as its document sees it: told of changes, never asked to paint.
+// A view, as its document sees it: the document reports changes to it and never asks it to paint.
 class DocumentView {
 public:
     virtual ~DocumentView() = default;
@@ -34,12 +35,13 @@ public:
 
 class CDocTemplate;
 
-// Makes frames and views by the class names that a document type carries. Without windows nobody implements
-// it, and documents open without a frame.
+// Makes frames and views from the class names in a document type. A program without windows has no factory,
+// and its documents open without a frame.
 class FrameFactory {
 public:
     virtual ~FrameFactory() = default;
-    // A frame for the document, with a view attached to it; null when the type's classes are not known.
+    // Makes a frame for the document with a view attached. Returns null if the type's classes
+    // are not registered.
     virtual DocumentFrame* CreateFrame(const CDocTemplate& type, CDocument& document) = 0;
 };
 

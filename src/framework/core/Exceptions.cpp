@@ -116,7 +116,7 @@ CFileException CFileException::FromErrno(int error, std::string file) {
 
 CMemoryException::CMemoryException() : CException(memorySentence) {}
 
-// The standard library's own texts are not sentences for people.
+// The texts of the standard library are not sentences for users.
 const char* SentenceOf(const std::exception& failure) {
     return dynamic_cast<const std::bad_alloc*>(&failure) ? memorySentence : failure.what();
 }

@@ -5,8 +5,8 @@
 
 namespace keltavlo {
 
-// Base of the failures that a document's open and save steps catch. what() is a sentence for the user without
-// the file's name; DescribeFailure adds the name.
+// Base of the exceptions that a document catches when it opens or saves. what() is a sentence for the user
+// without the file's name; DescribeFailure adds the name.
 class CException : public std::exception {
 public:
     explicit CException(std::string text, std::string file = {})
@@ -23,7 +23,7 @@ class CArchiveException : public CException {
 public:
     enum Cause { none, generic, readOnly, endOfFile, writeOnly, badIndex, badClass, badSchema };
 
-    // An empty text means the sentence of the cause.
+    // If the text is empty, the cause provides the sentence.
     explicit CArchiveException(Cause cause = none, std::string file = {}, std::string text = {});
 
     Cause cause;
@@ -51,30 +51,30 @@ public:
     static constexpr int noOsError = -1;
 
     explicit CFileException(Cause cause = none, int osErrorNumber = noOsError, std::string file = {});
-    // An empty text means the sentence of the cause.
+    // If the text is empty, the cause provides the sentence.
     CFileException(Cause cause, std::string file, std::string text);
-    // The exception for an errno value.
+    // Makes the exception for an errno value.
     static CFileException FromErrno(int error, std::string file);
 
     Cause cause;
     int osError;
 };
 
-// A buffer that may not grow was asked to, or memory ran out.
+// Memory ran out, or a buffer of fixed size would have to grow.
 class CMemoryException : public CException {
 public:
     CMemoryException();
-    // With a sentence that tells more.
+    // With a more precise sentence.
     explicit CMemoryException(std::string text) : CException(std::move(text)) {}
 };
 
-// The sentence about any failure for the user. Takes no memory.
+// Returns a sentence for the user about any exception. Allocates no memory.
 const char* SentenceOf(const std::exception& failure);
 
 enum class Direction { opening, saving };
 
-// The sentence shown when opening or saving `path` fails: names the path, says what went wrong. Any
-// std::exception will do.
+// Returns the message for a failure to open or save `path`: the path and the reason.
+// Accepts any std::exception.
 std::string DescribeFailure(Direction direction, const std::string& path, const std::exception& failure);
 
 } // namespace keltavlo

@@ -4,10 +4,11 @@
 
 namespace keltavlo {
 
-// Operations that open a file for a document return null on failure and fill an optional exception.
-// Everything else throws; these functions lead from one to the other.
+// Functions that open a file for a document return null on failure and fill an optional exception. Everything
+// else throws. The functions below convert between the two.
 
-// What `open` returns; null if it throws a CFileException, with `*failure` filled if it is given.
+// Returns what `open` returns. If `open` throws a CFileException, returns null and fills `*failure` unless
+// that is null.
 template <class Open>
 std::unique_ptr<CFile> FileOrNull(CFileException* failure, Open open) {
     try {
@@ -18,7 +19,7 @@ std::unique_ptr<CFile> FileOrNull(CFileException* failure, Open open) {
     }
 }
 
-// What `open` returns for an exception to fill; throws that exception instead of returning null.
+// Passes `open` an exception to fill and returns what it returns. If that is null, throws the exception.
 template <class Open>
 std::unique_ptr<CFile> FileOrThrow(Open open) {
     CFileException failure;

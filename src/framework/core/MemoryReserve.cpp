@@ -8,9 +8,9 @@ namespace keltavlo {
 
 namespace {
 
-constexpr std::size_t reserveSize = 16 << 20; // bytes
+constexpr std::size_t reserveSize = 16 << 20; // bytes; untouched memory costs nothing
 
-std::atomic<void*> reserve = nullptr; // the toolkit has threads that allocate too
+std::atomic<void*> reserve = nullptr; // Qt has threads that also allocate
 
 void GiveUpReserve() {
     void* const memory = reserve.exchange(nullptr);
@@ -20,8 +20,7 @@ void GiveUpReserve() {
 
 } // namespace
 
-// Straight from the system, which gets it back at once for whatever asks next. Memory never touched costs
-// nothing.
+// mmap instead of malloc, because munmap returns the memory to the system at once.
 void KeepMemoryReserve() noexcept {
     std::set_new_handler(GiveUpReserve);
     if (reserve) return;

@@ -2,9 +2,9 @@
 
 namespace keltavlo {
 
-// Keeps 16 MiB back for the time when there is no other memory: the first allocation that fails gives them up
-// and tries again, so that what was under way can be unwound and the user be told. Call it again to take a
-// reserve anew; nothing happens while there is one or no room for one.
+// Holds back 16 MiB of memory. The first allocation that fails releases them and tries again, so that there
+// is room to unwind and to tell the user. Call again to renew the reserve; the call does nothing if there is
+// a reserve already or no room for one.
 void KeepMemoryReserve() noexcept;
 
 } // namespace keltavlo

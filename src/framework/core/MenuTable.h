@@ -6,8 +6,8 @@
 
 namespace keltavlo {
 
-// Menus and accelerators as data. A row with items is a popup, one without text is a separator, any other a
-// command.
+// Menus and accelerators as data. A row with items is a popup, a row without text a separator, any other row
+// a command.
 struct MenuRow {
     const char* text = nullptr; // UTF-8, "&" before the mnemonic, a tab before the keys
     CommandId id = 0;
@@ -15,7 +15,7 @@ struct MenuRow {
 };
 
 struct AcceleratorRow {
-    const char* keys; // portable text, such as "Ctrl+Shift+S"
+    const char* keys; // in Qt's portable format, such as "Ctrl+Shift+S"
     CommandId id;
 };
 

@@ -5,11 +5,11 @@
 
 namespace keltavlo {
 
-// The full path of the running program's file, as it was at the start.
+// Returns the full path of the running program's file at the time it started.
 const std::string& GetModulePath();
 
-// Whether the full path leads to the running program's file, also through links and after the file was
-// replaced. False for a relative path.
+// Returns whether the full path leads to the running program's file, also through links and after the file
+// was replaced. Returns false for a relative path.
 bool IsModulePath(std::string_view path);
 
 } // namespace keltavlo

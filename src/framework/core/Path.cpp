@@ -109,7 +109,7 @@ std::string ToDisplayPath(std::string_view path) {
 
 std::string FullPath(std::string_view path) {
     if (path.empty()) return {};
-    std::error_code unreachable; // a current directory that was removed leaves the path as it is
+    std::error_code unreachable; // without a current directory the path stays as it is
     const std::filesystem::path full = std::filesystem::absolute(ToNativePath(path), unreachable);
     std::string text = full.lexically_normal().string();
     if (text.size() > 1 && text.back() == '/') text.pop_back();

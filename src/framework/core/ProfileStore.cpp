@@ -20,7 +20,7 @@ using Bytes = ProfileStore::Bytes;
 using Section = ProfileStore::Section;
 using Sections = ProfileStore::Sections;
 
-// A larger file is none of ours.
+// The store never writes a larger file.
 constexpr std::uint64_t largestFile = 1 << 20;
 
 std::string DefaultPath(const std::string& company, const std::string& application) {
@@ -35,7 +35,7 @@ std::string ReadText(const std::string& path) {
     return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
 }
 
-// Two hexadecimal digits a byte and nothing else; what is otherwise was not written here.
+// Two hex digits per byte; anything else was not written by this class.
 std::optional<Bytes> FromHex(std::string_view text) {
     const QByteArray digits(text.data(), static_cast<qsizetype>(text.size()));
     const QByteArray bytes = QByteArray::fromHex(digits);
@@ -50,7 +50,7 @@ std::string ToHex(const Bytes& data) {
         .toStdString();
 }
 
-// "[section]" lines with "name=value" lines below them. Lines that are neither are left out.
+// Reads "[section]" lines with "name=value" lines below them and skips all other lines.
 Sections Parse(std::string_view text) {
     Sections sections;
     Section* current = nullptr;

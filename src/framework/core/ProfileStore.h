@@ -8,16 +8,16 @@
 
 namespace keltavlo {
 
-// The user's settings: sections of named binary values, in a file. Nothing here fails loudly: a setting that
-// cannot be read is absent, one that cannot be written is lost. The file is read at the start and again
-// before each change, so that programs that run at once do not undo each other's settings.
+// The user's settings: sections of named binary values in a file. No function throws because of the file: an
+// unreadable setting counts as absent, and one that cannot be written is lost. The file is read at the start
+// and again before each change, so that programs that run at the same time do not undo each other's settings.
 class ProfileStore {
 public:
     using Bytes = std::vector<std::byte>;
     using Section = std::map<std::string, Bytes, std::less<>>;
     using Sections = std::map<std::string, Section, std::less<>>;
 
-    // Without a file: nothing stays for the next run.
+    // Without a file, the settings are lost when the program ends.
     ProfileStore() = default;
     // In the user's configuration folder.
     ProfileStore(const std::string& company, const std::string& application);
@@ -25,10 +25,10 @@ public:
 
     const std::string& GetPath() const { return path; }
     std::optional<Bytes> ReadBinary(const std::string& section, const std::string& name) const;
-    // A value of another size, shorter or longer, counts as absent.
+    // A value of any other size counts as absent.
     std::optional<Bytes> GetProfileBinary(const std::string& section, const std::string& name,
                                           std::size_t size) const;
-    // False when the value is lost.
+    // Returns false if the value is lost.
     bool WriteBinary(const std::string& section, const std::string& name, const Bytes& data);
     // Replaces all values of the section.
     bool WriteSection(const std::string& section, const Section& values);

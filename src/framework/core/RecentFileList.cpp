@@ -12,7 +12,7 @@ namespace {
 
 constexpr const char* section = "Recent File List";
 
-// "File1" is the newest. Paths may hold bytes that are no text.
+// "File1" is the newest.
 std::string ValueName(std::size_t n) {
     return "File" + std::to_string(n + 1);
 }
@@ -33,7 +33,7 @@ RecentFileList::RecentFileList(ProfileStore& settings) : profile(settings) {
 }
 
 void RecentFileList::Add(const std::string& path) {
-    std::vector<std::string> updated{path}; // apart, so that running out of memory loses no entry
+    std::vector<std::string> updated{path}; // a copy, so that running out of memory loses no entry
     std::ranges::copy_if(paths, std::back_inserter(updated),
                          [&](const std::string& old) { return !SamePath(old, path); });
     updated.resize(std::min(updated.size(), capacity));

@@ -7,7 +7,7 @@ namespace keltavlo {
 
 class ProfileStore;
 
-// The files opened or saved last, newest first; kept in the user's settings.
+// The most recently opened or saved files, newest first, stored in the user's settings.
 class RecentFileList {
 public:
     static constexpr std::size_t capacity = 4;

@@ -10,11 +10,11 @@ namespace keltavlo {
 
 class CObject;
 
-// What a class tells about itself while the program runs: its name, its base and how to make one.
+// Describes a class at run time: its name, its base and how to create an object.
 struct CRuntimeClass {
     std::string_view name;
     const CRuntimeClass* base;
-    std::unique_ptr<CObject> (*create)(); // yields null for an abstract class
+    std::unique_ptr<CObject> (*create)(); // returns null for an abstract class
 
     bool IsDerivedFrom(const CRuntimeClass& other) const {
         for (const CRuntimeClass* type = this; type; type = type->base)
@@ -23,7 +23,7 @@ struct CRuntimeClass {
     }
 };
 
-// Root of everything that is created by type or asked for its type.
+// Root of all classes that are created by type or know their type at run time.
 class CObject {
 public:
     static const CRuntimeClass runtimeClass;
@@ -47,7 +47,7 @@ struct ClassName {
     constexpr std::string_view View() const { return {text, n - 1}; }
 };
 
-// Stands between a class and its base and gives the class its run-time record:
+// A base that goes between a class and its real base and gives the class its run-time record:
 //     class WALDocument final : public Dynamic<"WALDocument", WALDocument, TavloDocument> { ... };
 template <ClassName className, class Self, class Base>
 class Dynamic : public Base {

@@ -8,11 +8,9 @@
 
 namespace keltavlo {
 
-// Bytes for the settings under a version of their owner's and a checksum of ours: what others must not see
-// damaged.
+// Adds its owner's version and a checksum to bytes for the settings, so that damage is noticed.
 std::vector<std::byte> SealState(std::uint32_t version, const QByteArray& state);
-// The bytes as they were sealed; null when one of them changed, when some are missing, and for another
-// version.
+// Returns the sealed bytes, or null if they are damaged, incomplete or of another version.
 QByteArray UnsealState(std::uint32_t version, const std::vector<std::byte>& sealed);
 
 } // namespace keltavlo

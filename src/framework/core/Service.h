@@ -4,18 +4,18 @@
 
 namespace keltavlo {
 
-// A base for the few objects of which the process has one. The object registers itself when it is made and
-// gives the place back to its forerunner when it goes, so a test puts a fake in front of the real thing for
-// as long as it lives.
+// Base of objects of which the process has one at a time. The object registers itself on construction and
+// restores the previous one on destruction, so a test can replace the real object by a fake for as long as
+// the fake lives.
 template <class Interface>
 class Service {
 public:
-    // The registered object; there must be one.
+    // Returns the registered object, which must exist.
     static Interface& Get() {
         assert(current);
         return *Find();
     }
-    // The registered object, or null.
+    // Returns the registered object, or null.
     static Interface* Find() { return static_cast<Interface*>(current); }
 
     Service(const Service&) = delete;
@@ -26,7 +26,8 @@ protected:
     virtual ~Service() { current = previous; }
 
 private:
-    // Not yet the interface: its constructor has not run when this one does.
+    // A Service and not an Interface, because the constructor of Interface has not run yet when this
+    // one does.
     static inline Service* current = nullptr;
     Service* previous;
 };

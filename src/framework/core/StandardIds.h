@@ -4,7 +4,7 @@
 
 namespace keltavlo {
 
-// Ids that the framework gives a meaning: commands from 57600, strings from 57344.
+// Ids with a meaning to the framework: commands from 57600, strings from 57344.
 enum StandardCommand : CommandId {
     ID_FILE_NEW = 57600,
     ID_FILE_OPEN = 57601,
@@ -12,7 +12,7 @@ enum StandardCommand : CommandId {
     ID_FILE_SAVE = 57603,
     ID_FILE_SAVE_AS = 57604,
     ID_FILE_MRU_FIRST = 57616,
-    ID_FILE_MRU_LAST = 57619, // one id for each recent file
+    ID_FILE_MRU_LAST = 57619, // an id for each recent file
     ID_EDIT_CLEAR = 57632,
     ID_EDIT_COPY = 57634,
     ID_EDIT_CUT = 57635,
@@ -40,7 +40,7 @@ enum StandardCommand : CommandId {
     ID_WINDOW_CHILD_LAST = 65535
 };
 
-// Texts of the framework's own.
+// The framework's own texts.
 enum StandardString : unsigned {
     AFX_IDS_APP_TITLE = 57344,
     AFX_IDS_IDLEMESSAGE = 57345,
@@ -58,7 +58,7 @@ enum StandardString : unsigned {
     AFX_IDS_NEW_LABEL = 61483,
     AFX_IDS_SAVE_IN = 61484,
     AFX_IDP_FAILED_MEMORY_ALLOC = 61703,
-    AFX_IDP_PARSE_INT_RANGE = 61714, // a value of a dialog is refused
+    AFX_IDP_PARSE_INT_RANGE = 61714, // a dialog refuses a value
     AFX_IDP_PARSE_STRING_SIZE = 61716
 };
 

@@ -11,14 +11,14 @@ struct StringRow {
     const char* text; // UTF-8
 };
 
-// Adds rows to the program's string table; a later row of the same id wins. The rows must live as long as the
-// program.
+// Adds rows to the program's string table. A later row replaces an earlier one with the same id. The rows
+// must live as long as the program.
 void AddStrings(std::span<const StringRow> rows);
 
-// The string of that id; empty when there is none.
+// Returns the string with the id, or an empty one if there is none.
 std::string LoadString(unsigned id);
 
-// The string of that id as a printf format, which fits the arguments. %s takes UTF-8.
+// Formats the arguments with the string as printf does; the string must fit them. %s takes UTF-8.
 std::string FormatString(unsigned id, ...);
 
 } // namespace keltavlo

@@ -12,35 +12,36 @@ class FrameFactory;
 
 enum class SaveAnswer { save, discard, cancel };
 
-// What file dialogs are asked for.
+// What a file dialog shows at first.
 struct FileNameQuestion {
-    std::string proposal; // a path or a name; may be empty
+    std::string proposal; // the name shown at first: a path, a name or nothing
     unsigned titleId = 0; // string of the dialog's title
-    bool open = true;     // else save
+    bool open = true;     // false: for saving
     bool mustExist = false;
-    const CDocTemplate* type = nullptr; // whose filter and extension come first; may be null
+    const CDocTemplate* type = nullptr; // its filter and extension come first; may be null
 };
 
-// The user at the program, as documents and the application's core see them.
+// The user, as documents and the application's core see them.
 class UserInterface : public Service<UserInterface> {
 public:
     virtual void ShowMessage(const std::string& text) = 0;
-    // Says, now or soon, that memory ran out; for where there may be none for a text of one's own.
+    // Reports now or soon that memory ran out. For callers that may lack the memory for a message of
+    // their own.
     virtual void ReportMemoryShortage() noexcept = 0;
-    // "Save changes to NAME?"
+    // Asks "Save changes to NAME?".
     virtual SaveAnswer AskToSave(const std::string& name) = 0;
-    // The path chosen, or nothing when the user cancelled.
+    // Returns the path chosen, or null if the user cancelled.
     virtual std::optional<std::string> PromptFileName(const FileNameQuestion& question) = 0;
-    // Which of the named document types a new document is to have; null when the user cancelled.
+    // Asks which document type a new document should have. Returns null if the user cancelled.
     virtual const CDocTemplate* PromptNewType() = 0;
-    // The pointer shows that the program is at work between the two.
+    // Between these two calls, the pointer shows that the program is busy.
     virtual void BeginWaitCursor() = 0;
     virtual void EndWaitCursor() = 0;
-    // Null where there are no windows.
+    // Returns null if there are no windows.
     virtual FrameFactory* GetFrameFactory() = 0;
 };
 
-// Shows the wait cursor for as long as it lives.
+// Shows the wait cursor as long as it lives.
 class CWaitCursor {
 public:
     CWaitCursor() { UserInterface::Get().BeginWaitCursor(); }

@@ -7,13 +7,13 @@
 
 namespace keltavlo {
 
-// Where a window is and how it is shown, as stored in the settings: 44 bytes, eleven little-endian 32-bit
-// words. Coordinates are pixels of the desktop.
+// The position and state of a window, as stored in the settings: 44 bytes, eleven little-endian 32-bit words.
+// Coordinates are in desktop pixels.
 struct WindowPlacement {
     enum ShowCommand : std::uint32_t { showNormal = 1, showMinimized = 2, showMaximized = 3, show = 5 };
 
     struct Point {
-        std::int32_t x = -1; // -1: the system's choice
+        std::int32_t x = -1; // -1: the system chooses
         std::int32_t y = -1;
         bool operator==(const Point&) const = default;
     };
@@ -30,8 +30,8 @@ struct WindowPlacement {
     bool operator==(const WindowPlacement&) const = default;
 
     std::vector<std::byte> ToBytes() const;
-    // Nothing unless the record is whole and its normal rectangle has an area; an unknown show command
-    // becomes `show`.
+    // Returns null unless the record is complete and its normal rectangle has an area. An unknown show
+    // command becomes `show`.
     static std::optional<WindowPlacement> FromBytes(const std::vector<std::byte>& bytes);
 };
 
