@@ -25,7 +25,7 @@ QVariant CClipboard::GetData(const QString& format) const {
 }
 
 void CClipboard::SetData(std::unique_ptr<QMimeData> data) {
-    QGuiApplication::clipboard()->setMimeData(data.release()); // takes it over
+    QGuiApplication::clipboard()->setMimeData(data.release()); // takes ownership
 }
 
 } // namespace keltavlo

@@ -11,24 +11,25 @@ class QMimeData;
 
 namespace keltavlo {
 
-// The system's clipboard. What it offers is learnt when it changes: to ask takes seconds when the program
-// that owns it hangs, so nobody asks again.
+// The system's clipboard. It reads the list of formats once per change, because a request takes seconds if
+// the program that owns the clipboard hangs.
 class CClipboard : public Service<CClipboard> {
 public:
     CClipboard();
 
-    // The MIME types of what is offered.
+    // Returns the MIME types of the current contents.
     const QStringList& GetFormats() const { return formats; }
-    // What is offered in that form, or nothing. One call waits at most five seconds for the owner.
+    // Returns the contents in that format, or nothing. Each call waits at most five seconds for the program
+    // that owns the clipboard.
     QVariant GetData(const QString& format) const;
-    // From now on the data is offered, until another program offers its own.
+    // Offers the data to all programs until one of them offers its own.
     void SetData(std::unique_ptr<QMimeData> data);
 
 private:
     void Learn();
 
     QStringList formats;
-    QObject receiver; // of the clipboard's signals
+    QObject receiver; // receives the clipboard's signals
 };
 
 } // namespace keltavlo

@@ -7,7 +7,7 @@
 
 namespace keltavlo {
 
-// The toolkit keeps the state of a bar under its object name.
+// Qt stores the state of a bar under its object name.
 CControlBar::CControlBar(unsigned barId, QWidget& barWindow) : id(barId), window(barWindow) {
     window.setObjectName(QStringLiteral("bar%1").arg(barId));
 }
@@ -33,7 +33,7 @@ void CControlBar::OnUpdateToggle(const CControlBar* bar, CCmdUI& state) {
     state.SetCheck(bar && bar->IsVisible());
 }
 
-// The toolkit ends the way of such an event at the first window of its own.
+// Qt stops such an event at the first top-level window, which a floating bar is.
 bool CControlBar::ForwardPrompt(QEvent& event) {
     return event.type() == QEvent::StatusTip && window.isWindow() && window.parentWidget() &&
            QCoreApplication::sendEvent(window.parentWidget(), &event);

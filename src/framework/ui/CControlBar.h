@@ -8,26 +8,26 @@
 
 namespace keltavlo {
 
-// A bar at the edge of the main window, which people move, hide and find again where they left it.
+// A bar at the edge of the main window. The user moves or hides it; it reopens in the same place.
 class CControlBar : public Dynamic<"CControlBar", CControlBar, CCmdTarget> {
 public:
-    // What people know the bar by.
+    // Returns the bar's title.
     std::string GetWindowText() const;
-    // Whether the bar is shown whenever the main window is.
+    // Returns whether the bar is shown when the main window is.
     bool IsVisible() const;
     void Show(bool visible);
     unsigned GetBarId() const { return id; }
-    // Brings what the bar shows of its commands' states up to date.
+    // Updates the command states that the bar shows.
     virtual void OnUpdateCmdUI() {}
 
-    // The command that shows or hides a bar, and its state; null disables it.
+    // The command that shows or hides a bar, and its state. If `bar` is null, the command is disabled.
     static void OnToggle(CControlBar* bar);
     static void OnUpdateToggle(const CControlBar* bar, CCmdUI& state);
 
 protected:
-    // `barWindow` is the bar itself, as the toolkit sees it.
+    // `barWindow` is the bar itself as a Qt widget.
     CControlBar(unsigned barId, QWidget& barWindow);
-    // Hands a prompt on to the main window, also from a bar that floats; false for other events.
+    // Passes a prompt from a floating bar on to the main window. Returns false for all other events.
     bool ForwardPrompt(QEvent& event);
 
 private:
@@ -35,8 +35,8 @@ private:
     QWidget& window;
 };
 
-// A bar of controls that docks at the left or the right side of the main window, or floats. Commands are
-// offered to it like to any other window.
+// A bar of controls that floats or docks at the left or right side of the main window. It is a command target
+// like any other window.
 class CDialogBar : public QDockWidget, public Dynamic<"CDialogBar", CDialogBar, CControlBar> {
 public:
     CDialogBar(unsigned barId, const std::string& title, QWidget* parent);

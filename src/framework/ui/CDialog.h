@@ -7,24 +7,24 @@
 
 namespace keltavlo {
 
-// A dialog whose controls carry values.
+// A dialog whose controls exchange values with members.
 class CDialog : public QDialog, public DialogControls {
 public:
     using QDialog::QDialog;
 
-    // Runs the dialog until it is closed. True when it was confirmed.
+    // Runs the dialog until it is closed. Returns true if the user confirmed it.
     bool DoModal() {
         const NormalCursor arrow;
         OnInitDialog();
         return exec() == Accepted;
     }
-    // OK: confirmed when no value is refused.
+    // OK: closes the dialog unless a value is refused.
     void accept() override {
         if (UpdateData(true)) QDialog::accept();
     }
 
 protected:
-    // The dialog is about to be seen. Here: fills the controls.
+    // Called before the dialog is shown. This version fills the controls.
     virtual void OnInitDialog() { UpdateData(false); }
 };
 

@@ -33,9 +33,9 @@ bool IsFile(const std::string& path) {
     return CFile::GetStatus(path, status) && !status.IsDirectory();
 }
 
-// In the toolkit's form the last parentheses contain the patterns. "*.*" means every name, also one without a
-// dot. The toolkit gives a name to save the first pattern's extension: the first one matches no name and has
-// none.
+// Qt expects the patterns in the last parentheses. "*.*" means every name, also one without a
+// dot. When Qt saves, it adds the extension of the first pattern; "/" as the first pattern
+// matches no name and has no extension.
 QString NameFilter(const FileFilter& filter) {
     QString patterns = ToQString(filter.patterns).replace(';', ' ').trimmed();
     patterns.replace(QStringLiteral("*.*"), QStringLiteral("*"));
@@ -50,7 +50,7 @@ QComboBox* FilterCombo(const QFileDialog& dialog) {
     return dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
 }
 
-// The name takes what the others leave, which is at least a quarter.
+// The name column takes what the others leave, but at least a quarter.
 std::vector<int> WidthsOfFileColumns(const QTreeView& view, int room) {
     std::vector<int> widths(1);
     int rest = room - WidthOfContents(view, view.model()->columnCount() - 1);
@@ -70,7 +70,7 @@ CFileDialog::CFileDialog(QWidget* owner, const FileNameQuestion& question,
       open(question.open), mustExist(question.mustExist) {
     setOptions(DontUseNativeDialog | HideNameFilterDetails | DontConfirmOverwrite);
     setAcceptMode(open ? AcceptOpen : AcceptSave);
-    setFileMode(AnyFile); // what may be taken is decided here, not by what is on the disk
+    setFileMode(AnyFile); // the dialog decides what is acceptable, not the disk
     if (!open) setLabelText(LookIn, ToQString(LoadString(AFX_IDS_SAVE_IN)));
     if (question.type) typeExtension = question.type->GetDocString(CDocTemplate::filterExt);
     ShowFilters();
@@ -93,7 +93,7 @@ void CFileDialog::ShowColumns() {
     if (view) new ColumnSizer(*view, [view](int room) { return WidthsOfFileColumns(*view, room); });
 }
 
-// What lies in an archive is named by its way through it.
+// For a file in an archive, the name is the path from the last folder on the disk.
 void CFileDialog::Propose(const std::string& proposal) {
     QLineEdit* edit = NameEdit(*this);
     if (proposal.empty() || !edit) return;
@@ -113,7 +113,7 @@ std::string CFileDialog::GoTowards(const std::string& path) {
     return name;
 }
 
-// A filter for one format decides the extension of the name.
+// A filter for a single format determines the extension of the name.
 void CFileDialog::FollowFilter(int index) {
     const std::string& extension = filters[static_cast<std::size_t>(index)].extension;
     if (extension.empty()) return;
@@ -131,7 +131,7 @@ void CFileDialog::CompleteName() {
     GiveExtension(chosen.empty() ? typeExtension : chosen, {});
 }
 
-// To the toolkit, a line selected in a list counts for more than the name.
+// Clears the selection in the list, because Qt would prefer the selected line to the name.
 void CFileDialog::GiveExtension(const std::string& extension, const std::vector<std::string>& known) {
     QLineEdit* edit = NameEdit(*this);
     if (!edit) return;
@@ -146,7 +146,7 @@ std::string CFileDialog::GetPathName() const {
     return files.isEmpty() ? std::string() : FullPath(FromQString(files.front()));
 }
 
-// The list of completions would stay over the dialog that stays open.
+// Hides the list of completions, which would stay above the dialog if the dialog stays open.
 void CFileDialog::TidyName() {
     QLineEdit* edit = NameEdit(*this);
     if (!edit) return;
@@ -155,7 +155,7 @@ void CFileDialog::TidyName() {
 }
 
 void CFileDialog::accept() {
-    if (deciding) return; // a second press of the key, while the message about the first is open
+    if (deciding) return; // the key was pressed again while a message about the first press is open
     const QScopedValueRollback<bool> now(deciding, true);
     TidyName();
     if (!open) CompleteName();

@@ -12,41 +12,42 @@ class QGridLayout;
 namespace keltavlo {
 
 struct FileFilter {
-    std::string label;       // as it is shown
+    std::string label;       // the text shown
     std::string patterns;    // such as "*.pak;*.wal"
-    std::string extension{}; // of the one format that files are saved in with this filter; empty for none
+    std::string extension{}; // if the filter selects one format for saving; otherwise empty
 };
 
-// Asks for a file name, to open or to save. A typed path may lead into an archive, where the disk knows
-// nothing. A derived dialog adds controls of its own and follows what the user selects.
+// Asks for a file name to open or to save. A typed path may lead into an archive, which the disk does not
+// list. A derived dialog adds controls and follows the selection.
 class CFileDialog : public QFileDialog {
 public:
-    // The first filter is the selected one.
+    // The first filter is selected at first.
     CFileDialog(QWidget* owner, const FileNameQuestion& question, std::vector<FileFilter> fileFilters);
 
-    // The path chosen; absolute.
+    // Returns the chosen path as an absolute path.
     std::string GetPathName() const;
 
 protected:
     void accept() override;
 
-    // Another file or folder is selected in the list.
+    // Called when another file or folder is selected in the list.
     virtual void OnFileNameChange(const std::string&) {}
-    // The user pressed the button, and the path is no folder of the disk. False keeps the dialog open.
+    // Called when the user presses the button and the path is not a folder on the disk. Returns false to keep
+    // the dialog open.
     virtual bool OnFileNameOK() { return MayTake(GetPathName()); }
-    // Whether there is a file of that path, which the user would replace.
+    // Returns whether a file with that path exists, which saving would replace.
     virtual bool IsFileThere(const std::string& path) const;
-    // Whether there is a folder of that path, which a name is not completed to a file's.
+    // Returns whether a folder with that path exists. Such a name gets no extension.
     virtual bool IsFolderThere(const std::string& path) const;
 
-    // Whether the path will do for what the dialog was opened for; tells the user why not.
+    // Returns whether the dialog accepts the path, after telling the user why if it does not.
     bool MayTake(const std::string& path) const;
-    // Whether a part of the path before its last is a file: an archive, as far as the disk can tell.
+    // Returns whether a folder of the path is a file on the disk, and so perhaps an archive.
     static bool LeadsThroughFile(const std::string& path);
-    // The controls of the standard part.
+    // Returns the grid of the standard controls.
     QGridLayout& GetGrid() const;
 
-    // Shows the innermost folder of the disk on the way to the path; returns the rest of the path, native.
+    // Shows the deepest existing folder of the path and returns the rest of the path in native form.
     std::string GoTowards(const std::string& path);
 
 private:
@@ -59,10 +60,10 @@ private:
     void GiveExtension(const std::string& extension, const std::vector<std::string>& known);
 
     std::vector<FileFilter> filters;
-    std::string typeExtension; // of the document's type; may be empty
+    std::string typeExtension; // of the document type; may be empty
     bool open;
     bool mustExist;
-    bool deciding = false; // about a name; the user may have been asked
+    bool deciding = false; // while accept() runs, which may ask the user
 };
 
 } // namespace keltavlo

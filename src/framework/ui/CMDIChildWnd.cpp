@@ -38,8 +38,9 @@ std::vector<CView*> ViewsIn(const CMDIChildWnd& frame, const CDocument& document
 } // namespace
 
 CMDIChildWnd::CMDIChildWnd() {
-    setWindowIcon(style()->standardIcon(QStyle::SP_FileIcon)); // instead of the toolkit's emblem
-    // The program has accelerators of its own; the same keys twice would be ambiguous and do nothing.
+    setWindowIcon(style()->standardIcon(QStyle::SP_FileIcon)); // instead of Qt's own icon
+    // The program has accelerators of its own. Qt treats keys that are assigned twice as ambiguous and
+    // ignores them.
     for (QAction* action : systemMenu()->actions()) action->setShortcuts(QList<QKeySequence>());
 }
 
@@ -48,7 +49,7 @@ CMDIChildWnd::~CMDIChildWnd() {
     if (std::exchange(shown, false) && mdiFrame) mdiFrame->RemoveChild(*this);
 }
 
-// The toolkit replaces "[*]" in a title by its mark, and shows two of them as one.
+// Qt replaces "[*]" in a title by its modified mark and shows two of them as "[*]".
 QString CMDIChildWnd::MarkedTitle(const std::string& text) {
     const QString mark = QStringLiteral("[*]");
     return ToQString(text).replace(mark, mark + mark) + mark;
@@ -114,7 +115,7 @@ void CMDIChildWnd::InitialUpdate(bool visible) {
 void CMDIChildWnd::DestroyFrame() {
     if (ending) return;
     if (!shown) {
-        delete this; // no event of the window can be under way
+        delete this; // no event of this window can be running
         return;
     }
     DetachViews();
@@ -143,7 +144,7 @@ bool CMDIChildWnd::OnCmdMsg(CommandId id, CCmdUI* state) {
     return (activeView && activeView->OnCmdMsg(id, state)) || CCmdTarget::OnCmdMsg(id, state);
 }
 
-// Large enough to work in: the toolkit would cascade windows at the smallest size of their contents.
+// Large enough to work in, because Qt would cascade windows at the smallest size of their contents.
 QSize CMDIChildWnd::sizeHint() const {
     const QMdiArea* area = mdiArea();
     return area ? area->viewport()->size() * 2 / 3 : QMdiSubWindow::sizeHint();
@@ -155,7 +156,7 @@ const CommandMap& CMDIChildWnd::GetCommandMap() const {
     return map;
 }
 
-// The event is always refused: the window goes, when it goes, with its views.
+// Always ignores the event, because the document and its views decide whether the window closes.
 void CMDIChildWnd::closeEvent(QCloseEvent* event) {
     event->ignore();
     CDocument* document = GetActiveDocument();

@@ -14,15 +14,15 @@ class CMDIChildWnd;
 class MDIFrame {
 public:
     virtual ~MDIFrame() = default;
-    // The active child that people see, or null.
+    // Returns the active child that the user sees, or null.
     virtual CMDIChildWnd* MDIGetActive() const = 0;
     virtual void MDIActivate(CMDIChildWnd& child) = 0;
     virtual void AddChild(CMDIChildWnd& child) = 0;
-    // For a child that ends: it is no longer active, nor listed.
+    // Called by a child that closes: it is no longer active or listed.
     virtual void RemoveChild(CMDIChildWnd& child) = 0;
-    // Names the active document in the title. A maximized child adds its own title in brackets.
+    // Shows the active document's name in the title. A maximized child adds its own title in brackets.
     virtual void OnUpdateFrameTitle() = 0;
-    // Tells the views that another one is active.
+    // Notifies both views that another one is active.
     virtual void ChangeActiveView(CView* activated, CView* deactivated) = 0;
 };
 
@@ -35,32 +35,32 @@ public:
     ~CMDIChildWnd() override;
 
     // Fills the new frame with a view of the class on the document. `owner` shows the frame among its
-    // children; without one the frame is a window of its own.
+    // children; if it is null, the frame is a top-level window.
     void Create(CDocument& document, const CRuntimeClass& viewClass, MDIFrame* owner);
 
     CView* GetActiveView() const override { return activeView; }
     void SetActiveView(CView* view) override;
-    // The document of the frame's views; null while the frame ends.
+    // Returns the document of the frame's views, or null while the frame closes.
     CDocument* GetActiveDocument() const;
-    // The document's title, numbered when the document has several windows.
+    // Returns the document's title, with a number if the document has several windows.
     const std::string& GetTitle() const { return title; }
-    // A text as a window's title, with the toolkit's mark for unsaved changes behind it.
+    // Turns a text into a window title that ends with Qt's placeholder for the modified mark.
     static QString MarkedTitle(const std::string& text);
 
     void ActivateFrame() override;
     void InitialUpdate(bool visible) override;
-    // At once for the views and for people; the window itself is deleted when its events are over.
+    // Detaches the views and hides the window at once. The window itself is deleted after its current events.
     void DestroyFrame() override;
     // Updates the titles of all frames of the document.
     void OnTitleChanged() override;
     bool IsShown() const override { return shown; }
 
-    // The active view and its document, then the frame's own commands.
+    // Tries the active view and its document, then the frame's own commands.
     bool OnCmdMsg(CommandId id, CCmdUI* state) override;
     QSize sizeHint() const override;
 
 protected:
-    // Makes the client area with its first view. Here: the view alone, without scroll bars.
+    // Makes the client area with its first view. This version contains only the view, without scroll bars.
     virtual CView& CreateClient(CDocument& document, const CRuntimeClass& viewClass);
     const CommandMap& GetCommandMap() const override;
     void closeEvent(QCloseEvent* event) override;

@@ -28,7 +28,7 @@ namespace keltavlo {
 
 namespace {
 
-// The name's own bytes: QUrl::toLocalFile would replace those that are not UTF-8.
+// Returns the name's original bytes; QUrl::toLocalFile would replace those that are not UTF-8.
 std::string LocalPathOf(const QUrl& url) {
     return QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()).toStdString();
 }
@@ -68,7 +68,7 @@ void CMDIFrameWnd::AddKeys(const char* keys, Action action) {
     connect(new QShortcut(sequence, this), &QShortcut::activated, this, std::move(action));
 }
 
-// Keys that every main frame has, whatever its accelerators.
+// Adds the keys that every main frame has besides its accelerators.
 void CMDIFrameWnd::AddChildKeys() {
     for (const char* keys : {"Ctrl+F4", "Ctrl+Shift+F4"})
         AddKeys(keys, [this] {
@@ -91,7 +91,7 @@ bool CMDIFrameWnd::OnCmdMsg(CommandId id, CCmdUI* state) {
     return application && application->OnCmdMsg(id, state);
 }
 
-// Out of memory, items and tools stay as they are until the next idle moment.
+// If memory runs out, items and tools stay unchanged until the next idle moment.
 void CMDIFrameWnd::OnIdle() noexcept try {
     if (CMenu* menu = menus.GetCurrent()) menu->UpdateOpenPopups();
     bars.OnUpdateCmdUI();
@@ -115,7 +115,7 @@ void CMDIFrameWnd::AddChild(CMDIChildWnd& child) {
     clientArea->Place(child, static_cast<int>(number));
 }
 
-// The next child takes over that the last one filled the client area.
+// If the removed child was maximized, the next one becomes maximized.
 void CMDIFrameWnd::RemoveChild(CMDIChildWnd& child) {
     const bool maximized = activeChild == &child && child.isMaximized();
     if (activeChild == &child) SetActiveChild(nullptr);
@@ -133,7 +133,7 @@ void CMDIFrameWnd::MDIActivate(CMDIChildWnd& child) {
     OnChildActivated();
 }
 
-// A minimized child stays so.
+// Does not restore a minimized child.
 void CMDIFrameWnd::MDINext(bool previous) {
     CMDIChildWnd* next = NextInRing(GetChildren(), activeChild, previous);
     if (!next) return;
@@ -152,8 +152,8 @@ void CMDIFrameWnd::OnUpdateFrameTitle() {
     setWindowModified(document && document->IsModified());
 }
 
-// The toolkit also tells when a window outside becomes active; the child then stays the one that commands
-// are for.
+// Qt also sends this signal when another top-level window becomes active. The active child then stays the
+// target of commands.
 void CMDIFrameWnd::OnChildActivated() {
     SetActiveChild(clientArea->GetCurrentChild());
 }
@@ -234,7 +234,7 @@ void CMDIFrameWnd::OnUpdateViewStatusBar(CCmdUI& state) {
     state.SetCheck(!statusBarWindow->isHidden());
 }
 
-// The ids of these commands are those of the bars.
+// These commands have the same ids as the bars.
 void CMDIFrameWnd::OnViewControlBar(CommandId id) {
     CControlBar::OnToggle(bars.Find(id));
 }
@@ -243,7 +243,7 @@ void CMDIFrameWnd::OnUpdateViewControlBar(CCmdUI& state) {
     CControlBar::OnUpdateToggle(bars.Find(state.id), state);
 }
 
-// The toolkit adds a maximized child's title to whatever title there is, and takes it away again later.
+// Qt adds a maximized child's title to the current title and removes it again later.
 bool CMDIFrameWnd::event(QEvent* event) {
     if (event->type() == QEvent::WindowTitleChange) OnUpdateFrameTitle();
     if (event->type() != QEvent::StatusTip) return QMainWindow::event(event);
@@ -251,9 +251,10 @@ bool CMDIFrameWnd::event(QEvent* event) {
     return true;
 }
 
-// Every document is asked before the first one closes: a refusal leaves all of them open.
+// Asks about every document before it closes the first one, so that a refusal leaves all of them open.
 void CMDIFrameWnd::closeEvent(QCloseEvent* event) {
-    // The desktop's end of session comes here also while a dialog asks about a document, which must stay.
+    // The end of the desktop session arrives here even while a dialog asks about a document, which
+    // must stay open.
     if (QApplication::activeModalWidget()) return event->ignore();
     CWinApp* application = CWinApp::Find();
     const bool agreed = !application || application->SaveAllModified();

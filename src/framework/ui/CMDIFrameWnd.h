@@ -14,41 +14,41 @@ class CStatusBar;
 class MDIClientArea;
 
 // The program's main window: document windows in its client area, menus and accelerators that carry out
-// commands by id, a status bar. Commands go to the active child (its view, its document, itself), then to
+// commands by id, and a status bar. Commands go to the active child (its view, its document, itself), then to
 // this frame, then to the application.
 class CMDIFrameWnd : public QMainWindow,
                      public Dynamic<"CMDIFrameWnd", CMDIFrameWnd, CCmdTarget>,
                      public MDIFrame {
 public:
-    // The status bar gets a pane for its messages and one for each sample, as wide as that string.
+    // The status bar has a pane for messages and one more for each sample, as wide as that string.
     explicit CMDIFrameWnd(std::span<const unsigned> paneSampleIds);
     ~CMDIFrameWnd() override;
 
     CMDIChildWnd* MDIGetActive() const override { return activeChild; }
-    // In the order of creation.
+    // Returns the children in the order of creation.
     std::vector<CMDIChildWnd*> GetChildren() const;
     void AddChild(CMDIChildWnd& child) override;
     void RemoveChild(CMDIChildWnd& child) override;
     void MDIActivate(CMDIChildWnd& child) override;
-    // Activates the child behind the active one, or before it; after the last one comes the first.
+    // Activates the child after the active one, or the one before it; the last one is followed by the first.
     void MDINext(bool previous);
     void OnUpdateFrameTitle() override;
     void ChangeActiveView(CView* activated, CView* deactivated) override;
 
-    // The menu that the menu bar shows.
+    // Returns the menu in the menu bar.
     CMenu& GetCurrentMenu() { return *menus.GetCurrent(); }
     CStatusBar& GetStatusBar() { return *statusBarWindow; }
     DockedBars& GetBars() { return bars; }
-    // Brings what people see of the commands' states up to date; runs by itself before the program waits.
+    // Updates the command states that the user sees. Runs automatically when the program becomes idle.
     void OnIdle() noexcept;
     bool OnCmdMsg(CommandId id, CCmdUI* state) override;
 
 protected:
-    // Makes the menus and the accelerators; the frame's own menu is shown while no child is active.
+    // Makes the menus and the accelerators. The menu bar shows `menuId` while no child is active.
     void LoadFrame(unsigned menuId, std::span<const AcceleratorRow> accelerators);
-    // The menu table of that id.
+    // Returns the menu table with that id.
     virtual std::span<const MenuRow> GetMenuRows(unsigned menuId) const = 0;
-    // A popup is about to be seen: a place to renew items that change.
+    // Called before a popup opens. Override it to update items that change.
     virtual void OnInitMenuPopup(CMenu& menu);
     const CommandMap& GetCommandMap() const override;
 

@@ -16,7 +16,7 @@ CommandId IdOf(const QAction& action) {
     return action.data().toUInt();
 }
 
-// The toolkit draws a dot instead of a tick for members of an exclusive group.
+// For members of an exclusive group, Qt draws a dot instead of a check mark.
 void MarkAsRadio(QAction& action, bool radio) {
     if (radio && !action.actionGroup()) (new QActionGroup(&action))->addAction(&action);
 }
@@ -34,7 +34,7 @@ CMenu::CMenu(std::span<const MenuRow> rows, CCmdTarget& commandTarget, QWidget* 
 void CMenu::Fill(QMenu& popup, std::span<const MenuRow> rows) {
     allPopups.push_back(&popup);
     QObject::connect(&popup, &QMenu::aboutToShow, &popup, [this, &popup] { OnShowPopup(popup); });
-    // The toolkit itself shows prompts only for popups that hang in a menu bar.
+    // Qt itself shows prompts only for the popups of a menu bar.
     QObject::connect(&popup, &QMenu::hovered, &popup, [this](QAction* item) { Prompt(item->statusTip()); });
     QObject::connect(&popup, &QMenu::aboutToHide, &popup, [this] { Prompt({}); });
     for (const MenuRow& row : rows)

@@ -14,19 +14,20 @@ namespace keltavlo {
 
 class CCmdTarget;
 
-// The popups of a menu table. Items are known by their command ids: a chosen item sends its command to the
-// target, and an opened popup shows the states of its commands. Keys in an item's text are only shown.
+// The popups of a menu table. Items are found by their command ids: choosing an item sends its
+// command to the target, and opening a popup shows the states of its commands. The keys in an
+// item's text are only displayed.
 class CMenu : public MenuItems {
 public:
-    // Prompts of items go to the owner, as status tips.
+    // Prompts are sent to the owner as status tips.
     CMenu(std::span<const MenuRow> rows, CCmdTarget& commandTarget, QWidget* promptOwner);
 
-    // The popups in the order of the table, which hang in a menu bar or open beside the pointer.
+    // Returns the popups in the order of the table. They belong in a menu bar or open at the pointer.
     const std::vector<std::unique_ptr<QMenu>>& GetPopups() const { return popups; }
-    // Called before a popup's items are updated: a place to renew items that change.
+    // `handler` is called before a popup's items are updated. It may replace items that change.
     void SetInitPopup(std::function<void(CMenu&)> handler) { initPopup = std::move(handler); }
 
-    // The first item of that id, or null.
+    // Returns the first item with that id, or null.
     QAction* FindItem(CommandId id) const;
     bool HasItem(CommandId id) const override { return FindItem(id) != nullptr; }
     void ModifyItem(CommandId id, CommandId newId, const std::string& text) override;
@@ -34,12 +35,12 @@ public:
     void InsertItemAfter(CommandId sibling, CommandId id, const std::string& text);
     void RemoveItem(CommandId id) override;
     void SetItemPrompt(CommandId id, const std::string& prompt) override;
-    // Adds an item at the end of the popup in which the sibling stands; id 0 adds a separator unless one
-    // stands there.
+    // Adds an item at the end of the popup that contains the sibling. Id 0 adds a separator, unless the popup
+    // already ends in one.
     void AppendItem(CommandId sibling, CommandId id, const std::string& text);
-    // Brings the items of the popups that are open up to date.
+    // Updates the items of all open popups.
     void UpdateOpenPopups();
-    // Brings every item up to date.
+    // Updates all items.
     void UpdateAll();
 
 private:
@@ -56,7 +57,7 @@ private:
     QWidget* owner;
     std::function<void(CMenu&)> initPopup;
     std::vector<std::unique_ptr<QMenu>> popups;
-    std::vector<QMenu*> allPopups; // with the popups inside popups
+    std::vector<QMenu*> allPopups; // including popups inside popups
 };
 
 } // namespace keltavlo

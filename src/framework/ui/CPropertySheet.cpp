@@ -16,7 +16,7 @@ namespace keltavlo {
 
 namespace {
 
-// The window round a sheet that runs on its own; the sheet is its guest, not its child for good.
+// The window around a sheet that runs on its own. The sheet is its child only while it runs.
 class SheetDialog : public QDialog {
 public:
     SheetDialog(CPropertySheet& guest, QWidget* owner) : QDialog(owner), sheet(guest) {
@@ -52,7 +52,7 @@ CPropertyPage::~CPropertyPage() {
 void CPropertyPage::FocusFirstControl() {
     for (QWidget* control : findChildren<QWidget*>()) {
         if (!(control->focusPolicy() & Qt::TabFocus) || !control->isEnabled()) continue;
-        return control->setFocus(Qt::TabFocusReason); // which also marks an edit's text
+        return control->setFocus(Qt::TabFocusReason); // with this reason, Qt also selects the text of an edit
     }
 }
 
@@ -79,7 +79,7 @@ CPropertySheet::~CPropertySheet() {
     while (!pages.empty()) RemovePage(*pages.back());
 }
 
-// The first tab would become the current one at once, before the sheet is to be seen.
+// Blocks the signals, because adding the first tab would activate its page before the sheet is shown.
 void CPropertySheet::AddPage(CPropertyPage& page) {
     const QSignalBlocker quiet(tabs);
     page.sheet = this;
@@ -118,8 +118,8 @@ bool CPropertySheet::KillActivePage() {
     return !activePage || activePage->OnKillActive();
 }
 
-// The toolkit changes the page before it reports that. The old page returns first, so that it is on top while
-// it refuses to be left and its control can take the focus.
+// Qt changes the page before it reports the change. The old page is shown again first, so that it is on top
+// when it refuses to be left and its control can take the focus.
 void CPropertySheet::ActivatePage(int index) {
     const QSignalBlocker quiet(tabs);
     if (activePage) tabs->setCurrentWidget(activePage);
@@ -131,8 +131,8 @@ void CPropertySheet::ActivatePage(int index) {
     activePage->OnInitDialog();
 }
 
-// After its key for the next page the toolkit focuses the tabs, because no window is active so soon after a
-// message.
+// Focuses the control again later: after its shortcut for the next page, Qt focuses the tabs, because no
+// window is active right after a message.
 void CPropertySheet::KeepFocus() {
     if (QWidget* control = window()->focusWidget())
         QTimer::singleShot(0, control, [control] { control->setFocus(); });

@@ -13,29 +13,29 @@ namespace keltavlo {
 
 class CPropertySheet;
 
-// A page of a property sheet. A page that the user never looked at is neither filled nor applied.
+// A page of a property sheet. A page that was never shown is neither filled nor applied.
 class CPropertyPage : public QWidget, public DialogControls {
 public:
-    // The title is on the page's tab.
+    // The page's tab shows the title.
     explicit CPropertyPage(const QString& title);
     ~CPropertyPage() override;
 
-    // The sheet that the page was added to; null without one.
+    // Returns the sheet that the page was added to, or null.
     CPropertySheet* GetSheet() const { return sheet; }
     bool IsModified() const { return modified; }
-    // Gives the keys to the page's first control.
+    // Gives the keyboard focus to the page's first control.
     void FocusFirstControl();
 
-    // The page is about to be seen for the first time. Here: fills the controls.
+    // Called before the page is shown for the first time. This version fills the controls.
     virtual void OnInitDialog() { UpdateData(false); }
-    // The page is to be left, or the sheet confirmed. False, the user having been told, keeps it. Here:
-    // reads the controls.
+    // Called before the page is left or the sheet is confirmed. Returns false, after telling the user why, to
+    // stay on the page. This version reads the controls.
     virtual bool OnKillActive() { return UpdateData(true); }
-    // The sheet is confirmed. False keeps it open. Here: nothing is left to apply.
+    // Called when the sheet is confirmed. Returns false to keep it open. This version has nothing to apply.
     virtual bool OnApply();
 
 protected:
-    // Says whether there is something to apply, for the sheet's Apply button.
+    // Enables the sheet's Apply button if there is something to apply.
     void SetModified(bool isModified);
 
 private:
@@ -46,16 +46,16 @@ private:
     bool modified = false;
 };
 
-// Pages with tabs: in a dialog of their own (DoModal) or as a child of another window.
+// Pages with tabs, in a dialog of their own (DoModal) or as a child of another window.
 class CPropertySheet : public QWidget {
 public:
     CPropertySheet(const QString& caption, QWidget* dialogOwner);
     ~CPropertySheet() override;
 
-    // Pages appear in the order in which they are added; the caller keeps owning them.
+    // Pages appear in the order in which they are added. The caller keeps ownership.
     void AddPage(CPropertyPage& page);
     void RemovePage(CPropertyPage& page);
-    // The page that is on top; null before the sheet is seen.
+    // Returns the page on top, or null before the sheet is shown.
     CPropertyPage* GetActivePage() const { return activePage; }
 
     // Runs the sheet with OK, Cancel and Apply until it is closed.
@@ -63,10 +63,10 @@ public:
     // Makes the sheet a child of the window, without buttons.
     void Create(QWidget& parentWindow);
 
-    // Asks the page on top whether it may be left.
+    // Returns whether the page on top may be left.
     bool KillActivePage();
-    // What OK and Apply do: applies the pages that were shown, in their order. False as soon as one refuses;
-    // that page is on top then.
+    // Applies the pages that were shown, in their order, as OK and Apply do. Returns false as soon as a page
+    // refuses, with that page on top.
     bool Apply();
     void UpdateApplyButton();
 

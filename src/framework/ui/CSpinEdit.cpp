@@ -7,7 +7,7 @@
 namespace keltavlo {
 
 CSpinEdit::CSpinEdit(QWidget* parent) : QAbstractSpinBox(parent) {
-    setFocusPolicy(Qt::StrongFocus); // the wheel alone must not take the keys
+    setFocusPolicy(Qt::StrongFocus); // the wheel alone must not take the focus
 }
 
 void CSpinEdit::SetRange(std::int64_t newMinimum, std::int64_t newMaximum) {
@@ -15,10 +15,10 @@ void CSpinEdit::SetRange(std::int64_t newMinimum, std::int64_t newMaximum) {
     maximum = newMaximum;
 }
 
-// A text that is no number counts as 0.
+// A text that is not a number counts as 0.
 void CSpinEdit::stepBy(int steps) {
     const std::int64_t value = lineEdit()->text().trimmed().toLongLong();
-    const std::int64_t start = std::clamp(value, minimum - 1, maximum + 1); // no overflow
+    const std::int64_t start = std::clamp(value, minimum - 1, maximum + 1); // prevents overflow
     lineEdit()->setText(QString::number(std::clamp(start + steps, minimum, maximum)));
     lineEdit()->selectAll();
 }

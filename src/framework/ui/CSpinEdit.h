@@ -6,8 +6,8 @@
 
 namespace keltavlo {
 
-// An edit for a whole number with a pair of spin buttons, which step it within a range, as Up and Down do.
-// Any text may be typed: it is checked when it is exchanged.
+// An edit for a whole number. Its two spin buttons, and the keys Up and Down, step the number within a range.
+// The user may type any text; it is checked when it is exchanged.
 class CSpinEdit : public QAbstractSpinBox {
 public:
     explicit CSpinEdit(QWidget* parent);

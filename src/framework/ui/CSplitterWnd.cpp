@@ -81,8 +81,8 @@ CView*& CSplitterWnd::PaneAt(Direction direction, int part, int other) {
     return panes[row][column];
 }
 
-// A view sets its bars back when it is made. The bars that it shares go back to where they were, and take
-// every view beside them along, the new one too.
+// A new view resets the scroll bars beside it. Each shared bar is moved back to its old position, and all its
+// views follow, including the new one.
 void CSplitterWnd::AddPart(Direction direction) {
     const CView& first = *panes[0][0];
     for (int other = 0; other < GetCount(Across(direction)); ++other) {
@@ -97,7 +97,7 @@ void CSplitterWnd::AddPart(Direction direction) {
     }
 }
 
-// What stays moves into the first row or column, with its bar.
+// The remaining part moves into the first row or column, together with its bar.
 void CSplitterWnd::RemovePart(Direction direction, int part) {
     axes[direction].Remove(part);
     for (int other = 0; other < GetCount(Across(direction)); ++other) {

@@ -8,16 +8,16 @@
 
 namespace keltavlo {
 
-// The client area of a frame: a view that people split into up to 2 x 2 panes, with a scroll bar for each row
-// and column at the splitter's edges. The panes of a row share its vertical bar, those of a column its
-// horizontal one.
+// The client area of a frame: a view that the user can split into up to 2 x 2 panes, with a scroll bar for
+// each row and column at the splitter's edges. The panes of a row share its vertical bar, those of a column
+// its horizontal one.
 class CSplitterWnd : public QWidget, public Splitter, public ViewPanes {
 public:
     explicit CSplitterWnd(QWidget* parent = nullptr);
 
-    // Makes the first view, on the document; those of further panes are of its class.
+    // Makes the first view of the document. Later panes get views of the same class.
     CView& CreateView(int row, int column, const CRuntimeClass& viewClass, CDocument& document);
-    // Null where the splitter has no such pane.
+    // Returns null if the splitter has no such pane.
     CView* GetPane(int row, int column) const;
     QScrollBar& GetScrollBar(const CView& view, Qt::Orientation orientation) const override;
 
@@ -27,7 +27,8 @@ public:
     void SetSplit(Direction direction, int extent) override;
     // Lets the user place the lines with the keyboard or the mouse.
     void DoKeyboardSplit();
-    // The pane behind or before the active one, row by row; the pane itself when it is the only one.
+    // Returns the pane after or before the active one, row by row, or the active one itself if there
+    // is no other.
     CView* GetNextPane(const CView* active, bool previous) const;
 
     SplitTracker& GetTracker() const { return *tracker; }

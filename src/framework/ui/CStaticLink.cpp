@@ -17,7 +17,7 @@ CStaticLink::CStaticLink(const QString& text, std::string address) : QLabel(text
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);
     QFont underlined;
-    underlined.setUnderline(true); // the rest stays the window's font
+    underlined.setUnderline(true); // the rest comes from the window's font
     setFont(underlined);
 }
 

@@ -6,14 +6,14 @@
 
 namespace keltavlo {
 
-// A text that opens an address in the browser or the mail program when it is clicked, or when Enter or Space
-// is pressed on it.
+// A text that opens an address in the browser or mail program when the user clicks it or presses Enter or
+// Space on it.
 class CStaticLink : public QLabel {
 public:
-    // Without an address it is the text itself.
+    // If the address is empty, it is the text itself.
     explicit CStaticLink(const QString& text, std::string address = {});
 
-    // Puts a scheme in front of the address, which the text does not show.
+    // Adds a scheme to the address; the text does not show it.
     void AddPrefix(const std::string& prefix);
 
 protected:

@@ -18,7 +18,7 @@ void CStatusBar::AddPane(const std::string& sample) {
     pane->setIndent(2);
     if (panes.empty()) {
         pane->setSizePolicy(QSizePolicy::Ignored,
-                            QSizePolicy::Preferred); // a long text does not widen the frame
+                            QSizePolicy::Preferred); // so that a long text does not widen the frame
         addWidget(pane, 1);
     } else {
         pane->setFrameStyle(static_cast<int>(QFrame::Panel) | static_cast<int>(QFrame::Sunken));

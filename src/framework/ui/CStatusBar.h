@@ -10,19 +10,19 @@ class QLabel;
 
 namespace keltavlo {
 
-// A status bar of text panes: pane 0 takes the room that the others leave, and shows the prompt of the
-// command that the user points at for as long as there is one.
+// A status bar of text panes. Pane 0 takes the space that the others leave and shows the prompt of the
+// command under the pointer, if there is one.
 class CStatusBar : public QStatusBar {
 public:
-    // A further pane for each sample, as wide as the sample's text.
+    // Adds a pane for each sample, as wide as the sample's text.
     CStatusBar(std::span<const unsigned> sampleStringIds, QWidget* parent);
 
     void SetPaneText(std::size_t pane, const std::string& text);
-    // The pane's own text, whether or not a prompt covers it.
+    // Returns the pane's own text, even if a prompt covers it.
     const std::string& GetPaneText(std::size_t pane) const { return texts.at(pane); }
-    // What people read in the pane now.
+    // Returns the text that the pane currently shows.
     QString GetShownText(std::size_t pane) const;
-    // An empty prompt uncovers pane 0.
+    // Shows a prompt in pane 0; an empty one restores the pane's own text.
     void ShowPrompt(const QString& text);
 
 private:

@@ -16,7 +16,7 @@ CommandId IdOf(const QAction& button) {
     return button.data().toUInt();
 }
 
-// The toolkit asks for the whole text where a tool tip is missing, mnemonics and all.
+// Returns the command's tool tip, or its prompt if it has none.
 QString ToolTipOf(CommandId id) {
     const std::string tip = CommandToolTip(id);
     return ToQString(tip.empty() ? CommandPrompt(id) : tip);
@@ -46,7 +46,7 @@ void CToolBar::AddButton(const ToolBarRow& row) {
     button->setStatusTip(ToQString(CommandPrompt(row.id)));
     connect(button, &QAction::triggered, this, [this, id = row.id] {
         SendCommand(*target, id);
-        OnUpdateCmdUI(); // the toolkit ticks a button by itself, whatever became of the command
+        OnUpdateCmdUI(); // Qt checks the button by itself, even if the command was not carried out
     });
 }
 

@@ -7,8 +7,8 @@
 
 namespace keltavlo {
 
-// A toolbar from a table: its buttons know only command ids, send them to the target and show their states.
-// It may be docked at any side.
+// A toolbar made from a table. Its buttons know only command ids, send them to the target and show their
+// states. It docks at any side.
 class CToolBar : public QToolBar, public Dynamic<"CToolBar", CToolBar, CControlBar> {
 public:
     CToolBar(unsigned barId, const std::string& title, QWidget* parent);

@@ -12,10 +12,10 @@ namespace keltavlo {
 class CDocument;
 class CView;
 
-// The window round a document's views, as a view sees it.
+// The window around a document's views, as a view sees it.
 class ViewFrame : public DocumentFrame {
 public:
-    // The view that commands go to; null while the frame ends.
+    // Returns the view that receives commands, or null while the frame closes.
     virtual CView* GetActiveView() const = 0;
     virtual void SetActiveView(CView* view) = 0;
 };
@@ -24,43 +24,45 @@ public:
 class ViewPanes {
 public:
     virtual ~ViewPanes() = default;
-    // The bar of the column (horizontal) or row (vertical) that holds the view.
+    // Returns the horizontal bar of the view's column or the vertical bar of its row.
     virtual QScrollBar& GetScrollBar(const CView& view, Qt::Orientation orientation) const = 0;
 };
 
-// A window that shows a document, in a pane of a frame. Painting and input are the toolkit's events.
+// A window that shows a document in a pane of a frame. Painting and input are Qt's events.
 class CView : public QWidget, public Dynamic<"CView", CView, CCmdTarget>, public DocumentView {
 public:
     CView();
     ~CView() override;
 
-    // Null only before the view is attached and while it ends.
+    // Returns null only before the view is attached and while it is detached.
     CDocument* GetDocument() const { return attachedDocument; }
-    // The frame round the view; null while it has none.
+    // Returns the frame around the view, or null if it has none.
     ViewFrame* GetParentFrame() const;
     DocumentFrame* GetFrame() const override;
-    // The bar beside the view's pane; panes of a row or a column share theirs. Only in panes that have bars.
+    // Returns the bar beside the view's pane; the panes of a row or a column share it. Only for panes that
+    // have bars.
     QScrollBar& GetScrollBar(Qt::Orientation orientation) const;
 
     // Called once, when the view is in its pane and has its document, which may still be empty.
     virtual void OnCreate() {}
-    // Called once, before the view leaves its document and ends, while every class that it derives from is
-    // there.
+    // Called once, before the view leaves its document, while the object still has its full class.
     virtual void OnDestroy() {}
-    // Called once, when the document is filled, before the view is first seen. Here: OnUpdate with no sender.
+    // Called once, when the document is filled and before the view is first shown. This version calls
+    // OnUpdate without a sender.
     virtual void OnInitialUpdate();
-    // Here: repaints everything.
+    // This version repaints everything.
     void OnUpdate(DocumentView* sender, std::intptr_t hint, CObject* hintObject) override;
-    // The view became the active one (`activate`), or stopped to be. Either view may be null; a view that
-    // ends gets a null `activated`.
+    // Called when the view becomes the active one (`activate`) or stops being it. Either view may be null;
+    // `activated` is null for a view that closes.
     virtual void OnActivateView(bool activate, CView* activated, CView* deactivated);
-    // The view's own commands, then its document's.
+    // Tries the view's own commands, then its document's.
     bool OnCmdMsg(CommandId id, CCmdUI* state) override;
 
-    // Ties the new view to its document and the panes that hold it (null: no bars). For those who make views.
+    // Connects the new view to its document and to the panes that contain it (null: no bars). For those who
+    // create views.
     void Attach(CDocument& shown, const ViewPanes* holders);
-    // Unties the view from its document, which may end by it. Call it before the view is deleted: its
-    // destructor can no longer reach OnDestroy.
+    // Disconnects the view from its document, which closes with its last view. Call this before deleting the
+    // view: its destructor can no longer call OnDestroy.
     void Detach();
 
 protected:

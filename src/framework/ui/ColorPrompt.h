@@ -8,10 +8,10 @@ class QWidget;
 
 namespace keltavlo {
 
-// Asks the user for a color, 0x00RRGGBB; the dialog starts from one. Nothing when the user cancelled.
+// Asks the user for a color, 0x00RRGGBB, starting from the given one. Returns null if the user cancelled.
 std::optional<std::uint32_t> PromptColor(QWidget* owner, std::uint32_t rgb);
 
-// The sixteen colors of their own that people keep in the color dialog, 0x00BBGGRR each.
+// The sixteen custom colors of the color dialog, each 0x00BBGGRR.
 std::array<std::uint32_t, 16> GetCustomColors();
 void SetCustomColors(const std::array<std::uint32_t, 16>& colors);
 

@@ -40,7 +40,7 @@ void ColumnSizer::Size() {
 
 int WidthOfContents(const QTreeView& view, int column) {
     if (view.isColumnHidden(column)) return 0;
-    const QAbstractItemView& lines = view; // which makes the hint public
+    const QAbstractItemView& lines = view; // this base class makes the hint public
     return std::max(lines.sizeHintForColumn(column), view.header()->sectionSizeHint(column));
 }
 

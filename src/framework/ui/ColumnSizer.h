@@ -11,11 +11,10 @@ class QTreeView;
 namespace keltavlo {
 
 // Sizes the columns of a view when its width or its lines change, until the user drags one. The last column
-// takes what the others leave, so that the view scrolls sideways only where the others need more than there
-// is.
+// takes what the others leave, so the view scrolls sideways only if the others need more than its width.
 class ColumnSizer final : public QObject {
 public:
-    // The widths of all columns but the last in a view of `room` pixels.
+    // Returns the widths of all columns but the last in a view of `room` pixels.
     using Widths = std::function<std::vector<int>(int room)>;
 
     ColumnSizer(QTreeView& sizedView, Widths widthsFor);
@@ -28,12 +27,13 @@ private:
 
     QTreeView& view;
     Widths widths;
-    QTimer later; // many changes come at once
+    QTimer later; // delays the sizing, because many changes come at once
     bool sizing = false;
     bool dragged = false;
 };
 
-// What the column needs to show its title and the lines near the visible ones; 0 for a hidden one.
+// Returns the width that the column needs for its title and the lines near the visible ones, or 0
+// if it is hidden.
 int WidthOfContents(const QTreeView& view, int column);
 
 } // namespace keltavlo

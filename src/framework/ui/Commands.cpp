@@ -13,7 +13,7 @@ CCmdUI AskCommand(CCmdTarget& target, CommandId id) {
     return state;
 }
 
-// The toolkit's menus lose track of their state when an exception passes through them.
+// Qt's menus lose track of their state when an exception passes through them.
 bool SendCommand(CCmdTarget& target, CommandId id) try {
     return AskCommand(target, id).enabled && target.OnCmdMsg(id, nullptr);
 } catch (const std::bad_alloc&) {

@@ -8,12 +8,13 @@ namespace keltavlo {
 
 class CCmdTarget;
 
-// The state of the command for the target and those behind it; disabled when nobody handles it.
+// Returns the state of the command in the target and those it forwards to; disabled if nothing
+// handles the command.
 CCmdUI AskCommand(CCmdTarget& target, CommandId id);
-// Carries the command out if it is enabled at this moment; false when it is not, and when memory ran out, of
-// which is reported to the user.
+// Carries out the command if it is currently enabled. Returns false if it is not, or if memory ran out, after
+// telling the user.
 bool SendCommand(CCmdTarget& target, CommandId id);
-// What the command's string says to the user: the prompt before a line break, the tool tip behind it.
+// The parts of the command's string: the prompt before the line break and the tool tip after it.
 std::string CommandPrompt(CommandId id);
 std::string CommandToolTip(CommandId id);
 

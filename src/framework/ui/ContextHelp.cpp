@@ -17,13 +17,13 @@ namespace keltavlo {
 
 namespace {
 
-// Floating bars and menus belong to the window, too.
+// Floating bars and menus also belong to the window.
 bool BelongsTo(const QWidget* widget, const QWidget& window) {
     while (widget && widget != &window) widget = widget->parentWidget();
     return widget;
 }
 
-// Whether the click only leads on to another menu.
+// Returns whether the click only opens another menu.
 bool OpensMenu(const QWidget& hit, const QPoint& place) {
     if (qobject_cast<const QMenuBar*>(&hit)) return true;
     const auto* menu = qobject_cast<const QMenu*>(&hit);
@@ -87,7 +87,7 @@ bool ContextHelp::eventFilter(QObject* watched, QEvent* event) {
     }
 }
 
-// The answer comes with the release, so that nothing gets half of a click.
+// Answers on the release, so that no window gets half a click.
 bool ContextHelp::OnMouse(QWidget& hit, const QPoint& place, bool released) {
     if (!BelongsTo(&hit, window)) {
         End();

@@ -12,12 +12,11 @@ class QWidget;
 
 namespace keltavlo {
 
-// A question about a part of a window: the pointer changes, and the next click answers with the menu item,
-// tool or bar that it hits, and does nothing else. Escape and every other key end the question without an
-// answer.
+// Asks the user to point at a part of a window. The pointer changes, and the next click returns the menu
+// item, tool or bar that it hits and has no other effect. Escape and every other key cancel.
 class ContextHelp final : public QObject {
 public:
-    // The id of an item's command or of a bar; 0 for every other part of the window.
+    // Receives the command id of an item or the id of a bar; 0 for any other part of the window.
     using Answer = std::function<void(CommandId)>;
 
     ContextHelp(QWidget& askedWindow, Answer receiver);

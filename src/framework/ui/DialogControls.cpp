@@ -15,7 +15,7 @@ QLineEdit& CDataExchange::GetEdit(unsigned id) const {
     return dynamic_cast<QLineEdit&>(controls.GetDlgItem(id));
 }
 
-// An edit may show the text otherwise than it is given, a line break for one.
+// An edit may change the text that it is given, for example a line break.
 void CDataExchange::Fill(unsigned id, const QString& text) {
     GetEdit(id).setText(text);
     controls.exchangedTexts[id] = GetEdit(id).text();

@@ -16,9 +16,9 @@ namespace keltavlo {
 
 class DialogControls;
 
-// One exchange between controls and members, in one of the two directions. Only edits whose text the user
-// changed are read and checked, so a value that no edit would take stays as it is when it is left alone.
-// After the first value that is refused nothing more is exchanged.
+// Exchanges values between controls and members, in one direction. It reads and checks only edits whose text
+// the user changed, so a value that an edit would refuse survives if it is left alone. The exchange stops at
+// the first value that is refused.
 class CDataExchange {
 public:
     struct Range {
@@ -31,20 +31,20 @@ public:
     // A whole number. The spin buttons beside the edit step within the range.
     void Number(unsigned id, std::uint32_t& member, Range range);
     void Number(unsigned id, std::int32_t& member, Range range);
-    // A text of at most so many bytes as it is stored.
+    // A text of at most `mostBytes` bytes in its stored form.
     void Text(unsigned id, std::string& member,
               std::size_t mostBytes = std::numeric_limits<std::size_t>::max());
     void Check(unsigned id, bool& member);
 
     bool WasRefused() const { return refusedEdit != nullptr; }
-    // What to tell the user, and which edit to show; only after a refusal.
+    // The message for the user and the edit to show. Only after a refusal.
     const std::string& GetRefusal() const { return refusal; }
     QLineEdit& GetRefusedEdit() const { return *refusedEdit; }
 
 private:
     QLineEdit& GetEdit(unsigned id) const;
     void Fill(unsigned id, const QString& text);
-    // What the user put into the edit; none when nothing is to be read.
+    // Returns what the user entered, or null if there is nothing to read.
     std::optional<QString> ReadChanged(unsigned id) const;
     std::int64_t ExchangeNumber(unsigned id, std::int64_t value, Range range);
     void Refuse(unsigned id, std::string message);
@@ -55,29 +55,28 @@ private:
     std::string refusal;
 };
 
-// The controls of a dialog or a page by their ids, and the exchange of their values with the members of the
-// class that has them.
+// The controls of a dialog or page by id. Exchanges their values with the members of the derived class.
 class DialogControls {
 public:
     virtual ~DialogControls();
 
     void AddControl(unsigned id, QWidget& control) { controls[id] = &control; }
-    // The control of that id; there must be one.
+    // Returns the control with that id, which must exist.
     QWidget& GetDlgItem(unsigned id) const { return *controls.at(id); }
 
-    // Fills the controls from the members, or (`saveAndValidate`) reads into the members what the user
-    // changed. False when a value is refused: the user has been told and the control has the keys.
+    // Fills the controls from the members or, if `saveAndValidate`, reads the user's changes into the
+    // members. If a value is refused, returns false after telling the user and focusing the control.
     bool UpdateData(bool saveAndValidate);
 
 protected:
-    // One call of the exchange for each control.
+    // Exchanges each control once.
     virtual void DoDataExchange(CDataExchange&) {}
 
 private:
     friend class CDataExchange;
 
     std::map<unsigned, QWidget*> controls;
-    std::map<unsigned, QString> exchangedTexts; // of the edits, when they last agreed with the members
+    std::map<unsigned, QString> exchangedTexts; // when controls and members last agreed
 };
 
 } // namespace keltavlo

@@ -13,23 +13,23 @@ namespace keltavlo {
 class CSpinEdit;
 class DialogControls;
 
-// Parts of dialogs, placed in grids, whose cells grow with the font.
+// Parts of dialogs in grids, whose cells grow with the font.
 
 struct GridPlace {
     int row = 0, column = 0, columns = 1;
 };
 
-// A grid over the whole page, its rows at the top.
+// Adds a grid that covers the page, with its rows at the top.
 QGridLayout& AddPageGrid(QWidget& page);
-// A frame with a title on the page, with a grid inside.
+// Adds a frame with a title and a grid inside.
 QGridLayout& AddGroupBox(QGridLayout& grid, GridPlace place, const char* title);
 QLabel& AddText(QGridLayout& grid, GridPlace place, const char* text);
-// As large as icons are in dialogs.
+// Adds the icon in the usual size for dialogs.
 void AddIcon(QGridLayout& grid, GridPlace place, const QIcon& icon);
-// A text with a rule behind it.
+// Adds a text followed by a rule.
 void AddHeading(QGridLayout& grid, GridPlace place, const char* text);
 
-// A label with its mnemonic in the place's first column, and in the others what it names.
+// Adds a label with a mnemonic in the first column of `place` and the control that it names in the others.
 void AddLabelled(QGridLayout& grid, GridPlace place, const char* label, QWidget& control);
 QLineEdit& AddEdit(DialogControls& controls, QGridLayout& grid, GridPlace place, const char* label,
                    unsigned id);

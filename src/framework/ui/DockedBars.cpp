@@ -43,7 +43,7 @@ void DockedBars::SaveState(const std::string& profileName) const {
                                             SealState(stateVersion, statusBar + window.saveState()));
 }
 
-// The toolkit crashes or hangs on a damaged state: it sees only what came back as it was written.
+// Qt crashes or hangs on a damaged state, so it gets only what comes back unchanged.
 void DockedBars::LoadState(const std::string& profileName) {
     const auto sealed = CWinApp::Get().GetProfile().ReadBinary(profileName, stateValue);
     if (!sealed) return;
@@ -52,7 +52,7 @@ void DockedBars::LoadState(const std::string& profileName) {
         window.statusBar()->setVisible(state.front() != '\0');
 }
 
-// Window managers look for the window that another one belongs to only when they meet that other one.
+// Hides and shows the bars, because a window manager looks for a window's owner only when it maps the window.
 void DockedBars::LiftFloating() {
     for (CControlBar* bar : bars) {
         const auto* widget = dynamic_cast<QWidget*>(bar);

@@ -19,7 +19,7 @@ namespace {
 
 constexpr int maximumWidth = 60; // average characters
 
-// A long path loses its middle.
+// Removes the middle of a long path.
 std::string ShortPath(const std::string& path) {
     const QFontMetrics metrics(QApplication::font("QMenu"));
     return FromQString(metrics.elidedText(ToQString(ToDisplayPath(path)), Qt::ElideMiddle,
@@ -46,7 +46,7 @@ void FrameMenus::Show(unsigned menuId) {
     for (const auto& popup : current->GetPopups()) window.menuBar()->addMenu(popup.get());
 }
 
-// Of menus with the same mnemonic the toolkit takes each in turn; here it is always the first.
+// If several menus have the same mnemonic, Qt cycles through them; this opens the first one.
 bool FrameMenus::eventFilter(QObject*, QEvent* event) {
     if (event->type() != QEvent::Shortcut) return false;
     const auto* shortcut = static_cast<QShortcutEvent*>(event);

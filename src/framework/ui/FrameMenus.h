@@ -10,7 +10,7 @@ class QMainWindow;
 
 namespace keltavlo {
 
-// The menus of a main window by number; its menu bar shows one of them at a time. A menu is made when it is
+// The menus of a main window by number. The menu bar shows one of them at a time. A menu is made when it is
 // first shown.
 class FrameMenus final : public QObject {
 public:
@@ -19,7 +19,7 @@ public:
     FrameMenus(QMainWindow& mainWindow, Maker menuMaker);
 
     void Show(unsigned menuId);
-    // The menu that the menu bar shows; null before the first one.
+    // Returns the menu in the menu bar, or null before the first one.
     CMenu* GetCurrent() const { return current; }
 
 protected:
@@ -32,8 +32,7 @@ private:
     CMenu* current = nullptr;
 };
 
-// Puts the recent files in the place of the menu's placeholder for them; where there are none the placeholder
-// is back.
+// Replaces the menu's placeholder for recent files by the files, or restores it if there are none.
 void UpdateRecentFileMenu(CMenu& menu, const std::vector<std::string>& paths);
 // Lists the main window's children below the Window menu's own items.
 void UpdateWindowMenu(CMenu& menu, const std::vector<std::string>& titles);

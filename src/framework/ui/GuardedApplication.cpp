@@ -22,7 +22,7 @@ bool IsPaint(const QEvent& event) {
 
 } // namespace
 
-// An ignored close keeps its window, whose documents may not be saved yet.
+// A close event that is ignored keeps its window open, whose documents may not be saved yet.
 bool GuardedApplication::notify(QObject* receiver, QEvent* event) try {
     return QApplication::notify(receiver, event);
 } catch (const std::bad_alloc&) {
@@ -43,7 +43,7 @@ void MemoryWarning::Raise() noexcept {
     StartTimer();
 }
 
-// Without the memory to start it, the next idle moment tries again.
+// If there is no memory to start the timer, the next idle moment tries again.
 void MemoryWarning::StartTimer() noexcept {
     try {
         timer.start(0);

@@ -5,9 +5,9 @@
 
 namespace keltavlo {
 
-// The toolkit's application, and the door that no lack of memory passes: an event whose handling runs out of
-// memory counts as ignored, and the user is told. Paints do not tell: a view says so where its picture would
-// be.
+// The application object. It catches every std::bad_alloc that leaves an event handler: the event counts as
+// ignored, and the user gets a message. Paint events get no message; the view shows a sentence in place of
+// its picture.
 class GuardedApplication final : public QApplication {
 public:
     using QApplication::QApplication;
@@ -15,8 +15,8 @@ public:
     bool notify(QObject* receiver, QEvent* event) override;
 };
 
-// Tells the user that memory ran out, in a message box that opens once the event under way is over.
-// Everything that fails until then, or while the box is open, shares the one box.
+// Tells the user that memory ran out, in a message box that opens after the current event. Everything that
+// fails before that, or while the box is open, shares the box.
 class MemoryWarning {
 public:
     MemoryWarning();
@@ -27,7 +27,7 @@ private:
     void OnIdle() noexcept;
     void Show() noexcept;
 
-    QTimer timer; // made while there is memory
+    QTimer timer; // created while there is memory
     bool raised = false;
     bool shown = false;
 };

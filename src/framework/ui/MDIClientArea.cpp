@@ -35,8 +35,8 @@ void MDIClientArea::Place(CMDIChildWnd& child, int number) const {
     child.move(number % steps * step, number % steps * step);
 }
 
-// Up to three windows share one line; more fill a grid column by column, of which the last columns hold
-// one more where the windows do not come out even.
+// Up to three windows share one line. More windows fill a grid column by column; if the columns cannot be
+// equal, the last ones contain one window more.
 void MDIClientArea::Tile(Qt::Orientation orientation) {
     std::vector<CMDIChildWnd*> tiles = GetChildren();
     std::erase_if(tiles, [](const CMDIChildWnd* child) { return child->isMinimized(); });
@@ -61,7 +61,7 @@ void MDIClientArea::PutTile(CMDIChildWnd& child, const Share& across, const Shar
     child.setGeometry(QRect(from, to - QPoint(1, 1)));
 }
 
-// In rows from the lower edge upwards.
+// Fills rows from the lower edge upward.
 void MDIClientArea::ArrangeIcons() {
     int x = 0;
     int bottom = viewport()->height();

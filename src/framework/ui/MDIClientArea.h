@@ -6,28 +6,29 @@ namespace keltavlo {
 
 class CMDIChildWnd;
 
-// The part of the main frame in which the document windows lie.
+// The part of the main frame that contains the document windows.
 class MDIClientArea : public QMdiArea {
 public:
     explicit MDIClientArea(QWidget* parent);
 
-    // In the order of creation; only document windows that are not ending.
+    // Returns the document windows that are not closing, in the order of creation.
     std::vector<CMDIChildWnd*> GetChildren() const;
-    // The child that is active, or was before a window outside became so; null when there is none.
+    // Returns the active child, or null. If another top-level window is active, returns the child that was
+    // active before.
     CMDIChildWnd* GetCurrentChild() const;
-    // Puts a new child below and beside the ones before it, of which there are `number`.
+    // Offsets a new child down and to the right of the `number` children before it.
     void Place(CMDIChildWnd& child, int number) const;
-    // Lays the children that are not minimized one above the other (Qt::Vertical) or side by side; from four
-    // on, in a grid.
+    // Places the children that are not minimized one above the other (Qt::Vertical) or side by side; four or
+    // more in a grid.
     void Tile(Qt::Orientation orientation);
-    // Puts the minimized children in rows at the lower edge.
+    // Places the minimized children in rows at the lower edge.
     void ArrangeIcons();
 
 private:
     struct Share {
         int index, count;
     };
-    // Gives the child its share of the width and the height.
+    // Gives the child its share of the width and height.
     void PutTile(CMDIChildWnd& child, const Share& across, const Share& down) const;
 };
 

@@ -5,7 +5,7 @@
 
 namespace keltavlo {
 
-// The frame is its document's from now on: it ends with its views.
+// The document owns the frame from now on: it ends with its views.
 DocumentFrame* MDIFrameFactory::CreateFrame(const CDocTemplate& type, CDocument& document) {
     const CDocTemplate::Row& row = type.GetRow();
     const CRuntimeClass* frameClass = classes.Find(row.frameClass);

@@ -7,11 +7,11 @@ namespace keltavlo {
 
 class MDIFrame;
 
-// Makes document windows from the class names that document types carry.
+// Makes document windows from the class names in document types.
 class MDIFrameFactory : public FrameFactory {
 public:
     WindowClasses& GetClasses() { return classes; }
-    // The frame that shows the documents made from now on; null when it ends.
+    // Sets the frame for the windows of all documents opened from now on, or null when the frame closes.
     void SetMainFrame(MDIFrame* frame) { mainFrame = frame; }
 
     DocumentFrame* CreateFrame(const CDocTemplate& type, CDocument& document) override;

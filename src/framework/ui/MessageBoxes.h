@@ -7,13 +7,13 @@ class QWidget;
 
 namespace keltavlo {
 
-// Message boxes over the window in which the user works now. Texts are shown unchanged.
+// Message boxes above the window that the user works in. Texts are shown unchanged.
 void ShowMessageBox(const std::string& text, unsigned titleId = AFX_IDS_APP_TITLE);
-// Yes or No; No is the default.
+// Asks a question with Yes and No, which is the default.
 bool AskYesNo(const std::string& text);
 SaveAnswer AskSaveChanges(const std::string& name);
 
-// The window over which a dialog opens: the uppermost dialog, else the main window; null without one.
+// Returns the window that dialogs open above: the topmost dialog, otherwise the main window, or null.
 QWidget* GetDialogOwner();
 
 } // namespace keltavlo

@@ -5,8 +5,8 @@
 
 namespace keltavlo {
 
-// The item behind or before another one; behind the last one comes the first. Null unless the list holds the
-// other one.
+// Returns the item after or before another one; the last one is followed by the first. Returns null if the
+// list does not contain the other one.
 template <class Item>
 Item* NextInRing(const std::vector<Item*>& list, const Item* item, bool previous) {
     const auto place = std::find(list.begin(), list.end(), item);

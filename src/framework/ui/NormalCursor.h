@@ -7,7 +7,7 @@
 
 namespace keltavlo {
 
-// Lifts the wait cursor while a dialog waits for the user.
+// Replaces the wait cursor while a dialog waits for the user.
 class NormalCursor {
 public:
     NormalCursor() {

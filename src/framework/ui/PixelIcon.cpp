@@ -18,7 +18,7 @@ QColor Between(const QColor& a, const QColor& b) {
     return {(a.red() + b.red()) / 2, (a.green() + b.green()) / 2, (a.blue() + b.blue()) / 2};
 }
 
-// The accents stand out from light and from dark grounds.
+// The accent colors are visible on light and on dark backgrounds.
 QColor InkOf(char letter, const QPalette& palette) {
     const QColor text = palette.color(QPalette::Active, QPalette::ButtonText);
     switch (letter) {

@@ -6,8 +6,8 @@
 
 namespace keltavlo {
 
-// The picture as an icon that takes its colors from the palette in use. Its pixels stay sharp where they
-// come out as whole ones of the screen. The rows must live as long as the program.
+// Returns the picture as an icon in the colors of the current palette. Its pixels stay sharp at sizes where
+// each covers whole screen pixels. The rows must live as long as the program.
 QIcon MakePixelIcon(PixelArt art);
 
 } // namespace keltavlo

@@ -10,7 +10,7 @@ namespace keltavlo {
 
 namespace {
 
-// The screen that shows most of the rectangle, or the first one.
+// Returns the screen that shows most of the rectangle, or the first one.
 QRect ScreenFor(const QRect& rectangle) {
     const QScreen* best = QGuiApplication::primaryScreen();
     int most = 0;
@@ -24,7 +24,7 @@ QRect ScreenFor(const QRect& rectangle) {
     return best ? best->availableGeometry() : rectangle;
 }
 
-// A coordinate that lies on no desktop would overflow in sums.
+// Limits a coordinate that is far from any desktop, because sums with it would overflow.
 int Bounded(std::int32_t coordinate) {
     constexpr int limit = 1 << 20;
     return std::clamp(coordinate, -limit, limit);

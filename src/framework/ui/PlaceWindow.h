@@ -6,12 +6,11 @@ class QWidget;
 
 namespace keltavlo {
 
-// Where a window on the desktop is and how it is shown.
+// Returns the position and state of a top-level window.
 WindowPlacement GetWindowPlacement(const QWidget& window);
-// Moves the window to its place when it is neither minimized nor maximized, on a screen that exists; does not
-// show it.
+// Moves the window to its normal position, on a screen that exists. Does not show it.
 void SetWindowPlacement(QWidget& window, const WindowPlacement& placement);
-// Shows the window as a WindowPlacement::ShowCommand says.
+// Shows the window as the WindowPlacement::ShowCommand requests.
 void ShowWindow(QWidget& window, std::uint32_t showCommand);
 
 } // namespace keltavlo

@@ -35,7 +35,7 @@ void SplitAxis::Remove(int part) {
     if (part == 0) std::swap(bars[0], bars[1]);
 }
 
-// In a window that became too small for both parts the second one keeps its least size.
+// If the window becomes too small for both parts, the second one keeps the minimum size.
 SplitAxis::Span SplitAxis::GetSpan(int part, int extent) const {
     if (count == 1) return {0, part == 0 ? extent : 0};
     const int room = extent - thickness;
@@ -44,8 +44,8 @@ SplitAxis::Span SplitAxis::GetSpan(int part, int extent) const {
     return {first + thickness, std::max(0, room - first)};
 }
 
-// The bars of the rows are at the right edge, those of the columns at the lower one. The box from which
-// people pull the second part lies at the start of the only bar.
+// The bars of rows are at the right edge, those of columns at the lower one. If there is one part, the box at
+// the start of its bar lets the user drag out the second one.
 void SplitAxis::LayOut(int extent, int across, int barThickness) {
     const auto place = [&](QWidget& widget, int start, int length, int edge, int depth) {
         widget.setGeometry(direction == Splitter::rows ? QRect(edge, start, depth, length)

@@ -10,33 +10,32 @@ namespace keltavlo {
 
 class SplitHandle;
 
-// The rows or the columns of a splitter: how many there are and where, their scroll bars at the splitter's
-// edge and the handles that people drag.
+// The rows or columns of a splitter: their number and positions, their scroll bars at the splitter's edge and
+// the handles that the user drags.
 class SplitAxis {
 public:
     static constexpr int maximumParts = 2;
-    static constexpr int minimumPart = 10; // pixels; what would be smaller goes
+    static constexpr int minimumPart = 10; // pixels; a smaller part is removed
 
     struct Span {
         int start, length;
     };
 
-    // The bars and the handles become children of `window`.
+    // Makes the bars and the handles as children of `window`.
     SplitAxis(Splitter& splitter, SplitTracker& tracker, Splitter::Direction rowsOrColumns, QWidget* window);
 
     int GetCount() const { return count; }
-    // Pixels of the first part; 0 when there is one part.
+    // Returns the pixels of the first part, or 0 if there is only one part.
     int GetSplit() const { return count > 1 ? split : 0; }
     // Makes two parts.
     void Split(int extentOfFirst);
-    // Leaves one part; its bar becomes the first one.
+    // Leaves one part, whose bar becomes the first one.
     void Remove(int part);
 
     QScrollBar& GetBar(int part) const { return *bars[static_cast<std::size_t>(part)]; }
-    // Where a part lies in the room for all of them.
+    // Returns the position of a part within `extent`.
     Span GetSpan(int part, int extent) const;
-    // Puts the bars and the handles in their places. `extent` is the room along the axis, `across` the one
-    // across it.
+    // Places the bars and the handles. `extent` is the space along the axis, `across` the space across it.
     void LayOut(int extent, int across, int barThickness);
 
 private:

@@ -30,7 +30,7 @@ void SplitHandle::mouseMoveEvent(QMouseEvent* event) {
     tracker.MoveTo(mapTo(parentWidget(), event->position().toPoint() - grip));
 }
 
-// A click alone is no drag: it leaves everything as it is.
+// A click without a move changes nothing.
 void SplitHandle::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton) tracker.End(true);
 }

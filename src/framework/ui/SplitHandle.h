@@ -4,11 +4,11 @@
 
 namespace keltavlo {
 
-// What people drag to split a window, or to move the line between its parts. A double click splits in the
-// middle, or takes the second part away.
+// The handle that the user drags to split a window or to move the line between its parts. A double click
+// splits in the middle, or removes the second part.
 class SplitHandle final : public QWidget {
 public:
-    // A child of `window`, which is the splitter as the toolkit sees it.
+    // A child of `window`, which is the splitter as a Qt widget.
     SplitHandle(Splitter& owner, SplitTracker& lineTracker, Splitter::Direction dragged, QWidget* window);
 
 protected:
@@ -22,7 +22,7 @@ private:
     Splitter& splitter;
     SplitTracker& tracker;
     Splitter::Direction direction;
-    QPoint grip; // where the mouse took hold of the handle
+    QPoint grip; // where the mouse grabbed the handle
 };
 
 } // namespace keltavlo

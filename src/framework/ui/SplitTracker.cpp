@@ -22,7 +22,7 @@ SplitTracker::SplitTracker(Splitter& owner, QWidget* window) : QWidget(window), 
     hide();
 }
 
-// A window in one piece is offered four panes; where there is a line it starts from its place.
+// For a window that is not split, proposes four panes; otherwise starts from the current lines.
 void SplitTracker::BeginByKeyboard() {
     const bool whole = splitter.GetCount(Splitter::rows) == 1 && splitter.GetCount(Splitter::columns) == 1;
     for (const Splitter::Direction direction : directions)

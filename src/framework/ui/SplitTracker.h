@@ -7,38 +7,37 @@
 
 namespace keltavlo {
 
-// A window with up to two parts in each direction, as what moves the lines between them sees it.
+// A window with up to two parts in each direction, as the code that moves the lines between them sees it.
 class Splitter {
 public:
-    // Rows lie above each other, columns side by side.
+    // Rows are above each other, columns side by side.
     enum Direction { rows, columns };
     static constexpr int lineThickness = 6; // pixels
 
     virtual ~Splitter() = default;
     virtual int GetCount(Direction direction) const = 0;
-    // The room of all rows or columns.
+    // Returns the space for all rows or columns.
     virtual int GetExtent(Direction direction) const = 0;
-    // Where the line between the two parts runs; 0 when there is one part.
+    // Returns the position of the line between the two parts, or 0 if there is one part.
     virtual int GetSplit(Direction direction) const = 0;
-    // Makes the first row or column that many pixels high or wide. Where that leaves one of the two parts too
-    // small there is only the other.
+    // Makes the first row or column that many pixels high or wide. If one of the two parts becomes too small,
+    // only the other one remains.
     virtual void SetSplit(Direction direction, int extent) = 0;
 };
 
-// Shows over a splitter where its lines would be while the user drags one, or places both with the
-// keyboard: arrow keys move (with Ctrl by a pixel), Enter or a click splits, Escape leaves things as they
-// were.
+// Shows on top of a splitter where its lines would be, while the user drags one or places both with the
+// keyboard: arrow keys move (with Ctrl by a pixel), Enter or a click splits, Escape changes nothing.
 class SplitTracker final : public QWidget {
 public:
-    // Covers `window`, which is the splitter as the toolkit sees it.
+    // Covers `window`, which is the splitter as a Qt widget.
     SplitTracker(Splitter& owner, QWidget* window);
 
     void BeginByKeyboard();
-    // Tracks the one line while a mouse button is held on its handle.
+    // Tracks one line while a mouse button is held on its handle.
     void BeginByMouse(Splitter::Direction direction);
-    // A point of the splitter.
+    // Moves the tracked lines to a point in the splitter's coordinates.
     void MoveTo(const QPoint& point);
-    // Splits along the lines if they were moved or placed; does nothing unless tracking.
+    // If `accepted`, splits along the lines that were moved. Does nothing if nothing is tracked.
     void End(bool accepted);
 
 protected:
@@ -59,7 +58,7 @@ private:
     Splitter& splitter;
     std::array<Line, 2> lines; // by Splitter::Direction
     bool changed = false;
-    QPointer<QWidget> focused; // before the keyboard came here
+    QPointer<QWidget> focused; // had the focus before the tracker took it
 };
 
 } // namespace keltavlo

@@ -10,12 +10,12 @@
 
 namespace keltavlo {
 
-// The frame and view classes by name: how document types name windows that they do not know.
+// The frame and view classes by name. Document types use it to name window classes that they do not include.
 class WindowClasses {
 public:
-    // The class's own name is its key. A frame class derives from CMDIChildWnd, a view class from CView.
+    // Registers a class under its own name. A frame class derives from CMDIChildWnd, a view class from CView.
     void Register(const CRuntimeClass& windowClass) { classes[std::string(windowClass.name)] = &windowClass; }
-    // Null when nothing of that name is registered.
+    // Returns null if no class of that name is registered.
     const CRuntimeClass* Find(const std::string& name) const {
         const auto place = classes.find(name);
         return place == classes.end() ? nullptr : place->second;
@@ -25,7 +25,7 @@ private:
     std::map<std::string, const CRuntimeClass*> classes;
 };
 
-// A new window of the class, which derives from Window and is creatable.
+// Makes a window of the class, which derives from Window and is creatable.
 template <class Window>
 std::unique_ptr<Window> CreateWindowOf(const CRuntimeClass& windowClass) {
     Q_ASSERT(windowClass.IsDerivedFrom(Window::runtimeClass));

@@ -18,12 +18,12 @@ namespace keltavlo {
 
 namespace {
 
-// Asks which type a new document is to have.
+// Asks which type a new document should have.
 class CNewTypeDlg : public QDialog {
 public:
     CNewTypeDlg(QWidget* owner, std::vector<const CDocTemplate*> choices);
 
-    // The type that the list marks.
+    // Returns the type selected in the list.
     const CDocTemplate* GetSelected() const;
 
 private:
@@ -64,7 +64,7 @@ SaveAnswer WindowedUserInterface::AskToSave(const std::string& name) {
     return AskSaveChanges(name);
 }
 
-// Types without a name for new documents are left out; a single one is taken without asking.
+// Skips types without a name for new documents. If only one type is left, returns it without asking.
 const CDocTemplate* WindowedUserInterface::PromptNewType() {
     std::vector<const CDocTemplate*> types;
     for (const CDocTemplate* type : CWinApp::Get().GetTemplates())

@@ -6,7 +6,7 @@
 
 namespace keltavlo {
 
-// The user at the program, met through dialogs over its windows.
+// Talks to the user through dialogs above the program's windows.
 class WindowedUserInterface : public UserInterface {
 public:
     void ShowMessage(const std::string& text) override;
