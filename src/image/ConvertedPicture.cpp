@@ -23,7 +23,7 @@ const Image& ConvertedPicture::Get(const Image& picture, PictureConversion newCo
     return *converted;
 }
 
-// The search's tables outlive changes of the picture.
+// Keeps the search's tables when only the picture changes.
 void ConvertedPicture::Prepare(PictureConversion newConversion, const ColorList& list) {
     if (newConversion != conversion) converted.reset();
     conversion = newConversion;
@@ -33,7 +33,7 @@ void ConvertedPicture::Prepare(PictureConversion newConversion, const ColorList&
     search = std::make_unique<NearestSearch>(colors);
 }
 
-// Out of memory, what was made so far is of no use.
+// If memory runs out, discards the unfinished picture.
 void ConvertedPicture::Convert(std::span<Color> pixels, std::size_t width) try {
     if (conversion == PictureConversion::nearest)
         search->Replace(pixels);
@@ -49,7 +49,7 @@ void ConvertedPicture::Forget() {
     search.reset();
 }
 
-// Errors are carried to the end of the row and no further.
+// Error diffusion changes only the rest of the row.
 TexelRun ConvertedPicture::UpdateTexel(const Image& picture, int x, int y) {
     if (!converted) return {y, x, 1};
     const bool wholeRow = conversion == PictureConversion::errorDiffusion;

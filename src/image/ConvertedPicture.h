@@ -14,19 +14,19 @@ class NearestSearch;
 // The ways to convert a picture to the colors of a list.
 enum class PictureConversion { none, nearest, errorDiffusion };
 
-// A picture as it looks in the colors of a list. It is made when it is first asked for after a change and
-// kept until the next one, so painting it again costs nothing.
+// A picture shown in the colors of a list. It is computed on the first request after a change and kept until
+// the next change, so repainting it costs nothing.
 class ConvertedPicture {
 public:
     ConvertedPicture();
     ~ConvertedPicture();
 
-    // The picture itself without a conversion and without colors (null). The list may be another one each
-    // time; it is not empty.
+    // Returns the picture itself if there is no conversion or `list` is null. The list may differ from call
+    // to call but must not be empty.
     const Image& Get(const Image& picture, PictureConversion newConversion, const ColorList* list);
-    // The picture may have changed anywhere.
+    // Call after any change of the picture.
     void Invalidate() { converted.reset(); }
-    // One texel of the picture changed. Says which texels look different by it.
+    // Call after a change of one texel. Returns the texels that look different now.
     TexelRun UpdateTexel(const Image& picture, int x, int y);
 
 private:
@@ -35,7 +35,7 @@ private:
     void Forget();
 
     PictureConversion conversion = PictureConversion::none;
-    ColorList colors; // a copy: the list's document may close
+    ColorList colors; // a copy, because the list's document may close
     std::unique_ptr<NearestSearch> search;
     std::optional<Image> converted;
 };

@@ -7,7 +7,7 @@ namespace keltavlo {
 
 class TavloDocument;
 
-// A recorded change. It holds the other state, so undoing and redoing are one and the same exchange.
+// A recorded change. It contains the other state, so undo and redo are the same exchange.
 class EditAction {
 public:
     explicit EditAction(std::string actionName) : name(std::move(actionName)) {}
@@ -17,7 +17,7 @@ public:
 
     virtual void Undo(TavloDocument& document) = 0;
     virtual void Redo(TavloDocument& document) { Undo(document); }
-    // As the Edit menu shows it.
+    // The name in the Edit menu.
     const std::string& GetName() const { return name; }
 
 private:

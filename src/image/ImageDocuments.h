@@ -4,9 +4,9 @@
 
 namespace keltavlo {
 
-// One class for each picture format; they differ in what File New makes.
+// One class for each picture format. The classes differ in what File New makes.
 
-// A new one is 64 x 64, all pixels 0.
+// A new document is 64 x 64 with all pixels 0.
 class FormatDocument : public Dynamic<"FormatDocument", FormatDocument, TavloDocument> {
 public:
     bool OnNewDocument() override;
@@ -16,7 +16,7 @@ class BMPDocument final : public Dynamic<"BMPDocument", BMPDocument, FormatDocum
 class PCXDocument final : public Dynamic<"PCXDocument", PCXDocument, FormatDocument> {};
 class TGADocument final : public Dynamic<"TGADocument", TGADocument, FormatDocument> {};
 
-// A new one has the built-in palette of its game selected.
+// In a new document, the built-in palette of its game is selected.
 class MIPDocument final : public Dynamic<"MIPDocument", MIPDocument, FormatDocument> {
 public:
     bool OnNewDocument() override;

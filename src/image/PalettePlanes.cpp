@@ -11,7 +11,7 @@ constexpr int cellSide = PalettePlanes::side / cellsInRow;
 constexpr int markerRadius = 7;
 
 struct Box {
-    int left, top, right, bottom; // right and bottom lie outside
+    int left, top, right, bottom; // right and bottom are exclusive
 };
 
 void Fill(Image& picture, Color color) {
@@ -23,7 +23,7 @@ void SetVisiblePixel(DibSection& bitmap, int x, int y, Color color) {
         bitmap.Row(y)[static_cast<std::size_t>(x)] = color;
 }
 
-// A rectangle of lines one pixel wide; parts outside the bitmap are left out.
+// Draws a frame of lines one pixel wide and clips it to the bitmap.
 void DrawFrame(DibSection& bitmap, const Box& box, Color upperLeft, Color lowerRight) {
     for (int x = box.left; x < box.right; ++x) {
         SetVisiblePixel(bitmap, x, box.top, upperLeft);

@@ -8,34 +8,34 @@
 
 namespace keltavlo {
 
-// What the palette bar shows, in pixels: a plane with a grid of cells or with red and green, and two strips
-// below it. The pictures hold the colors that are picked, the bitmaps what is seen of them.
+// The pixels that the palette bar shows: a plane, either with a grid of cells or with red and green, and two
+// strips below it. The pictures contain the colors to pick, the bitmaps the colors on the screen.
 class PalettePlanes {
 public:
     enum Mode { none, colorTable, rgba };
     enum Part { plane, strip1, strip2 };
-    static constexpr int side = 256; // of the plane, and the strips' width
+    static constexpr int side = 256; // of the plane; also the width of the strips
     static constexpr int stripHeight = 16;
 
-    // The colors of sunken edges, from the outside of their upper left corner to that of their lower right.
+    // The colors of sunken edges, from the outer upper left to the outer lower right.
     struct Look {
-        Color face = 0; // what the last strip and cells without an entry lie on
+        Color face = 0; // background of the last strip and of cells without an entry
         Color shadow = 0, darkShadow = 0, light = 0, highlight = 0;
     };
 
     Mode GetMode() const { return mode; }
     void SetMode(Mode newMode) { mode = newMode; }
     const ColorList& GetColors() const { return colors; }
-    // The table that the mode `colorTable` shows, from its first 256 entries.
+    // Sets the table for the mode `colorTable`, which shows its first 256 entries.
     void SetColors(const ColorList& list) { colors = list; }
 
     // Fills the pictures for the current color.
     void Rebuild(Color current);
-    // Brings the bitmaps up to date through the channel table of 256 entries; null shows colors as they are.
+    // Updates the bitmaps through a channel table of 256 entries; null shows the colors unchanged.
     void Render(const std::uint32_t* gammaTable, const Look& look);
 
     const DibSection& GetBitmap(Part part) const;
-    // The color of the picture's pixel, untouched by gamma; nothing outside the picture.
+    // Returns the color of a pixel before gamma, or null outside the picture.
     std::optional<Color> HitTest(Part part, int x, int y) const;
 
 private:
@@ -50,7 +50,7 @@ private:
     Image planeImage{side, side};
     Image stripImage1{side, stripHeight};
     Image stripImage2{side, stripHeight};
-    DibSection planeBitmap{side, -side, 32}; // rows from the top
+    DibSection planeBitmap{side, -side, 32}; // rows top-down
     DibSection stripBitmap1{side, -stripHeight, 32};
     DibSection stripBitmap2{side, -stripHeight, 32};
 };

@@ -5,14 +5,14 @@
 
 namespace keltavlo {
 
-// A change of one property of the texture, which the document's pair of accessors names: keeps the property's
-// value of the other state, which is the new one at first.
+// A change of the property that the document's accessors `get` and `set` name. Stores the value of the other
+// state, which is the new one at first.
 template <auto get, auto set>
 class PropertyChangeAction final : public EditAction {
 public:
     using Value = std::decay_t<decltype((std::declval<const TavloDocument&>().*get)())>;
 
-    // The name is a string of the program's table.
+    // `nameId` is an id of the string table.
     PropertyChangeAction(unsigned nameId, Value value)
         : EditAction(LoadString(nameId)), stored(std::move(value)) {}
 

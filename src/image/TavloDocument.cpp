@@ -26,7 +26,7 @@ constexpr BuiltInFile builtInReferences[] = {
     hexen2Palette,  internetSafeColors, alphaScaleColors, rgbaColorSpace,
 };
 
-// badIndex for a class without a picture format.
+// Throws badIndex for a class without a picture format.
 const Codec& CodecOf(const CRuntimeClass* documentClass) {
     const Codec* codec = documentClass ? FindCodec(documentClass->name) : nullptr;
     if (codec) return *codec;
@@ -46,10 +46,10 @@ const ColorList* DefaultPaletteOf(const Codec& codec) {
     return nullptr;
 }
 
-// A change of the picture: keeps the whole texture of the other state, which is the new one at first.
+// A change of the picture. Stores the whole texture of the other state, which is the new one at first.
 class TextureChangeAction final : public EditAction {
 public:
-    // The name is a string of the program's table.
+    // `nameId` is an id of the string table.
     TextureChangeAction(unsigned nameId, Texture&& replacement)
         : EditAction(LoadString(nameId)), snapshot(std::move(replacement)) {}
 
@@ -73,7 +73,7 @@ void UpdateHistoryItem(CCmdUI& state, const std::string* name, unsigned namedTex
         state.SetText(FormatString(namedText, name->c_str()));
 }
 
-// The document that the menus list under the id, or null.
+// Returns the document that the menus list under the id, or null.
 CObject* ListedUnder(CommandId id) {
     const MenuItemList* list = MenuItemList::FindList(id);
     return list ? list->GetItem(id) : nullptr;
@@ -107,7 +107,7 @@ void TavloDocument::OnCloseDocument() {
     BaseDocument::OnCloseDocument();
 }
 
-// An entry of an archive has no name of its own: it was opened by its type, which the document has.
+// If the stream has no name, as for an archive entry, the class of the document selects the format.
 void TavloDocument::ReadContents(InputStream& in) {
     const std::string name = in.GetName();
     const Codec& codec =
@@ -206,7 +206,7 @@ void TavloDocument::OnEditProperties() {
     if (Shell* shell = Shell::Find()) shell->EditProperties(*this);
 }
 
-// An item without a document, such as "(None)", selects none; an id that no menu has changes nothing.
+// An item without a document, such as "(None)", selects no brush. An id that is in no menu changes nothing.
 void TavloDocument::OnBrush(CommandId id) {
     if (MenuItemList::FindList(id)) SetCurrentBrush(dynamic_cast<BrushDocument*>(ListedUnder(id)));
 }
@@ -219,7 +219,7 @@ void TavloDocument::OnPalette(CommandId id) {
     if (MenuItemList::FindList(id)) SelectPalette(dynamic_cast<PaletteDocument*>(ListedUnder(id)));
 }
 
-// Views that show the palette's colors show other ones by it.
+// Also updates all views, because a filter may show the palette's colors.
 void TavloDocument::SelectPalette(PaletteDocument* palette) {
     SetCurrentPalette(palette);
     UpdateAllViews(nullptr);

@@ -11,7 +11,7 @@ class BrushDocument;
 class ColorList;
 class PaletteDocument;
 
-// The names that a Quake II texture stores: its own and that of the next frame of its animation.
+// The names that a Quake II texture stores: its own and that of its animation's next frame.
 struct Quake2Names {
     std::string name;
     std::string nextFrameName;
@@ -19,7 +19,7 @@ struct Quake2Names {
     bool operator==(const Quake2Names&) const = default;
 };
 
-// What views get as the object of an update when a stroke changed a single texel.
+// The hint object of the views' update when a stroke changes a single texel.
 class TexelChange final : public CObject {
 public:
     TexelChange(int column, int row) : x(column), y(row) {}
@@ -28,9 +28,9 @@ public:
     const int y;
 };
 
-// A texture that is being edited: its picture with what the games store beside it, the documents that it
-// works with, and its history. The class of a document does not fix its format: a file is read and written as
-// its name says.
+// A texture that is being edited: its picture, what the games store beside it, the documents that it works
+// with, and its history. The class of a document does not fix its format: the file's name selects the format
+// for reading and writing.
 class TavloDocument : public Dynamic<"TavloDocument", TavloDocument, BaseDocument>, public BrushTarget {
 public:
     TavloDocument();
@@ -38,7 +38,7 @@ public:
     bool OnNewDocument() override;
     bool OnOpenDocument(const std::string& path) override;
     void OnCloseDocument() override;
-    // badIndex for a name whose type is none of the picture formats.
+    // Fails with badIndex if the name's type is not a picture format.
     void ReadContents(InputStream& in) override;
     void WriteContents(OutputStream& out) override;
 
@@ -46,8 +46,8 @@ public:
     const Texture& GetTexture() const { return texture; }
     UndoHistory& GetHistory() { return history; }
 
-    // What the games store beside the picture. Setting it changes nothing else: whoever does it marks the
-    // document modified.
+    // What the games store beside the picture. The setters do not mark the document modified; that is left to
+    // the caller.
     const std::string& GetQuakeName() const { return texture.quakeName; }
     void SetQuakeName(std::string name) { texture.quakeName = std::move(name); }
     Quake2Names GetQuake2Names() const { return {texture.quake2.name, texture.quake2.nextFrameName}; }
@@ -60,24 +60,24 @@ public:
     void SetValue(std::uint32_t value) { texture.quake2.value = value; }
 
     Color GetTexel(unsigned x, unsigned y) const override { return texture.GetPixelWrapped(x, y); }
-    // Tells all views with a TexelChange. Not in the history: whoever ends the stroke marks the document
-    // modified.
+    // Notifies all views with a TexelChange. The change is not in the history, and the end of the stroke
+    // marks the document modified.
     void SetTexel(unsigned x, unsigned y, Color color) override;
 
-    // The brush and the palette chosen for this document; null is "None".
+    // The brush and palette selected for this document; null is "None".
     bool HasBrush() const { return currentBrush != nullptr; }
     bool HasPalette() const { return currentPalette != nullptr; }
     BrushDocument* GetCurrentBrush() const { return currentBrush; }
     void SetCurrentBrush(BrushDocument* brush) { currentBrush = brush; }
     PaletteDocument* GetCurrentPalette() const { return currentPalette; }
     void SetCurrentPalette(PaletteDocument* palette) { currentPalette = palette; }
-    // The colors of the chosen palette to which a picture can be brought; null without a palette and for one
-    // that lists no colors.
+    // Returns the colors of the selected palette for conversions, or null without a palette or for one
+    // without colors.
     const ColorList* GetPaletteColors() const;
 
-    // Replaces the texture as an undoable change of that name.
+    // Replaces the texture as an undoable change with that name.
     void ReplaceTexture(unsigned nameId, Texture&& replacement);
-    // Marks the document modified; a changed picture must be told to the views as well.
+    // Marks the document modified. If the picture has changed, the views must be updated as well.
     void SetModifiedAndUpdate(bool updateViews);
     const std::vector<BaseDocument*>& GetReferences() const { return references; }
 
@@ -88,10 +88,10 @@ protected:
 private:
     void AddBuiltInReferences();
     void ReleaseReferences();
-    // Brings the sides to what the games allow, as an undoable change.
+    // Resizes the picture to sides that the games allow, as an undoable change.
     void ReformatForSave();
 
-    // Brings the picture to the palette's colors, as an undoable change unless it has only such already.
+    // Converts the picture to the palette's colors, as an undoable change. Does nothing if no pixel changes.
     void ConvertPicture(unsigned nameId, void (Image::*convert)(const ColorList&));
 
     void OnEditUndo() { history.Undo(); }
@@ -115,8 +115,7 @@ private:
     static constexpr std::size_t historyCapacity = 16;
 
     Texture texture;
-    std::vector<BaseDocument*>
-        references; // open for as long as the program runs; null where one could not be opened
+    std::vector<BaseDocument*> references; // open until the program ends; null if opening failed
     BrushDocument* currentBrush = nullptr;
     PaletteDocument* currentPalette = nullptr;
     UndoHistory history{*this, historyCapacity};

@@ -6,7 +6,7 @@ namespace keltavlo {
 
 namespace {
 
-// The other stack has room reserved.
+// Allocates nothing, because both stacks have their memory reserved.
 template <class Stack>
 void MoveTop(Stack& from, Stack& to) {
     to.push_back(std::move(from.back()));

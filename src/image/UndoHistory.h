@@ -6,18 +6,18 @@
 
 namespace keltavlo {
 
-// The recorded changes of one document, and those that were undone.
+// The recorded changes of a document, and those that were undone.
 class UndoHistory {
 public:
-    // Keeps at most `limit` changes; the oldest goes first.
+    // Keeps at most `limit` changes and drops the oldest.
     UndoHistory(TavloDocument& owner, std::size_t limit);
 
-    // Makes the change and records it. What was undone before can no longer be redone. When memory runs out,
-    // as in Undo and Redo, document and history stay as they were.
+    // Makes the change, records it and discards the changes that could be redone. If memory runs out here, in
+    // Undo or in Redo, document and history stay unchanged.
     void Do(std::unique_ptr<EditAction> action);
     bool CanUndo() const { return !undoStack.empty(); }
     bool CanRedo() const { return !redoStack.empty(); }
-    // Only while there is one.
+    // Only if CanUndo or CanRedo.
     const std::string& TopUndoName() const { return undoStack.back()->GetName(); }
     const std::string& TopRedoName() const { return redoStack.back()->GetName(); }
     void Undo();

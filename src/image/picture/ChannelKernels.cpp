@@ -28,7 +28,7 @@ struct Vectors {
     __m256i rows[4];
 };
 
-// Turns 32 pixels into one vector for each channel; Join brings them back in their order.
+// Turns 32 pixels into one vector per channel; Join restores them in their order.
 [[gnu::target("avx2")]] inline void Split(Vectors& vectors) {
     auto& rows = vectors.rows;
     const __m256i channelsTogether = _mm256_setr_epi8(0, 4, 8, 12, 1, 5, 9, 13, 2, 6, 10, 14, 3, 7, 11, 15, //
@@ -57,14 +57,14 @@ struct Vectors {
     rows[3] = _mm256_unpackhi_epi16(highBlueGreen, highRedAlpha);
 }
 
-// Shuffles a piece of 16 table bytes, the same for both lanes.
+// Shuffles the same piece of 16 table bytes in both lanes.
 [[gnu::target("avx2")]] inline __m256i ShufflePiece(const std::uint8_t* piece, __m256i indices) {
     const __m128i bytes = _mm_load_si128(reinterpret_cast<const __m128i*>(piece));
     return _mm256_shuffle_epi8(_mm256_broadcastsi128_si256(bytes), indices);
 }
 
-// Indices of 8 bits into four pieces of 16 bytes: the low four bits as they are, and with the top bit, for
-// which a shuffle gives 0, set where bit 4, bit 5 or one of them is set.
+// Indices into four pieces of 16 bytes: the low four bits of a value. All but `any` also have the top bit
+// set, for which a shuffle returns 0, unless the bits in their names are clear.
 struct PieceIndices {
     __m256i any;
     __m256i bit4Clear;
@@ -76,7 +76,7 @@ struct PieceIndices {
     const auto mask = [](int bits) { return static_cast<char>(bits); };
     PieceIndices indices;
     indices.any = _mm256_and_si256(values, _mm256_set1_epi8(mask(0x0F)));
-    // Adding carries the one bit that was kept into the top bit.
+    // The addition carries the bit that the mask keeps into the top bit.
     indices.bit4Clear = _mm256_add_epi8(_mm256_and_si256(values, _mm256_set1_epi8(mask(0x1F))), //
                                         _mm256_set1_epi8(mask(0x70)));
     indices.bit5Clear = _mm256_add_epi8(_mm256_and_si256(values, _mm256_set1_epi8(mask(0x2F))), //
@@ -85,7 +85,7 @@ struct PieceIndices {
     return indices;
 }
 
-// Looks up in 64 arranged table bytes.
+// Looks up values in 64 arranged table bytes.
 [[gnu::target("avx2")]] inline __m256i LookUpQuarter(const std::uint8_t* quarter,
                                                      const PieceIndices& indices) {
     return _mm256_xor_si256(_mm256_xor_si256(ShufflePiece(quarter, indices.any), //
@@ -94,7 +94,7 @@ struct PieceIndices {
                                              ShufflePiece(quarter + 48, indices.bothClear)));
 }
 
-// A blend looks at the top bit of every byte: bit 7 of the values, or bit 6 of them doubled.
+// A blend tests the top bit of each byte: bit 7 of the values, or bit 6 of the values doubled.
 [[gnu::target("avx2")]] inline __m256i LookUp(const std::uint8_t* plane, __m256i values) {
     const PieceIndices indices = MakePieceIndices(values);
     const __m256i doubled = _mm256_add_epi8(values, values);
@@ -105,11 +105,12 @@ struct PieceIndices {
     return _mm256_blendv_epi8(lower, upper, values);
 }
 
-// Maps the first channels and leaves the others: with a gamma's alpha a quarter of the work is saved.
+// Maps the first channels and keeps the others. Gamma keeps alpha, which saves a quarter of the work.
 template <std::size_t channelCount>
 [[gnu::target("avx2")]] std::size_t ShuffleChannels(const ChannelPlanes& channels,
                                                     std::span<const Color> input, std::span<Color> output) {
-    // The loops over vectors are unrolled so that these stay in registers at every level of optimization.
+    // The loops over vectors are unrolled, so that the vectors stay in registers at every
+    // level of optimization.
     const std::size_t count = input.size() / shuffledPixels * shuffledPixels;
     for (std::size_t i = 0; i < count; i += shuffledPixels) {
         const auto* source = reinterpret_cast<const __m256i*>(input.data() + i);
@@ -132,8 +133,8 @@ template <std::size_t channelCount>
 void ArrangeForShuffles(ChannelPlanes& channels) {
     for (ChannelPlanes::Plane& plane : channels.planes) {
         for (std::size_t i = 0; i < plane.size(); i += 64) {
-            // Of the four pieces the last one is always taken; the others hold what must be flipped where bit
-            // 4, bit 5 or both are clear.
+            // The original last piece is always looked up. The other three contain the bits to flip if bit 4,
+            // bit 5 or both are clear.
             for (std::size_t k = i; k < i + 16; ++k) {
                 const std::uint8_t both = plane[k + 48];
                 const auto bit4Clear = static_cast<std::uint8_t>(both ^ plane[k + 32]);
@@ -156,7 +157,7 @@ void ArrangeForShuffles(ChannelPlanes& channels) {
 
 constexpr ChannelKernels shuffleKernels{ProcessorFeature::avx2, ArrangeForShuffles, ApplyByShuffles};
 
-// Replaces the bytes of one channel, which the two byte masks select by the half of the table they need.
+// Replaces the bytes of one channel. The two byte masks select the bytes for each half of the table.
 [[gnu::target("avx512f,avx512bw,avx512vbmi")]] inline __m512i
 Permute(const ChannelPlanes::Plane& plane, __m512i pixels, __mmask64 lowerHalf, __mmask64 upperHalf) {
     const __m512i lower = _mm512_mask2_permutex2var_epi8(_mm512_load_si512(&plane[0]), pixels, lowerHalf,

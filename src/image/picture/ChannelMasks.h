@@ -6,19 +6,19 @@
 
 namespace keltavlo {
 
-// Where red, green and blue lie in a 16- or 32-bit pixel value; each mask is one run of bits, or 0 for no
-// channel.
+// The bits of red, green and blue in a 16- or 32-bit pixel value. Each mask is one run of bits, or
+// 0 for no channel.
 struct ChannelMasks {
     std::uint32_t red = redMask;
     std::uint32_t green = greenMask;
     std::uint32_t blue = blueMask;
 
-    // Of bitmaps that store none.
+    // The masks of bitmaps that store none.
     static constexpr ChannelMasks Default(int bitCount) {
         return bitCount == 16 ? ChannelMasks{0x7C00, 0x03E0, 0x001F} : ChannelMasks{};
     }
 
-    // The opaque color of a pixel value.
+    // Returns the opaque color of a pixel value.
     constexpr Color ToColor(std::uint32_t value) const {
         return Compose(Extract(value, red), Extract(value, green), Extract(value, blue));
     }
@@ -30,7 +30,7 @@ struct ChannelMasks {
     constexpr bool operator==(const ChannelMasks&) const = default;
 
 private:
-    // Widens by repeating the bits, so that all ones stay all ones.
+    // Widens a channel to 8 bits by repeating its bits, so that all ones stay all ones.
     static constexpr std::uint32_t Extract(std::uint32_t value, std::uint32_t mask) {
         const int bits = std::popcount(mask);
         if (bits == 0) return 0;

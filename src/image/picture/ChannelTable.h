@@ -4,10 +4,11 @@
 
 namespace keltavlo {
 
-// A copy of a channel table, arranged for mapping many rows; made anew it costs about as much as 500 pixels.
+// A copy of a channel table, arranged for mapping many rows. Making it costs as much as mapping
+// about 500 pixels.
 class ChannelTable {
 public:
-    // The kernels must be some that the processor has.
+    // The processor must support the kernels.
     explicit ChannelTable(const std::uint32_t* table256,
                           const ChannelKernels& useKernels = FastestKernels<ChannelKernels>());
 
@@ -20,7 +21,7 @@ private:
     bool isIdentity;
 };
 
-// The table (256 entries) for red, green and blue that are halved first; alpha goes through it as it is.
+// Returns a table of 256 entries that first halves red, green and blue and leaves alpha alone.
 std::array<std::uint32_t, 256> HalveBrightness(const std::uint32_t* table256);
 
 } // namespace keltavlo

@@ -8,7 +8,7 @@ namespace keltavlo {
 // A color with alpha, 0xAARRGGBB. Every pixel, palette entry and color-table entry is one.
 using Color = std::uint32_t;
 
-// Bitmaps and textures take the bytes as they lie in memory: blue, green, red, alpha.
+// Bitmaps and textures use the bytes as they are in memory: blue, green, red, alpha.
 static_assert(std::endian::native == std::endian::little);
 
 inline constexpr std::uint32_t opaqueAlpha = 255;
@@ -35,18 +35,18 @@ constexpr std::uint32_t Blue(Color color) {
     return color & blueMask;
 }
 
-// The color of four channels of 0 to 255 each.
+// Returns the color of four channels from 0 to 255.
 constexpr Color Compose(std::uint32_t red, std::uint32_t green, std::uint32_t blue,
                         std::uint32_t alpha = opaqueAlpha) {
     return red << 16 | green << 8 | blue | alpha << 24;
 }
 
-// A color reference keeps red in the lowest byte (0x00BBGGRR) and knows no alpha: the color is opaque.
+// A color reference has red in the lowest byte (0x00BBGGRR) and no alpha. The color is opaque.
 constexpr Color ColorFromColorRef(std::uint32_t reference) {
     return (reference & 0xFF) << 16 | (reference & greenMask) | (reference & redMask) >> 16 | alphaMask;
 }
 
-// Exchanges red and blue; the top byte becomes 255, which bitmaps take for an opaque pixel.
+// Exchanges red and blue. The top byte becomes 255, which bitmaps treat as opaque.
 constexpr std::uint32_t ColorRefFromColor(Color color) {
     return ColorFromColorRef(color);
 }

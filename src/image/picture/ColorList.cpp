@@ -7,16 +7,16 @@
 
 namespace keltavlo {
 
-// Remembers which list entry colors were matched to: one color per slot, the newest replacing what the
-// slot held. Valid only while the list's colors stay as they are.
+// Remembers the nearest list entries of colors: one color per slot; a newer color replaces the one in its
+// slot. Valid only until the list's colors change.
 class NearestColorCache {
 public:
-    // Throws std::invalid_argument when there is no slot.
+    // Throws std::invalid_argument if `slotCount` is 0.
     explicit NearestColorCache(std::size_t slotCount) : slots(slotCount) {
         if (slotCount == 0) throw std::invalid_argument("A nearest-color cache needs a slot.");
     }
 
-    // The entry stored for the color, or null.
+    // Returns the entry stored for the color, or null.
     const Color* Find(Color color) const {
         const Slot& slot = slots[color % slots.size()];
         return slot.key == color ? slot.match : nullptr;
@@ -27,7 +27,7 @@ public:
 private:
     struct Slot {
         Color key = 0;
-        // Null while the slot holds nothing.
+        // Null if the slot is empty.
         const Color* match = nullptr;
     };
 

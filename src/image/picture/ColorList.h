@@ -12,12 +12,11 @@ namespace keltavlo {
 
 class NearestColorCache;
 
-// A palette or color table: entry i is the color of index i. Copies take the colors only, never the
-// cache.
+// A palette or color table: entry i is the color of index i. Copies do not include the cache.
 class ColorList {
 public:
     ColorList();
-    // A list of that many entries, all 0.
+    // Makes a list of `count` entries, all 0.
     explicit ColorList(std::size_t count);
     ColorList(std::initializer_list<Color> initialColors);
     explicit ColorList(std::vector<Color> initialColors);
@@ -29,24 +28,24 @@ public:
 
     std::size_t GetCount() const { return colors.size(); }
     std::span<const Color> Colors() const { return colors; }
-    // Throws std::out_of_range for an index outside the list, as SetColor does.
+    // Throws std::out_of_range for an index outside the list, as does SetColor.
     Color GetColor(std::size_t index) const { return colors.at(index); }
     Color operator[](std::size_t index) const { return colors.at(index); }
 
-    // What changes the colors destroys the cache, whose slots point at them.
+    // Functions that change the colors destroy the cache, whose slots point at them.
     void SetColor(std::size_t index, Color color);
     void Append(Color color);
     // New entries are 0.
     void SetCount(std::size_t count);
 
-    // Remembers lookups until DestroyCache, a change or an assignment; a memo only, so constant lists may
-    // have one.
+    // Remembers lookups until DestroyCache, a change or an assignment. The results stay the same, so constant
+    // lists may have a cache.
     void CreateCache(std::size_t slotCount) const;
     void DestroyCache() const;
     bool HasCache() const { return cache != nullptr; }
 
-    // The entry of the smallest ColorDistance, the first of several. Throws std::out_of_range on an empty
-    // list.
+    // Returns the entry with the smallest ColorDistance, the first of equals. Throws std::out_of_range for an
+    // empty list.
     const Color* FindNearest(Color color) const;
     std::size_t FindNearestIndex(Color color) const;
 
@@ -59,17 +58,17 @@ private:
     mutable std::unique_ptr<NearestColorCache> cache;
 };
 
-// Palettes as files of the games hold them: red, green and blue of each entry, one byte each.
+// Palettes in the games' files: red, green and blue of each entry, one byte each.
 inline constexpr std::size_t rgbTripleSize = 3;
 
-// As many opaque colors as the bytes hold.
+// Returns as many opaque colors as the bytes contain.
 ColorList ColorsFromTriples(std::span<const std::uint8_t> bytes);
 
-// Fills the bytes from the list's first entry on; black where the list ends early.
+// Fills the bytes with the list's entries, and with black after its end.
 void PutTriples(const ColorList& list, std::span<std::uint8_t> bytes);
 
-// Squared distance of the channels, alpha weighing three times as much as each of the others; at most
-// 390,150.
+// Returns the squared distance of the channels. Alpha has three times the weight of each other channel; the
+// maximum is 390,150.
 constexpr std::uint32_t ColorDistance(Color left, Color right) {
     const std::uint32_t alpha = Alpha(left) - Alpha(right);
     const std::uint32_t red = Red(left) - Red(right);

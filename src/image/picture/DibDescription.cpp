@@ -15,7 +15,7 @@ namespace {
 constexpr std::uint32_t sizeFieldBytes = 4;
 constexpr std::uint32_t masksSize = 12;
 
-// The first form of the header.
+// The oldest form of the header.
 struct OldHeader {
     static constexpr std::uint32_t storedSize = 12;
 
@@ -24,7 +24,7 @@ struct OldHeader {
 };
 static_assert(sizeof(OldHeader) == OldHeader::storedSize);
 
-// The 40-byte header and the masks, which follow it or are the next fields of a longer one.
+// The 40-byte header and the masks, which follow it or are the next fields of a longer header.
 struct Header {
     DibHeader fields;
     ChannelMasks masks;
@@ -34,8 +34,8 @@ static_assert(sizeof(Header) == DibHeader::storedSize + masksSize);
 
 enum Compression : std::uint32_t { runs8 = 1, runs4 = 2, jpeg = 4, png = 5 };
 
-// Reads the fields that a header of this size has and leaves the others; the stream is behind the size
-// and, afterwards, behind the header.
+// Reads the fields that a header of this size has and keeps the others. The stream is after the size before
+// the call and after the header afterwards.
 template <class Fields>
 void ReadFields(InputStream& in, Fields& header, std::uint32_t size) {
     const std::uint32_t known = std::min<std::uint32_t>(size, sizeof header);
@@ -60,7 +60,7 @@ DibHeader ReadOldHeader(InputStream& in, std::uint32_t size) {
 
 Header ReadHeader(InputStream& in, std::uint32_t size) {
     Header header{};
-    header.fields.planes = 0; // like every field that a short header lacks
+    header.fields.planes = 0; // as in every field that a short header lacks
     header.masks = {0, 0, 0};
     ReadFields(in, header, size);
     header.fields.size = DibHeader::storedSize;
@@ -107,7 +107,7 @@ void CheckMasks(const InputStream& in, const ChannelMasks& masks, int bitCount) 
     if (together == 0 || overlap || !areRuns || !fit) in.Fail(StreamError::badIndex);
 }
 
-// The entries that an index can reach; the stream is behind all of them afterwards.
+// Reads the entries that an index can reach. Leaves the stream after all entries.
 ColorList ReadColors(InputStream& in, const DibHeader& header, std::size_t entrySize) {
     const std::size_t entries = header.bitCount <= 8 ? header.ColorTableEntries() : header.colorsUsed;
     const std::size_t reached = header.bitCount <= 8 ? std::size_t{1} << header.bitCount : 0;
@@ -120,7 +120,7 @@ ColorList ReadColors(InputStream& in, const DibHeader& header, std::size_t entry
     return ColorList(std::move(colors));
 }
 
-// From the size of the information header to the end of the color table.
+// Reads from the size of the information header to the end of the color table.
 DibDescription ReadInformation(InputStream& in) {
     constexpr std::size_t oldEntrySize = 3;
     constexpr std::size_t entrySize = 4;

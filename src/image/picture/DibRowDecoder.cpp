@@ -50,7 +50,7 @@ void DibRowDecoder::Decode(std::span<const std::uint8_t> stored, std::span<Color
     }
 }
 
-// Several indices share a byte; the first is in its highest bits.
+// Several indices share a byte. The first one is in its highest bits.
 void DibRowDecoder::DecodeIndices(const std::uint8_t* stored, std::span<Color> output) const {
     unsigned bits = 0;
     unsigned left = 0;

@@ -9,18 +9,17 @@ namespace keltavlo {
 
 struct DibDescription;
 
-// Turns the stored rows of one bitmap into opaque colors. Made once for all rows: it arranges the color
-// table and the channel masks for looking up.
+// Turns the stored rows of a bitmap into opaque colors. Create it once for all rows, because it prepares
+// lookup tables.
 class DibRowDecoder {
 public:
     explicit DibRowDecoder(const DibDescription& description);
 
-    // The row's bytes are at least as many as the output's pixels take. An index beyond the color table is
-    // black.
+    // `stored` contains at least the bytes of the output's pixels. An index beyond the color table is black.
     void Decode(std::span<const std::uint8_t> stored, std::span<Color> output) const;
 
 private:
-    // The highest eight bits of a channel, at the most, lead to its part of the color.
+    // Maps the bits of a channel, at most the highest eight, to its part of the color.
     struct Channel {
         std::uint32_t mask = 0;
         int shift = 0;
@@ -33,7 +32,7 @@ private:
     void DecodeChannels(const std::uint8_t* stored, std::span<Color> output) const;
 
     unsigned bitCount;
-    // 32 bits whose lowest 24 are those of a color.
+    // Whether pixels have 32 bits, the lowest 24 of which are those of a color.
     bool isPlain;
     std::array<Color, 256> colors;
     std::array<Channel, 3> channels;

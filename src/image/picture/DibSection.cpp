@@ -52,14 +52,14 @@ ColorList GrayRamp(std::size_t count, std::size_t levels) {
     return ramp;
 }
 
-// The color counts of a header may claim more entries than an index can reach.
+// Limits the table to the indices of this depth, because a header may claim more entries.
 ColorList InitialColorTable(const DibHeader& header) {
     if (header.bitCount > 8) return {};
     const std::size_t levels = std::size_t{1} << header.bitCount;
     return GrayRamp(std::min<std::size_t>(header.ColorTableEntries(), levels), levels);
 }
 
-// Where the index of a column lies: the first column is in the highest bits of a byte.
+// The position of a column's index. The first column is in the highest bits of a byte.
 struct IndexPlace {
     IndexPlace(std::size_t x, unsigned bitCount)
         : byte(x * bitCount / 8), shift(8 - bitCount - static_cast<unsigned>(x * bitCount % 8)),
@@ -105,7 +105,7 @@ void DibSection::Create(int width, int height, int bitCount) {
     DibHeader header;
     header.width = width;
     header.height = height;
-    // A count that the field cannot hold must not wrap round to one that is allowed.
+    // The cast could turn an invalid count into a valid one.
     header.bitCount =
         DibHeader::IsBitCount(bitCount) ? static_cast<std::uint16_t>(bitCount) : std::uint16_t{0};
     Create(header, ChannelMasks{});

@@ -6,12 +6,12 @@ namespace keltavlo {
 
 class DibSection;
 
-// What DibSection::Draw paints on. PainterSurface implements it for windows.
+// The surface that DibSection::Draw paints on. PainterSurface implements it for windows.
 class DrawingSurface {
 public:
     virtual ~DrawingSurface() = default;
 
-    // Replaces the destination by the whole bitmap, stretched to it; alpha is ignored.
+    // Replaces the destination by the whole bitmap, stretched to it. Ignores alpha.
     virtual void StretchBits(const DibSection& bitmap, const QRect& destination) = 0;
 };
 

@@ -10,8 +10,8 @@ namespace {
 
 #if defined(__x86_64__)
 
-// In both widths: the processor's average of two bytes rounds up; averaging the averages is one too much
-// exactly when any of the three roundings happened, which the lowest bits of the differences tell.
+// For both widths: the processor's average of two bytes rounds up. The average of the averages is one too
+// large exactly if any of the three was rounded, which the lowest bits of the differences show.
 
 __m128i FloorOfMean(__m128i first, __m128i second, __m128i third, __m128i fourth) {
     const __m128i upper = _mm_avg_epu8(first, second);
@@ -30,7 +30,7 @@ __m128i FloorOfMean(__m128i first, __m128i second, __m128i third, __m128i fourth
     return _mm256_sub_epi8(_mm256_avg_epu8(upper, lower), _mm256_and_si256(differences, _mm256_set1_epi8(1)));
 }
 
-// The even and the odd columns of eight pixels.
+// The even and odd columns of eight pixels.
 struct Columns {
     explicit Columns(const Color* pixels) {
         const __m128 left = _mm_loadu_ps(reinterpret_cast<const float*>(pixels));
@@ -43,7 +43,7 @@ struct Columns {
     __m128i odd;
 };
 
-// The even and the odd columns of sixteen pixels, in the order 0 to 3, 8 to 11, 4 to 7, 12 to 15.
+// The even and odd columns of sixteen pixels, in the order 0 to 3, 8 to 11, 4 to 7, 12 to 15.
 struct WideColumns {
     [[gnu::target("avx2")]] explicit WideColumns(const Color* pixels) {
         const __m256 left = _mm256_loadu_ps(reinterpret_cast<const float*>(pixels));
@@ -56,8 +56,8 @@ struct WideColumns {
     __m256i odd;
 };
 
-// Both halve the output columns from the given one on as far as whole vectors reach, in all rows before they
-// return, and return the column they stopped at.
+// Both functions fill the output columns of all rows as far as whole vectors reach and return the column they
+// stopped at.
 
 std::size_t HalveByEights(const RowPairs& rows, std::size_t firstColumn) {
     const std::size_t end = rows.width / 8 * 4;
@@ -94,7 +94,7 @@ std::size_t HalveByEights(const RowPairs& rows, std::size_t firstColumn) {
 
 constexpr HalfSizeKernels narrowKernels{ProcessorFeature::none,
                                         [](const RowPairs& rows) { return HalveByEights(rows, 0); }};
-// Where the wide vectors leave columns over, the narrow ones go on.
+// The narrow vectors fill the columns that the wide ones leave.
 constexpr HalfSizeKernels wideKernels{
     ProcessorFeature::avx2, [](const RowPairs& rows) { return HalveByEights(rows, HalveBySixteens(rows)); }};
 
@@ -105,7 +105,7 @@ constexpr HalfSizeKernels singleKernels{ProcessorFeature::none,
 
 #endif
 
-// Pixel by pixel, from the given output column on.
+// Fills the rest pixel by pixel, starting with the given output column.
 void HalveSingly(const RowPairs& rows, std::size_t firstColumn) {
     const std::size_t blocks = rows.width / 2;
     const bool isOdd = rows.width % 2 != 0;

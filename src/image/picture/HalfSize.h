@@ -7,9 +7,9 @@
 
 namespace keltavlo {
 
-// Averages are the floor of the mean in each of the four channels. Blue and red, and green and alpha, are
-// summed two at a time: shifting green and alpha first leaves room at the top for the carry and keeps their
-// fractions below.
+// An average is the floor of the mean of each of the four channels. Two channels are summed at a time: blue
+// with red, and green with alpha. Green and alpha are shifted first, so that the carry fits at the top and
+// their fractions stay below the other bits.
 
 constexpr Color Average2(Color first, Color second) {
     constexpr Color low = redMask | blueMask;
@@ -27,12 +27,12 @@ constexpr Color Average4(Color first, Color second, Color third, Color fourth) {
     return (lowSum >> 2 & low) | (highSum & high);
 }
 
-// Rows to be averaged two by two into rows of (width + 1) / 2 pixels, all without padding.
+// Rows to average in pairs into rows of (width + 1) / 2 pixels, all without padding.
 struct RowPairs {
     const Color* pixels = nullptr;
     std::size_t width = 0;
     std::size_t count = 0;
-    // From each pair's upper row to its lower one: the width, or 0 to average a single row with itself.
+    // Distance from a pair's upper row to its lower one: the width, or 0 to average a single row with itself.
     std::size_t lowerDistance = 0;
     Color* output = nullptr;
 
@@ -41,17 +41,17 @@ struct RowPairs {
     Color* Output(std::size_t pair) const { return output + pair * ((width + 1) / 2); }
 };
 
-// One way of averaging.
+// One implementation of averaging.
 struct HalfSizeKernels {
     ProcessorFeature needs;
-    // Fills the output columns, from the first one on, as far as whole vectors reach, in all rows before it
-    // returns; returns the column it stopped at.
+    // Fills the output columns of all rows, from the first column on, as far as whole vectors reach. Returns
+    // the column it stopped at.
     std::size_t (*halve)(const RowPairs& rows);
 
     static std::vector<const HalfSizeKernels*> All();
 };
 
-// Fills the output with the averages of the 2 x 2 blocks; an odd last column is averaged alone.
+// Fills the output with the averages of the 2 x 2 blocks. An odd last column is averaged alone.
 void HalveRowPairs(const RowPairs& rows, const HalfSizeKernels& kernels = FastestKernels<HalfSizeKernels>());
 
 } // namespace keltavlo

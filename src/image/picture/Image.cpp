@@ -89,7 +89,7 @@ void Image::MakeHalfSize(Image& output) const {
     const std::size_t pairs = Side(height / 2);
     HalveRowPairs({pixels.data(), columns, pairs, columns, output.pixels.data()});
     if (height % 2 == 0) return;
-    // The last row is its own partner: the average of equal values is the value.
+    // The last row is averaged with itself, because the average of equal values is the value.
     HalveRowPairs({Row(height - 1).data(), columns, 1, 0, output.Row(output.height - 1).data()});
 }
 
@@ -132,7 +132,7 @@ void Image::RenderTo(DibSection& bitmap, const PixelTransform& transform) const 
 }
 
 void Image::CopyBytesTo(std::uint8_t* destination) const {
-    // An empty array may have no address, which memcpy must not be given.
+    // The address of an empty array may be null, which memcpy does not allow.
     if (!pixels.empty()) std::memcpy(destination, pixels.data(), pixels.size() * sizeof(Color));
 }
 

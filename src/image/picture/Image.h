@@ -14,17 +14,17 @@ class ColorList;
 class DibSection;
 class InputStream;
 
-// A picture in 32-bit color: width x height pixels, rows top first, no padding. Pixel access is unchecked:
-// the caller keeps 0 <= x < width and 0 <= y < height.
+// A picture in 32-bit color: width x height pixels, rows from the top, no padding. Pixel access is unchecked:
+// the caller ensures 0 <= x < width and 0 <= y < height.
 class Image {
 public:
-    // One pixel of 0.
+    // Makes one pixel of value 0.
     Image();
-    // All pixels 0 (transparent black). Throws PictureSizeError as SetSize does.
+    // Makes a picture with all pixels 0 (transparent black). Throws PictureSizeError like SetSize.
     Image(int initialWidth, int initialHeight);
     Image(const Image& other);
     Image& operator=(const Image& other);
-    // The other picture is 0 x 0 afterwards.
+    // Leaves the other picture 0 x 0.
     Image(Image&& other) noexcept;
     Image& operator=(Image&& other) noexcept;
     virtual ~Image();
@@ -35,11 +35,11 @@ public:
     Color GetPixel(int x, int y) const { return pixels[Offset(x, y)]; }
     void SetPixel(int x, int y, Color color) { pixels[Offset(x, y)] = color; }
 
-    // The picture as an endless tiling; it must have at least one pixel.
+    // The picture as an endless tiling. It must have at least one pixel.
     Color GetPixelWrapped(unsigned x, unsigned y) const { return pixels[WrappedOffset(x, y)]; }
     void SetPixelWrapped(unsigned x, unsigned y, Color color) { pixels[WrappedOffset(x, y)] = color; }
 
-    // Throws std::out_of_range when the list has no such entry, as the wrapped form does.
+    // Throws std::out_of_range if the list has no such entry, as does the wrapped form.
     void SetPixelFromPalette(int x, int y, const ColorList& list, std::size_t index);
     void SetPixelFromPaletteWrapped(unsigned x, unsigned y, const ColorList& list, std::size_t index);
 
@@ -48,33 +48,34 @@ public:
     std::span<Color> Pixels() { return pixels; }
     std::span<const Color> Pixels() const { return pixels; }
 
-    // New pixels are 0, the others are in no useful order: callers fill all of them. Sides of 0 are allowed.
-    // Throws PictureSizeError, with the picture unchanged, for negative sides and sizes beyond the limits.
+    // New pixels are 0; the others are in no useful order, so callers fill all of them. Sides of 0 are
+    // allowed. Throws PictureSizeError and leaves the picture unchanged for negative sides and sizes beyond
+    // the limits.
     void SetSize(int newWidth, int newHeight);
-    // The same with new pixels of any value, for callers that fill large pictures.
+    // Does the same but leaves new pixels undefined, for callers that fill large pictures.
     void SetSizeUncleared(int newWidth, int newHeight);
-    // Crops to the top-left corner or repeats the right and bottom edges outward. A picture that had no
-    // pixels becomes all 0. Throws as SetSize does.
+    // Crops to the top left corner or repeats the right and bottom edges outward. A picture without pixels
+    // becomes all 0. Throws like SetSize.
     void Resize(int newWidth, int newHeight) { Image::operator=(ResizedPicture(newWidth, newHeight)); }
-    // The picture that Resize would make of this one.
+    // Returns the picture that Resize would make of this one.
     Image ResizedPicture(int newWidth, int newHeight) const;
-    // Fills the output, another picture, with the averages of the 2 x 2 blocks; odd last rows and columns
-    // are averaged along the edge.
+    // Fills the output, another picture, with the averages of the 2 x 2 blocks. Odd last rows and columns are
+    // averaged along the edge.
     void MakeHalfSize(Image& output) const;
 
-    // Replaces every pixel by the nearest color of the list. Throws std::out_of_range when the list is
-    // empty and the picture is not.
+    // Replaces every pixel by the nearest color of the list. Throws std::out_of_range if the list is empty
+    // and the picture is not.
     void ConvertToNearest(const ColorList& list);
-    // The same with the error of red, green and blue carried to the next pixel of the row.
+    // Does the same but adds the error of red, green and blue to the next pixel of the row.
     void ConvertByErrorDiffusion(const ColorList& list);
 
-    // Takes size and pixels of the bitmap; every pixel becomes opaque.
+    // Copies the size and pixels of the bitmap and makes every pixel opaque.
     void FromBitmap(const DibSection& bitmap);
-    // The same from a bitmap in a stream, as DibSection::ReadStream reads it, without making the bitmap.
-    // Fails as ReadDibDescription does; throws PictureSizeError for a picture beyond the limits.
+    // Does the same for a bitmap in a stream, as DibSection::ReadStream reads it, but without making the
+    // bitmap. Fails like ReadDibDescription. Throws PictureSizeError for a picture beyond the limits.
     void FromStoredBitmap(InputStream& in, bool withFileHeader);
-    // Writes every pixel through the transform into the bitmap, which is recreated first where its size
-    // differs. Throws BitmapError when that fails, as it does for a picture without pixels.
+    // Writes every pixel through the transform into the bitmap, which is recreated first if its size differs.
+    // Throws BitmapError if that fails, as for a picture without pixels.
     void RenderTo(DibSection& bitmap, const PixelTransform& transform) const;
 
     // Writes the width x height x 4 bytes of the pixels: blue, green, red, alpha.

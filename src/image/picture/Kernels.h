@@ -4,9 +4,9 @@
 
 namespace keltavlo {
 
-// Inner loops come in several forms, one for each kind of vectors that processors may have; all forms of a
-// loop give the same results. A form is an object of a struct of functions: `needs` says what the processor
-// must have for it, and the struct's All() lists the forms of this build, slowest first.
+// An inner loop has several implementations, called kernels: one for each kind of vectors that a processor
+// may have, all with the same results. Each is a struct of functions: `needs` names what the processor must
+// support, and All() lists the kernels of this build, slowest first.
 
 enum class ProcessorFeature { none, avx2, avx512Vbmi };
 
@@ -24,7 +24,7 @@ inline bool ProcessorHas(ProcessorFeature feature) {
     return feature == ProcessorFeature::none;
 }
 
-// The forms that run on this processor, slowest first.
+// Returns the kernels that run on this processor, slowest first.
 template <class Kernels>
 std::vector<const Kernels*> AvailableKernels() {
     std::vector<const Kernels*> available = Kernels::All();

@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t laneCount = NearestCandidates::laneCount;
 
-// Calls back with every candidate that is left.
+// Calls `use` for every remaining candidate.
 template <typename Use>
 void ForEachLeft(const std::vector<NearestCandidates>& candidates, Use&& use) {
     for (const NearestCandidates& group : candidates) {
@@ -22,7 +22,7 @@ void ForEachLeft(const std::vector<NearestCandidates>& candidates, Use&& use) {
     }
 }
 
-// Copies the candidates that are left; returns their number.
+// Copies the remaining candidates and returns their number.
 std::size_t CopyLeft(const std::vector<NearestCandidates>& candidates,
                      std::vector<NearestCandidates>& survivors) {
     std::size_t count = 0;
@@ -46,7 +46,7 @@ int Channel(Color color, int shift) {
     return static_cast<int>(color >> shift & 0xFF);
 }
 
-// Puts the candidates of a cell into one block after another.
+// Writes the candidates of a cell into one block after another.
 class BlockWriter {
 public:
     BlockWriter(NearestBlock& firstBlock, std::vector<NearestBlock>& furtherBlocks)
@@ -83,17 +83,17 @@ private:
     std::uint16_t blockCount = 1;
 };
 
-// The scores of two candidates of a cell differ by less than twice this: at the middle none is nearer than
-// the one that was chosen, and on the way from there to a corner, eight steps in each of three channels,
-// the difference of two squared distances changes by at most that.
+// Half a bound for the difference between the scores of two candidates of a cell. At the middle, none is
+// nearer than the chosen one. A corner is eight steps away in each of three channels, over which the
+// difference of two squared distances changes by at most this.
 constexpr std::int32_t scoreReach = 2 * 8 * 3 * 255;
 
-// The score of a candidate for a cell's origin, less a number that all of the cell's candidates share.
+// Returns a candidate's score for a cell's origin, less a number that all of the cell's candidates share.
 std::int32_t ScoreAtOrigin(Color color, Color origin, std::int32_t alphaDistance) {
     return static_cast<std::int32_t>(ColorDistance(color & ~alphaMask, origin)) + alphaDistance;
 }
 
-// Its lowest score for any color of the cell.
+// Returns the lowest score of a candidate for any color of the cell.
 std::int32_t LowestScore(Color color, Color origin, std::int32_t alphaDistance) {
     std::int32_t score = ScoreAtOrigin(color, origin, alphaDistance);
     for (const int shift : channelShifts) {
@@ -110,7 +110,7 @@ NearestBlock NearestBlock::Empty() {
     return block;
 }
 
-// A part of the color cube; the half of its side is a power of two.
+// A part of the color cube. Half of its side is a power of two.
 struct NearestGrid::Box {
     Color origin;
     int half;

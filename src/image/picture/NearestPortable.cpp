@@ -34,8 +34,8 @@ std::size_t Measure(std::span<NearestCandidates> candidates, Color middle) {
     return nearestPlace;
 }
 
-// How much, at most, an entry's distance less another one's falls on the way from the middle of the box to
-// its sides, for the difference of the two in one channel.
+// Returns by how much, at most, one entry's distance less another's falls between the middle of the box and
+// its sides. `difference` is that of the two entries in one channel.
 int LargestGain(int difference, int half) {
     return std::max(2 * (half - 1) * difference, -2 * half * difference);
 }
@@ -50,7 +50,7 @@ void TakeOutBeaten(std::span<NearestCandidates> candidates, std::size_t place, i
                 reach +=
                     LargestGain(ChannelDifference(group.colors[lane], winners.colors[winner], shift), half);
             }
-            // Where both are equally near, the earlier one wins.
+            // If both are equally near, the earlier one wins.
             const bool isLater = group.indices[lane] > winners.indices[winner];
             if (group.distances[lane] > reach || (group.distances[lane] == reach && isLater))
                 group.left &= ~(1U << lane);
@@ -98,7 +98,7 @@ void Replace(NearestTables& tables, std::span<Color> pixels) {
     for (Color& pixel : pixels) pixel = tables.list.Colors()[FindIndex(tables, pixel)];
 }
 
-// One channel along a row: what is wanted of the pixel, unclamped, and what the last one left over.
+// One channel along a row: the wanted value of the pixel, unclamped, and the error of the last pixel.
 struct ChannelError {
     int wanted = 0;
     int error = 0;
@@ -108,7 +108,7 @@ struct ChannelError {
         return static_cast<std::uint32_t>(std::clamp(wanted, 0, 255));
     }
 
-    // Overshoots past 0 and 255 are carried on too.
+    // Carries on what exceeds the range from 0 to 255 as well.
     void Take(std::uint32_t channel) { error = wanted - static_cast<int>(channel); }
 };
 

@@ -11,7 +11,8 @@ namespace keltavlo {
 
 namespace {
 
-// The median of a sample: if most pixels have the same alpha, it is almost certainly that one.
+// Returns the median of a sample. If most pixels have the same alpha, the median is almost certainly
+// that one.
 std::uint32_t UsualAlpha(std::span<const Color> pixels) {
     constexpr std::size_t sampleSize = 64;
     const std::size_t step = pixels.size() / sampleSize + 1;

@@ -13,9 +13,9 @@ class ColorList;
 struct NearestKernels;
 struct NearestTables;
 
-// Finds for many colors what ColorList::FindNearest finds for one, the first of the nearest entries, many
-// times faster. The list must stay as it is for as long as the search is used. Operations throw
-// std::out_of_range when they have something to find and the list is empty.
+// Finds the same entries as ColorList::FindNearest, the first of the nearest ones, but for many colors and
+// many times faster. The list must not change while the search is used. Functions throw std::out_of_range if
+// the list is empty and there is something to find.
 class NearestSearch {
 public:
     explicit NearestSearch(const ColorList& searchedList);
@@ -23,12 +23,12 @@ public:
     ~NearestSearch();
 
     std::size_t FindIndex(Color color);
-    // One index for each pixel. Throws std::length_error for a list of more than 256 entries.
+    // Writes one index per pixel. Throws std::length_error for a list of more than 256 entries.
     void FindIndices(std::span<const Color> pixels, std::span<std::uint8_t> indices);
-    // Puts the nearest entries in the pixels' place.
+    // Replaces the pixels by the nearest entries.
     void Replace(std::span<Color> pixels);
-    // The same for rows of that many pixels. What red, green and blue, unclamped, differ from the entry is
-    // added to the next pixel of the row.
+    // Does the same for rows of `width` pixels. The unclamped difference of red, green and blue from the
+    // entry is added to the next pixel of the row.
     void Diffuse(std::span<Color> pixels, std::size_t width);
 
 private:
@@ -36,7 +36,7 @@ private:
 
     const ColorList& list;
     const NearestKernels& kernels;
-    // Made by the first search.
+    // Created by the first search.
     std::unique_ptr<NearestTables> tables;
 };
 

@@ -7,7 +7,8 @@ namespace keltavlo {
 
 namespace {
 
-// Where the grid is too small for the list's indices, it serves no color: no masked color is this one.
+// If the list has too many entries for the grid, the grid serves no color, because no masked color
+// has this value.
 constexpr Color noAlpha = 1;
 
 bool HasOneAlpha(std::span<const Color> colors) {

@@ -28,10 +28,10 @@ template <typename Lanes>
     return _mm_cvtsi128_si32(least);
 }
 
-// Eight colors less another one, 16 bits for each channel.
+// The differences of eight colors from another one, 16 bits per channel.
 struct Differences {
     __m256i blueRed;
-    // And zeros.
+    // Alternates with zeros.
     __m256i green;
 
     [[gnu::target("avx2")]] Differences(const NearestCandidates& candidates, Color color) {
@@ -86,14 +86,14 @@ private:
         const Differences from(group, color);
         const __m256i gains = _mm256_add_epi16(largestGain(from.blueRed), largestGain(from.green));
         const __m256i reach = _mm256_add_epi32(distance, _mm256_madd_epi16(gains, _mm256_set1_epi16(1)));
-        // -1 where a tie goes to the other one.
+        // -1 if a tie goes to the other entry.
         const __m256i isLater = _mm256_cmpgt_epi32(Load(group.indices), index);
         const __m256i isBeaten = _mm256_cmpgt_epi32(Load(group.distances), _mm256_add_epi32(reach, isLater));
         group.left &= ~static_cast<std::uint32_t>(_mm256_movemask_ps(_mm256_castsi256_ps(isBeaten)));
     }
 }
 
-// The doubled offsets of a color, eight times.
+// A color's doubled offsets, eight times.
 struct Offsets {
     __m128i blueGreen;
     __m128i red;
@@ -105,7 +105,7 @@ struct Offsets {
     }
 };
 
-// The lowest score of a block in the low 16 bits, above it the first lane that has it.
+// Returns the lowest score of a block in the low 16 bits and the first lane with that score above them.
 [[gnu::target("avx2")]] inline std::uint32_t BestLane(const NearestBlock& block, const Offsets& offsets) {
     const auto load = [](const auto& lanes) __attribute__((target("avx2"))) {
         return _mm_load_si128(reinterpret_cast<const __m128i*>(lanes.data()));
@@ -132,7 +132,7 @@ struct Offsets {
     return bestBlock->indices[best >> 16];
 }
 
-// The lowest sum of a color's products with the groups and their bases.
+// Returns the lowest sum of a base and the products of a color with its group.
 [[gnu::target("avx2")]] inline std::int32_t ScanRun(std::span<const NearestScanGroup> groups,
                                                     __m256i blueGreen, __m256i redAlpha) {
     __m256i least = _mm256_set1_epi32(std::numeric_limits<std::int32_t>::max());
@@ -162,7 +162,7 @@ struct Offsets {
         const auto run = groups.first(std::min(groupsInRun, groups.size()));
         groups = groups.subspan(run.size());
         const std::int32_t runBest = ScanRun(run, blueGreen, redAlpha);
-        // The numbers in the low bits start again with every run: they do not count between runs.
+        // Ignores the numbers in the low bits, because they start again with every run.
         if ((runBest | numberMask) >= (best | numberMask)) continue;
         best = runBest;
         index = first + static_cast<std::size_t>(runBest & numberMask);
@@ -189,7 +189,8 @@ struct Offsets {
     for (Color& pixel : pixels) pixel = colors[FindIndex(tables, pixel)];
 }
 
-// So many rows are diffused side by side: a pixel waits for the one before it, but not for other rows.
+// The number of rows that are diffused side by side: a pixel depends on the one before it but not on
+// other rows.
 constexpr std::size_t rowsAtOnce = 6;
 
 [[gnu::target("avx2")]] inline __m128i Channels(Color color) {
@@ -206,7 +207,7 @@ template <std::size_t rowCount>
         for (std::size_t row = 0; row < rowCount; ++row) {
             Color& pixel = pixels[row * width];
             const __m128i wanted = _mm_add_epi32(Channels(pixel), errors[row]);
-            // Packing clamps, first to 16 and then to 8 bits.
+            // Packing clamps the values, first to 16 and then to 8 bits.
             const __m128i words = _mm_packs_epi32(wanted, wanted);
             const int sought = _mm_cvtsi128_si32(_mm_packus_epi16(words, words));
             pixel = colors[FindIndex(tables, static_cast<Color>(sought))];

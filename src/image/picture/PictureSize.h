@@ -10,7 +10,7 @@ namespace keltavlo {
 inline constexpr int maximumPictureSide = 65535;
 inline constexpr std::uint64_t maximumPictureBytes = std::uint64_t{1} << 30;
 
-// A picture was asked for with a negative side or one beyond the limits.
+// Thrown for a picture with a negative side or a side beyond the limits.
 class PictureSizeError : public CException {
 public:
     using CException::CException;

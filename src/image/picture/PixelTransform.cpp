@@ -15,7 +15,7 @@ const std::uint32_t* TableOf(const PixelTransform& transform) {
         transform);
 }
 
-// One row through one transform, by way of whole-row steps.
+// Applies a transform to one row, by steps that process the whole row.
 struct RowTransformer {
     const std::optional<ChannelTable>& table;
     std::span<const Color> input;

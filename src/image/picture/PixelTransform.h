@@ -9,7 +9,7 @@
 
 namespace keltavlo {
 
-// The pixel over the background, weighted by its alpha in steps of 1/256. A visible, not opaque pixel over a
+// Returns the pixel over the background, weighted by its alpha in steps of 1/256. A translucent pixel over a
 // background that is not opaque gives 0.
 constexpr Color Composite(Color pixel, Color background) {
     const std::uint32_t weight = Alpha(pixel);
@@ -25,7 +25,7 @@ constexpr Color Composite(Color pixel, Color background) {
     return (redAndBlue | green) >> 8 | alphaMask;
 }
 
-// The transforms that a picture is drawn through. Tables have 256 entries and stay the caller's.
+// The transforms that a picture is drawn through. Tables have 256 entries and belong to the caller.
 
 struct IdentityTransform {
     constexpr Color operator()(Color pixel) const { return pixel; }
@@ -60,8 +60,8 @@ struct TableThenBackgroundTransform {
 using PixelTransform = std::variant<IdentityTransform, OverBackgroundTransform, ChannelTableTransform,
                                     BackgroundThenTableTransform, TableThenBackgroundTransform>;
 
-// Applies one transform to any number of rows; the choice between the transforms is made once a row, and a
-// table is arranged once. The table is copied.
+// Applies one transform to any number of rows. It selects the transform once per row, and copies and arranges
+// a table only once.
 class PixelTransformer {
 public:
     explicit PixelTransformer(const PixelTransform& pixelTransform);

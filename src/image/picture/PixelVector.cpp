@@ -13,7 +13,7 @@ constexpr std::size_t largeMemory = 4 << 20; // two of the processor's large pag
 
 void PreferLargePages(void* memory, std::size_t bytes) noexcept {
     if (bytes < largeMemory || !std::align(pageSize, pageSize, memory, bytes)) return;
-    // No more than advice: a system that does not know it goes on as ever.
+    // This is only advice; a system that does not support it works as before.
     static_cast<void>(madvise(memory, bytes, MADV_HUGEPAGE));
 }
 

@@ -9,13 +9,12 @@
 
 namespace keltavlo {
 
-// Asks the system to hand out the memory in large pages, if it is large itself. Pages of the ordinary size
-// are handed out and cleared one by one when they are first touched, which takes longer than decoding a
-// picture.
+// Asks the system for large pages if the memory is large. Ordinary pages are provided and cleared one by one
+// when they are first touched, which takes longer than decoding a picture.
 void PreferLargePages(void* memory, std::size_t bytes) noexcept;
 
-// Memory for large pictures comes in large pages, and new elements without a value are not cleared, because
-// whole pictures are filled at once.
+// Allocates large pictures in large pages and does not clear new elements without a value, because whole
+// pictures are filled at once.
 template <class T>
 struct PixelAllocator : std::allocator<T> {
     template <class U>

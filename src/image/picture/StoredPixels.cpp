@@ -7,7 +7,7 @@ namespace keltavlo {
 
 namespace {
 
-// Loads of a word and stores of eight colors leave the processor more room for the lookups.
+// Loading a word and storing eight colors at a time leaves the processor more capacity for the lookups.
 constexpr std::size_t indexGroup = 8;
 
 void ExpandIndexGroup(const std::uint8_t* indices, const Color* colors, Color* output) {
@@ -18,7 +18,7 @@ void ExpandIndexGroup(const std::uint8_t* indices, const Color* colors, Color* o
     std::memcpy(output, group.data(), sizeof group);
 }
 
-// Four pixels make three words, which are faster to take apart than twelve bytes.
+// Four pixels are three words, which are faster to split than twelve bytes.
 constexpr std::size_t groupPixels = 4;
 using Group = std::array<std::uint32_t, 3>;
 

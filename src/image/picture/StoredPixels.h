@@ -7,16 +7,16 @@
 
 namespace keltavlo {
 
-// Rows of pixels as files store them, made into colors and back.
+// Converts rows of stored pixels to colors and back.
 
-// Looks up as many colors as the output takes. Unchecked: the list has every index.
+// Looks up one color per output pixel. Unchecked: the list must contain every index.
 void ExpandIndices(std::span<const std::uint8_t> indices, std::span<const Color> colors,
                    std::span<Color> output);
 
-// Pixels of three bytes: blue, green, red.
+// A pixel of three bytes: blue, green, red.
 inline constexpr std::size_t bgrPixelSize = 3;
 
-// Makes opaque colors of stored pixels; the bytes are as many as the output takes.
+// Converts stored pixels to opaque colors until the output is full.
 void ExpandBgr(std::span<const std::uint8_t> stored, std::span<Color> output);
 
 // Stores the colors without their alpha.

@@ -7,14 +7,14 @@
 
 namespace keltavlo {
 
-// Reads the rows of a stored picture, all of the same length, and asks the stream for many at a time.
+// Reads the rows of a stored picture, all of the same length, many at a time.
 class StoredRows {
 public:
-    // The caller has made sure that the stream has all of them.
+    // The caller has checked that the stream contains all rows.
     StoredRows(InputStream& stream, std::size_t bytesPerRow, std::size_t rows)
         : in(stream), rowBytes(bytesPerRow), rowsLeft(rows) {}
 
-    // The next row; its bytes stay until the one after it is asked for.
+    // Returns the next row. Its bytes are valid until the next call.
     std::span<const std::uint8_t> Next() {
         if (used == block.size()) Fill();
         const std::size_t first = used;

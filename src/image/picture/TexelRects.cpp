@@ -11,7 +11,7 @@ struct Interval {
     int length;
 };
 
-// Where `count` texels from `first` on show along one axis of the view, again in each tile.
+// Returns where `count` texels, starting with `first`, appear along one axis of the view: once per tile.
 std::vector<Interval> FindIntervals(int first, int count, int side, int scroll, int zoom, int viewLength) {
     const int period = side * zoom;
     const int offset = (first - scroll) % side;

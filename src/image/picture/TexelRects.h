@@ -6,7 +6,7 @@
 
 namespace keltavlo {
 
-// Texels of one row of a picture, from the first on; they do not reach over its right edge.
+// Texels of one row of a picture, starting with `first`. They do not wrap at the right edge.
 struct TexelRun {
     int row = 0;
     int first = 0;
@@ -26,11 +26,11 @@ struct ScreenRect {
     int height = 0;
 };
 
-// More rectangles than these cost more to paint than a whole view.
+// Painting more rectangles than this costs more than painting a whole view.
 inline constexpr std::size_t mostTexelRects = 64;
 
-// Where the texels show in a view of a picture: a rectangle for each tile that shows them, or the whole view
-// where these would be more than `largestCount`.
+// Returns where the texels appear in a view of a picture: a rectangle for each tile, or the whole view if
+// there would be more than `largestCount`.
 std::vector<ScreenRect> FindTexelRects(const TexelRun& run, PixelSize picture, const TileViewport& viewport,
                                        PixelSize view, std::size_t largestCount = mostTexelRects);
 

@@ -17,7 +17,7 @@ namespace {
 #ifdef __SSE2__
 
 constexpr std::size_t vectorPixels = 4;
-constexpr std::size_t lineVectors = 4; // a cache line is written as a whole
+constexpr std::size_t lineVectors = 4; // vectors in a cache line, which is written as a whole
 
 std::size_t PixelsToAlignment(const Color* target) {
     const auto misaligned =
@@ -25,8 +25,8 @@ std::size_t PixelsToAlignment(const Color* target) {
     return misaligned == 0 ? 0 : vectorPixels * lineVectors - misaligned;
 }
 
-// Copies pixels to memory that will not be read soon, past the processor's caches: the target need not be
-// fetched before it is overwritten, which halves what goes over the memory bus.
+// Copies pixels past the processor's caches to memory that will not be read soon. The target is not fetched
+// before it is overwritten, which halves the traffic on the memory bus.
 void StreamPixels(const Color* source, Color* target, std::size_t count) {
     const std::size_t head = std::min(PixelsToAlignment(target), count);
     std::copy_n(source, head, target);
@@ -52,9 +52,9 @@ int Wrapped(std::int64_t position, int size) {
     return rest < 0 ? rest + size : rest;
 }
 
-// Room for pixels whose addresses keep away, modulo the page size, from those of the memory that they are
-// copied from or to. Processors take a load for one of the bytes just stored when the lower 12 bits of their
-// addresses agree, and wait.
+// Memory for pixels whose addresses differ, modulo the page size, from those of the memory they are copied
+// from or to. If the lower 12 bits of two addresses agree, a processor mistakes a load for one of bytes just
+// stored, and waits.
 class Scratch {
 public:
     Scratch(std::size_t count, const Color* other) : memory(count + pagePixels), room(count) {
@@ -66,7 +66,7 @@ public:
 
 private:
     static constexpr std::size_t pagePixels = 4096 / sizeof(Color);
-    // Rows of a surface often lie a multiple of a quarter page apart: this is far from every quarter.
+    // Rows of a surface are often a multiple of a quarter page apart. This is far from every quarter.
     static constexpr std::size_t awayPixels = pagePixels * 5 / 8;
 
     static std::size_t Index(const Color* pixel) {
@@ -101,7 +101,7 @@ void Magnify(std::span<const Color> texels, int zoom, Color* output) {
     }
 }
 
-// Where a row of the target begins in the tiling, and how much of it there is.
+// Where a row of the target begins in the tiling, and how long it is.
 struct RowLayout {
     RowLayout(const Image& picture, const TileViewport& viewport, const TileTarget& target)
         : zoom(viewport.zoom), skip(static_cast<std::size_t>(target.left % zoom)),
@@ -116,19 +116,19 @@ struct RowLayout {
         patternLength = (wanted + once - 1) / once * once;
     }
 
-    // Pictures that are narrower on the screen are repeated in the pattern, so that it is written in long
-    // runs.
+    // A narrow picture is repeated in the pattern, so that rows are written in long runs.
     static constexpr std::size_t shortestPattern = 1024;
 
     int zoom;
-    std::size_t skip; // screen pixels of the first texel that lie left of the target
+    std::size_t skip; // screen pixels of the first texel left of the target
     std::size_t width;
     std::size_t firstColumn;   // of the picture
-    std::size_t texelCount;    // that show, the picture's width at most
-    std::size_t patternLength; // of those texels magnified, a whole number of times
+    std::size_t texelCount;    // texels that are visible; at most the picture's width
+    std::size_t patternLength; // a multiple of these texels, magnified
 };
 
-// Rows of the target, made from rows of texels: each texel `zoom` times, and the whole again and again.
+// Makes rows of the target from rows of texels: repeats each texel `zoom` times, and the result until the row
+// is full.
 class RowExpander {
 public:
     RowExpander(const Image& tiledPicture, const std::uint32_t* table256, const TileViewport& viewport,
@@ -137,7 +137,7 @@ public:
           texelRoom(layout.texelCount, picture.Pixels().data()),
           patternRoom(layout.patternLength, target.pixels) {}
 
-    // Makes the pattern of the row of texels; PutRow then writes it.
+    // Makes the pattern for a row of texels. PutRow then writes it.
     void Expand(int y) {
         const std::span<Color> pattern = patternRoom.Get();
         const std::span<Color> texels = layout.zoom == 1 ? pattern.first(layout.texelCount) : texelRoom.Get();
@@ -162,7 +162,7 @@ public:
     }
 
 private:
-    // The texels from the first one that shows, going round at the edge, through the table.
+    // Maps the visible texels through the table, starting with the first one and wrapping at the edge.
     void FetchTexels(std::span<const Color> source, std::span<Color> texels) const {
         const std::size_t untilEdge = std::min(texels.size(), source.size() - layout.firstColumn);
         table.Apply(source.subspan(layout.firstColumn, untilEdge), texels.first(untilEdge));
@@ -178,7 +178,7 @@ private:
 
 } // namespace
 
-// Each row of texels is expanded once and written to all rows that show it, so what costs is to write the
+// Expands each row of texels once and writes it to all rows that show it, so the main cost is writing the
 // target once.
 void PaintTiles(const Image& picture, const std::uint32_t* table256, const TileViewport& viewport,
                 const TileTarget& target) {

@@ -14,9 +14,9 @@ namespace keltavlo {
 namespace {
 
 constexpr int side = 24;
-constexpr QPointF tip(2.5, 21.5); // the middle of its pixel
+constexpr QPointF tip(2.5, 21.5); // center of the pixel
 
-// A tool in the frame of its axis: the tip is the origin, the x axis runs up the handle.
+// A tool in coordinates along its axis: the tip is the origin, and the x axis points up the handle.
 struct ToolShape {
     QPainterPath body; // white
     QPainterPath dark; // parts of it that are black
@@ -39,7 +39,7 @@ ToolShape PipetteShape() {
     return shape;
 }
 
-// A black outline in a white one shows on every picture.
+// Outlines the tool in black and white, so that it is visible on every picture.
 QPixmap DrawTool(const ToolShape& shape, double ratio) {
     const int pixels = static_cast<int>(std::ceil(side * ratio));
     QPixmap pixmap(pixels, pixels);
@@ -56,7 +56,7 @@ QPixmap DrawTool(const ToolShape& shape, double ratio) {
     return pixmap;
 }
 
-// The X window system takes a hot spot in pixels of the picture, others in units of the window.
+// The X window system expects a hot spot in pixels of the picture, other systems in units of the window.
 double HotSpotScale(double ratio) {
     return QGuiApplication::platformName() == QStringLiteral("xcb") ? ratio : 1;
 }

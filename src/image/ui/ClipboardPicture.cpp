@@ -22,7 +22,7 @@ namespace {
 const QString bitmapFormat = QStringLiteral("image/bmp");
 const QString pngFormat = QStringLiteral("image/png");
 const QString toolkitFormat = QStringLiteral("application/x-qt-image");
-// After an answer that took longer the owner is not asked for another form.
+// If the owner takes longer to answer, it is not asked for another format.
 constexpr qint64 patience = 1000; // milliseconds
 
 QByteArray ToBitmap(const Texture& picture) {
@@ -45,7 +45,7 @@ QByteArray ToPng(const Image& picture) {
     return buffer.data();
 }
 
-// Data made on demand: whoever pastes mostly asks for one form only.
+// Converts the picture on demand, because most programs paste only one format.
 class PictureData : public QMimeData {
 public:
     explicit PictureData(const Image& copied) { static_cast<Image&>(picture) = copied; }
@@ -88,7 +88,7 @@ std::optional<Image> FromImage(const QImage& stored) {
     return picture;
 }
 
-// Within the limits of pictures the toolkit takes the memory that a file claims.
+// Limits the memory that Qt allocates for a size that a file claims.
 std::optional<Image> FromFile(QByteArray bytes) {
     QImageReader::setAllocationLimit(static_cast<int>(maximumPictureBytes >> 20)); // mebibytes
     QBuffer buffer(&bytes);
@@ -105,7 +105,8 @@ bool IsPictureFormat(const QString& format) {
     return format == toolkitFormat || supported.contains(format.toLatin1());
 }
 
-// Those that keep every color first; the toolkit's own last, which it makes by asking for one after another.
+// Lossless formats come first. Qt's own format is used only if it is the only one, because Qt makes it by
+// requesting the others one after another.
 QStringList PictureFormats(const QStringList& offered) {
     QStringList formats;
     for (const QString& format : {bitmapFormat, pngFormat})
@@ -133,7 +134,7 @@ std::optional<Image> ReadClipboardPicture(const CClipboard& clipboard) {
         try {
             if (std::optional<Image> picture = Decode(format, clipboard.GetData(format))) return picture;
         } catch (const std::exception&) {
-            // Damaged data, or more of it than there is memory: another form may do.
+            // The data is damaged or does not fit into memory; another format may work.
         }
         if (clock.hasExpired(patience)) break;
     }

@@ -12,15 +12,16 @@ namespace keltavlo {
 class CClipboard;
 class Image;
 
-// Pictures on the clipboard: as a bitmap of 32 bits with alpha, as PNG and as the toolkit's own.
+// Pictures on the clipboard: as a bitmap of 32 bits with alpha, as PNG and in Qt's own format.
 
-// The picture as it is now, put into each form when somebody asks for it. Null for a picture without pixels.
+// Returns a copy of the picture, which is converted to a format when a program asks for it. Returns null for
+// a picture without pixels.
 std::unique_ptr<QMimeData> MakeClipboardPicture(const Image& picture);
 
-// Whether one of these forms is a picture's.
+// Returns whether one of these formats is a picture format.
 bool OffersPicture(const QStringList& formats);
-// The picture that the clipboard offers, all opaque; none where there is none that can be read. Waits no
-// longer than six seconds for the clipboard's owner.
+// Returns the clipboard's picture, made opaque, or null if there is none that can be read. Waits at most six
+// seconds for the clipboard's owner.
 std::optional<Image> ReadClipboardPicture(const CClipboard& clipboard);
 
 } // namespace keltavlo

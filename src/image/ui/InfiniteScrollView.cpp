@@ -25,7 +25,7 @@ constexpr ScrollKey scrollKeys[] = {
     {Qt::Key_End, Qt::Vertical, QAbstractSlider::SliderToMaximum},
 };
 
-// Where a use of the bar leads.
+// Returns the position after an action of the scroll bar.
 int PositionAfter(int action, int position, int range, const QScrollBar& bar) {
     switch (action) {
     case QAbstractSlider::SliderSingleStepSub:
@@ -73,7 +73,7 @@ void InfiniteScrollView::OnCreate() {
     FollowBar(vertical);
 }
 
-// The bar tells of every use, also of those that cannot move it further: these step round.
+// The bar reports every action, even one that cannot move it further; such an action wraps around.
 void InfiniteScrollView::FollowBar(Axis& axis) {
     QScrollBar& bar = GetScrollBar(axis.orientation);
     bar.setRange(0, axis.range - 1);
@@ -108,7 +108,7 @@ void InfiniteScrollView::SetRange(Axis& axis, int count) {
     if (count != bar.maximum() - bar.minimum() + 1) {
         bar.setRange(0, count - 1);
         bar.setPageStep(count / 2);
-        bar.setValue(axis.position); // a smaller range may have moved it
+        bar.setValue(axis.position); // a smaller range may have changed it
         update();
     }
     axis.range = count;

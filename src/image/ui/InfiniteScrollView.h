@@ -4,15 +4,15 @@
 
 namespace keltavlo {
 
-// A view over a plane that repeats without end: scrolling past one end of a bar comes round to the other.
+// A view of a plane that repeats without end: scrolling past one end of a bar leads to the other.
 class InfiniteScrollView : public Dynamic<"InfiniteScrollView", InfiniteScrollView, CView> {
 public:
-    // Positions are wrapped into the range; the bars and the picture follow.
+    // Wraps the position into the range and updates the bars and the picture.
     void SetScrollX(int position);
     void SetScrollY(int position);
     int GetScrollX() const { return horizontal.position; }
     int GetScrollY() const { return vertical.position; }
-    // The number of positions of one turn. The position is not wrapped again by it: it may lie beyond the
+    // Sets the number of positions before the plane repeats. Does not wrap the position, which may exceed the
     // range until the next scrolling.
     void SetRangeX(int count);
     void SetRangeY(int count);

@@ -9,7 +9,7 @@ namespace keltavlo {
 
 namespace {
 
-// The bitmap's own memory where the toolkit knows its layout.
+// Uses the bitmap's memory without a copy, because Qt knows this layout.
 QImage Share(const DibSection& bitmap) {
     return {bitmap.GetBits(), bitmap.GetWidth(), bitmap.GetHeight(),
             static_cast<qsizetype>(bitmap.GetStride()), QImage::Format_RGB32};

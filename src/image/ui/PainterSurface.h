@@ -6,7 +6,7 @@
 
 namespace keltavlo {
 
-// A widget's or an image's area, for as long as it is painted.
+// Paints on a widget or an image while it exists.
 class PainterSurface final : public DrawingSurface {
 public:
     explicit PainterSurface(QPaintDevice& device) : painter(&device) {}

@@ -16,12 +16,12 @@ namespace keltavlo {
 
 namespace {
 
-// Shows a bitmap in its top left corner, a pixel of the bitmap for one of the widget.
+// Shows a bitmap in its top left corner, one widget pixel per bitmap pixel.
 class BitmapView final : public QWidget {
 public:
     BitmapView(const DibSection& shown, QWidget* parent) : QWidget(parent), bitmap(shown) {
         setFixedSize(bitmap.GetWidth(), bitmap.GetHeight());
-        setAttribute(Qt::WA_TransparentForMouseEvents); // clicks are the bar's
+        setAttribute(Qt::WA_TransparentForMouseEvents); // the bar handles clicks
     }
 
 protected:
@@ -34,7 +34,7 @@ private:
     const DibSection& bitmap;
 };
 
-// Half a point of the bar is a pixel of the screen at twice the scale; it belongs to the point before it.
+// On a display with scale 2, positions may be halves, which belong to the point before them.
 QPoint PointOf(const QMouseEvent& mouse) {
     return {qFloor(mouse.position().x()), qFloor(mouse.position().y())};
 }
@@ -100,7 +100,7 @@ void PaletteBar::FillChooser() {
     chooser->FillChooser();
 }
 
-// A list whose document has closed since the chooser was filled is left alone.
+// Ignores a list whose document has closed since the chooser was filled.
 void PaletteBar::ChooserSelected() {
     constexpr std::uintptr_t firstAddress = 256;
     const std::uintptr_t value = chooser->GetSelectedValue();
@@ -150,7 +150,7 @@ void PaletteBar::showEvent(QShowEvent* event) {
     CDialogBar::showEvent(event);
 }
 
-// The edges and the ground take their colors from the palette of the desktop.
+// The edges and the background use the colors of the desktop's palette.
 void PaletteBar::changeEvent(QEvent* event) {
     CDialogBar::changeEvent(event);
     if (event->type() == QEvent::PaletteChange && widget()) Renew();

@@ -10,16 +10,16 @@ namespace keltavlo {
 class CObject;
 class PaletteChooser;
 
-// The bar in which the current color is picked: from the entries of a color table, from the palette of an
-// open picture, or from planes of red, green, blue and alpha.
+// The bar that picks the current color: from the entries of a color table, from the palette of an open
+// picture, or from planes of red, green, blue and alpha.
 class PaletteBar final : public Dynamic<"PaletteBar", PaletteBar, CDialogBar> {
 public:
-    // The object names of the parts that show the plane and the strips, in the order of PalettePlanes::Part.
+    // The object names of the widgets for the plane and the strips, in the order of PalettePlanes::Part.
     static constexpr std::array<const char*, 3> partNames{"Palette A", "Palette B", "Palette C"};
 
     PaletteBar(unsigned barId, QWidget* parent);
 
-    // The current color changed, or anything else that the bar shows.
+    // Called when the current color or anything else in the bar changes.
     virtual void OnUpdate(const QWidget* sender, unsigned hint, CObject* hintObject);
     void SetMode(PalettePlanes::Mode mode);
     const PalettePlanes& GetPlanes() const { return planes; }
@@ -36,7 +36,7 @@ private:
     void ChooserSelected();
     void Pick(const QPoint& point);
     void ShowColorAt(const QPoint& point) const;
-    // The color under a point of the bar's contents, if there is one.
+    // Returns the color at a point of the bar's contents, or null.
     std::optional<Color> HitTest(const QPoint& point) const;
     PalettePlanes::Look GetLook() const;
 

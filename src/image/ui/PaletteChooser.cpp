@@ -17,7 +17,7 @@ struct Entry {
     const ColorList* colors;
 };
 
-// In the order of the document types, then of opening.
+// Lists in the order of the document types, then of opening.
 std::vector<Entry> CollectLists() {
     std::vector<Entry> entries;
     for (const CDocument* document : CWinApp::Get().GetDocuments())
@@ -42,12 +42,12 @@ PaletteChooser::PaletteChooser(QWidget* parent) : QComboBox(parent) {
     for (const std::string& text :
          {InParentheses(IDS_NONE), InParentheses(IDS_COLOR_TABLE), LoadString(IDS_RGBA)})
         addItem(ToQString(text), QVariant::fromValue<qulonglong>(static_cast<qulonglong>(count())));
-    // A long title must not widen the bar.
+    // Prevents a long title from widening the bar.
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(10);
 }
 
-// The chosen item stays chosen at its new place; when it is gone the bar keeps its colors.
+// Keeps the selected item at its new place. If it is gone, the bar keeps its colors.
 void PaletteChooser::FillChooser() {
     const QVariant chosen = currentData();
     const std::vector<Entry> entries = CollectLists();

@@ -9,18 +9,18 @@ namespace keltavlo {
 
 class ColorList;
 
-// The list of what the palette bar can show: three fixed modes, then every open color table and every open
-// picture's palette. The value of an item is a mode's number, or the address of a color list, which may
-// belong to a document that has closed since.
+// The list of what the palette bar can show: three fixed modes, then every open color table and the palette
+// of every open picture. The value of an item is the number of a mode or the address of a color list, whose
+// document may have closed since.
 class PaletteChooser final : public QComboBox {
 public:
     explicit PaletteChooser(QWidget* parent);
 
-    // Brings the items up to date with the open documents. Happens by itself before the list drops down.
+    // Updates the items from the open documents. Runs automatically before the list drops down.
     void FillChooser();
     // Values below 256 are modes.
     std::uintptr_t GetSelectedValue() const;
-    // The color list of that value, if a document that is open holds it still; else null.
+    // Returns the color list at that address if an open document still contains it, otherwise null.
     static const ColorList* FindList(std::uintptr_t value);
 
 protected:

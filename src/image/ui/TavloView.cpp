@@ -20,7 +20,7 @@ namespace keltavlo {
 
 namespace {
 
-// The whole screen pixels that a rectangle of the widget touches.
+// Returns the whole screen pixels that a rectangle of the widget touches.
 QRect ToDevice(const QRect& area, double ratio, const QSize& limit) {
     const QRectF scaled(area.x() * ratio, area.y() * ratio, area.width() * ratio, area.height() * ratio);
     return scaled.toAlignedRect().intersected(QRect(QPoint(0, 0), limit));
@@ -69,7 +69,7 @@ void TavloView::paintEvent(QPaintEvent* event) {
     }
 }
 
-// Conversion comes first, gamma last.
+// The conversion comes first, gamma last.
 void TavloView::PaintRegion(const QRegion& region) {
     if (!shown) return;
     const QSize size = DeviceSize(*this);
@@ -84,7 +84,7 @@ void TavloView::PaintRegion(const QRegion& region) {
                   ToDevice(area, devicePixelRatioF(), surface.size()));
 }
 
-// The area is in screen pixels.
+// `area` is in screen pixels.
 void TavloView::PaintArea(const Image& picture, const std::uint32_t* table, const QRect& area) {
     if (area.isEmpty()) return;
     const auto stride = static_cast<std::size_t>(surface.bytesPerLine()) / sizeof(Color);
@@ -105,7 +105,7 @@ void TavloView::RepaintTexel(const TexelChange& texel) {
         update(region);
 }
 
-// In units of the widget, which are whole where screen pixels are not.
+// Returns the area in whole widget units that covers the texels' screen pixels.
 QRegion TavloView::FindTexels(const TexelRun& run) const {
     const Texture& texture = shown->GetTexture();
     const QSize size = DeviceSize(*this);

@@ -13,18 +13,18 @@ class TavloViewFrame;
 struct TexelPoint;
 struct TileViewport;
 
-// Shows an image document's picture tiled without end, so that its seams show, and hands strokes of the mouse
-// to the document's brush.
+// Shows an image document's picture as an endless tiling, so that its seams are visible, and passes mouse
+// strokes to the document's brush.
 class TavloView final : public Dynamic<"TavloView", TavloView, InfiniteScrollView> {
 public:
     TavloView();
 
-    // The texel under a point of the screen, from the top left corner of the view; not wrapped.
+    // Returns the texel at a point in screen pixels, measured from the view's top left corner; not wrapped.
     TexelPoint TexelAt(const QPointF& devicePoint) const;
 
     void OnCreate() override;
     void OnDestroy() override { shown = nullptr; }
-    // A changed texel is repainted at once in the view whose stroke it is, with the next events in others.
+    // Repaints a changed texel at once in the view that strokes, and with the next events in the others.
     void OnUpdate(DocumentView* sender, std::intptr_t hint, CObject* hintObject) override;
     void OnActivateView(bool activate, CView* activated, CView* deactivated) override;
 
@@ -66,16 +66,16 @@ private:
     void OnUpdateFilterHalf(CCmdUI& state) const { state.SetCheck(halfFilter); }
     void UpdatePaletteFilter(CCmdUI& state, bool filter) const;
 
-    TavloDocument* shown = nullptr; // null only before the view is attached and while it ends
+    TavloDocument* shown = nullptr; // null only before the view is attached and while it is detached
     bool nearestFilter = false;
     bool ditherFilter = false;
     bool halfFilter = false;
     ConvertedPicture converted;
-    QImage surface;           // what was painted last, in screen pixels; kept for its memory
-    bool captured = false;    // a stroke is under way: the mouse is ours until the button is released
-    unsigned shownCursor = 0; // number of the brush's cursor that the pointer shows
-    int wheelRemainder = 0;   // wheel movement that was not enough for a zoom step yet
-    QPoint scrollRemainder{}; // and for scrolling by a texel, in 1/120 of a screen pixel
+    QImage surface;           // the last painted screen pixels; kept to reuse the memory
+    bool captured = false;    // during a stroke: the view has the mouse until the button is released
+    unsigned shownCursor = 0; // the brush's number of the current cursor
+    int wheelRemainder = 0;   // wheel movement too small for a zoom step so far
+    QPoint scrollRemainder{}; // and too small for scrolling by a texel, in 1/120 of a screen pixel
 };
 
 } // namespace keltavlo

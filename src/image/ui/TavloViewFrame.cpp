@@ -50,7 +50,7 @@ void TavloViewFrame::OnEditCut() {
     OnEditClear();
 }
 
-// What is no picture leaves the document as it is.
+// If the clipboard contains no picture, the document stays unchanged.
 void TavloViewFrame::OnEditPaste() {
     const CWaitCursor wait;
     TavloDocument* document = GetDocument();

@@ -6,13 +6,13 @@ namespace keltavlo {
 
 class TavloDocument;
 
-// The window round an image document's views, which share its zoom. Its document's picture goes to the
-// clipboard and comes from there.
+// The window around an image document's views, which share its zoom. Copies the document's picture to the
+// clipboard and pastes one from there.
 class TavloViewFrame final : public Dynamic<"TavloViewFrame", TavloViewFrame, ChildFrame> {
 public:
     static constexpr int maximumZoom = 16;
 
-    // Screen pixels a texel: 1, 2, 4, 8 or 16.
+    // Screen pixels per texel: 1, 2, 4, 8 or 16.
     int GetZoom() const { return zoom; }
     void SetZoom(int newZoom);
 
@@ -29,13 +29,13 @@ private:
         state.SetRadio(zoom == value);
     }
 
-    // Null while the window ends.
+    // Returns null while the window closes.
     TavloDocument* GetDocument() const;
     void OnEditCopy();
     void OnEditCut();
     void OnEditPaste();
     void OnUpdateEditPaste(CCmdUI& state) const;
-    // There is no selection that could be cleared.
+    // Does nothing, because there is no selection to clear.
     void OnEditClear() {}
     void OnUpdateEditClear(CCmdUI& state) const { state.Enable(false); }
 

@@ -1,4 +1,4 @@
-// How an image view takes the mouse, the wheel and the menu key.
+// Input of an image view: the mouse, the wheel and the menu key.
 #include "framework/ui/CMDIFrameWnd.h"
 #include "framework/ui/CMenu.h"
 #include "image/TavloDocument.h"
@@ -36,7 +36,7 @@ TexelPoint TavloView::TexelUnder(const QMouseEvent& event) const {
     return TexelAt(event.position() * devicePixelRatioF());
 }
 
-// Without a brush the mouse is never captured, and nothing changes.
+// Without a brush, the view never captures the mouse, and nothing changes.
 void TavloView::mousePressEvent(QMouseEvent* event) {
     const TexelPoint texel = TexelUnder(*event);
     if (event->button() == Qt::LeftButton && shown && shown->HasBrush()) {
@@ -51,7 +51,7 @@ void TavloView::mouseMoveEvent(QMouseEvent* event) {
     ShowBrushCursor();
     const TexelPoint texel = TexelUnder(*event);
     ShowTexel(texel);
-    // The release goes astray where a dialog came up in the middle of a stroke.
+    // The release event is lost if a dialog opens in the middle of a stroke.
     if (captured && !event->buttons().testFlag(Qt::LeftButton)) EndStroke();
     if (captured) ApplyBrush(texel);
     InfiniteScrollView::mouseMoveEvent(event);
@@ -82,7 +82,7 @@ void TavloView::ShowBrushCursor() {
     setCursor(LoadBrushCursor(wanted, devicePixelRatioF()));
 }
 
-// Position and color in the status bar; the texel is the one that a brush would change.
+// Shows position and color in the status bar, for the texel that a brush would change.
 void TavloView::ShowTexel(const TexelPoint& texel) const {
     if (!shown) return;
     const Texture& texture = shown->GetTexture();
@@ -91,7 +91,7 @@ void TavloView::ShowTexel(const TexelPoint& texel) const {
     shell.SetColorText(shown->GetTexel(texel.Column(), texel.Row()));
 }
 
-// The toolkit knows only the menu key.
+// Shift+F10, because Qt handles only the menu key.
 void TavloView::keyPressEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_F10 || event->modifiers() != Qt::ShiftModifier)
         return InfiniteScrollView::keyPressEvent(event);
@@ -99,7 +99,7 @@ void TavloView::keyPressEvent(QKeyEvent* event) {
     contextMenuEvent(&menu);
 }
 
-// The menu is made afresh each time, and with it the runs that change. A stroke keeps the mouse.
+// Makes the menu anew each time, including the runs that change. Does nothing during a stroke.
 void TavloView::contextMenuEvent(QContextMenuEvent* event) {
     auto* frame = dynamic_cast<CMDIFrameWnd*>(window());
     if (captured || !frame) return;
@@ -108,7 +108,7 @@ void TavloView::contextMenuEvent(QContextMenuEvent* event) {
     menu.GetPopups().front()->exec(event->globalPos());
 }
 
-// With Ctrl alone the wheel zooms; without keys it scrolls up and down, with Shift sideways.
+// With Ctrl alone, the wheel zooms; without keys it scrolls vertically, with Shift horizontally.
 void TavloView::wheelEvent(QWheelEvent* event) {
     const Qt::KeyboardModifiers keys = event->modifiers();
     if (event->buttons() == Qt::NoButton && keys == Qt::ControlModifier)
@@ -132,7 +132,7 @@ void TavloView::ZoomByWheel(int delta) {
 }
 
 void TavloView::ScrollByWheel(const QPoint& delta, bool sideways) {
-    // Some systems turn the delta themselves while Shift is held.
+    // Some systems transpose the delta themselves while Shift is held.
     const QPoint turned = sideways && delta.x() == 0 ? delta.transposed() : delta;
     scrollRemainder -= turned * scrollPixelsPerNotch;
     const int perTexel = wheelStep * GetZoom();
