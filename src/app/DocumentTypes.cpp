@@ -26,14 +26,14 @@ Row ModelType(unsigned id, const CRuntimeClass& documentClass, const char* view)
     return {id, IDR_DOCUMENT, &documentClass, "ChildFrame", view};
 }
 
-// Documents that others use; they have no window of their own.
+// Types of documents that others use. They have no windows of their own.
 Row HiddenType(unsigned id, const CRuntimeClass& documentClass) {
     return {id, IDR_MAINFRAME, &documentClass, "HiddenChildFrame", "HiddenView"};
 }
 
 } // namespace
 
-// The order decides the list of File New and which type gets a file of unknown extension.
+// The order determines the list of File New and the type for a file with an unknown extension.
 void RegisterDocumentTypes(CWinApp& application) {
     const Row rows[] = {
         ImageType(IDR_BITMAP, BMPDocument::runtimeClass),

@@ -5,7 +5,7 @@
 
 namespace keltavlo {
 
-// How brightly pictures are shown, one value a channel; 1 shows them as they are.
+// The gamma of each channel of displayed pictures; 1 leaves the channel unchanged.
 struct GammaValues {
     double red = 1.0;
     double green = 1.0;
@@ -14,26 +14,26 @@ struct GammaValues {
     bool operator==(const GammaValues&) const = default;
 };
 
-// The largest value that the user can choose; the smallest is 0.
+// The largest value that the user can choose. The smallest is 0.
 inline constexpr double largestGamma = 5.0;
-// The positions of a slider, 0 to 100, over that scale.
+// A slider's positions, 0 to 100, cover the values from 0 to largestGamma.
 inline constexpr int gammaPositions = 100;
 double GammaAtPosition(int position);
 int PositionOfGamma(double gamma); // rounded
 
-// A channel value of 0 to 255 through a gamma of 0 or more.
+// Applies a gamma of 0 or more to a channel value from 0 to 255.
 int GammaChannel(int value, double gamma);
-// Red, green and blue through their gammas; alpha stays.
+// Applies the gammas to red, green and blue. Alpha stays.
 std::uint32_t ApplyGamma(const GammaValues& values, std::uint32_t color);
 
-// Gamma values with the channel table that they make.
+// Gamma values and the channel table made from them.
 class GammaSettings {
 public:
     GammaSettings();
 
     void SetValues(const GammaValues& newValues);
     const GammaValues& GetValues() const { return values; }
-    // 256 entries; entry v holds the outputs of the four channels for the input v.
+    // Returns 256 entries. Entry v contains the outputs of the four channels for input v.
     const std::uint32_t* GetTable() const { return table.data(); }
 
 private:

@@ -9,20 +9,20 @@
 
 namespace keltavlo {
 
-// The application without windows: messages go where the caller says, and every question gets a fixed answer.
+// The application without windows. The caller receives the messages, and every question gets a fixed answer.
 class HeadlessApplication : public CWinApp, public UserInterface {
 public:
     // `show` receives each message for the user.
     explicit HeadlessApplication(std::function<void(const std::string&)> show)
         : CWinApp(ProfileStore()), showMessage(std::move(show)), workshop(*this) {}
-    // Documents need the workshop until they are gone.
+    // Documents need the workshop until they are deleted.
     ~HeadlessApplication() override { CloseAllDocuments(); }
 
     void ShowMessage(const std::string& text) override { showMessage(text); }
     void ReportMemoryShortage() noexcept override {
         try {
             showMessage(memoryMessage);
-        } catch (const std::bad_alloc&) { // the receiver lacks memory too
+        } catch (const std::bad_alloc&) { // the receiver lacks memory as well
         }
     }
     SaveAnswer AskToSave(const std::string&) override { return saveAnswer; }
@@ -34,7 +34,7 @@ public:
 
     FileSystem& GetFileSystem() { return workshop.GetFileSystem(); }
 
-    // The answers.
+    // The answers to questions.
     SaveAnswer saveAnswer = SaveAnswer::discard;
     std::optional<std::string> fileName;
     const CDocTemplate* newType = nullptr;

@@ -12,7 +12,7 @@ namespace keltavlo {
 
 namespace {
 
-constexpr std::uint64_t largestPreview = 64 << 20; // bytes; more takes longer than looking around should
+constexpr std::uint64_t largestPreview = 64 << 20; // bytes; larger files would take too long to browse
 
 } // namespace
 

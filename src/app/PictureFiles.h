@@ -9,18 +9,19 @@ namespace keltavlo {
 class TavloDocument;
 struct CRuntimeClass;
 
-// Which files belong to the picture formats, and what is in them.
+// Finds and reads files of the picture formats.
 
-// The picture class of the type that has the path's extension; null for another type and for an unknown
-// extension, although a file of that name opens as a bitmap.
+// Returns the picture class of the type with the path's extension. Returns null for another type and for an
+// unknown extension, although such a file opens as a bitmap.
 const CRuntimeClass* PictureClassOf(const std::string& path);
 
-// The extension of the only picture format among patterns such as "*.pak;*.tga"; empty for none or several.
+// Returns the extension of the only picture format among patterns such as "*.pak;*.tga", or an empty one for
+// none or several.
 std::string PictureExtensionIn(std::string_view patterns);
 
-// The picture file of that path, which may lead into an archive, read into a document that no list of open
-// documents knows. Null for a file that holds no picture. Throws what reading throws, and PictureSizeError
-// for a file of more than 64 MiB.
+// Reads a picture file, which may be in an archive, into a document that is not in any list of open
+// documents. Returns null for a file without a picture. Throws what reading throws, and PictureSizeError for
+// a file of more than 64 MiB.
 std::unique_ptr<TavloDocument> ReadForPreview(const std::string& path);
 
 } // namespace keltavlo

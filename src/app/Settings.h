@@ -10,8 +10,8 @@ namespace keltavlo {
 
 class ProfileStore;
 
-// What the program keeps in the user's settings beside the state of its windows. Values are little-endian;
-// one of another size than here, or that makes no sense, counts as absent.
+// The user's settings other than the state of windows. Values are little-endian. A value of another size, or
+// an invalid one, counts as absent.
 
 // Sixteen colors, 0x00BBGGRR each.
 using CustomColors = std::array<std::uint32_t, 16>;
@@ -19,8 +19,8 @@ using CustomColors = std::array<std::uint32_t, 16>;
 inline constexpr const char* applicationSection = "Application";
 inline constexpr const char* mainSection = "Main";
 
-// Clears all settings unless they are in the layout of this program, and says then that they are. To be
-// called before anything else is read.
+// Clears all settings unless their layout is this program's, and records that layout. Call it before reading
+// anything else.
 void CheckSettingsVersion(ProfileStore& profile);
 
 std::optional<GammaValues> ReadGamma(const ProfileStore& profile);

@@ -8,9 +8,9 @@
 
 namespace keltavlo {
 
-// What the program is without its windows: the service that resolves paths, the registry of document types,
-// and the tables of strings and built-in files. Make one beside the application and keep it for as long as
-// documents are open.
+// The program without its windows: the service that resolves paths, the registry of document types,
+// and the tables of strings and built-in files. Make one beside the application and keep it as long
+// as documents are open.
 class Workshop {
 public:
     explicit Workshop(CWinApp& application) {

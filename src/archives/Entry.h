@@ -13,7 +13,7 @@ namespace keltavlo {
 
 class FolderDocument;
 
-// A named thing in a folder document: a folder or a file.
+// A named folder or file in a folder document.
 class Entry {
 public:
     Entry() = default;
@@ -22,15 +22,15 @@ public:
     virtual ~Entry() = default;
 
     virtual std::string GetName() const = 0;
-    // Everything but the full name.
+    // Sets everything but the full name.
     virtual void GetStatus(EntryStatus& status) const = 0;
-    // A file over the entry's bytes; null on failure, with `*failure` filled when it is given. Flags:
-    // CFile::OpenFlags.
+    // Opens a file over the entry's bytes with `flags` from CFile::OpenFlags. Returns null on failure and
+    // fills `*failure` unless that is null.
     virtual std::unique_ptr<CFile> OpenEntry(unsigned flags, CFileException* failure,
                                              FolderDocument& owner) = 0;
 };
 
-// A folder: owns its children and keeps their order.
+// A folder, which owns its children and keeps their order.
 class FolderEntry : public Entry {
 public:
     void GetStatus(EntryStatus& status) const override;
@@ -38,13 +38,14 @@ public:
 
     const std::vector<std::unique_ptr<Entry>>& GetChildren() const { return children; }
     void Append(std::unique_ptr<Entry> child) { children.push_back(std::move(child)); }
-    // Makes room for so many children.
+    // Reserves memory for `count` children.
     void Reserve(std::size_t count) { children.reserve(count); }
     void RemoveChildren();
 
-    // The first file of that name without regard to case, else the folder of that name, else null.
+    // Returns the first file with that name, ignoring case; otherwise the folder with that name;
+    // otherwise null.
     Entry* FindChild(std::string_view name) const;
-    // The folder of that name, even if a file has the same name; or null.
+    // Returns the folder with that name, even if a file has the same name, or null.
     FolderEntry* FindFolder(std::string_view name) const;
 
 private:
@@ -55,7 +56,7 @@ private:
     const Named* Find(std::string_view name) const;
 
     std::vector<std::unique_ptr<Entry>> children;
-    // By folded name; made when a child is first looked for, so that reading a large archive does not wait
+    // By folded name. Filled when a child is first looked up, so that reading a large archive does not wait
     // for it.
     mutable std::unordered_map<std::string, Named> index;
     mutable std::size_t indexedCount = 0;
@@ -67,7 +68,7 @@ public:
     std::string GetName() const override { return {}; }
     void GetStatus(EntryStatus& status) const override;
 
-    std::string rootName; // the path of the archive, or of the folder's source
+    std::string rootName; // path of the archive or of the folder's source
 };
 
 // A folder inside an archive.

@@ -6,15 +6,15 @@
 
 namespace keltavlo {
 
-// The bytes of an entry. An entry and the files over it share them: they go when the last file closes, unless
-// they were changed, and a file may outlive the archive it came from.
+// The bytes of an entry, shared by the entry and all files over it. They are freed when the last file closes,
+// unless they were changed. A file may outlive its archive.
 using EntryBytes = std::vector<std::byte>;
 
-// A file over an entry's bytes: reads them and can overwrite them, but cannot grow. It has no path.
+// A file over an entry's bytes that reads and overwrites them but cannot grow. It has no path.
 class EntryFile final : public CMemFile {
 public:
     // `length` may be less than the buffer's size. `noteWrite` runs before every change. The file counts as
-    // unchanged while what `entryLife` points to exists.
+    // unchanged until the object behind `entryLife` is deleted.
     EntryFile(std::shared_ptr<EntryBytes> entryBytes, std::size_t length, std::function<void()> noteWrite,
               std::weak_ptr<const void> entryLife);
 

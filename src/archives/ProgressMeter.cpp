@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::int64_t longWork = 2; // seconds
 
-// Asked at every position: the system's coarse clock is cheap enough for that.
+// Read at every position, which the system's coarse clock is cheap enough for.
 std::int64_t Now() {
     const ProgressClock* clock = ProgressClock::Find();
     return clock ? clock->GetSeconds() : std::int64_t{std::time(nullptr)};

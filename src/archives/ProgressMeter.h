@@ -8,23 +8,23 @@
 
 namespace keltavlo {
 
-// The time as progress meters see it: whole seconds. Where none is registered they go by the system's clock.
+// The clock of progress meters, in whole seconds. If none is registered, they use the system's clock.
 class ProgressClock : public Service<ProgressClock> {
 public:
     virtual std::int64_t GetSeconds() const = 0;
 };
 
-// Follows a long piece of work from one position to another. Its window comes only when the work is expected
-// to take two seconds or more, and moves at most once a second.
+// Follows a long piece of work from one position to another. Its window opens only if the work is expected to
+// take two seconds or more, and updates at most once a second.
 class ProgressMeter {
 public:
     ProgressMeter(std::int32_t first, std::int32_t last);
-    // The window, if there is one, goes.
+    // Closes the window, if there is one.
     ~ProgressMeter();
     ProgressMeter(const ProgressMeter&) = delete;
     ProgressMeter& operator=(const ProgressMeter&) = delete;
 
-    // What the window will show above its bar: "Working..." unless it is set.
+    // Sets the text above the window's bar, which is "Working..." by default.
     void SetText(unsigned stringId);
     void SetPosition(std::int32_t newPosition);
     void Step() { SetPosition(position + 1); }

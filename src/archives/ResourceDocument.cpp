@@ -10,7 +10,7 @@ namespace keltavlo {
 
 namespace {
 
-// A file inside the program; its bytes live as long as the process.
+// A file inside the program. Its bytes live as long as the process.
 class ResourceEntry final : public Entry {
 public:
     ResourceEntry(std::string fileName, std::span<const std::byte> bytes)
@@ -26,7 +26,7 @@ public:
         status.attributes = CFileStatus::readOnlyAttribute | CFileStatus::hiddenAttribute;
     }
 
-    // accessDenied when the flags ask for writing.
+    // Fails with accessDenied if the flags ask for writing.
     std::unique_ptr<CFile> OpenEntry(unsigned flags, CFileException* failure, FolderDocument&) override {
         if (flags & (CFile::modeWrite | CFile::modeReadWrite)) {
             if (failure) *failure = CFileException(CFileException::accessDenied, 0, name);
@@ -47,14 +47,14 @@ private:
 bool ResourceDocument::OnDocumentReady() {
     if (!BaseDocument::OnDocumentReady()) return false;
     ResetTree();
-    // The program may have been reached through a link.
+    // Uses the path that was opened, because it may lead to the program through a link.
     SetRootName(GetTransferPath().empty() ? GetModulePath() : GetTransferPath());
     if (!IsModulePath(GetRootName())) return true;
     const std::string folder = JoinPath(GetRootName(), builtInFolder);
     for (const unsigned id : EmbeddedFileIds(builtInNameType)) {
         const std::string name = GetBuiltInName(id);
         const std::string_view extension = ExtensionOf(name);
-        // A name without bytes would be a file that cannot be opened: it is left out.
+        // Skips a name without bytes, because a file of that name could not be opened.
         const EmbeddedFile* file = extension.empty() ? nullptr : FindEmbeddedFile(id, extension.substr(1));
         if (file) AddEntry(JoinPath(folder, name), std::make_unique<ResourceEntry>(name, file->data));
     }

@@ -4,14 +4,14 @@
 
 namespace keltavlo {
 
-// The files that the program carries inside itself, as a folder "res" below the program's own file. Empty for
-// any other program's file. Read only.
+// The files that the program contains, as a folder "res" below the program's own file. Empty for any other
+// program's file. Read only.
 class ResourceDocument final : public Dynamic<"ResourceDocument", ResourceDocument, FolderDocument> {
 public:
-    // Builds the tree; nothing of the file that was opened is looked at.
+    // Builds the tree without reading the opened file.
     bool OnDocumentReady() override;
     void ReadContents(InputStream&) override {}
-    void WriteContents(OutputStream& out) override; // readOnly
+    void WriteContents(OutputStream& out) override; // throws readOnly
 };
 
 } // namespace keltavlo

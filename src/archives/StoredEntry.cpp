@@ -7,7 +7,7 @@ namespace keltavlo {
 
 namespace {
 
-// Buffers are a whole number of 32-bit words.
+// Buffers consist of whole 32-bit words.
 std::size_t RoundedUp(std::uint64_t length) {
     return (length + 3) / 4 * 4;
 }
@@ -27,7 +27,7 @@ std::unique_ptr<CFile> StoredEntry::OpenEntry(unsigned, CFileException* failure,
 
 std::unique_ptr<CFile> StoredEntry::MakeFile(FolderDocument& owner) {
     const std::shared_ptr<EntryBytes> bytes = Load(owner);
-    // The owner exists for as long as its entry.
+    // The reference to the owner is valid as long as the entry exists.
     const auto noteWrite = [life = std::weak_ptr(use), weak = std::weak_ptr(bytes), &owner,
                             path = owner.GetRootName()] {
         const std::shared_ptr<Use> entry = life.lock();
@@ -43,7 +43,7 @@ std::shared_ptr<EntryBytes> StoredEntry::Load(FolderDocument& owner) {
     if (std::shared_ptr<EntryBytes> bytes = use->loaded.lock()) return bytes;
     const Extent extent = GetExtent();
     CFile& file = owner.GetSource(extent.offset, extent.stored);
-    // The zeros have no bytes behind them; a claim of gigabytes must not get them.
+    // The file must be at least `length` bytes long, so that a claim of gigabytes of zeros allocates nothing.
     static_cast<void>(owner.GetSource(0, extent.length));
     auto bytes = std::make_shared<EntryBytes>(RoundedUp(extent.length));
     file.Seek(static_cast<std::int64_t>(extent.offset), CFile::From::begin);

@@ -5,15 +5,15 @@
 
 namespace keltavlo {
 
-// A file entry whose bytes lie in its archive's file. They are read when the entry is first used; changed
-// ones stay.
+// A file entry whose bytes are part of its archive's file. They are read on first use. Changed
+// bytes stay in memory.
 class StoredEntry : public Entry {
 public:
     void GetStatus(EntryStatus& status) const override;
     std::unique_ptr<CFile> OpenEntry(unsigned flags, CFileException* failure, FolderDocument& owner) override;
 
 protected:
-    // Where the bytes lie: `stored` of them at `offset` of the archive's file, followed by zeros up to
+    // The position of the bytes: `stored` of them at `offset` in the archive's file, followed by zeros up to
     // `length`. An entry longer than the whole file cannot be opened.
     struct Extent {
         std::uint64_t offset = 0;
@@ -27,11 +27,11 @@ private:
     std::shared_ptr<EntryBytes> Load(FolderDocument& owner);
 
     struct Use {
-        std::weak_ptr<EntryBytes> loaded;    // for as long as a file is open over them
+        std::weak_ptr<EntryBytes> loaded;    // as long as a file over them is open
         std::shared_ptr<EntryBytes> changed; // set by the first write
     };
-    // Made when the entry is first opened: most of a large archive's never are. Files over the entry see by
-    // it whether the entry still exists.
+    // Created when the entry is first opened, because most entries of a large archive never are. Files over
+    // the entry use it to check whether the entry still exists.
     std::shared_ptr<Use> use;
 };
 

@@ -22,7 +22,7 @@ public:
     const Color* GetBytes() const { return Pixels().data(); }
 };
 
-// Copies the picture of the last open image document, by type and then in the order of opening. Returns a
+// Copies the picture of the last open image document in the order of types and then of opening. Returns a
 // plain gray one if none is open.
 TextureBuffer TakeLastPicture();
 

@@ -4,7 +4,7 @@
 
 namespace keltavlo {
 
-// The program's own command ids; the framework's begin at 57344.
+// The program's own command ids. StandardIds.h contains the framework's.
 enum ProgramCommand : CommandId {
     ID_FILE_PROPERTIES = 32771,
     ID_SELECT_NONE = 32772,
@@ -31,7 +31,7 @@ enum ProgramCommand : CommandId {
     ID_3D_TEXTURED = 32814,
     ID_3D_WIREFRAME = 32815,
     ID_EDIT_PROPERTIES = 32839,
-    // Menu sections that change: one id for each entry.
+    // Runs of menu items that change, with one id per entry.
     ID_BAR_FIRST = 49152,
     ID_BAR_LAST = 49407,
     ID_BRUSH_FIRST = 50432,

@@ -36,12 +36,12 @@ struct ForeignKind {
 
 constexpr ForeignKind foreignKinds[] = {
     {"\x89PNG\r\n\x1A\n"sv, "This is a PNG picture, which is not supported."},
-    // Identifier and version of the first game's models.
+    // Identifier and version of Quake models.
     {"IDPO\x06\0\0\0"sv, "This is a Quake model (IDPO), which is not supported."},
 };
 
-// A sentence that names the kind of a file that no document type reads, recognized by its first bytes; empty
-// for any other file. Moves the stream.
+// Returns a sentence that names the kind of a file that no document type reads, recognized by its first
+// bytes, or an empty one for any other file. Moves the stream.
 std::string DescribeForeignFile(InputStream& in) {
     std::array<char, 8> start{};
     if (in.GetLength() < start.size()) return {};
@@ -114,7 +114,7 @@ BaseDocument* BaseDocument::OpenReference(const std::string& path) {
     return dynamic_cast<BaseDocument*>(DocTemplateRegistry::Get().OpenDocument(path));
 }
 
-// References do not keep a document open: it stays until the program ends.
+// Does nothing: a reference stays open until the program ends.
 void BaseDocument::ReleaseReference(BaseDocument*) {}
 
 void BaseDocument::Serialize(CArchive& archive) {
@@ -138,8 +138,7 @@ const CommandMap& BaseDocument::GetCommandMap() const {
     return map;
 }
 
-// A failed save leaves the target as it was, also when the target did not exist: there is nothing to clean
-// up.
+// Cleans up nothing on failure, because a failed save leaves the target as it was, even if it did not exist.
 bool BaseDocument::Save(const std::string& path) {
     const CWaitCursor wait;
     if (!OnSaveDocument(path)) return false;
@@ -147,7 +146,8 @@ bool BaseDocument::Save(const std::string& path) {
     return true;
 }
 
-// The document's path, or the part of its title that a file name can contain, with the type's extension.
+// Returns the document's path; if it has none, the part of its title that is safe in a file name, with the
+// type's extension.
 std::string BaseDocument::ProposeFileName() const {
     if (!GetPathName().empty()) return GetPathName();
     const std::string name = GetTitle().substr(0, GetTitle().find_first_of(" #%;/\\"));

@@ -7,17 +7,18 @@ namespace keltavlo {
 class InputStream;
 class OutputStream;
 
-// Base of every document of the program: its file is read and written through a byte stream and may lie in an
-// archive.
+// Base of every document of the program. Its file is read and written through a byte stream and
+// may be in an archive.
 class BaseDocument : public Dynamic<"BaseDocument", BaseDocument, CDocument> {
 public:
-    // Writes the whole document. Here: badClass, for a class that cannot be saved.
+    // Writes the whole document. This version throws badClass, for classes that cannot be saved.
     virtual void WriteContents(OutputStream& out);
-    // Replaces the contents by what the stream holds. Here: badClass.
+    // Replaces the contents by those of the stream. This version throws badClass.
     virtual void ReadContents(InputStream& in);
-    // One of the document's views became the active one, or stopped to be; each document may be null.
+    // Called when one of the document's views becomes the active one or stops being it. Either document may
+    // be null.
     virtual void OnActivateDocument(bool activate, BaseDocument* activated, BaseDocument* deactivated);
-    // The last step of New and Open; false makes them fail.
+    // The last step of New and Open. Returns false to make them fail.
     virtual bool OnDocumentReady() { return true; }
 
     bool OnNewDocument() override;
@@ -26,17 +27,17 @@ public:
     std::unique_ptr<CFile> GetFile(const std::string& path, unsigned flags, CFileException* failure) override;
     void SetTitle(const std::string& newTitle) override;
     bool DoFileSave() override;
-    // Saves under a name that is asked for. False when cancelled or failed.
+    // Asks for a name and saves under it. Returns false if cancelled or failed.
     bool DoFileSaveAs();
 
-    // The document under the path, opened if it is not open yet; null when that failed. It stays open.
+    // Returns the document under the path, opened if necessary, or null on failure. It stays open.
     static BaseDocument* OpenReference(const std::string& path);
     static void ReleaseReference(BaseDocument* document);
 
 protected:
     void Serialize(CArchive& archive) override;
     const CommandMap& GetCommandMap() const override;
-    // The path of the open or save that is running: what to go by where a stream has no name.
+    // The path of the current open or save. Used if a stream has no name.
     const std::string& GetTransferPath() const { return transferPath; }
 
 private:

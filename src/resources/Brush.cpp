@@ -18,7 +18,7 @@ public:
     }
 };
 
-// Takes the color under the mouse as the current one.
+// Makes the color under the mouse the current color.
 class ColorPickerBrush final : public Brush {
 public:
     ColorPickerBrush() : Brush(pipetteCursor) {}

@@ -8,18 +8,19 @@
 
 namespace keltavlo {
 
-// A point of a picture in texels, from its top left corner; any point will do, for pictures tile without end.
+// A point of a picture in texels, from its top left corner. It may be anywhere, because pictures tile
+// without end.
 struct TexelPoint {
     double x = 0;
     double y = 0;
 
-    // The texel at the point, for whoever paints, picks or tells of it. Truncated toward zero, so that texel
-    // 0 reaches over the seam; the picture wraps it.
+    // The texel at the point. Truncates toward zero, so that texel 0 extends across the seam; the picture
+    // wraps it.
     unsigned Column() const { return static_cast<unsigned>(static_cast<int>(x)); }
     unsigned Row() const { return static_cast<unsigned>(static_cast<int>(y)); }
 };
 
-// What a brush sees of the picture it is applied to: its texels, tiled without end.
+// A picture as a brush sees it: texels, tiled without end.
 class BrushTarget {
 public:
     virtual ~BrushTarget() = default;
@@ -27,23 +28,23 @@ public:
     virtual void SetTexel(unsigned x, unsigned y, Color color) = 0;
 };
 
-// A tool that the image view applies where the mouse clicks or drags.
+// A tool that the image view applies where the user clicks or drags.
 class Brush {
 public:
-    // The kinds, as brush files number them.
+    // The numbers of the kinds in brush files.
     static constexpr std::uint32_t texelKind = 1;
     static constexpr std::uint32_t colorPickerKind = 2;
-    // Their cursors.
+    // The numbers of their cursors.
     static constexpr unsigned pencilCursor = 146;
     static constexpr unsigned pipetteCursor = 147;
 
     virtual ~Brush() = default;
-    // Applies the brush from one point to another; a strength below 1 changes nothing.
+    // Applies the brush from one point to another. A strength below 1 changes nothing.
     virtual void Apply(BrushTarget& target, TexelPoint point, int strength, TexelPoint second) = 0;
-    // Number of the cursor to show over a view.
+    // Returns the number of the cursor to show over a view.
     unsigned GetCursor() const { return cursor; }
 
-    // The brush of that kind; null when there is none.
+    // Makes a brush of that kind; null if there is none.
     static std::unique_ptr<Brush> Make(std::uint32_t kind);
 
 protected:
@@ -58,13 +59,13 @@ class BrushDocument final : public Dynamic<"BrushDocument", BrushDocument, Refer
 public:
     static constexpr unsigned arrowCursor = 0; // the standard pointer
 
-    // Nothing without a brush.
+    // Does nothing without a brush.
     void Apply(BrushTarget& target, TexelPoint point, int strength, TexelPoint second);
     unsigned GetCursor() const { return brush ? brush->GetCursor() : arrowCursor; }
 
-    // badSchema for a kind that is not known; a file without a kind opens without a brush.
+    // Throws badSchema for an unknown kind. A file without a kind opens without a brush.
     void ReadContents(InputStream& in) override;
-    void WriteContents(OutputStream& out) override; // generic
+    void WriteContents(OutputStream& out) override; // throws generic
 
 private:
     std::unique_ptr<Brush> brush;

@@ -6,7 +6,7 @@ namespace keltavlo {
 
 class ColorList;
 
-// Numbers of the files that the program carries inside itself.
+// Numbers of the files that the program contains.
 enum BuiltInFile : unsigned {
     quakePalette = 139,
     quake2Palette = 140,
@@ -21,17 +21,17 @@ enum BuiltInFile : unsigned {
 
 // The resource type of the files' names.
 inline constexpr const char* builtInNameType = "DIR";
-// The folder below the program's path that holds them.
+// The folder below the program's path that contains them.
 inline constexpr const char* builtInFolder = "res";
 
-// The name of the built-in file of that number; empty when there is none.
+// Returns the name of the built-in file with that number, or an empty one if there is none.
 std::string GetBuiltInName(unsigned id);
 
-// The path of the built-in file: the program's own path, "res", the name.
+// Returns the path of the built-in file: the program's own path, "res", the name.
 std::string GetBuiltInPath(unsigned id);
 
-// The built-in palettes of the games, one list each for the whole run, filled on first use from the built-in
-// documents. CArchiveException when the program's own file cannot be read.
+// The built-in palettes of the games. Each is loaded once, on first use, from its built-in document. Throws
+// CArchiveException if the program's own file cannot be read.
 const ColorList& GetQuakePalette();
 const ColorList& GetQuakeIIPalette();
 

@@ -10,27 +10,29 @@ class CDocTemplate;
 class CDocument;
 struct CRuntimeClass;
 
-// Finds the document type of a class or a path among the application's types, and opens documents by path. It
-// has no state of its own.
+// Finds the application's document type for a class or path, and opens documents by path. Has no state
+// of its own.
 class DocTemplateRegistry : public Service<DocTemplateRegistry> {
 public:
-    // The first type whose document class is exactly this one, or null.
+    // Returns the first type whose document class is exactly this one, or null.
     CDocTemplate* FindTemplate(const CRuntimeClass& documentClass) const;
-    // The type that fits the path best, an open document of that path above all; or null.
+    // Returns the type that fits the path best, or null. An open document with that path fits best of all.
     CDocTemplate* FindBestTemplate(const std::string& path) const;
-    // The document class of FindBestTemplate, or null.
+    // Returns the document class of FindBestTemplate, or null.
     const CRuntimeClass* GetDocumentClass(const std::string& path) const;
-    // The same by the name's extension alone, whatever is open: the first type's class for an unknown one.
+    // Does the same by the extension alone, even if the file is open. Returns the first type's class for an
+    // unknown extension.
     const CRuntimeClass* GetDocumentClassOfName(const std::string& name) const;
-    // The file extension of the class's type, such as ".mip"; empty when the class has no type.
+    // Returns the file extension of the class's type, such as ".mip", or an empty one if the class
+    // has no type.
     std::string GetFilterExtension(const CRuntimeClass& documentClass) const;
-    // Whether a type has the name's extension.
+    // Returns whether a type has the name's extension.
     bool KnowsName(const std::string& name) const;
-    // The document open under the path, or the file read into a new one; null when that failed.
+    // Returns the document that is open under the path; otherwise opens it. Returns null on failure.
     CDocument* OpenDocument(const std::string& path) const;
 };
 
-// The sentence that says that files of the class's type cannot be written.
+// Returns the sentence which says that files of the class's type cannot be written.
 std::string CannotBeWritten(const CRuntimeClass& documentClass);
 
 } // namespace keltavlo

@@ -10,11 +10,11 @@
 
 namespace keltavlo {
 
-// What is known of a path, which may lead into an archive.
+// The status of a path, which may lead into an archive.
 struct EntryStatus {
     bool exists = false;
-    bool browsable = false; // can be entered like a folder although it is none on the disk
-    bool onDisk = true;     // a file or folder of the disk, or the root of an archive
+    bool browsable = false; // can be entered like a folder but is not one on the disk
+    bool onDisk = true;     // on the disk itself, or the root of an archive
     std::string fullName;
     std::uint64_t size = 0;       // bytes
     std::uint32_t attributes = 0; // as in CFileStatus
@@ -23,15 +23,16 @@ struct EntryStatus {
     bool IsDirectory() const { return (attributes & CFileStatus::directoryAttribute) != 0; }
 };
 
-// Where documents get their files: the disk, and archives as if they were folders.
+// The source of documents' files: the disk, with archives as folders.
 class FileSource : public Service<FileSource> {
 public:
-    // Resets the status when nothing is there.
+    // Resets the status if nothing exists at the path.
     virtual void GetStatus(const std::string& path, EntryStatus& status) = 0;
-    // Null on failure, with `*failure` filled when it is given. Flags: CFile::OpenFlags.
+    // Opens a file with `flags` from CFile::OpenFlags. Returns null on failure and fills `*failure` unless
+    // that is null.
     virtual std::unique_ptr<CFile> OpenFile(const std::string& path, unsigned flags,
                                             CFileException* failure) = 0;
-    // What OpenFile returns for a path where something is; nothing for any other path.
+    // Does the same if something exists at the path; returns nothing otherwise.
     virtual std::optional<std::unique_ptr<CFile>> OpenExisting(const std::string& path, unsigned flags,
                                                                CFileException* failure) = 0;
 };

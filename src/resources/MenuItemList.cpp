@@ -53,7 +53,7 @@ void MenuItemList::UpdateAll(MenuItems& menu, BaseDocument* activeDocument) {
     for (MenuItemList* list : Registry()) list->Update(menu, activeDocument);
 }
 
-// Entries beyond the ids of the list have no item: they would get the ids of another one.
+// Entries beyond the list's ids get no item, because their ids belong to another list.
 void MenuItemList::Update(MenuItems& menu, BaseDocument*) {
     if (menu.HasItem(placeholderId)) {
         menu.ModifyItem(placeholderId, firstId, NoneText());
@@ -68,8 +68,8 @@ void MenuItemList::Update(MenuItems& menu, BaseDocument*) {
     SetTexts(menu);
 }
 
-// The first item takes each new id in turn and a new first one comes before it, so new items stand directly
-// behind the first, ahead of the older ones.
+// For each new id, the first item takes that id and a new first item is inserted before it. So new items
+// follow the first one directly, ahead of the older ones.
 void MenuItemList::Grow(MenuItems& menu, CommandId target) {
     for (CommandId id = target - 1; id >= endId; --id) {
         menu.ModifyItem(firstId, id, {});

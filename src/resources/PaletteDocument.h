@@ -5,13 +5,13 @@
 
 namespace keltavlo {
 
-// A document that an image can take its colors from: a list of colors or a whole color space.
+// A document that provides colors for an image: a list of colors or a whole color space.
 class PaletteDocument : public Dynamic<"PaletteDocument", PaletteDocument, ReferenceDocument> {
 public:
-    // Whether it is a list of colors.
+    // Returns whether this is a list of colors.
     virtual bool IsColorTable() const = 0;
     virtual std::size_t GetColorCount() const = 0;
-    // The color at the index; std::out_of_range past the end of a list.
+    // Returns the color at the index. Throws std::out_of_range past the end of a list.
     virtual Color GetColor(std::size_t index) const = 0;
 };
 
@@ -23,9 +23,9 @@ public:
     Color GetColor(std::size_t index) const override { return colors.GetColor(index); }
     const ColorList& GetColors() const { return colors; }
 
-    // badIndex when the length is not a multiple of 4.
+    // Throws badIndex if the length is not a multiple of 4.
     void ReadContents(InputStream& in) override;
-    void WriteContents(OutputStream& out) override; // generic
+    void WriteContents(OutputStream& out) override; // throws generic
 
 protected:
     void DeleteContents() override { colors = {}; }
@@ -36,7 +36,7 @@ protected:
 // A palette lump (".lmp"): 256 triples of red, green and blue bytes. Read only.
 class LMPDocument final : public Dynamic<"LMPDocument", LMPDocument, ColorTableDocument> {
 public:
-    // endOfFile when there are fewer than 768 bytes; more are ignored.
+    // Throws endOfFile for fewer than 768 bytes and ignores further ones.
     void ReadContents(InputStream& in) override;
 };
 
@@ -49,7 +49,7 @@ public:
     Color GetColor(std::size_t) const override { return 0; }
 
     void ReadContents(InputStream& in) override;
-    void WriteContents(OutputStream& out) override; // readOnly
+    void WriteContents(OutputStream& out) override; // throws readOnly
 };
 
 } // namespace keltavlo

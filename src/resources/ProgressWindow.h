@@ -4,14 +4,14 @@
 
 namespace keltavlo {
 
-// A window that shows how far a long piece of work is; it goes with the object.
+// A window that shows the progress of a long piece of work. It closes when the object is deleted.
 class ProgressWindow {
 public:
     virtual ~ProgressWindow() = default;
     virtual void SetPosition(std::int32_t position) = 0;
 };
 
-// What a progress window shows at first.
+// The initial state of a progress window.
 struct Progress {
     std::int32_t minimum = 0;
     std::int32_t maximum = 0;

@@ -5,8 +5,8 @@
 
 namespace keltavlo {
 
-// Base of the documents that others refer to. It never enters the recent files, and its file can carry its
-// title.
+// Base of documents that other documents refer to. They are never listed in the recent files, and their files
+// may contain their titles.
 class ReferenceDocument : public Dynamic<"ReferenceDocument", ReferenceDocument, BaseDocument> {
 public:
     void SetPathName(const std::string& path, bool = true) override {
@@ -15,7 +15,7 @@ public:
     }
 
 protected:
-    std::string fixedTitle; // shown instead of the file name unless empty
+    std::string fixedTitle; // if not empty, shown instead of the file name
 };
 
 } // namespace keltavlo

@@ -16,7 +16,7 @@ namespace keltavlo {
 
 namespace {
 
-// Room for long lines, which are broken.
+// The width of the text; longer lines wrap.
 constexpr int charactersOfInformation = 48;
 constexpr int linesOfInformation = 8;
 
@@ -39,7 +39,7 @@ QLabel* MakePicture() {
     return picture;
 }
 
-// Text that can be marked and copied.
+// Makes a text that the user can select and copy.
 QPlainTextEdit* MakeInformation(const QString& text) {
     auto* area = new QPlainTextEdit(text);
     area->setReadOnly(true);

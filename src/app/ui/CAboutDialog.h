@@ -6,7 +6,7 @@
 
 namespace keltavlo {
 
-// Says what program this is, and on what it runs.
+// Shows the program's version and the system that it runs on.
 class CAboutDialog : public CDialog {
 public:
     CAboutDialog(QWidget* owner, const std::string& settingsPath);

@@ -35,15 +35,15 @@ constexpr Channel channels[] = {{"Red:", IDC_SLIDER_RED, RedIcon},
 struct Sample {
     const char* name;
     unsigned button;
-    std::uint32_t color; // half as much as the light pixels of the bitmap
+    std::uint32_t color; // half as bright as the lit pixels of the bitmap
 };
 constexpr Sample sampleRows[] = {{"R", IDC_SAMPLE_RED, 0xFF800000},
                                  {"G", IDC_SAMPLE_GREEN, 0xFF008000},
                                  {"B", IDC_SAMPLE_BLUE, 0xFF000080},
                                  {"RGB", IDC_SAMPLE_RGB, 0xFF808080}};
 
-// Every other pixel black, every other one fully lit: from afar as bright as half the light, whatever the
-// screen makes of the values between. The gamma is right when the color beside it looks the same.
+// Alternates black and fully lit pixels. From a distance, that is exactly half the light, whatever the screen
+// does with values in between. The gamma is right if the color beside it looks the same.
 QImage MakeBitmap(std::uint32_t color) {
     constexpr int side = 32;
     const std::uint32_t lit =
@@ -74,7 +74,7 @@ QString ValueText(int position) {
 
 CGammaSettingsDialogButton::CGammaSettingsDialogButton(const QString& name) {
     setAccessibleName(name);
-    setFocusPolicy(Qt::NoFocus); // only to look at
+    setFocusPolicy(Qt::NoFocus); // for display only
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 

@@ -15,13 +15,12 @@ class QSlider;
 
 namespace keltavlo {
 
-// A sample of what gamma values do: a picture as it is stored, and beside it a color seen through the
-// values.
+// A sample of gamma values: a stored picture, and beside it a color that the values apply to.
 class CGammaSettingsDialogButton : public QAbstractButton {
 public:
     explicit CGammaSettingsDialogButton(const QString& name);
 
-    // The color is 0xAARRGGBB; the picture, 32 x 32, is the caller's and lives as long as the button.
+    // The color is 0xAARRGGBB. The picture, 32 x 32, belongs to the caller and lives as long as the button.
     void SetSample(std::uint32_t sampleColor, const QImage& picture, const GammaValues& values);
     void SetValues(const GammaValues& values);
     QSize sizeHint() const override { return {96, 32}; }
@@ -35,12 +34,12 @@ private:
     const QImage* bitmap = nullptr;
 };
 
-// Chooses gamma values by sliders, with samples that show what they do.
+// Lets the user choose gamma values with sliders and shows their effect on samples.
 class CGammaSettingsDialog : public CDialog {
 public:
     CGammaSettingsDialog(QWidget* owner, const GammaValues& values);
 
-    // What was given, or after OK what the sliders show.
+    // Returns the initial values or, after OK, those of the sliders.
     const GammaValues& GetGammaValues() const { return gammaValues; }
     void accept() override;
 
@@ -55,7 +54,7 @@ private:
 
     GammaValues gammaValues;
     std::array<QImage, 4> bitmaps;
-    std::array<CGammaSettingsDialogButton*, 4> samples{}; // children of this window, as all below
+    std::array<CGammaSettingsDialogButton*, 4> samples{}; // children of this window, like all below
     std::array<QSlider*, 3> sliders{};                    // red, green, blue
     QCheckBox* linkControls = nullptr;
     QLabel* valueText = nullptr;

@@ -46,17 +46,17 @@ CKelTavloApp::CKelTavloApp(ProfileStore settings)
     RegisterWindowClasses();
 }
 
-// Documents go while the windows and services that they use are there.
+// Closes the documents while the windows and services that they use exist.
 CKelTavloApp::~CKelTavloApp() {
     CloseAllDocuments();
     GetFrameFactory()->SetMainFrame(nullptr);
     try {
         WriteCustomColors(GetProfile(), applicationSection, GetCustomColors());
-    } catch (const std::bad_alloc&) { // the old ones stay
+    } catch (const std::bad_alloc&) { // the old ones stay stored
     }
 }
 
-// Classes that a document type names and that are not here leave its documents without a window.
+// If a document type names a class that is not registered, its documents have no window.
 void CKelTavloApp::RegisterWindowClasses() {
     WindowClasses& classes = GetFrameFactory()->GetClasses();
     for (const CRuntimeClass* windowClass :
@@ -75,7 +75,7 @@ bool CKelTavloApp::InitInstance(const std::vector<std::string>& paths) {
     return CarryOut(paths);
 }
 
-// Cancelling the choice of a new document is no failure.
+// Cancelling the choice of a new document is not a failure.
 bool CKelTavloApp::CarryOut(const std::vector<std::string>& paths) {
     if (paths.empty()) OnFileNew();
     bool opened = paths.empty();
@@ -83,7 +83,8 @@ bool CKelTavloApp::CarryOut(const std::vector<std::string>& paths) {
     return opened;
 }
 
-// No event is under way that would catch a lack of memory. The program stays to tell of it.
+// Catches std::bad_alloc here, because no event is being handled that would. Returns true, so that the
+// program stays open to report it.
 bool CKelTavloApp::TryOpen(const std::string& path) try {
     return OpenDocumentFile(path) != nullptr;
 } catch (const std::bad_alloc&) {
@@ -99,7 +100,8 @@ std::optional<std::string> CKelTavloApp::PromptFileName(const FileNameQuestion& 
          [this](const std::string& what) { NotImplemented(what); },
          [&](const std::string& path) { return question.open || MaySave(question, path); }, dialogMemory});
     const bool accepted = dialog.exec() == QDialog::Accepted;
-    // Window managers lose track of the focus when a question and the dialog go at once.
+    // Reactivates the main window, because window managers lose the focus when a question and the dialog
+    // close together.
     if (mainFrame) mainFrame->activateWindow();
     if (!accepted) return std::nullopt;
     const std::string inner = dialog.GetSelectedInnerPath();
@@ -177,7 +179,7 @@ void CKelTavloApp::OnHelpFinder() {
     ShowHelp("index.html");
 }
 
-// What there is to do in the active window.
+// Shows the page on what the user can do in the active window.
 void CKelTavloApp::OnHelp() {
     const CMDIChildWnd* active = mainFrame->MDIGetActive();
     const CDocument* document = active ? active->GetActiveDocument() : nullptr;
@@ -185,7 +187,7 @@ void CKelTavloApp::OnHelp() {
     ShowHelp(document ? "models.html" : "index.html");
 }
 
-// What has no page of its own gets the page of the active window.
+// For an item without a page of its own, shows the page of the active window.
 void CKelTavloApp::OnContextHelp() {
     if (!contextHelp)
         contextHelp = std::make_unique<ContextHelp>(*mainFrame, [this](CommandId id) {

@@ -13,17 +13,17 @@ class ContextHelp;
 class HelpWindow;
 class MainFrame;
 
-// The application: starts the program, opens files, and answers for the main window to documents.
+// The application: starts the program, opens files and represents the main window for documents.
 class CKelTavloApp : public Dynamic<"CKelTavloApp", CKelTavloApp, CWinApp>,
                      public WindowedUserInterface,
                      public Shell {
 public:
-    // `settings` is where the program keeps what it remembers.
+    // `settings` stores what the program remembers between runs.
     explicit CKelTavloApp(ProfileStore settings);
     ~CKelTavloApp() override;
 
-    // Shows the main window, then opens the files, or asks for a new document when there are none. False when
-    // none of the files could be opened (the user has been told): the program is to end.
+    // Shows the main window, then opens the files or, if there are none, asks for a new document. Returns
+    // false, after telling the user why, if no file could be opened; the program then ends.
     bool InitInstance(const std::vector<std::string>& paths);
     // Null before InitInstance.
     MainFrame* GetMainFrame() const { return mainFrame.get(); }
@@ -65,9 +65,9 @@ private:
     CClipboard clipboard;
     FileDialogMemory dialogMemory;
     std::unique_ptr<MainFrame> mainFrame;
-    std::unique_ptr<HelpWindow> help; // made when it is first asked for
+    std::unique_ptr<HelpWindow> help; // created on first use
     std::unique_ptr<ContextHelp> contextHelp;
-    std::uint32_t currentColor = 0; // 0xAARRGGBB; of the brushes of all documents
+    std::uint32_t currentColor = 0; // 0xAARRGGBB, for the brushes of all documents
 };
 
 } // namespace keltavlo

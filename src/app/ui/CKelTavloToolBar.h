@@ -4,7 +4,7 @@
 
 namespace keltavlo {
 
-// The program's own kind of toolbar.
+// The toolbar class of the program.
 class CKelTavloToolBar final : public Dynamic<"CKelTavloToolBar", CKelTavloToolBar, CToolBar> {
 public:
     using Dynamic::Dynamic;

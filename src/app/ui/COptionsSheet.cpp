@@ -35,7 +35,7 @@ void CViewOptionsPage::OnGammaSettings() {
     SetModified(true);
 }
 
-// Seen at once, though the sheet may stay.
+// Applied at once, even if the sheet stays open.
 bool CViewOptionsPage::OnApply() {
     gamma.SetValues(gammaValues);
     changed();

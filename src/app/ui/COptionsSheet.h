@@ -13,7 +13,7 @@ public:
     CGeneralOptionsPage();
 };
 
-// How documents are shown.
+// Options for how documents are displayed.
 class CViewOptionsPage : public CPropertyPage {
 public:
     // Applying changes the gamma and calls `onChange`.
@@ -26,13 +26,13 @@ private:
 
     GammaSettings& gamma;
     std::function<void()> changed;
-    GammaValues gammaValues; // a copy until they are applied
+    GammaValues gammaValues; // a copy until the values are applied
 };
 
 // The program's options.
 class COptionsSheet : public CPropertySheet {
 public:
-    // `onGammaChange` is called whenever the gamma has new values.
+    // `onGammaChange` is called when the gamma values change.
     COptionsSheet(QWidget* dialogOwner, GammaSettings& gamma, std::function<void()> onGammaChange);
 
 private:

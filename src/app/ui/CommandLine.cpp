@@ -17,14 +17,14 @@ struct Parser : QCommandLineParser {
     Parser() {
         setApplicationDescription(QStringLiteral("A workshop for the textures of games."));
         addOption(help);
-        setSingleDashWordOptionMode(ParseAsLongOptions); // such as the toolkit's own "-platform"
+        setSingleDashWordOptionMode(ParseAsLongOptions); // for Qt's own options, such as "-platform"
         addPositionalArgument(QStringLiteral("file"),
                               QStringLiteral("The file to open, which may be inside an archive."),
                               QStringLiteral("[file...]"));
     }
 };
 
-// Names of files need not be UTF-8. The parser sees each byte as one character, so all of them survive.
+// File names need not be UTF-8. The parser sees each byte as one character, so that all bytes survive.
 QString FromBytes(const std::string& bytes) {
     return QString::fromLatin1(bytes.data(), static_cast<qsizetype>(bytes.size()));
 }

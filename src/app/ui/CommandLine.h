@@ -5,17 +5,17 @@
 
 namespace keltavlo {
 
-// What the program was started with.
+// The arguments that the program was started with.
 struct CommandLine {
-    std::vector<std::string> paths; // to open, byte for byte; relative ones lie below the current folder
-    std::string error;              // a sentence; empty when the arguments are understood
+    std::vector<std::string> paths; // to open, byte for byte; may be relative to the current folder
+    std::string error;              // a sentence; empty if the arguments are valid
     bool help = false;
     bool version = false;
 };
 
-// The first argument is the program's own name.
+// The first argument is the program's name.
 CommandLine ParseCommandLine(const std::vector<std::string>& arguments);
-// What --help and --version print. Needs a QCoreApplication.
+// The output of --help and --version. Needs a QCoreApplication.
 std::string HelpText();
 std::string VersionText();
 

@@ -24,7 +24,7 @@ void AddFilter(std::vector<FileFilter>& filters, std::string_view label, std::st
 
 QImage ToImage(const Image& picture) {
     QImage image(picture.GetWidth(), picture.GetHeight(), QImage::Format_RGB32);
-    if (image.isNull()) return image; // a picture without pixels, or more than memory holds
+    if (image.isNull()) return image; // no pixels, or not enough memory
     PaintTiles(picture, Shell::Get().GetGammaTable(), {},
                {0, 0, image.width(), image.height(), reinterpret_cast<Color*>(image.bits()),
                 static_cast<std::size_t>(image.bytesPerLine()) / sizeof(Color)});

@@ -5,15 +5,15 @@
 
 namespace keltavlo {
 
-// What the file dialog knows of the program.
+// Functions that the program provides to the file dialog.
 
-// The filters of a file dialog: the type's own first, then the program's list for opening or saving, then all
-// files.
+// Returns the filters of a file dialog: the type's own first, then the program's list for opening or saving,
+// then all files.
 std::vector<FileFilter> BuildFileFilters(const FileNameQuestion& question);
-// The picture of that path as views show it, with its size and its type; or why there is none.
+// Returns the picture at the path as views show it, with its size and type, or the reason why there is none.
 Preview ReadPicturePreview(const std::string& path);
-// Whether a file may be saved under that path: asks before a picture gets the format of the first type
-// because its name's extension is unknown.
+// Returns whether a file may be saved under the path. If the extension is unknown, a picture would get the
+// format of the first type, so this asks the user first.
 bool MaySave(const FileNameQuestion& question, const std::string& path);
 
 } // namespace keltavlo

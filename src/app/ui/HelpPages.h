@@ -4,7 +4,7 @@
 
 namespace keltavlo {
 
-// The help page about a command or a bar, such as "models.html"; null for an id without one.
+// Returns the help page about a command or a bar, such as "models.html", or null for an id without one.
 const char* HelpPageFor(CommandId id);
 
 } // namespace keltavlo

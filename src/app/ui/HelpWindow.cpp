@@ -17,7 +17,7 @@ namespace keltavlo {
 
 namespace {
 
-// In the order in which they are best read.
+// The recommended order of reading.
 constexpr const char* pages[] = {"index.html",    "first-steps.html", "formats.html",
                                  "archives.html", "painting.html",    "flags.html",
                                  "models.html",   "keys.html",        "disabled.html"};
@@ -63,7 +63,7 @@ HelpWindow::HelpWindow() : topics(new QListWidget), browser(new QTextBrowser) {
     panes->setSizes({topics->sizeHintForColumn(0) + 3 * character, width()});
 }
 
-// The pages contain their titles.
+// Each page contains its title.
 void HelpWindow::FillTopics() {
     for (const char* page : pages) {
         browser->setSource(UrlOf(QString::fromLatin1(page)));
@@ -73,7 +73,7 @@ void HelpWindow::FillTopics() {
     browser->clearHistory();
 }
 
-// A link or a button led to another page.
+// Called when a link or a button leads to another page.
 void HelpWindow::FollowPage(const QUrl& page) {
     for (int row = 0; row < topics->count(); ++row)
         if (page == UrlOf(QString::fromLatin1(pages[row]))) {

@@ -7,13 +7,13 @@ class QTextBrowser;
 
 namespace keltavlo {
 
-// The help: the pages that the program carries, with a list of them. It stays open beside the main window and
-// does not keep the program running.
+// The help window: the built-in pages with a list of them. It stays open beside the main window and does not
+// keep the program running.
 class HelpWindow final : public QWidget {
 public:
     HelpWindow();
 
-    // Shows a page, such as "models.html", in front of the other windows.
+    // Shows a page, such as "models.html", in front of all other windows.
     void ShowPage(const QString& name);
 
 protected:

@@ -28,7 +28,7 @@ namespace keltavlo {
 
 namespace {
 
-// The strings whose widths the panes take, from pane 1 on.
+// The strings that determine the widths of the panes, from pane 1 on.
 constexpr unsigned paneSamples[] = {IDS_SAMPLE_ZOOM, IDS_SAMPLE_POSITION, IDS_SAMPLE_COLOR};
 constexpr std::size_t positionPane = 2;
 constexpr std::size_t colorPane = 3;
@@ -81,7 +81,7 @@ void MainFrame::UpdatePaletteBar(const QWidget* sender, unsigned hint, CObject* 
     if (sender != paletteBar) paletteBar->OnUpdate(sender, hint, hintObject);
 }
 
-// The palette bar comes before everybody else.
+// The palette bar gets commands first.
 bool MainFrame::OnCmdMsg(CommandId id, CCmdUI* state) {
     return (paletteBar && paletteBar->OnCmdMsg(id, state)) || CMDIFrameWnd::OnCmdMsg(id, state);
 }
@@ -128,7 +128,7 @@ void MainFrame::OnToolsOptions() {
     OnViewRefresh();
 }
 
-// The dialog knows no alpha: the color keeps its own.
+// Keeps the color's alpha, which the dialog does not support.
 void MainFrame::OnFormatColor() {
     Shell& shell = Shell::Get();
     const std::uint32_t alpha = shell.GetCurrentColor() & alphaMask;
@@ -158,14 +158,14 @@ void MainFrame::SaveSettings() {
     profile.WriteBinary(mainSection, placementValue, GetWindowPlacement(*this).ToBytes());
 }
 
-// Written before anybody is asked whether documents are to be saved, and kept whatever the answer.
+// Saves the settings before the program asks about documents, and keeps them whatever the answer.
 void MainFrame::closeEvent(QCloseEvent* event) {
     SaveSettings();
     CMDIFrameWnd::closeEvent(event);
 }
 
-// The system tells when there is something to paint on. What follows keeps the program busy, so it is awaited
-// here; without an answer the program goes on.
+// Waits until the system has exposed the window, because the next steps keep the program busy. Continues
+// after a while if the system does not respond.
 void MainFrame::ShowAsLeft() {
     ShowWindow(*this, WindowPlacement::showNormal);
     ShowWindow(*this, showCommand);

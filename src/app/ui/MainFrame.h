@@ -20,18 +20,18 @@ class MainFrame : public Dynamic<"MainFrame", MainFrame, CMDIFrameWnd> {
 public:
     MainFrame();
 
-    // The status bar's pane for positions, in texels.
+    // Shows a position in texels in the status bar.
     void SetPositionText(double x, double y);
-    // The status bar's pane for colors, 0xAARRGGBB.
+    // Shows a color, 0xAARRGGBB, in the status bar.
     void SetColorText(std::uint32_t argb);
-    // Tells every view of every open document but the sender.
+    // Notifies every view of every open document but the sender.
     void UpdateAllDocuments(DocumentView* sender, std::intptr_t hint, CObject* hintObject);
-    // Tells the palette bar that something changed, unless it is the sender: Shell::colorChanged or 0.
+    // Notifies the palette bar, unless it is the sender. `hint` is Shell::colorChanged or 0.
     void UpdatePaletteBar(const QWidget* sender, unsigned hint, CObject* hintObject);
-    // Brings the runs of the menu bar's menu up to date.
+    // Updates the runs of the current menu.
     void UpdateMenus(BaseDocument* activeDocument);
     GammaSettings& GetGamma() { return gamma; }
-    // Shows the window in its normal place, then as it was left, and paints it.
+    // Shows the window at its normal position, then in its last state, and paints it.
     void ShowAsLeft();
     bool OnCmdMsg(CommandId id, CCmdUI* state) override;
 
@@ -48,12 +48,12 @@ private:
     void OnViewRefresh();
     void OnFormatColor();
     void OnToolsOptions();
-    void OnCancel() {} // a menu's way out
+    void OnCancel() {} // closes a menu
     void OnBar(CommandId id);
     void OnUpdateBar(CCmdUI& state);
 
     GammaSettings gamma;
-    std::uint32_t showCommand = WindowPlacement::show; // once the window has been shown
+    std::uint32_t showCommand = WindowPlacement::show; // the state for the first showing
     CKelTavloToolBar* standardToolBar = nullptr;       // children of this window
     CKelTavloToolBar* filterToolBar = nullptr;
     PaletteBar* paletteBar = nullptr;

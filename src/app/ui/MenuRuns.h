@@ -6,22 +6,22 @@ namespace keltavlo {
 
 class CControlBar;
 
-// The main window's bars, by their titles.
+// The titles of the main window's bars.
 class ControlBarMenuList final : public MenuItemList {
 public:
-    // The list of bars is the main window's, which may still grow.
+    // The list of bars belongs to the main window and may still grow.
     explicit ControlBarMenuList(const std::vector<CControlBar*>& listedBars) : bars(listedBars) {}
 
     void Update(MenuItems& menu, BaseDocument* activeDocument) override;
     std::string GetItemText(CommandId id) const override;
-    // Null when no bar has that id.
+    // Returns null if no bar has that id.
     CControlBar* GetBar(CommandId id) const;
 
 private:
     const std::vector<CControlBar*>& bars;
 };
 
-// The runs of the main window's menus that change while the program runs.
+// The runs of the main window's menus that change at run time.
 struct MenuRuns {
     explicit MenuRuns(const std::vector<CControlBar*>& bars);
 

@@ -22,13 +22,13 @@ namespace keltavlo {
 namespace {
 
 constexpr const char* profileSection = "FileDialog";
-constexpr const char* profilePreview = "Preview"; // one byte, 1 while the preview is on
+constexpr const char* profilePreview = "Preview"; // one byte: 1 if the preview is on
 
 bool IsFolder(const EntryStatus& status) {
     return status.browsable || status.IsDirectory();
 }
 
-// An archive, or something in one.
+// Returns whether this is an archive or something in one.
 bool IsArchived(const EntryStatus& status) {
     return status.browsable || !status.onDisk;
 }
@@ -38,7 +38,8 @@ QString SizeText(const EntryStatus& status) {
     return ToQString(FormatString(IDS_KILOBYTES, static_cast<unsigned>(status.size / kilobyte)));
 }
 
-// A separator marks the folder of two entries of one name; its icon tells the user as much.
+// A final separator distinguishes a folder from a file with the same name. It is not shown, because
+// the icons differ.
 QString ShownName(const std::string& name) {
     return ToQString(name.ends_with('/') ? name.substr(0, name.size() - 1) : name);
 }
@@ -85,7 +86,7 @@ ArchiveFileDialog::ArchiveFileDialog(QWidget* owner, const FileNameQuestion& que
     if (SplitPath(question.proposal).directories.empty()) GoToLastFolder(question.proposal.empty());
 }
 
-// A proposed name stays: an archive would take its place.
+// Without `intoArchive`, stays on the disk, because selecting an archive would replace the proposed name.
 void ArchiveFileDialog::GoToLastFolder(bool intoArchive) {
     const std::string folder = services.memory.folder;
     if (folder.empty()) return;
@@ -96,7 +97,7 @@ void ArchiveFileDialog::GoToLastFolder(bool intoArchive) {
     if (ShowSelection(GetPathName()) && IsFolderThere(folder)) FillLowerList(folder);
 }
 
-// If a file was chosen, its folder counts, whatever the lists show.
+// If the user chose a file, its folder is remembered, whatever the lists show.
 void ArchiveFileDialog::done(int result) {
     const std::string inner = GetSelectedInnerPath();
     const std::string shown = archivePath.empty() ? FromQString(directory().absolutePath()) : archivePath;
@@ -106,7 +107,7 @@ void ArchiveFileDialog::done(int result) {
     CFileDialog::done(result);
 }
 
-// The lower list is below the standard part; preview and help are beside both.
+// Adds the lower list below the standard part, and preview and help beside both.
 void ArchiveFileDialog::AddPanels() {
     QGridLayout& grid = GetGrid();
     const int below = grid.rowCount(), beside = grid.columnCount();
@@ -144,7 +145,8 @@ bool ArchiveFileDialog::ShowSelection(const std::string& path) {
 
 void ArchiveFileDialog::FillLowerList(const std::string& path) {
     const CWaitCursor wait;
-    // A message or a progress window may come, and the old lines would be drawn.
+    // Clears the list first, because a message or a progress window may open and the old lines would
+    // be drawn.
     panel->GetList().SetItems({}, {});
     archivePath = path;
     std::vector<ArchiveListItem> items;
@@ -158,7 +160,7 @@ void ArchiveFileDialog::FillLowerList(const std::string& path) {
     panel->SetTitle(TitleOf(path));
 }
 
-// The way from the folder that the upper list shows, if it leads from there.
+// Returns the path, relative to the folder in the upper list if it is below that.
 QString ArchiveFileDialog::TitleOf(const std::string& path) const {
     if (path.empty()) return {};
     QString title = ToQString(ToDisplayPath(path));
@@ -191,8 +193,8 @@ void ArchiveFileDialog::OpenItem(const ArchiveListItem& item) {
     if (item.folder) FillLowerList(selectedPath);
 }
 
-// A name that was typed counts as selected now: an archive is shown first, so that a file can be chosen in
-// it.
+// If the user typed a path, it is selected first. If it is an archive, the dialog stays open, so that the
+// user can choose a file in it.
 bool ArchiveFileDialog::OnFileNameOK() {
     const std::string path = GetPathName();
     if (path != selection && (!ShowSelection(path) || !archivePath.empty())) return false;
@@ -217,7 +219,7 @@ EntryStatus ArchiveFileDialog::StatusOf(const std::string& path) const {
     return status;
 }
 
-// False when an archive on the way cannot be read: after telling the user.
+// Returns false, after telling the user, if an archive in the path cannot be read.
 bool ArchiveFileDialog::CanBeResolved(const std::string& path) const {
     return !LeadsThroughFile(path) || services.fileSystem.FindArchive(path);
 }

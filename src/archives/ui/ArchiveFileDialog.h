@@ -15,28 +15,28 @@ class PreviewPanel;
 struct ArchiveListItem;
 struct Preview;
 
-// What the dialog's standard part uses for as long as it lives.
+// A base class, because the dialog's standard part uses the provider as long as it lives.
 struct ArchiveFileDialogTypes {
     FileTypeProvider types;
 };
 
-// The file dialog of the program. Its lower part lists the archive that is selected in the standard list, and
-// a file chosen there is what the dialog is about.
+// The program's file dialog. Its lower part lists the archive that is selected in the standard list. If the
+// user chooses a file there, that file is the result.
 class ArchiveFileDialog final : private ArchiveFileDialogTypes, public CFileDialog {
 public:
-    // What the dialog asks the program for.
+    // What the dialog needs from the program.
     struct Services {
         FileSystem& fileSystem;
         std::function<Preview(const std::string& path)> readPreview;
         std::function<void(const std::string& what)> notImplemented; // tells the user
-        std::function<bool(const std::string& path)> mayTake;        // the last word on a path
+        std::function<bool(const std::string& path)> mayTake;        // the final decision on a path
         FileDialogMemory& memory;
     };
 
     ArchiveFileDialog(QWidget* owner, const FileNameQuestion& question, std::vector<FileFilter> filters,
                       Services programServices);
 
-    // The file chosen in the lower list; empty when there is none or no archive is selected.
+    // Returns the file chosen in the lower list, or an empty path if there is none or no archive is selected.
     std::string GetSelectedInnerPath() const;
 
 protected:
@@ -51,7 +51,7 @@ private:
     void SetUpPreview();
     void GoToLastFolder(bool intoArchive);
     QString TitleOf(const std::string& path) const;
-    // Returns false, after telling the user, when an archive on the way cannot be read.
+    // Returns false, after telling the user, if an archive in the path cannot be read.
     bool ShowSelection(const std::string& path);
     void FillLowerList(const std::string& path);
     void Describe(ArchiveListItem& item) const;
@@ -61,9 +61,9 @@ private:
     bool CanBeResolved(const std::string& path) const;
 
     Services services;
-    std::string selection;    // what is selected in the standard list, or was typed
-    std::string archivePath;  // the archive, or the folder in it, that the lower list shows; or empty
-    std::string innerName;    // of the file chosen in the lower list; outlives a change of archive
+    std::string selection;    // selected in the standard list, or typed
+    std::string archivePath;  // shown in the lower list: the archive or a folder in it; may be empty
+    std::string innerName;    // of the file chosen in the lower list; kept when the archive changes
     std::string selectedPath; // of the line last selected in the lower list
     FolderListing listing;
     ArchivePanel* panel;

@@ -64,7 +64,7 @@ QVariant ArchiveListModel::data(const QModelIndex& index, int role) const {
     switch (role) {
     case Qt::DisplayRole:
     case Qt::ToolTipRole:
-        // A name needs no description: all of them are looked at when one is searched for.
+        // Does not describe the line: its name is enough, and a search reads the names of all lines.
         if (index.column() == 0) return items[static_cast<std::size_t>(index.row())].name;
         return GetItem(index.row()).*column.text;
     case Qt::DecorationRole:

@@ -10,26 +10,26 @@ namespace keltavlo {
 
 // A line of the lower list.
 struct ArchiveListItem {
-    QString name;         // as people read it, like the other texts
-    std::size_t data = 0; // the place of the name in the listing: lines are sorted, listings are not
+    QString name;         // for display, like the other texts
+    std::size_t data = 0; // the name's index in the listing, which is not sorted
 
-    // Empty until the line is described.
+    // The fields below are empty until the line is described.
     bool described = false;
     bool folder = false;
     QString size{}, type{}, modified{};
 };
 
-// What the lower list shows, sorted by name without regard to case; equal names keep their order.
+// The contents of the lower list, sorted by name, ignoring case. Equal names keep their order.
 class ArchiveListModel final : public QAbstractTableModel {
 public:
     explicit ArchiveListModel(QObject* parent);
 
-    // Fills what a line has beside its name and data. Archives have tens of thousands of lines and a window
-    // shows a few: a line is described when it is first looked at.
+    // Fills the fields of a line other than its name and data. A line is described when it is first shown,
+    // because archives have tens of thousands of lines and a window shows only a few.
     using Describer = std::function<void(ArchiveListItem& item)>;
 
     void SetItems(std::vector<ArchiveListItem> newItems, Describer newDescriber);
-    // Described.
+    // Returns the line after describing it.
     const ArchiveListItem& GetItem(int row) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;

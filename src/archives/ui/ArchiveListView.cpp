@@ -12,8 +12,8 @@
 
 namespace keltavlo {
 
-// Gives every line of the list the size of the one with the longest name: the list, which takes all lines to
-// be alike so that long listings are quick, measures a single one.
+// Gives every line the size of the one with the longest name. The list measures only one line, because it
+// assumes uniform sizes to be fast.
 class ArchiveNameDelegate final : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -41,7 +41,7 @@ private:
 
 namespace {
 
-// Two sevenths for the name, a fifth of the rest for the size; type and time share what remains.
+// The name takes two sevenths, the size a fifth of the rest; type and time share what remains.
 std::vector<int> WidthsOfColumns(int room) {
     const int name = 2 * room / 7;
     const int size = (room - name) / 5;
@@ -105,7 +105,7 @@ ArchiveListView::Style ArchiveListView::GetStyle() const {
     return currentWidget() == details ? Style::details : Style::list;
 }
 
-// Enter on a folder opens it; on a file it goes on to the dialog's button.
+// Enter opens a folder; on a file, the dialog's button gets the key.
 bool ArchiveListView::eventFilter(QObject* view, QEvent* event) {
     if (event->type() != QEvent::KeyPress) return QStackedWidget::eventFilter(view, event);
     const int key = static_cast<QKeyEvent*>(event)->key();

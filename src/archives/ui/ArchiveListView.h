@@ -14,7 +14,7 @@ namespace keltavlo {
 
 class ArchiveNameDelegate;
 
-// The lower list: the same lines as a list of names that runs on in further columns, or with their details.
+// The lower list: its lines either as names in several columns or with their details.
 class ArchiveListView final : public QStackedWidget {
 public:
     enum class Style { list, details };
@@ -22,12 +22,12 @@ public:
     explicit ArchiveListView(QWidget* parent);
 
     void SetItems(std::vector<ArchiveListItem> items, ArchiveListModel::Describer describe);
-    // Where the keyboard goes and how the lines show; the selected line stays.
+    // Shows the lines in that style and moves the focus there. The selection stays.
     void SetStyle(Style style);
     Style GetStyle() const;
 
-    std::function<void(const ArchiveListItem&)> onSelect; // another line is selected
-    std::function<void(const ArchiveListItem&)> onOpen;   // double click, or Enter on a folder
+    std::function<void(const ArchiveListItem&)> onSelect; // called when another line is selected
+    std::function<void(const ArchiveListItem&)> onOpen;   // called on a double click or on Enter for a folder
 
 protected:
     bool eventFilter(QObject* view, QEvent* event) override;

@@ -20,7 +20,7 @@ ArchivePanel::ArchivePanel(QWidget* parent)
     titleLabel->setTextFormat(Qt::PlainText);
     titleLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     nameBox->setObjectName(QStringLiteral("nameBox"));
-    nameBox->setReadOnly(true); // only the list chooses a file
+    nameBox->setReadOnly(true); // the user chooses files only in the list
     auto* label = new QLabel(QStringLiteral("File na&me:"), this);
     label->setBuddy(nameBox);
     auto* row = new QHBoxLayout;

@@ -12,17 +12,17 @@ class QToolButton;
 
 namespace keltavlo {
 
-// The lower part of the file dialog: the list of what an archive holds, the name of the chosen file, and
+// The lower part of the file dialog: the list of an archive's contents, the name of the chosen file, and
 // three buttons.
 class ArchivePanel final : public QWidget {
 public:
     explicit ArchivePanel(QWidget* parent);
 
     ArchiveListView& GetList() { return *list; }
-    // Idle, nothing in it can be used.
+    // An inactive panel is disabled.
     void SetActive(bool active);
     void SetName(const QString& name);
-    // What the list shows the contents of.
+    // Sets the title above the list.
     void SetTitle(const QString& newTitle);
     void SetStyle(ArchiveListView::Style style);
     std::function<void()> onUpOneLevel;

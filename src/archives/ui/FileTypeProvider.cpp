@@ -19,7 +19,8 @@ const CDocTemplate* FindType(const std::string& extension) {
     return nullptr;
 }
 
-// Without the desktop's help: the name that it would have been told, else one file of the file dialog's row.
+// Returns a type's name if the desktop has none: its registered name, otherwise one derived from the file
+// dialog's filter.
 QString NameOf(const CDocTemplate& type) {
     const std::string registered = type.GetDocString(CDocTemplate::regFileTypeName);
     if (!registered.empty()) return ToQString(registered);
@@ -29,7 +30,8 @@ QString NameOf(const CDocTemplate& type) {
 
 } // namespace
 
-// Archives of other games have the same extensions, and the desktop may know only those.
+// Prefers the program's own names for archives: other games use the same extensions, and the desktop may know
+// only those.
 QString TypeNameOfFile(const std::string& name) {
     const std::string extension = TypeExtensionOf(name);
     if (extension.empty()) return {};

@@ -7,14 +7,13 @@
 
 namespace keltavlo {
 
-// What people call the type of a file of that name: as the desktop knows it, else as the program's document
-// types do. Empty when neither knows it. The file need not be there.
+// Returns the name of the type of such a file for display: the desktop's name, otherwise that of the
+// program's document type, otherwise an empty one. The file need not exist.
 QString TypeNameOfFile(const std::string& name);
 QString TypeNameOfFolder();
 
-// Icons and type names of the standard part's lines, by their names alone: the toolkit's own provider looks
-// into every file, which keeps the window waiting for seconds in a large folder. Called from the thread that
-// lists folders.
+// Icons and type names for the standard part's lines, by file name alone. Qt's own provider reads every file,
+// which delays the window by seconds in a large folder. Called from the thread that lists folders.
 class FileTypeProvider final : public QFileIconProvider {
 public:
     FileTypeProvider();
@@ -26,7 +25,7 @@ public:
 private:
     QIcon fileIcon, folderIcon;
     QString folderType;
-    QHash<QString, QString> types; // of the program's documents, by the extension in lower case
+    QHash<QString, QString> types; // of the program's documents, by lower-case extension
 };
 
 } // namespace keltavlo

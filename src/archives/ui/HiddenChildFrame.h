@@ -4,7 +4,7 @@
 
 namespace keltavlo {
 
-// The frame of a document that is never shown: it enters no list of windows and can never be active.
+// The frame of a document that is never shown. It is in no list of windows and never active.
 class HiddenChildFrame : public Dynamic<"HiddenChildFrame", HiddenChildFrame, CMDIChildWnd> {
 public:
     void ActivateFrame() override {}

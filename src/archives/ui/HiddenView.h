@@ -4,7 +4,7 @@
 
 namespace keltavlo {
 
-// The view of a document that is never shown: shows nothing.
+// The view of a document that is never shown.
 class HiddenView : public Dynamic<"HiddenView", HiddenView, CView> {};
 
 } // namespace keltavlo

@@ -9,7 +9,7 @@
 
 namespace keltavlo {
 
-// The text shows where there is no picture.
+// Shows its text if there is no picture.
 class PreviewPanel::Area final : public QLabel {
 public:
     explicit Area(QWidget* parent) : QLabel(parent) {
@@ -26,7 +26,7 @@ public:
     }
 
 protected:
-    // In whole screen pixels, so that every texel shows as it is.
+    // Scales to whole screen pixels, so that every texel stays sharp.
     void paintEvent(QPaintEvent* event) override {
         QLabel::paintEvent(event);
         if (picture.isNull()) return;

@@ -12,11 +12,11 @@ namespace keltavlo {
 
 // A picture for the preview, or the reason why there is none.
 struct Preview {
-    QImage picture; // null when there is none
+    QImage picture; // null if there is none
     QString text;   // such as size and format
 };
 
-// Shows the selected picture, fitted without smoothing, with a text below, once its switch is on.
+// Shows the selected picture, fitted without smoothing, with a text below. Its check box turns it on.
 class PreviewPanel final : public QWidget {
 public:
     // Reads the preview of a file.
@@ -25,7 +25,8 @@ public:
     PreviewPanel(QWidget* parent, Reader previewReader);
 
     bool IsPreviewEnabled() const;
-    // The file to show, or an empty path; it is read only while the switch is on, and once.
+    // Sets the file to show, or none for an empty path. Reads it at most once, and only while the
+    // preview is on.
     void SetPath(const std::string& newPath);
     std::function<void(bool enabled)> onSwitch;
     void SetPreviewEnabled(bool enabled);

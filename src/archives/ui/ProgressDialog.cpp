@@ -44,8 +44,7 @@ void ProgressDialog::SetPosition(std::int32_t position) {
     HandleSystemEvents();
 }
 
-// Closing a window and dropping files on it are not among the events that count as the user's input
-// everywhere.
+// Blocks closing a window and dropping files on it, which not every platform treats as user input.
 bool ProgressDialog::eventFilter(QObject*, QEvent* event) {
     switch (event->type()) {
     case QEvent::Close:
@@ -59,7 +58,7 @@ bool ProgressDialog::eventFilter(QObject*, QEvent* event) {
     }
 }
 
-// The next chance to draw comes a second later.
+// Draws the window now, because the next update comes a second later.
 void ProgressDialog::WaitUntilDrawn() {
     constexpr int patience = 100; // milliseconds
     const QDeadlineTimer deadline(patience);

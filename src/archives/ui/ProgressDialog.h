@@ -8,12 +8,11 @@ class QProgressBar;
 
 namespace keltavlo {
 
-// The modeless window of a progress meter: a text above a bar. While it is there the program does what the
-// system asks of its windows, such as drawing them, and nothing that the user asks of it: the work goes on in
-// the middle of something.
+// The modeless window of a progress meter: a text above a bar. While it is open, the program handles only
+// system events such as drawing, and no user input, because the work is not finished.
 class ProgressDialog final : public QDialog, public ProgressWindow {
 public:
-    // Shows itself over the owner, which may be null.
+    // Opens above the owner, which may be null.
     ProgressDialog(QWidget* owner, const QString& text, const Progress& progress);
 
     void SetPosition(std::int32_t position) override;

@@ -6,19 +6,19 @@ namespace keltavlo {
 
 class TavloDocument;
 
-// What a sheet of properties edits.
+// The texture that a property sheet edits.
 class EditTarget {
 public:
     virtual ~EditTarget() = default;
     virtual TavloDocument& GetDocument() const = 0;
 };
 
-// A page of the sheet that edits a texture's properties.
+// A page of the sheet for a texture's properties.
 class EditPropertyPage : public CPropertyPage {
 public:
     using CPropertyPage::CPropertyPage;
 
-    // The document of the sheet that holds the page.
+    // Returns the document of the page's sheet.
     TavloDocument& GetDocument() const { return dynamic_cast<EditTarget&>(*GetSheet()).GetDocument(); }
 };
 

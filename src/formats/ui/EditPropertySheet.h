@@ -7,7 +7,7 @@
 
 namespace keltavlo {
 
-// The picture's size.
+// Edits the picture's size.
 class GeneralEditPropertyPage : public EditPropertyPage {
 public:
     GeneralEditPropertyPage();
@@ -23,7 +23,7 @@ private:
     std::uint32_t height = 256;
 };
 
-// The name that a Quake texture stores.
+// Edits the name that a Quake texture stores.
 class QuakeEditPropertyPage : public EditPropertyPage {
 public:
     QuakeEditPropertyPage();
@@ -35,11 +35,11 @@ protected:
     void DoDataExchange(CDataExchange& exchange) override;
 
 private:
-    std::string name; // as stored, in bytes of any kind
+    std::string name; // as stored; any bytes
 };
 
-// Edits what the game formats store with a texture besides its pixels. Each group of values that the user
-// changed becomes one undoable change when the sheet is confirmed.
+// Edits what the game formats store with a texture besides its pixels. When the sheet is confirmed, each
+// group of values that the user changed becomes one undoable change.
 class EditPropertySheet : public CPropertySheet, public EditTarget {
 public:
     EditPropertySheet(QWidget* dialogOwner, TavloDocument& edited);

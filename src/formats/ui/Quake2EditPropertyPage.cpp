@@ -16,7 +16,7 @@ constexpr std::size_t longestName = 31;
 constexpr CDataExchange::Range values{-32767, 32768};
 constexpr int bitsPerColumn = 8;
 
-// The document of a page of the inner sheet.
+// Returns the document of a page of the inner sheet.
 TavloDocument& GetInnerPageDocument(const CPropertyPage& page) {
     return dynamic_cast<const EditPropertyPage&>(*page.GetSheet()->parentWidget()).GetDocument();
 }

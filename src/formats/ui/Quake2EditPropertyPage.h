@@ -10,7 +10,7 @@
 
 namespace keltavlo {
 
-// The names and the value that a Quake II texture stores.
+// Edits the names and the value that a Quake II texture stores.
 class Quake2GeneralEditPropertyPage : public CPropertyPage {
 public:
     Quake2GeneralEditPropertyPage();
@@ -27,10 +27,10 @@ private:
     std::int32_t value = 0;
 };
 
-// A set of flags, one check box a bit.
+// Edits a set of flags with one check box per bit.
 class Quake2FlagsEditPropertyPage : public CPropertyPage {
 public:
-    // The labels from bit 0 up; bits beyond them are kept as they are.
+    // The labels start with bit 0. Bits beyond them stay unchanged.
     Quake2FlagsEditPropertyPage(const QString& title, std::span<const std::string_view> labels);
 
     void OnInitDialog() override;
@@ -44,11 +44,11 @@ protected:
 
 private:
     std::uint32_t bitCount;
-    std::unique_ptr<bool[]> checkStates; // bitCount of them
+    std::unique_ptr<bool[]> checkStates; // bitCount elements
     std::uint32_t flags = 0;
 };
 
-// How the game treats the surface.
+// Edits how the game treats the surface.
 class Quake2SurfaceEditPropertyPage : public Quake2FlagsEditPropertyPage {
 public:
     Quake2SurfaceEditPropertyPage();
@@ -58,7 +58,7 @@ protected:
     void Store(TavloDocument& document, std::uint32_t newFlags) const override;
 };
 
-// What the game takes the space behind the surface for.
+// Edits what the game assumes to be in the space behind the surface.
 class Quake2ContentsEditPropertyPage : public Quake2FlagsEditPropertyPage {
 public:
     Quake2ContentsEditPropertyPage();
@@ -68,7 +68,7 @@ protected:
     void Store(TavloDocument& document, std::uint32_t newFlags) const override;
 };
 
-// What a Quake II texture stores, in a sheet inside the page.
+// Edits what a Quake II texture stores, in a sheet inside the page.
 class Quake2EditPropertyPage : public EditPropertyPage {
 public:
     Quake2EditPropertyPage();

@@ -54,7 +54,7 @@ void MD2View::DrawScene() {
         if (model->IsDrawable(triangle)) writer.Write(triangle);
 }
 
-// The texture's own colors, without shading.
+// Shows the texture's own colors, without shading.
 void MD2View::PutOnTexture() const {
     const TextureBuffer& texture = GetTexture();
     glTexImage2D(GL_TEXTURE_2D, 0, 4, texture.GetWidth(), texture.GetHeight(), 0, GL_BGRA, GL_UNSIGNED_BYTE,

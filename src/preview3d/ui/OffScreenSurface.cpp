@@ -11,7 +11,7 @@ namespace {
 
 constexpr QRgb opaque = 0xFF000000;
 
-// OpenGL hands out the bottom row first. What it says of alpha is of no use.
+// OpenGL returns the bottom row first and meaningless alpha.
 void TurnOver(QImage& picture) {
     for (int top = 0, bottom = picture.height() - 1; top <= bottom; ++top, --bottom) {
         auto* upper = reinterpret_cast<QRgb*>(picture.scanLine(top));

@@ -4,10 +4,10 @@
 
 namespace keltavlo {
 
-// Memory of the graphics system that OpenGL draws into: the back buffer of a window.
+// Memory of the graphics system that OpenGL draws into, as the back buffer of a window.
 class OffScreenSurface {
 public:
-    // For RenderingContext. `surfaceHandle` is the surface's own from now on.
+    // Called by RenderingContext. Takes ownership of `surfaceHandle`.
     OffScreenSurface(void* displayHandle, void* surfaceHandle, QSize surfaceSize)
         : display(displayHandle), handle(surfaceHandle), size(surfaceSize) {}
     OffScreenSurface(const OffScreenSurface&) = delete;
@@ -16,8 +16,8 @@ public:
 
     void* GetHandle() const { return handle; }
     QSize GetSize() const { return size; } // pixels
-    // Copies what was drawn, top row first. The surface must be current. `picture` becomes RGB32 of the
-    // surface's size; its memory is used again when it fits. Throws std::bad_alloc.
+    // Copies the drawn pixels, top row first. The surface must be current. `picture` becomes RGB32 of the
+    // surface's size and keeps its memory if it fits. Throws std::bad_alloc.
     void CopyTo(QImage& picture) const;
 
 private:

@@ -31,7 +31,7 @@ constexpr Corner cube[][4] = {
 
 } // namespace
 
-// The context is current for as long as it lives.
+// Keeps the context current while it lives.
 class OpenGLCtrl::CurrentScope {
 public:
     explicit CurrentScope(OpenGLCtrl& owner) : control(owner) { control.MakeCurrent(); }
@@ -153,7 +153,8 @@ void OpenGLCtrl::paintEvent(QPaintEvent* event) {
     paintRect = QRect();
 }
 
-// A move to another screen changes the number of its pixels without a resize.
+// Fits the surface here as well, because a move to another screen changes the number of pixels
+// without a resize.
 void OpenGLCtrl::Paint() {
     try {
         if (!surface || surface->GetSize() != DeviceSize()) Fit(DeviceSize());
@@ -180,7 +181,7 @@ QSize OpenGLCtrl::DeviceSize() const {
     return {static_cast<int>(std::ceil(width() * ratio)), static_cast<int>(std::ceil(height() * ratio))};
 }
 
-// Surfaces cannot change their size, so another one takes the place.
+// Replaces the surface, because surfaces cannot change their size.
 void OpenGLCtrl::ReplaceSurface(const QSize& size) {
     const auto old = std::exchange(surface, renderingContext->CreateSurface(size.expandedTo({1, 1})));
     deviceContext = nullptr;

@@ -14,46 +14,48 @@ class OffScreenSurface;
 class RenderingContext;
 struct PixelFormat;
 
-// A window that draws a scene with an OpenGL context of its own, through a fixed chain of steps that a class
-// derived from it replaces one by one. The scene is drawn off the screen and its picture painted like any
-// other. Where the system offers no OpenGL the window says so.
+// A window that draws a scene with its own OpenGL context in a fixed sequence of steps, each of which a
+// derived class can override. The scene is drawn off-screen, and its picture is painted like any other. If
+// the system has no OpenGL, the window shows a sentence that says so.
 class OpenGLCtrl : public QWidget, public CCmdTarget {
 public:
     OpenGLCtrl();
-    // Ends the context, too, but ReleaseResources no longer reaches a derived class: Destroy does.
+    // Destroys the context, but cannot call a derived class's ReleaseResources; use Destroy for that.
     ~OpenGLCtrl() override;
 
-    // Between the two the OpenGL calls go to this control; they nest. Where there is no context or no surface
-    // the calls have no effect.
+    // Between these two calls, OpenGL calls apply to this control. The pairs nest. Without a context or a
+    // surface, the OpenGL calls have no effect.
     void MakeCurrent();
     void ReleaseCurrent();
 
 protected:
-    // Makes the context and its surface; none is current afterwards.
+    // Makes the context and its surface. Afterwards no context is current.
     virtual void CreateContext();
-    // May change what is asked of the surface before it is chosen. Here: nothing.
+    // May change the requested format before the surface's format is chosen. This version does nothing.
     virtual void AdjustPixelFormat(PixelFormat& format);
-    // Ends the context, if there is one.
+    // Destroys the context, if there is one.
     virtual void DestroyContext();
     // Sets up viewport, projection and camera for a picture of cx x cy screen pixels.
     virtual void ResizeView(int cx, int cy);
-    // Clears, draws and finishes the scene and takes its picture.
+    // Clears, draws and finishes the scene, then copies its picture.
     virtual void Render();
-    // Called once for each context, with the context current, as soon as there is a surface for it.
+    // Called once per context, while it is current, as soon as there is a surface for it.
     virtual void InitGL();
     virtual void SetViewport(int cx, int cy);
-    // `aspect` is width by height.
+    // `aspect` is width divided by height.
     virtual void SetProjection(double aspect);
     virtual void SetCamera();
-    // Here: a cube.
+    // This version draws a cube.
     virtual void DrawScene();
-    // Called with the context current, just before Destroy ends it, if InitGL was. Here: nothing.
+    // Called before Destroy destroys the context, while it is current, if InitGL was called. This version
+    // does nothing.
     virtual void ReleaseResources();
 
 public:
-    // Puts the control into its parent, makes its context and shows it; without a context too.
+    // Makes the control a child of `parent`, makes its context and shows the control, even without a context.
     virtual void Create(const QRect& area, QWidget& parent);
-    // The opposite: ends the context. Call it while the object and all that ReleaseResources needs is whole.
+    // Destroys the context. Call it while the object is complete and everything that
+    // ReleaseResources needs exists.
     void Destroy() { DestroyContext(); }
 
 protected:
@@ -71,10 +73,10 @@ private:
     void Paint();
     void PaintPicture();
 
-    OffScreenSurface* deviceContext = nullptr; // the surface, while the context is current on it
+    OffScreenSurface* deviceContext = nullptr; // the surface while the context is current on it
     std::unique_ptr<RenderingContext> renderingContext;
     bool prepared = false; // InitGL was called for this context
-    QRect paintRect;       // what is being painted
+    QRect paintRect;       // the area being painted
     int currentDepth = 0;
     std::unique_ptr<OffScreenSurface> surface; // the back buffer
     QImage picture;                            // the front buffer

@@ -6,7 +6,7 @@ namespace keltavlo {
 
 class OpenGLCtrl;
 
-// A view that one OpenGL control covers. The control sees commands first.
+// A view covered by one OpenGL control, which receives commands first.
 class OpenGLView : public Dynamic<"OpenGLView", OpenGLView, CView> {
 public:
     void OnCreate() override;
@@ -15,7 +15,7 @@ public:
     bool OnCmdMsg(CommandId id, CCmdUI* state) override;
 
 protected:
-    // Called by the constructor of the class derived from this one, which owns the control.
+    // Called by the constructor of the derived class, which owns the control.
     void Host(OpenGLCtrl& hosted) { control = &hosted; }
 
     void resizeEvent(QResizeEvent* event) override;

@@ -13,8 +13,8 @@ namespace keltavlo {
 
 namespace {
 
-// A display that draws without a screen, or else that of the screen. It stays open until the program ends,
-// because contexts come and go.
+// Opens a display that draws without a screen, otherwise the screen's display. It stays open until the
+// program ends, because contexts come and go.
 EGLDisplay OpenDisplay() {
     EGLDisplay display = eglGetPlatformDisplay(EGL_PLATFORM_SURFACELESS_MESA, nullptr, nullptr);
     if (display && eglInitialize(display, nullptr, nullptr)) return display;
@@ -44,7 +44,7 @@ std::vector<EGLConfig> FindConfigs(EGLDisplay display, int depthBits) {
     return configs;
 }
 
-// The configuration with the fewest sufficient bits, so that no bits are lost and none are wasted.
+// Chooses the configuration with the fewest sufficient bits, so that no bits are lost and none wasted.
 EGLConfig ChooseConfig(EGLDisplay display, const PixelFormat& format) {
     for (int depthBits = format.depthBits; depthBits > 0; depthBits -= 8) {
         EGLConfig best = nullptr;
@@ -60,7 +60,7 @@ EGLConfig ChooseConfig(EGLDisplay display, const PixelFormat& format) {
     return nullptr;
 }
 
-// In the profile that still has the calls of OpenGL 1.
+// Uses the profile that still has the calls of OpenGL 1.
 EGLContext CreateNativeContext(EGLDisplay display, EGLConfig config) {
     constexpr std::array attributes{EGL_CONTEXT_OPENGL_PROFILE_MASK,
                                     EGL_CONTEXT_OPENGL_COMPATIBILITY_PROFILE_BIT, EGL_NONE};

@@ -35,7 +35,7 @@ private:
     void* context;
 };
 
-// The renderer and its OpenGL version for display; empty if the system has no OpenGL.
+// Returns the renderer and its OpenGL version for display, or an empty text if the system has no OpenGL.
 std::string DescribeOpenGL();
 
 } // namespace keltavlo

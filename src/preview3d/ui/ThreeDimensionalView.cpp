@@ -56,7 +56,7 @@ const CommandMap& ThreeDimensionalCtrl::GetCommandMap() const {
     return map;
 }
 
-// There is nothing to scroll.
+// Hides the scroll bars, because there is nothing to scroll.
 void ThreeDimensionalView::OnCreate() {
     OpenGLView::OnCreate();
     for (const Qt::Orientation orientation : {Qt::Horizontal, Qt::Vertical})

@@ -8,22 +8,22 @@ namespace keltavlo {
 
 class ThreeDimensionalView;
 
-// The control of a 3D view: lets the view draw, and keeps what the view draws with.
+// The control of a 3D view. It lets the view draw and owns what the view draws with.
 class ThreeDimensionalCtrl final : public OpenGLCtrl {
 public:
     struct Offset {
         double x = 0, y = 0, z = 0;
     };
 
-    // Takes the picture of an open image document for its texture.
+    // Uses a copy of an open image document's picture as its texture.
     explicit ThreeDimensionalCtrl(ThreeDimensionalView& owner);
 
-    // By how much the model is moved, in its own units.
+    // Returns by how much the model is moved, in its own units.
     const Offset& GetOffset() const { return offset; }
     const TextureBuffer& GetTexture() const { return texture; }
     bool IsTextured() const { return renderMode == textured; }
-    // Moves the model by a character that was typed: d away, e nearer, f and s to the left and right; by 16
-    // units, or by one for small steps. Other characters do nothing.
+    // Moves the model by typed characters: d away, e nearer, f and s left and right; by 16 units, or by one
+    // for small steps. Other characters do nothing.
     void MoveBy(const QString& characters, bool smallSteps);
 
 protected:
@@ -54,8 +54,8 @@ private:
     TextureBuffer texture;
 };
 
-// Shows a model in 3D: sets up the scene, moves it by the keyboard and draws it with a copy of an open image,
-// taken when the view is created.
+// Shows a model in 3D: sets up the scene, moves the model with the keyboard and draws it with a copy of an
+// open image, taken when the view is created.
 class ThreeDimensionalView : public Dynamic<"ThreeDimensionalView", ThreeDimensionalView, OpenGLView> {
 public:
     ThreeDimensionalView() : control(*this) { Host(control); }

@@ -46,7 +46,7 @@ std::exception_ptr ArchiveStream::MakeFailure(StreamError error, std::string nam
     return std::make_exception_ptr(CArchiveException(CauseOf(error), std::move(name), std::move(sentence)));
 }
 
-// The file itself, at the archive's position.
+// Returns the file itself at the archive's position.
 CFile& ArchiveStream::FlushedFile() const {
     archive.Flush();
     return archive.GetFile();

@@ -5,7 +5,7 @@
 
 namespace keltavlo {
 
-// A stream over an archive: what a document's Serialize works with. Fails with CArchiveException.
+// A stream over an archive, for a document's Serialize. Fails with CArchiveException.
 class ArchiveStream final : public InputStream, public OutputStream {
 public:
     explicit ArchiveStream(CArchive& underlying) : archive(underlying) {}

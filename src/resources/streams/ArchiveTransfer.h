@@ -5,7 +5,7 @@
 
 namespace keltavlo {
 
-// Reads the file from its position as a document is read: hands `read` a stream over an archive.
+// Calls `read` with a stream over an archive, which starts at the file's position, as for reading a document.
 template <class Read>
 void ReadThroughArchive(CFile& file, Read read) {
     CArchive archive(file, CArchive::load);
@@ -13,7 +13,7 @@ void ReadThroughArchive(CFile& file, Read read) {
     read(static_cast<InputStream&>(stream));
 }
 
-// The bytes that `write` writes to a stream over an archive.
+// Returns the bytes that `write` writes to a stream over an archive.
 template <class Write>
 std::vector<std::byte> WriteThroughArchive(Write write) {
     CMemFile file;

@@ -4,7 +4,7 @@
 
 namespace keltavlo {
 
-// A stream directly over a file: what clipboard data is read and written with. Fails with CFileException.
+// A stream directly over a file, for clipboard data. Fails with CFileException.
 class FileStream final : public InputStream, public OutputStream {
 public:
     explicit FileStream(CFile& underlying) : file(underlying) {}
@@ -26,7 +26,7 @@ private:
     std::exception_ptr MakeFailure(StreamError error, std::string name, std::string sentence) const override {
         return std::make_exception_ptr(CFileException(CauseOf(error), std::move(name), std::move(sentence)));
     }
-    // File exceptions number their causes the same way, but have fewer of them.
+    // File exceptions use the same numbers for their causes but have fewer of them.
     static CFileException::Cause CauseOf(StreamError error) {
         const bool known = error >= StreamError::generic && error <= StreamError::endOfFile;
         return known ? static_cast<CFileException::Cause>(error) : CFileException::generic;

@@ -8,14 +8,14 @@
 
 namespace keltavlo {
 
-// Numbers as files hold them: little-endian.
+// The types that files store as little-endian numbers.
 template <class T>
 concept StreamNumber = std::is_arithmetic_v<T>;
 
-// Reads a file from front to back, with seeks.
+// Reads a file from front to back; can also seek.
 class InputStream : public virtual ByteStream {
 public:
-    // Exactly `count` bytes; the end-of-file exception of the stream's form when there are fewer.
+    // Reads exactly `count` bytes. Throws the end-of-file exception of the stream's kind if there are fewer.
     virtual void Read(void* buffer, std::size_t count) = 0;
 
     template <StreamNumber T>
@@ -29,7 +29,8 @@ public:
         Read(values.data(), values.size_bytes());
     }
 
-    // Bytes from the position to the end. Readers ask before they make room for what a file claims.
+    // Returns the bytes from the position to the end. Readers check this before they allocate memory for a
+    // size that a file claims.
     std::uint64_t GetRemaining() const {
         const std::uint64_t length = GetLength();
         const std::uint64_t position = GetPosition();

@@ -4,7 +4,7 @@
 
 namespace keltavlo {
 
-// Writes a file from front to back, with seeks.
+// Writes a file from front to back; can also seek.
 class OutputStream : public virtual ByteStream {
 public:
     virtual void Write(const void* buffer, std::size_t count) = 0;

@@ -2,8 +2,7 @@
 
 namespace keltavlo {
 
-// What a stream can report: one numbering for both forms of stream. 2 to 13 are the causes of file
-// exceptions.
+// The errors of a stream, numbered alike for both kinds of stream. 2 to 13 are the causes of file exceptions.
 enum class StreamError {
     generic = 1,
     fileNotFound,
