@@ -13,7 +13,8 @@ struct CommandLine {
     bool version = false;
 };
 
-// The first argument is the program's name.
+// Reads the arguments of main: the program's name, then the toolkit's own options and ours in any order. The
+// toolkit reads its own again.
 CommandLine ParseCommandLine(const std::vector<std::string>& arguments);
 // The output of --help and --version. Needs a QCoreApplication.
 std::string HelpText();
