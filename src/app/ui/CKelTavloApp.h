@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Workshop.h"
+#include "app/ui/DesktopService.h"
 #include "archives/ui/FileDialogMemory.h"
 #include "framework/core/CWinApp.h"
 #include "framework/ui/CClipboard.h"
@@ -25,6 +26,9 @@ public:
     // Shows the main window, then opens the files or, if there are none, asks for a new document. Returns
     // false, after telling the user why, if no file could be opened; the program then ends.
     bool InitInstance(const std::vector<std::string>& paths);
+    // Waits on the session bus without a window, which comes with the first request. False when there is no
+    // bus or another program serves it.
+    bool InitService();
     // Null before InitInstance.
     MainFrame* GetMainFrame() const { return mainFrame.get(); }
 
@@ -48,6 +52,8 @@ protected:
 
 private:
     void RegisterWindowClasses();
+    void CreateMainFrame();
+    void OnDesktopRequest(const std::vector<std::string>& paths);
     bool TryOpen(const std::string& path);
     bool CarryOut(const std::vector<std::string>& paths);
     void OnCommandNew() { OnFileNew(); }
@@ -65,7 +71,8 @@ private:
     CClipboard clipboard;
     FileDialogMemory dialogMemory;
     std::unique_ptr<MainFrame> mainFrame;
-    std::unique_ptr<HelpWindow> help; // created on first use
+    DesktopService desktop{[this](const std::vector<std::string>& paths) { OnDesktopRequest(paths); }};
+    std::unique_ptr<HelpWindow> help; // made when it is first asked for
     std::unique_ptr<ContextHelp> contextHelp;
     std::uint32_t currentColor = 0; // 0xAARRGGBB, for the brushes of all documents
 };
