@@ -69,7 +69,7 @@ void CKelTavloApp::RegisterWindowClasses() {
 bool CKelTavloApp::InitInstance(const std::vector<std::string>& paths) {
     CreateMainFrame();
     mainFrame->ShowAsLeft();
-    desktop.Register(); // without it the program runs all the same
+    desktop.Register(); // the program also runs without it
     return CarryOut(paths);
 }
 

@@ -26,8 +26,8 @@ public:
     // Shows the main window, then opens the files or, if there are none, asks for a new document. Returns
     // false, after telling the user why, if no file could be opened; the program then ends.
     bool InitInstance(const std::vector<std::string>& paths);
-    // Waits on the session bus without a window, which comes with the first request. False when there is no
-    // bus or another program serves it.
+    // Waits for requests on the session bus and opens the window with the first one. Returns false if there
+    // is no bus or another program serves it.
     bool InitService();
     // Null before InitInstance.
     MainFrame* GetMainFrame() const { return mainFrame.get(); }
@@ -72,7 +72,7 @@ private:
     FileDialogMemory dialogMemory;
     std::unique_ptr<MainFrame> mainFrame;
     DesktopService desktop{[this](const std::vector<std::string>& paths) { OnDesktopRequest(paths); }};
-    std::unique_ptr<HelpWindow> help; // made when it is first asked for
+    std::unique_ptr<HelpWindow> help; // created on first use
     std::unique_ptr<ContextHelp> contextHelp;
     std::uint32_t currentColor = 0; // 0xAARRGGBB, for the brushes of all documents
 };

@@ -9,7 +9,7 @@ namespace keltavlo {
 
 namespace {
 
-// The options that the toolkit takes for itself. They are named here only so that the parser accepts them.
+// Qt's own options. They are listed only so that the parser accepts them.
 constexpr const char* toolkitOptions[] = {"reverse", "widgetcount"};
 constexpr const char* toolkitValues[] = {"display",       "name",    "platform",    "platformpluginpath",
                                          "platformtheme", "plugin",  "qwindowicon", "qwindowgeometry",
@@ -27,7 +27,7 @@ struct Parser : QCommandLineParser {
         setApplicationDescription(QStringLiteral("A workshop for the textures of games."));
         addOption(help);
         addOption(service);
-        setSingleDashWordOptionMode(ParseAsLongOptions); // as the toolkit's options are written
+        setSingleDashWordOptionMode(ParseAsLongOptions); // Qt's options start with one dash
         for (const char* name : toolkitOptions) AddToolkitOption(name, {});
         for (const char* name : toolkitValues) AddToolkitOption(name, QStringLiteral("value"));
         addPositionalArgument(QStringLiteral("file"),

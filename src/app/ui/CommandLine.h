@@ -14,8 +14,8 @@ struct CommandLine {
     bool service = false; // wait for requests on the session bus
 };
 
-// Reads the arguments of main: the program's name, then the toolkit's own options and ours in any order. The
-// toolkit reads its own again.
+// Reads the arguments of main: the program's name, then Qt's own options and the program's in any order. Qt
+// reads its own again.
 CommandLine ParseCommandLine(const std::vector<std::string>& arguments);
 // The output of --help and --version. Needs a QCoreApplication.
 std::string HelpText();

@@ -39,7 +39,7 @@ std::vector<std::string> PathsOf(const QStringList& addresses) {
     return paths;
 }
 
-// Whether no dialog is open.
+// Returns whether no dialog is open.
 bool IsOutermostLoop() {
     return QThread::currentThread()->loopLevel() <= 1;
 }
@@ -47,7 +47,7 @@ bool IsOutermostLoop() {
 } // namespace
 
 DesktopService::DesktopService(Request request) : carryOut(std::move(request)) {
-    // The loop blocks when no work is under way. What is posted now runs next, outside of this signal.
+    // The loop is about to block, so no work is being done. A queued call runs next, outside this signal.
     if (auto* dispatcher = QAbstractEventDispatcher::instance())
         connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, this, [this] {
             if (!waiting.empty() && IsOutermostLoop())
@@ -62,7 +62,7 @@ DesktopService::~DesktopService() {
 
 bool DesktopService::Register() {
     QDBusConnection bus = QDBusConnection::sessionBus();
-    // The object comes first because calls may follow as soon as the name is taken.
+    // The object is registered first, because calls may arrive as soon as the name is taken.
     isRegistered = bus.registerVirtualObject(objectPath, this) && bus.registerService(serviceName);
     return isRegistered;
 }

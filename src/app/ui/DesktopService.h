@@ -8,16 +8,17 @@
 
 namespace keltavlo {
 
-// The program on the session bus, as the interface org.freedesktop.Application: the file manager and the menu
-// of the desktop reach the running program through it.
+// The program as org.freedesktop.Application on the session bus. The desktop's file manager and menu use it
+// to reach the running program.
 class DesktopService final : public QDBusVirtualObject {
 public:
-    // Shows the program and opens the files, which may be none.
+    // Shows the program and opens the files, if any.
     using Request = std::function<void(const std::vector<std::string>& paths)>;
 
-    // Each call from the bus becomes a request, made while no dialog is open and no other work is under way.
+    // Each call from the bus becomes a request, which is carried out while no dialog is open and no other
+    // work is being done.
     explicit DesktopService(Request request);
-    // Gives up the name on the bus.
+    // Releases the name on the bus.
     ~DesktopService() override;
 
     // Takes the program's name on the bus. Returns false if there is no bus or another program has the name.

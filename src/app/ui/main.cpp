@@ -17,7 +17,7 @@ namespace {
 
 QtMessageHandler toolkitHandler = nullptr;
 
-// Without a display the toolkit reports why, and aborts. This ends the program with the first reason instead.
+// Without a display, Qt reports why and aborts. This handler ends the program with the first reason instead.
 void HandleMessage(QtMsgType type, const QMessageLogContext& context, const QString& text) {
     static QString reason;
     const bool isReason = std::string_view(context.category).starts_with("qt.qpa");
@@ -35,7 +35,7 @@ void NameApplication() {
     QCoreApplication::setApplicationVersion(QStringLiteral(KELTAVLO_VERSION));
 }
 
-// Answers what needs no screen, before the windowing system is asked for one. Returns the exit code.
+// Prints what needs no screen, before the windowing system is opened. Returns the exit code.
 int AnswerOnConsole(const CommandLine& line, int argc, char** argv) {
     const QCoreApplication console(argc, argv); // the help shows the program's name
     if (line.help)
@@ -47,7 +47,7 @@ int AnswerOnConsole(const CommandLine& line, int argc, char** argv) {
     return line.help || line.version ? 0 : 1;
 }
 
-// The desktop finds the program's name and icon under the name of its desktop file.
+// The desktop uses the name of the desktop file to find the program's name and icon.
 void NameWindows() {
     QGuiApplication::setDesktopFileName(QStringLiteral("org.example.keltavlo"));
     QIcon icon;
@@ -69,7 +69,7 @@ int main(int argc, char** argv) try {
     CKelTavloApp program(ProfileStore("KelTavlo", "KelTavlo"));
     const bool isReady = line.service ? program.InitService() : program.InitInstance(line.paths);
     return isReady ? QCoreApplication::exec() : 1;
-} catch (const std::bad_alloc& failure) { // no event was under way
+} catch (const std::bad_alloc& failure) { // no event was being handled
     std::fprintf(stderr, "keltavlo: %s\n", SentenceOf(failure));
     return 1;
 }

@@ -24,7 +24,7 @@ using Sections = ProfileStore::Sections;
 // The store never writes a larger file.
 constexpr std::uint64_t largestFile = 1 << 20;
 
-// A program that hangs keeps the lock. Losing one of two settings is better than waiting for it.
+// A program that hangs keeps the lock. Losing a setting is better than waiting for it.
 constexpr int longestWait = 500; // milliseconds
 
 std::string DefaultPath(const std::string& company, const std::string& application) {

@@ -9,10 +9,10 @@
 
 namespace keltavlo {
 
-// The user's settings: sections of named binary values, in a file. Nothing here fails loudly: a setting that
-// cannot be read is absent, one that cannot be written is lost. The file is read at the start. Each change
-// reads it again, edits it and replaces it under a lock, so that two running programs keep each other's
-// settings.
+// The user's settings: sections of named binary values in a file. No function throws because of the file: an
+// unreadable setting counts as absent, and one that cannot be written is lost. The file is read at the start.
+// Each change reads it again, edits it and replaces it under a lock, so that programs that run at the same
+// time keep each other's settings.
 class ProfileStore {
 public:
     using Bytes = std::vector<std::byte>;
@@ -32,9 +32,9 @@ public:
                                           std::size_t size) const;
     // Returns false if the value is lost.
     bool WriteBinary(const std::string& section, const std::string& name, const Bytes& data);
-    // Empty when there is no such section.
+    // Returns an empty section if there is none with that name.
     Section GetSection(const std::string& section) const;
-    // Passes the section's values to `edit` and stores what it leaves. Returns false when that is lost.
+    // Passes the section's values to `edit` and stores the result. Returns false if it is lost.
     bool EditSection(const std::string& section, const std::function<void(Section&)>& edit);
     // Deletes every section with everything in it.
     bool DeleteSubKeys();

@@ -51,7 +51,7 @@ void RecentFileList::Remove(const std::string& path) {
 }
 
 void RecentFileList::Change(const std::string& path, bool isAdded) {
-    std::vector<std::string> changed; // apart, so that running out of memory loses no entry
+    std::vector<std::string> changed; // a copy, so that running out of memory loses no entry
     const auto append = [&](const std::string& other) {
         const bool isKnown =
             SamePath(other, path) ||
@@ -61,7 +61,7 @@ void RecentFileList::Change(const std::string& path, bool isAdded) {
     if (isAdded) changed.push_back(path);
     profile.EditSection(section, [&](ProfileStore::Section& values) {
         std::ranges::for_each(PathsIn(values), append);
-        std::ranges::for_each(paths, append); // that could not be written
+        std::ranges::for_each(paths, append); // entries that could not be written
         values = ToValues(changed);
     });
     paths = std::move(changed);

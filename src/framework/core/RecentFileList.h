@@ -7,8 +7,8 @@ namespace keltavlo {
 
 class ProfileStore;
 
-// The files opened or saved last, newest first; kept in the user's settings. A change takes in what other
-// programs have added to the list meanwhile.
+// The most recently opened or saved files, newest first, stored in the user's settings. A change also adopts
+// what other programs have added to the list since.
 class RecentFileList {
 public:
     static constexpr std::size_t capacity = 4;
