@@ -26,7 +26,7 @@ private:
     int value;
 };
 
-// An ordinary file on the disk, read and written in place.
+// An ordinary file on disk, read and written where it lies.
 class DiskFile final : public CFile {
 public:
     // Opens an existing ordinary file. Throws CFileException on failure.
