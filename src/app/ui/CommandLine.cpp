@@ -9,6 +9,12 @@ namespace keltavlo {
 
 namespace {
 
+// The options that the toolkit takes for itself. They are named here only so that the parser accepts them.
+constexpr const char* toolkitOptions[] = {"reverse", "widgetcount"};
+constexpr const char* toolkitValues[] = {"display",       "name",    "platform",    "platformpluginpath",
+                                         "platformtheme", "plugin",  "qwindowicon", "qwindowgeometry",
+                                         "qwindowtitle",  "session", "style",       "stylesheet"};
+
 struct Parser : QCommandLineParser {
     QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")},
                             QStringLiteral("Print this text.")};
@@ -17,10 +23,19 @@ struct Parser : QCommandLineParser {
     Parser() {
         setApplicationDescription(QStringLiteral("A workshop for the textures of games."));
         addOption(help);
-        setSingleDashWordOptionMode(ParseAsLongOptions); // such as the toolkit's own "-platform"
+        setSingleDashWordOptionMode(ParseAsLongOptions); // as the toolkit's options are written
+        for (const char* name : toolkitOptions) AddToolkitOption(name, {});
+        for (const char* name : toolkitValues) AddToolkitOption(name, QStringLiteral("value"));
         addPositionalArgument(QStringLiteral("file"),
                               QStringLiteral("The file to open, which may be inside an archive."),
                               QStringLiteral("[file...]"));
+    }
+
+private:
+    void AddToolkitOption(const char* name, const QString& value) {
+        QCommandLineOption option(QString::fromLatin1(name), {}, value);
+        option.setFlags(QCommandLineOption::HiddenFromHelp);
+        addOption(option);
     }
 };
 

@@ -13,7 +13,8 @@ struct CommandLine {
     bool version = false;
 };
 
-// The first argument is the program's own name.
+// Reads the arguments of main: the program's name, then the toolkit's own options and ours in any order. The
+// toolkit reads its own again.
 CommandLine ParseCommandLine(const std::vector<std::string>& arguments);
 // What --help and --version print. Needs a QCoreApplication.
 std::string HelpText();
