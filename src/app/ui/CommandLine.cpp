@@ -19,10 +19,14 @@ struct Parser : QCommandLineParser {
     QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")},
                             QStringLiteral("Print this text.")};
     QCommandLineOption version = addVersionOption();
+    QCommandLineOption service{
+        QStringLiteral("service"),
+        QStringLiteral("Wait for the desktop to open files; the session bus starts this.")};
 
     Parser() {
         setApplicationDescription(QStringLiteral("A workshop for the textures of games."));
         addOption(help);
+        addOption(service);
         setSingleDashWordOptionMode(ParseAsLongOptions); // as the toolkit's options are written
         for (const char* name : toolkitOptions) AddToolkitOption(name, {});
         for (const char* name : toolkitValues) AddToolkitOption(name, QStringLiteral("value"));
@@ -58,6 +62,7 @@ CommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
     if (!parser.parse(texts)) line.error = ToBytes(parser.errorText());
     line.help = parser.isSet(parser.help);
     line.version = parser.isSet(parser.version);
+    line.service = parser.isSet(parser.service);
     for (const QString& path : parser.positionalArguments()) line.paths.push_back(ToBytes(path));
     return line;
 }

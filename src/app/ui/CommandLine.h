@@ -11,6 +11,7 @@ struct CommandLine {
     std::string error;              // a sentence; empty when the arguments are understood
     bool help = false;
     bool version = false;
+    bool service = false; // wait for requests on the session bus
 };
 
 // Reads the arguments of main: the program's name, then the toolkit's own options and ours in any order. The

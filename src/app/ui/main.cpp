@@ -49,7 +49,7 @@ int AnswerOnConsole(const CommandLine& line, int argc, char** argv) {
 
 // The desktop finds the program's name and icon under the name of its desktop file.
 void NameWindows() {
-    QGuiApplication::setDesktopFileName(QStringLiteral("keltavlo"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.example.keltavlo"));
     QIcon icon;
     for (const int size : {16, 24, 32, 48, 64, 128})
         icon.addFile(QStringLiteral(":/icons/keltavlo-%1.png").arg(size));
@@ -67,7 +67,8 @@ int main(int argc, char** argv) try {
     const GuardedApplication windows(argc, argv);
     NameWindows();
     CKelTavloApp program(ProfileStore("KelTavlo", "KelTavlo"));
-    return program.InitInstance(line.paths) ? QCoreApplication::exec() : 1;
+    const bool isReady = line.service ? program.InitService() : program.InitInstance(line.paths);
+    return isReady ? QCoreApplication::exec() : 1;
 } catch (const std::bad_alloc& failure) { // no event was under way
     std::fprintf(stderr, "keltavlo: %s\n", SentenceOf(failure));
     return 1;
