@@ -3,7 +3,6 @@
 #include "framework/core/ModulePath.h"
 #include "framework/core/Path.h"
 #include "image/ImageDocuments.h"
-#include "resources/BuiltInFiles.h"
 #include "support/CauseOf.h"
 #include "support/TestApplication.h"
 
@@ -19,20 +18,22 @@ protected:
     CFileException::Cause OpenFailure(const std::string& path, unsigned flags = CFile::modeRead) {
         CFileException failure;
         EXPECT_EQ(application.GetFileSystem().OpenFile(path, flags, &failure), nullptr);
+        EXPECT_EQ(failure.fileName, path);
         return failure.cause;
     }
+    static Bytes PackWithLetter(std::string_view text) {
+        return PackBuilder{{"deep/letter.txt", ToBytes(text)}}.Build();
+    }
     static Bytes SamplePack() {
-        PackBuilder inner, outer;
-        inner.Add("deep/letter.txt", ToBytes("from inside"));
-        outer.Add("textures/e1u1/floor1_1.wal", MakeWal(8, 8));
-        outer.Add("readme.txt", ToBytes("first"));
-        outer.Add("README.TXT", ToBytes("second"));
-        outer.Add("a", ToBytes("a file"));
-        outer.Add("a/b", ToBytes("below a folder of its name"));
-        outer.Add("c/d", ToBytes("first of all"));
-        outer.Add("c", ToBytes("behind a folder of its name"));
-        outer.Add("inner.pak", inner.Build());
-        return outer.Build();
+        return PackBuilder{{"textures/e1u1/floor1_1.wal", MakeWal(8, 8)},
+                           {"readme.txt", ToBytes("first")},
+                           {"README.TXT", ToBytes("second")},
+                           {"a", ToBytes("a file")},
+                           {"a/b", ToBytes("below a folder of its name")},
+                           {"c/d", ToBytes("first of all")},
+                           {"c", ToBytes("behind a folder of its name")},
+                           {"inner.pak", PackWithLetter("from inside")}}
+            .Build();
     }
 
     const std::string pack = Put("pak0.pak", SamplePack());
@@ -80,9 +81,7 @@ TEST_F(FileSystemTest, PathsWorkInEverySpelling) {
 }
 
 TEST_F(FileSystemTest, APackInItselfEndsSomewhere) {
-    PackBuilder builder;
-    builder.Add("self.pak", {});
-    Bytes bytes = CutTo(builder.Build(), PackBuilder::headerSize + 56);
+    Bytes bytes = CutTo(PackBuilder{{"self.pak", {}}}.Build(), PackBuilder::headerSize + 56);
     const Bytes wholeFile = Words({0, PackBuilder::headerSize + PackBuilder::recordSize});
     bytes.insert(bytes.end(), wholeFile.begin(), wholeFile.end());
     std::string path = Put("self.pak", bytes);
@@ -98,11 +97,7 @@ TEST_F(FileSystemTest, AChangedArchiveIsReadAgain) {
     auto& document = *Open<WALDocument>(picture);
     EXPECT_EQ(TextOf(pack + "/inner.pak/deep/letter.txt"), "from inside");
     const auto kept = application.GetFileSystem().OpenFile(pack + "/a", CFile::modeReadWrite, nullptr);
-    PackBuilder inner, outer;
-    inner.Add("deep/letter.txt", ToBytes("rebuilt"));
-    outer.Add("added", ToBytes("new"));
-    outer.Add("inner.pak", inner.Build());
-    Put("pak0.pak", outer.Build());
+    Put("pak0.pak", PackBuilder{{"added", {}}, {"inner.pak", PackWithLetter("rebuilt")}}.Build());
     EXPECT_THAT(NamesIn(pack), ElementsAre("added", "inner.pak"));
     EXPECT_EQ(TextOf(pack + "/inner.pak/deep/letter.txt"), "rebuilt");
     EXPECT_EQ(Open<WALDocument>(picture), &document) << "open pictures stay";
@@ -149,10 +144,8 @@ TEST_F(FileSystemTest, ATextureInAPackIsSavedIntoIt) {
 }
 
 TEST_F(FileSystemTest, AnotherProgramHoldsNothing) {
-    PackBuilder builder;
-    builder.Add("setup.exe", ToBytes("MZ!"));
-    for (const std::string& path :
-         {Put("other.exe", ToBytes("MZ!")), Put("p.pak", builder.Build()) + "/setup.exe"}) {
+    const Bytes setup = PackBuilder{{"setup.exe", ToBytes("MZ!")}}.Build();
+    for (const std::string& path : {Put("other.exe", ToBytes("MZ!")), Put("p.pak", setup) + "/setup.exe"}) {
         EXPECT_TRUE(NamesIn(path).empty()) << path;
         EXPECT_FALSE(StatusOf(path + "/res/Quake.lmp").exists) << path;
     }

@@ -36,7 +36,7 @@ protected:
 TEST_F(ProgressMeterTest, ShowsWorkThatWillTakeTwoSeconds) {
     const std::string open = "open Working... 0..100 at ";
     Expect(0, 100, {{0, 49, {}}, {-10, 49, {}}, {1, 50, {open + "50"}}, {1, 51, {}}, {2, 52, {"52"}}});
-    // It is looked at once a second, whatever came of it.
+    // The meter decides once a second.
     Expect(0, 100, {{1, 51, {}}, {1, 1, {}}, {2, 52, {open + "52"}}});
 }
 

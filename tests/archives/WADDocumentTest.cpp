@@ -21,7 +21,7 @@ protected:
         wad.Add("set/floor\\tile", WadBuilder::wad2TextureType, ToBytes("x"));
         return wad.Build(place);
     }
-    // Where field `field` of the record stands in what ThreeLumps yields.
+    // The offset of a field of the record in the bytes of ThreeLumps.
     static std::size_t RecordField(const Bytes& wad, std::size_t record, std::size_t field) {
         return wad.size() - (3 - record) * WadBuilder::recordSize + field;
     }
@@ -43,12 +43,10 @@ TEST_F(WADDocumentTest, NamesFollowTheLumpTypes) {
 }
 
 TEST_F(WADDocumentTest, TexturesOpenWhereverTheArchiveLies) {
-    PackBuilder pack;
-    pack.Add("a/inner.WAD", ThreeLumps(WadBuilder::Directory::first));
-    const std::string paths[] = {Put("last.wad", ThreeLumps()),
-                                 Put("first.wad", ThreeLumps(WadBuilder::Directory::first)),
-                                 Put("pack.pak", pack.Build()) + "/A/Inner.wad"};
-    for (const std::string& path : paths) {
+    const Bytes wad = ThreeLumps(WadBuilder::Directory::first);
+    const Bytes pack = PackBuilder{{"a/inner.WAD", wad}}.Build();
+    for (const std::string& path :
+         {Put("last.wad", ThreeLumps()), Put("first.wad", wad), Put("pack.pak", pack) + "/A/Inner.wad"}) {
         EXPECT_THAT(NamesIn(path), ElementsAre("wall1.mip", "words", "set")) << path;
         EXPECT_THAT(NamesIn(path + "/SET/Floor"), ElementsAre("tile.mip")) << path;
         EXPECT_EQ(TextOf(path + "/words"), "twelve bytes") << path;

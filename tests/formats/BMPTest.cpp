@@ -16,7 +16,7 @@ struct Header {
     std::uint16_t bitCount;
 };
 
-// A file of the header, its first bytes when it is a short one, what follows it and then the rows.
+// Builds a file from the header, or the first bytes of a short one, what follows it, and the rows.
 Bytes MakeBmp(const Header& header, const Bytes& table, const Bytes& rows) {
     Bytes bytes = ToBytes("BM");
     bytes.resize(headerSize + 40);
@@ -46,7 +46,7 @@ protected:
         const Texture texture = bmp.Read(bytes);
         return {texture.Pixels().begin(), texture.Pixels().end()};
     }
-    // The file with another value in one field.
+    // Reads the file with another value in one field.
     template <class T>
     int FailureWith(Bytes bytes, std::size_t field, T value) const {
         Put(bytes, field, value);
@@ -116,7 +116,7 @@ TEST_F(BMPTest, FieldsThatAShortHeaderLacksAreZero) {
         EXPECT_EQ(bmp.ReadFailure(MakeBmp({size, 1, 2, 32}, {}, Words({1, 2}))), CArchiveException::badIndex);
 }
 
-// With fields of 16 bits for the sides, and colours of three bytes; the last fields that are missing are 1.
+// They have 16-bit sides and colors of three bytes; missing fields at the end are 1.
 TEST_F(BMPTest, ReadsHeadersOfAtMost12Bytes) {
     const Bytes file = FromNumbers({'B', 'M', 0, 0, 0, 0, 0, 0, 0, 0, 32, 0, 0, 0, 12,   0, 0, 0,
                                     2,   0,   1, 0, 1, 0, 1, 0, 1, 2, 3,  4, 5, 6, 0x40, 0, 0, 0});

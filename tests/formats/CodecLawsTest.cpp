@@ -18,6 +18,7 @@ TEST_P(CodecLaws, WhatIsWrittenIsReadBackAndHasPixels) {
         EXPECT_EQ(back.Pixels()[0] == 0x00123456, codec.codec.documentClass == "TGADocument");
         EXPECT_TRUE(std::ranges::equal(back.Pixels().subspan(1), texture.Pixels().subspan(1)));
     }
+    EXPECT_EQ(codec.WriteFailure(Texture(5, 3)) == CArchiveException::badIndex, codec.codec.hasGameSizes);
     EXPECT_EQ(codec.WriteFailure(Texture(0, 8)), CArchiveException::badIndex);
     EXPECT_EQ(codec.WriteFailure(Texture(8, 0)), CArchiveException::badIndex);
 }

@@ -6,7 +6,7 @@ constexpr std::size_t offsetsOffset = 24, endOfLevels = 40 + 64 * 64 * 85 / 64;
 
 class MIPTest : public testing::Test {
 protected:
-    // The file of the texture, and bytes of 0 after it.
+    // The file of the texture followed by zeros.
     Bytes FileWithTail(std::size_t tail) const {
         Bytes bytes = mip.Write(texture);
         bytes.resize(endOfLevels + tail);
@@ -19,7 +19,7 @@ protected:
 
 TEST_F(MIPTest, WritesAPaletteOnlyForATextureThatHasOne) {
     EXPECT_EQ(mip.Write(texture).size(), endOfLevels);
-    // The same colours as the default ones are still the texture's own.
+    // A palette equal to the default one still belongs to the texture.
     texture.SetPalette(CodecHarness::Palette());
     EXPECT_EQ(mip.Write(texture).size(), endOfLevels + 770);
     EXPECT_EQ(*mip.Read(mip.Write(texture)).palette, CodecHarness::Palette());
@@ -65,13 +65,13 @@ TEST_F(MIPTest, AShortPaletteMustStillHoldEveryIndex) {
 }
 
 TEST_F(MIPTest, LevelsMayLieAnywhere) {
-    // Level 0 behind the others, and the palette behind it.
+    // Level 0 follows the others, and the palette follows it.
     Bytes bytes = FileWithTail(4096 + 770);
     std::copy_n(bytes.begin() + 40, 4096, bytes.begin() + endOfLevels);
     Put<std::uint32_t>(bytes, offsetsOffset, endOfLevels);
     Put<std::int16_t>(bytes, endOfLevels + 4096, 256);
     EXPECT_NE(mip.Read(bytes).palette, nullptr);
-    // An end beyond the file leaves a negative rest, not a large one, even past 32 bits.
+    // A level that ends beyond the file leaves no bytes for a palette, even past 32 bits.
     Put<std::uint32_t>(bytes, offsetsOffset + 4, 0xFFFFFFFF);
     const Texture read = mip.Read(bytes);
     EXPECT_EQ(read.palette, nullptr);

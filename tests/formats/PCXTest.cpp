@@ -8,14 +8,14 @@ constexpr std::size_t headerSize = 128, trailerSize = 769;
 
 class PCXTest : public testing::Test {
 protected:
-    // A file without a palette whose rows are coded in these bytes.
+    // Builds a file without a palette from coded rows.
     Bytes FileOf(std::uint16_t width, std::uint16_t height, std::initializer_list<int> rows) const {
         Bytes bytes = CutTo(pcx.Write(Texture(width, height)), headerSize);
         const Bytes coded = FromNumbers(rows);
         bytes.insert(bytes.end(), coded.begin(), coded.end());
         return bytes;
     }
-    // The indices that the file's pixels have in the default palette.
+    // Reads the file's pixels as indices of the default palette.
     std::vector<std::size_t> Indices(const Bytes& bytes) const {
         const Texture texture = pcx.Read(bytes);
         std::vector<std::size_t> indices;
@@ -35,8 +35,8 @@ TEST_F(PCXTest, CodesEveryPixelByItselfAndEvenRows) {
     const Bytes bytes = pcx.Write(texture);
     ASSERT_EQ(bytes.size(), headerSize + 5 + trailerSize);
     EXPECT_THAT(Numbers(bytes, 0, 16), ElementsAre(10, 5, 1, 8, 0, 0, 0, 0, 2, 0, 0, 0, 72, 0, 72, 0));
-    EXPECT_EQ(bytes[16 + 3], std::byte{1});                         // red of the second colour
-    EXPECT_THAT(Numbers(bytes, 65, 5), ElementsAre(1, 4, 0, 1, 0)); // planes, bytes of a row, colours
+    EXPECT_EQ(bytes[16 + 3], std::byte{1});                         // red of the second color
+    EXPECT_THAT(Numbers(bytes, 65, 5), ElementsAre(1, 4, 0, 1, 0)); // planes, bytes of a row, colors
     EXPECT_THAT(Numbers(bytes, headerSize, 6), ElementsAre(5, 0xC1, 0xC8, 7, 0, 12));
     texture.palette = nullptr;
     EXPECT_EQ(pcx.Write(texture).size(), headerSize + 5);
@@ -74,7 +74,7 @@ TEST_F(PCXTest, RowsMayBeCodedInTheFewestBytes) {
 }
 
 TEST_F(PCXTest, AFileWithoutAPaletteGetsTheDefaultOne) {
-    // A file of 769 bytes has no room for one, whatever it starts with; one byte more and it has.
+    // A file of 769 bytes has no room for a palette, whatever it starts with; one of 770 bytes has.
     Bytes bytes = FileOf(2, 1, {1, 2});
     bytes.resize(trailerSize);
     EXPECT_EQ(*pcx.Read(bytes).palette, CodecHarness::Palette());

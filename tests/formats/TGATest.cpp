@@ -12,7 +12,7 @@ protected:
     // 3 x 2, opaque.
     TGATest() : picture(3, 2) { std::ranges::copy(pixels, picture.Pixels().begin()); }
 
-    // The picture's file, with a byte changed.
+    // Returns the picture's file with a byte changed.
     Bytes FileWith(std::size_t offset, int value) const {
         Bytes bytes = tga.Write(picture);
         Put(bytes, offset, static_cast<std::uint8_t>(value));

@@ -28,7 +28,7 @@ protected:
     ConvertedPicture converted;
 };
 
-// What a stroke says to look different must be all that does.
+// Nothing outside the run that a stroke reports may look different.
 TEST_P(ConvertedPictureTest, StrokesConvertOnlyWhatTheyMust) {
     for (int stroke = 0; stroke < 500; ++stroke) {
         if (stroke % 100 == 0) {

@@ -62,8 +62,7 @@ protected:
         bool failed, toldLastView, hit;
     };
 
-    // Makes the edit, or does without, in a new document that can be undone and redone and is shown in two
-    // views.
+    // Makes the edit, or none, in a new document with two views and changes to undo and redo.
     Outcome Run(bool makeEdit, unsigned first, bool lasting) {
         auto& document = New<WALDocument>();
         document.GetTexture().SetSize(8, 8);
@@ -106,7 +105,7 @@ TEST_P(EditFaults, AnEditIsMadeWholeOrNotAtAll) {
 INSTANTIATE_TEST_SUITE_P(Edits, EditFaults, testing::ValuesIn(edits),
                          [](const auto& edit) { return std::string(edit.param.name); });
 
-// A picture for a view: neither half of one nor tables of another palette.
+// A view gets no half converted picture and no tables of another palette.
 TEST(ConvertedPictureFaults, LeaveNothingBehind) {
     const Image picture = RandomTexture(7, 5);
     const ColorList list{0xFF000000, 0xFF80FF00, 0xFFFFFFFF}, other{0xFF102030, 0xFFFFFF00};

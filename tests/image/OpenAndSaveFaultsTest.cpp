@@ -11,8 +11,8 @@
 
 namespace keltavlo {
 
-// Every read, write, flush, rename and allocation of an open and of a save fails once, and from then on; and
-// whole processes that are killed and places that cannot be written.
+// Every read, write, flush, rename and allocation of an open and of a save fails once, and from then on.
+// Processes are killed, and places cannot be written.
 
 namespace fs = std::filesystem;
 
@@ -34,8 +34,8 @@ class FaultPoints : public WorkshopTest, public testing::WithParamInterface<Code
 protected:
     static constexpr unsigned never = 1000000;
 
-    // Calls visit(step, first, lasting) for every fault until one comes too late to hit, which it answers by
-    // false, or would be later than `latest`.
+    // Calls visit(step, first, lasting) for every fault up to `latest`, until it returns false: the fault
+    // came too late to hit.
     template <class Visit>
     static void ForEachFault(Visit visit, unsigned latest = never) {
         for (int step = 0; step <= static_cast<int>(lastStep); ++step)
@@ -70,7 +70,7 @@ protected:
         return SamePixels(left, right) && left.quake2 == right.quake2 && !left.palette == !right.palette &&
                (!left.palette || *left.palette == *right.palette);
     }
-    // Saves a new document over a file of these bytes, or to a name of no file.
+    // Saves a new document over a file of these bytes; without bytes there is no file.
     Attempt Save(int side, const Bytes& old, Step step, unsigned first, bool lasting) {
         fs::remove(target);
         if (!old.empty()) WriteFile(target, old);
@@ -146,7 +146,7 @@ TEST_F(SaveFaults, AKilledSaveLeavesTheOldFileOrTheNew) {
         std::ranges::fill(document->GetTexture().Pixels(), 0xFF000000 | number % 16 * 0x0F0F0F);
         return document->OnSaveDocument(path);
     };
-    // Programs that start meanwhile clear up behind the killed ones, not behind the others.
+    // Programs that start meanwhile remove the leftovers of killed ones and of no others.
     std::optional<ChildProcess> starting(std::in_place, [] {
         for (;;) RemoveAbandonedSaves();
         return 0;

@@ -1,7 +1,6 @@
 #include "image/ImageDocuments.h"
 #include "res/CommandIds.h"
 #include "resources/Brush.h"
-#include "resources/BuiltInFiles.h"
 #include "resources/MenuItemList.h"
 #include "resources/PaletteDocument.h"
 #include "support/CodecHarness.h"

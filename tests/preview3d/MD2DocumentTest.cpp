@@ -27,9 +27,8 @@ protected:
 TEST_F(MD2DocumentTest, ReadsEveryPartAlsoInAPack) {
     Bytes bytes = Small().Build();
     PutU32(bytes, Md2Builder::frameSize, 1); // of no importance
-    PackBuilder pack;
-    pack.Add("models/m.md2", bytes);
-    const auto* model = Open<MD2Document>(Put("pak0.pak", pack.Build()) + "/models/M.MD2");
+    const PackBuilder pack{{"models/m.md2", bytes}};
+    auto* model = Open<MD2Document>(Put("pak0.pak", pack.Build()) + "/models/M.MD2");
     ASSERT_NE(model, nullptr);
     EXPECT_THAT(model->GetSkins(), ElementsAre("models/a.pcxxy", std::string(64, 'n')));
     EXPECT_EQ(model->GetTexCoords().at(2).s, 2);
@@ -44,6 +43,9 @@ TEST_F(MD2DocumentTest, ReadsEveryPartAlsoInAPack) {
     EXPECT_THAT(triangles.at(0).vertices, ElementsAre(2, 1, 0));
     EXPECT_THAT(triangles[0].texCoords, ElementsAre(0, 1, 2));
     for (std::size_t i = 0; i < 4; ++i) EXPECT_EQ(model->IsDrawable(triangles.at(i)), i == 0) << i;
+    EXPECT_FALSE(model->OnOpenDocument(PathTo("missing.md2")));
+    EXPECT_TRUE(model->GetSkins().empty() && model->GetTexCoords().empty() && triangles.empty() &&
+                model->GetFrames().empty());
 }
 
 TEST_F(MD2DocumentTest, PartsMayBeMissingOrAsLargeAsTheGameAllows) {

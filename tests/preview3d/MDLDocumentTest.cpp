@@ -10,7 +10,7 @@ using testing::HasSubstr;
 class MDLDocumentTest : public WorkshopTest {
 protected:
     std::string OpenModel(const Bytes& bytes) { return Try<MDLDocument>(bytes, ".mdl"); }
-    // The message for the small model with fields changed.
+    // Changes fields of the small model and returns the message.
     std::string OpenWith(std::initializer_list<std::pair<std::size_t, std::uint32_t>> fields) {
         Bytes bytes = Small();
         for (const auto& [field, value] : fields) PutU32(bytes, field, value);

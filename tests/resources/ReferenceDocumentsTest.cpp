@@ -1,5 +1,4 @@
 #include "resources/Brush.h"
-#include "resources/BuiltInFiles.h"
 #include "resources/PaletteDocument.h"
 #include "support/TestApplication.h"
 
@@ -13,9 +12,9 @@ using ReferenceDocumentsTest = WorkshopTest;
 TEST_F(ReferenceDocumentsTest, PaletteLumps) {
     Bytes lump = Words({0xFF563412});
     lump.resize(800);
-    auto* palette = Open<LMPDocument>(Put("my colours.lmp", lump));
+    auto* palette = Open<LMPDocument>(Put("my colors.lmp", lump));
     ASSERT_NE(palette, nullptr);
-    EXPECT_EQ(palette->GetTitle(), "my colours");
+    EXPECT_EQ(palette->GetTitle(), "my colors");
     EXPECT_EQ(palette->GetColor(0), 0xFF123456U);
     EXPECT_THROW(palette->GetColor(256), std::out_of_range);
     EXPECT_TRUE(application.GetRecentFiles().GetPaths().empty());

@@ -2,7 +2,7 @@
 
 namespace keltavlo {
 
-// Why the action fails with an exception of the class; -1 when it does not fail.
+// Returns the cause of the exception of that class that the action throws; -1 if it throws none.
 template <class Exception, class Action>
 int CauseOf(Action action) {
     try {

@@ -8,11 +8,10 @@
 
 namespace keltavlo {
 
-// A process that carries out an action. It ends with this object, or with the test's process if that is
-// killed.
+// A process that runs an action. It ends with this object, or with the test's process if that is killed.
 class ChildProcess {
 public:
-    // The action returns the exit code. An exception must not leave: the child would go on with the tests.
+    // The action returns the exit code. It must not throw, because the child would continue with the tests.
     template <class Action>
     explicit ChildProcess(Action action) : id(fork()) {
         if (id != 0) return;
@@ -25,7 +24,7 @@ public:
         if (id > 0) kill(id, SIGKILL);
         Wait();
     }
-    // The status as waitpid has it, -1 without a process.
+    // Returns the status of waitpid; -1 without a process.
     int Wait() {
         int status = -1;
         if (const pid_t ended = std::exchange(id, -1); ended > 0) waitpid(ended, &status, 0);

@@ -11,8 +11,7 @@
 
 namespace keltavlo {
 
-// Reading and writing pictures of one format in memory, with a palette of 256 different colours as the
-// format's default one.
+// Reads and writes pictures of one format in memory. The default palette has 256 different colors.
 class CodecHarness {
 public:
     explicit CodecHarness(const Codec& usedCodec) : codec(usedCodec) {}
@@ -28,7 +27,7 @@ public:
         return palette;
     }
 
-    // What reading the bytes makes of the texture.
+    // Reads the bytes into the texture and returns it.
     Texture Read(Bytes bytes, Texture texture = Texture()) const {
         bytes.shrink_to_fit(); // so that a reader past the end is noticed
         CMemFile file(bytes);
@@ -37,7 +36,7 @@ public:
 
     Bytes Write(const Texture& texture) const { return EncodeTexture(codec, texture, &Palette()); }
 
-    // The CArchiveException::Cause, -1 for none.
+    // These return the CArchiveException::Cause, -1 for none.
     int ReadFailure(const Bytes& bytes, const Texture& texture = Texture()) const {
         return CauseOf<CArchiveException>([&] { Read(bytes, texture); });
     }
@@ -54,7 +53,7 @@ void Put(Bytes& bytes, std::size_t offset, T value) {
     std::memcpy(bytes.data() + offset, &value, sizeof value);
 }
 
-// So many of the bytes, as numbers.
+// Returns `count` bytes as numbers.
 inline std::vector<int> Numbers(const Bytes& bytes, std::size_t first, std::size_t count) {
     std::vector<int> numbers;
     for (std::size_t i = first; i < first + count; ++i) numbers.push_back(std::to_integer<int>(bytes.at(i)));
@@ -72,7 +71,7 @@ inline bool SamePixels(const Image& left, const Image& right) {
            std::ranges::equal(left.Pixels(), right.Pixels());
 }
 
-// Colours of the list in no order.
+// Returns a picture of random colors of the list.
 inline Texture RandomTexture(int width, int height, const ColorList& colors = CodecHarness::Palette()) {
     std::mt19937 random(17);
     Texture texture(width, height);

@@ -8,7 +8,7 @@
 
 namespace keltavlo {
 
-// A clock that stands until the test moves it, or runs by itself.
+// A clock that the test sets and that advances by `perLook` each time it is read.
 class FakeClock final : public ProgressClock {
 public:
     std::int64_t GetSeconds() const override {
@@ -20,7 +20,7 @@ public:
     std::int64_t perLook = 0;
 };
 
-// A main window that notes what progress windows come, show and go.
+// A main window that records what its progress windows do.
 struct ProgressShell final : Shell {
     void UpdateMenus(BaseDocument*) override {}
     void UpdatePaletteBar(unsigned) override {}

@@ -3,7 +3,6 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
-#include <new>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -32,7 +31,7 @@ long Call(Step step, long number, Arguments... arguments) noexcept {
 
 } // namespace
 
-// In place of the system's own, for all tests of the program.
+// These replace the system's own.
 extern "C" {
 ssize_t pread(int file, void* bytes, std::size_t count, off_t offset) {
     return Call(Step::read, SYS_pread64, file, bytes, count, offset);

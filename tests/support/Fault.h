@@ -6,10 +6,11 @@
 
 namespace keltavlo {
 
-// Steps of the operating system and of the memory. A large allocation takes 64 KiB or more.
+// Steps that can fail. A large allocation takes 64 KiB or more.
 enum class Step { read, write, shortWrite, flush, rename, allocation, largeAllocation };
 
-// While it lives, one step of this thread fails the `first`-th time, and each later time too when it lasts.
+// Makes a step of this thread fail the `first`-th time and, if lasting, each later time, while this object
+// lives.
 class Fault {
 public:
     Fault(Step failingStep, unsigned firstTime, bool lasts)
@@ -33,7 +34,7 @@ struct FaultOutcome {
     bool wasHit, ranOutOfMemory;
 };
 
-// Whether the action met the fault and left by an exception.
+// Returns whether the action met the fault and whether it threw std::bad_alloc.
 template <class Action>
 FaultOutcome RunWithFault(Step step, unsigned first, bool lasting, Action action) {
     const Fault fault(step, first, lasting);

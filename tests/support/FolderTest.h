@@ -8,12 +8,12 @@
 
 namespace keltavlo {
 
-// A folder for files, made afresh for each test.
+// Provides an empty folder for each test.
 class FolderTest : public testing::Test {
 protected:
     // A path in the folder.
     std::string PathTo(const std::string& name) const { return folder.path().toStdString() + "/" + name; }
-    // Writes the file and tells its path.
+    // Writes the file and returns its path.
     std::string Put(const std::string& name, const Bytes& bytes) const {
         WriteFile(PathTo(name), bytes);
         return PathTo(name);

@@ -6,17 +6,15 @@
 #include "support/FolderTest.h"
 #include "support/builders/TextureBuilder.h"
 
-#include <utility>
-
 namespace keltavlo {
 
-// What the sentences for files that cannot be opened say.
+// Parts of the messages about files that cannot be opened.
 inline constexpr const char* badFormat = "expected format";
 inline constexpr const char* badVersion = "version";
 inline constexpr const char* badIndex = "does not allow";
 inline constexpr const char* tooShort = "too early";
 
-// What the target says of the command, which it must know.
+// Returns the state of the command, which the target must handle.
 inline CCmdUI StateOf(CCmdTarget& target, CommandId id) {
     CCmdUI state(id);
     EXPECT_TRUE(target.OnCmdMsg(id, &state));
@@ -28,10 +26,10 @@ void Send(Target& target) {
     target.OnCmdMsg(id, nullptr);
 }
 
-// The program without windows and a folder for files, made afresh for each test.
+// Provides the program without windows, and an empty folder, for each test.
 class WorkshopTest : public FolderTest {
 protected:
-    // The document that opens under the path; null, with a message, when it does not.
+    // Opens the document; null, with a message, if that fails.
     template <class Document>
     Document* Open(const std::string& path) {
         return dynamic_cast<Document*>(application.OpenDocumentFile(path));
@@ -45,19 +43,19 @@ protected:
         application.newType = DocTemplateRegistry::Get().FindTemplate(Document::runtimeClass);
         return dynamic_cast<Document&>(*application.OnFileNew());
     }
-    // Opens the bytes as a new file: empty when that goes well, else the message.
+    // Opens the bytes as a new file and returns the message; empty if it opens.
     template <class Document>
     std::string Try(const Bytes& bytes, const std::string& extension) {
         const std::string path = Put("file" + std::to_string(++fileCount) + extension, bytes);
         return Open<Document>(path) ? std::string() : TakeMessage();
     }
-    // The one message since the last call; none and several are failures of the test.
+    // Returns the only message since the last call; none and several are failures of the test.
     std::string TakeMessage() {
         EXPECT_EQ(messages.size(), 1U);
         const std::vector<std::string> taken = std::exchange(messages, {});
         return taken.empty() ? std::string() : taken.front();
     }
-    // What the file system has in a folder or archive.
+    // The names in a folder or archive.
     std::vector<std::string> NamesIn(const std::string& path) {
         FolderListing listing;
         application.GetFileSystem().ListFolder(path, listing);
@@ -68,7 +66,7 @@ protected:
         application.GetFileSystem().GetStatus(path, status);
         return status;
     }
-    // The bytes that lie under a path of the file system; "(fails)" when it does not open.
+    // Reads the file; "(fails)" if it does not open.
     std::string TextOf(const std::string& path) {
         const auto file = application.GetFileSystem().OpenFile(path, CFile::modeRead, nullptr);
         if (!file) return "(fails)";

@@ -1,9 +1,5 @@
 #include "support/ui/TavloViewFixture.h"
 
-#include <QDockWidget>
-#include <QTextBrowser>
-#include <QToolBar>
-
 namespace keltavlo {
 
 // The program with a texture; each test asks for help on parts of its window.
@@ -12,7 +8,7 @@ struct ContextHelpTest : TavloViewFixture {
         const QCursor* cursor = QGuiApplication::overrideCursor();
         return cursor && cursor->shape() == Qt::WhatsThisCursor;
     }
-    // The page that the help shows; closes the help.
+    // Closes the help and returns the page that it showed.
     static std::string TakePage() {
         for (QWidget* window : QApplication::topLevelWidgets())
             if (const auto* browser = window->findChild<QTextBrowser*>(); browser && window->isVisible()) {

@@ -1,10 +1,7 @@
 #include "app/ui/HelpWindow.h"
 #include "framework/ui/DialogControls.h"
+#include "res/ControlIds.h"
 #include "support/ui/TavloViewFixture.h"
-
-#include <QAccessible>
-#include <QMetaEnum>
-#include <QPlainTextEdit>
 
 #include <fstream>
 #include <sstream>
@@ -27,7 +24,7 @@ QString IdOf(const QWidget& control) {
     return {};
 }
 
-// Empty for what has nothing to say.
+// Empty for a widget without texts.
 QString Describe(QWidget& widget) {
     QAccessibleInterface* face = QAccessible::queryAccessibleInterface(&widget);
     if (!face || face->role() == QAccessible::ScrollBar) return {};
@@ -77,8 +74,14 @@ std::string ReadingOf(const QWidget& window) {
 }
 
 struct DialogsTest : TavloViewFixture {
-    void Read(const QWidget& window) { reading += ReadingOf(window) + '\n'; }
-    // Reads the dialog of the command by what the test does to it.
+    void Read(const QWidget& window) {
+        reading += ReadingOf(window) + '\n';
+        for (QLabel* label : window.findChildren<QLabel*>()) {
+            const bool hasText = label->isVisible() && !label->text().isEmpty();
+            EXPECT_FALSE(hasText && IsPlain(label->grab().toImage())) << label->text().toStdString();
+        }
+    }
+    // Opens the dialog of the command, calls the function with it and closes it.
     void ReadDialog(CommandId id, const std::function<void(QDialog&)>& read) {
         const DialogAnswer answer([&](QDialog& dialog) {
             read(dialog);
@@ -100,7 +103,7 @@ struct DialogsTest : TavloViewFixture {
     std::string reading;
 };
 
-// The file beside this one says what every dialog shows; a change that is meant changes it, too.
+// The file beside this one lists what every dialog shows; a deliberate change edits it, too.
 TEST_F(DialogsTest, SayWhatTheyAreKnownToSay) {
     ReadDialog(ID_APP_ABOUT, [&](QDialog& dialog) {
         Read(dialog);
@@ -109,6 +112,14 @@ TEST_F(DialogsTest, SayWhatTheyAreKnownToSay) {
              {PathTo("settings.ini"), std::string(qVersion()), std::string("OpenGL: ")})
             EXPECT_TRUE(information.contains(part.c_str())) << part;
         EXPECT_FALSE(information.contains("not available"));
+        QTextBrowser opened;
+        for (const char* scheme : {"http", "mailto"})
+            QDesktopServices::setUrlHandler(scheme, &opened, "setSource");
+        const auto& links = dynamic_cast<DialogControls&>(dialog);
+        QTest::mouseClick(&links.GetDlgItem(IDC_WEBSITE), Qt::LeftButton);
+        EXPECT_EQ(opened.source(), QUrl("http://www.example.org/keltavlo"));
+        QTest::keyClick(&links.GetDlgItem(IDC_EMAIL), Qt::Key_Return);
+        EXPECT_EQ(opened.source(), QUrl("mailto:keltavlo@example.org"));
     });
     ReadDialog(ID_FILE_NEW, [&](QDialog& dialog) { Read(dialog); });
     ReadDialog(ID_EDIT_PROPERTIES, [&](QDialog& dialog) { ReadPages(dialog); });

@@ -5,37 +5,22 @@
 #include "image/TavloDocument.h"
 #include "support/ui/ProgramFixture.h"
 
-#include <QFile>
-#include <QFileDialog>
-#include <QListWidget>
-#include <QStackedWidget>
-#include <QTextBlock>
-#include <QTextBrowser>
-
 #include <set>
 
 namespace keltavlo {
 
-using testing::ElementsAre;
 using testing::HasSubstr;
 
 struct FileDialogsTest : ProgramFixture {
     FileDialogsTest() {
         QApplication::setQuitOnLastWindowClosed(false); // there may be another program after this one
-        PackBuilder pack;
-        pack.Add("textures/a.wal", MakeWal(8, 8, "a"));
-        pack.Add("textures/b.wal", MakeWal(8, 8, "b"));
-        pack.Add("textures/large.wal", MakeWal(64, 64, "large"));
-        pack.Add("textures/bad.wal", ToBytes("bad"));
-        pack.Add("readme", ToBytes("bad"));
+        const PackBuilder pack{{"textures/a.wal", MakeWal(8, 8, "a")},
+                               {"textures/b.wal", MakeWal(8, 8, "b")},
+                               {"textures/large.wal", MakeWal(64, 64, "large")},
+                               {"textures/bad.wal", ToBytes("bad")},
+                               {"readme", ToBytes("bad")}};
         Put("pak0.pak", pack.Build());
         EXPECT_TRUE(program.InitInstance({textures + "a.wal"}));
-    }
-
-    auto Enter(const std::string& name, QDialogButtonBox::StandardButton button) {
-        return [=, path = QString::fromStdString(textures + name)](QDialog& dialog) {
-            EnterName(dialog, path, button);
-        };
     }
 
     const std::string textures = PathTo("pak0.pak/textures/");
@@ -43,35 +28,25 @@ struct FileDialogsTest : ProgramFixture {
 
 TEST_F(FileDialogsTest, SavesOverAnEntryAndTellsAtTheEndThatArchivesAreReadOnly) {
     const Bytes before = ReadFile(PathTo("pak0.pak"));
-    const auto name = Enter("b.wal", QDialogButtonBox::Save);
-    std::vector<std::string> told;
-    const auto answer = [&told](QDialogButtonBox::StandardButton button) {
-        return [&told, button](QDialog& dialog) {
-            told.push_back(dynamic_cast<QMessageBox&>(dialog).text().toStdString());
-            Press(dialog, button);
-        };
-    };
     {
-        // A texture from an archive is saved under a name that the person confirms, and replaces what is
-        // there.
-        const DialogAnswer answers(
+        const DialogAnswer answers( // a texture from an archive is saved under a name that the user confirms
             [&](QDialog& dialog) {
                 EXPECT_EQ(dialog.findChild<QLineEdit*>("fileNameEdit")->text(), "pak0.pak/textures/a.wal");
-                name(dialog);
+                EnterName(dialog, QString::fromStdString(textures + "b.wal"), QDialogButtonBox::Save);
             },
-            answer(QDialogButtonBox::Yes));
+            Confirm("already exists", QDialogButtonBox::Yes));
         EXPECT_TRUE(Send(ID_FILE_SAVE));
     }
     {
-        const DialogAnswer answers(answer(QDialogButtonBox::Yes), answer(QDialogButtonBox::Ok));
+        const std::string question = "Save changes to " + PathTo("pak0.pak") + "?";
+        const DialogAnswer answers(Confirm(question.c_str(), QDialogButtonBox::Yes),
+                                   Confirm("pak0.pak", QDialogButtonBox::Ok));
         EXPECT_FALSE(program.SaveAllModified());
     }
-    EXPECT_THAT(told, ElementsAre(HasSubstr("already exists"), "Save changes to " + PathTo("pak0.pak") + "?",
-                                  HasSubstr("pak0.pak")));
     EXPECT_EQ(ReadFile(PathTo("pak0.pak")), before);
 }
 
-// Rows of Save As for a texture of Quake II.
+// The rows of file types in Save As for a Quake II texture.
 enum SaveType { ownType, everyType, bmpType, mipType, pcxType, tgaType, walType, anyType };
 
 TEST_F(FileDialogsTest, TheFileTypeDecidesTheExtension) {

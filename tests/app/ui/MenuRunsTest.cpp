@@ -1,19 +1,10 @@
-#include "image/ImageDocuments.h"
-#include "resources/Brush.h"
-#include "support/ui/ProgramFixture.h"
-
-#include <QColorDialog>
+#include "support/ui/TavloViewFixture.h"
 
 namespace keltavlo {
 
-struct MenuRunsTest : ProgramFixture {
-    MenuRunsTest() {
-        program.InitInstance({Put("floor.wal", MakeWal(16, 8))});
-        document = dynamic_cast<WALDocument*>(GetMainFrame().MDIGetActive()->GetActiveDocument());
-    }
-
+struct MenuRunsTest : TavloViewFixture {
     QAction* Item(CommandId id) { return GetMainFrame().GetCurrentMenu().FindItem(id); }
-    // The items of that popup with a check mark, as the menu shows them.
+    // The checked items of the popup that contains the command.
     QStringList CheckedAround(CommandId id) {
         GetMainFrame().GetCurrentMenu().UpdateAll();
         QStringList texts;
@@ -24,8 +15,6 @@ struct MenuRunsTest : ProgramFixture {
     QStringList TextsAround(CommandId id) {
         return Item(id) ? ItemTexts(*qobject_cast<QMenu*>(Item(id)->parent())) : QStringList();
     }
-
-    WALDocument* document = nullptr;
 };
 
 TEST_F(MenuRunsTest, ListWhatIsOpen) {
@@ -50,8 +39,12 @@ TEST_F(MenuRunsTest, ListWhatIsOpen) {
 
 TEST_F(MenuRunsTest, ShowAndHideTheBars) {
     EXPECT_EQ(TextsAround(ID_BAR_FIRST), QStringList({"Palette", "Standard", "View Filter"}));
+    auto& popup = *qobject_cast<QMenu*>(Item(ID_BAR_FIRST)->parent());
     for (const bool shown : {false, true}) {
         EXPECT_TRUE(Send(ID_BAR_FIRST));
+        popup.popup({});
+        EXPECT_EQ(Item(ID_BAR_FIRST)->isChecked(), shown);
+        popup.close();
         EXPECT_EQ(StateOf(ID_BAR_FIRST).checked, shown);
         EXPECT_TRUE(StateOf(ID_BAR_FIRST + 1).checked);
     }

@@ -7,29 +7,24 @@
 #include "support/TestApplication.h"
 #include "support/ui/DialogAnswer.h"
 
-#include <QCompleter>
-#include <QScrollBar>
-#include <QStyledItemDelegate>
-
 #include <ctime>
 
 namespace keltavlo {
 
 namespace {
 
-// A folder with two packs, a bad one and a picture, and a dialog on it.
+// A dialog that shows a folder with two packs, a damaged pack and a picture.
 struct ArchiveFileDialogTest : WorkshopTest {
     ArchiveFileDialogTest() {
         AddStrings(ShellStrings());
-        PackBuilder small, large;
-        small.Add("c.wal", MakeWal(8, 8));
-        large.Add("textures/Wall.wal", MakeWal(16, 8));
-        large.Add("textures/e1/b.wal", MakeWal(8, 8));
-        large.Add("zebra.txt", Bytes(500));
-        large.Add("apple.wal", Bytes(3 * 1024 - 1));
-        large.Add("inner.pak", small.Build());
+        const Bytes small = PackBuilder{{"c.wal", MakeWal(8, 8)}}.Build();
+        const PackBuilder large{{"textures/Wall.wal", MakeWal(16, 8)},
+                                {"textures/e1/b.wal", MakeWal(8, 8)},
+                                {"zebra.txt", Bytes(500)},
+                                {"apple.wal", Bytes(3 * 1024 - 1)},
+                                {"inner.pak", small}};
         Put("pak0.pak", large.Build());
-        Put("pak1.pak", small.Build());
+        Put("pak1.pak", small);
         Put("bad.pak", ToBytes("this is no pack at all"));
         Put("plain.wal", MakeWal(32, 16));
     }
@@ -41,7 +36,7 @@ struct ArchiveFileDialogTest : WorkshopTest {
         if (!selected.isEmpty()) Select(selected);
     }
 
-    // The middle of that line, once it is there.
+    // Waits for the row of that name and returns its center.
     static QPoint PlaceOf(const QAbstractItemView& view, const QString& name) {
         QRect area;
         EXPECT_TRUE(WaitFor([&] {
@@ -82,7 +77,7 @@ struct ArchiveFileDialogTest : WorkshopTest {
         edit->selectAll();
         QTest::keyClicks(edit, name);
     }
-    // Whether the dialog took what is chosen.
+    // Returns whether the dialog accepted and closed.
     bool PressOK() {
         Press(dialog, QDialogButtonBox::Open);
         return !dialog.isVisible();
@@ -97,7 +92,9 @@ struct ArchiveFileDialogTest : WorkshopTest {
                              {application.GetFileSystem(),
                               [this](const std::string& path) {
                                   previewed.push_back(path);
-                                  return Preview{QImage(4, 2, QImage::Format_RGB32), "4 x 2"};
+                                  QImage picture(4, 2, QImage::Format_RGB32);
+                                  picture.fill(Qt::red);
+                                  return Preview{picture, "4 x 2"};
                               },
                               [this](const std::string& what) { missing.push_back(what); },
                               [](const std::string&) { return true; }, memory}};
@@ -155,10 +152,7 @@ TEST_F(ArchiveFileDialogTest, WalksIntoFoldersAndArchivesAndTakesTheFileChosenTh
 }
 
 TEST_F(ArchiveFileDialogTest, EntersAFolderOfAFilesName) {
-    PackBuilder pack;
-    pack.Add("a", Bytes(2048));
-    pack.Add("a/b.wal", MakeWal(8, 8));
-    Put("twins.pak", pack.Build());
+    Put("twins.pak", PackBuilder{{"a", Bytes(2048)}, {"a/b.wal", MakeWal(8, 8)}}.Build());
     Show("twins.pak");
     EXPECT_EQ(Column(), QStringList({"a", "a"}));
     EXPECT_EQ(Column(1), QStringList({"2KB", ""}));
@@ -216,7 +210,7 @@ TEST_F(ArchiveFileDialogTest, SwitchesBetweenListAndDetails) {
     EXPECT_EQ(Column().size(), 4U);
 }
 
-TEST_F(ArchiveFileDialogTest, ReadsABadArchiveOnceForEachActOfThePerson) {
+TEST_F(ArchiveFileDialogTest, ReadsABadArchiveOnceForEachActOfTheUser) {
     Show("bad.pak");
     EXPECT_NE(TakeMessage().find("bad.pak"), std::string::npos);
     EXPECT_TRUE(Column().isEmpty());
@@ -244,6 +238,9 @@ TEST_F(ArchiveFileDialogTest, ReadsPreviewsOnlyWhileTheyAreSwitchedOn) {
     EXPECT_EQ(ToNativePath(previewed[0]), PathTo("pak0.pak/apple.wal"));
     EXPECT_EQ(previewed[2], PathTo("plain.wal"));
     EXPECT_EQ(dialog.findChild<QLabel*>("previewText")->text(), "4 x 2");
+    const QImage preview = dialog.findChild<QLabel*>("previewArea")->grab().toImage();
+    EXPECT_EQ(preview.pixelColor(preview.rect().center()), QColor(Qt::red));
+    EXPECT_NE(preview.pixelColor(preview.width() / 2, 1), QColor(Qt::red)) << "as wide as the area";
 }
 
 TEST_F(ArchiveFileDialogTest, ListsATypedFolderOfAnArchiveAndNamesIt) {
@@ -335,7 +332,7 @@ TEST(ArchiveListViewTest, CutsNoNameInTheList) {
         }
 }
 
-// Of processor time, which other programs do not change.
+// Processor time, because other programs do not affect it.
 double ThreadSeconds() {
     timespec time{};
     clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);

@@ -3,15 +3,13 @@
 #include "res/ControlIds.h"
 #include "support/ui/TavloViewFixture.h"
 
-#include <QAbstractSpinBox>
-
 namespace keltavlo {
 
 namespace {
 
-// The sheet as a person at the keyboard meets it.
+// Uses the sheet as a user at the keyboard does.
 struct Sheet {
-    // The third page is a sheet of pages itself; they are the pages 2, 3 and 4 here.
+    // The third page contains a sheet of its own, whose pages have the numbers 2, 3 and 4 here.
     void ShowPage(int index) const {
         const auto tabs = dialog.findChildren<QTabWidget*>();
         tabs[0]->setCurrentIndex(std::min(index, 2));
@@ -44,7 +42,7 @@ struct EditPropertySheetTest : TavloViewFixture {
         });
         EXPECT_TRUE(Send(ID_EDIT_PROPERTIES));
     }
-    // The names of the recorded changes, in the order in which they were made. Takes them back.
+    // Undoes all recorded changes and returns their names, the oldest first.
     std::vector<std::string> TakeChanges() {
         std::vector<std::string> names;
         for (; document->GetHistory().CanUndo(); document->GetHistory().Undo())

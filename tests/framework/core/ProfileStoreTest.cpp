@@ -1,6 +1,8 @@
 #include "framework/core/ProfileStore.h"
 
 #include "framework/core/RecentFileList.h"
+#include "framework/core/SealedState.h"
+#include "framework/core/WindowPlacement.h"
 #include "support/FolderTest.h"
 
 #include <QLockFile>
@@ -100,6 +102,35 @@ TEST_F(ProfileStoreTest, AProgramThatHangsHoldsUpNoOther) {
     const auto start = std::chrono::steady_clock::now();
     EXPECT_TRUE(store.WriteBinary("Main", "Value", {}));
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2));
+}
+
+TEST(WindowPlacementTest, IsElevenWords) {
+    WindowPlacement placement;
+    placement.showCommand = WindowPlacement::showMaximized;
+    placement.normal = {-20, 30, 1000, 0x12345678};
+    constexpr std::uint32_t none = 0xFFFFFFFF; // no minimized or maximized position
+    EXPECT_EQ(placement.ToBytes(),
+              Words({44, 0, 3, none, none, none, none, 0xFFFFFFEC, 30, 1000, 0x12345678}));
+    placement.minimized = {5, 6};
+    placement.maximized = {7, 8};
+    Bytes bytes = placement.ToBytes();
+    EXPECT_EQ(WindowPlacement::FromBytes(bytes), placement);
+    placement.showCommand = 0; // hidden
+    EXPECT_EQ(WindowPlacement::FromBytes(placement.ToBytes())->showCommand, WindowPlacement::show);
+    placement.normal = {10, 10, 10, 20}; // without any width
+    EXPECT_FALSE(WindowPlacement::FromBytes(placement.ToBytes()));
+    EXPECT_FALSE(WindowPlacement::FromBytes(CutTo(bytes, 43)));
+    PutU32(bytes, 0, 45);
+    EXPECT_FALSE(WindowPlacement::FromBytes(bytes));
+}
+
+// The tests of the bars read damaged ones.
+TEST(SealedStateTest, OpensOnlyItsVersionWithoutMore) {
+    Bytes sealed = SealState(7, "some state");
+    EXPECT_EQ(UnsealState(7, sealed), "some state");
+    EXPECT_TRUE(UnsealState(8, sealed).isNull());
+    sealed.push_back({});
+    EXPECT_TRUE(UnsealState(7, sealed).isNull());
 }
 
 } // namespace keltavlo

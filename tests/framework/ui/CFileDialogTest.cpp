@@ -10,7 +10,7 @@ struct CFileDialogTest : FolderTest {
         for (const char* name : {"pak0.pak", "README"}) Put(name, {});
     }
 
-    // Types the name and presses the button; the path that the dialog takes, or nothing when it stays open.
+    // Types the name, presses the button and returns the accepted path; nothing if the dialog stays open.
     std::optional<std::string> Type(bool open, const QString& name) {
         FileNameQuestion question;
         question.open = question.mustExist = open;
@@ -54,7 +54,7 @@ TEST_F(CFileDialogTest, ProposesANameInItsFolderOrTheWayThroughAnArchive) {
     }
 }
 
-// The patterns are not what the label says; one that ends with a separator has no empty pattern behind it.
+// The label does not show the patterns. A separator at the end adds no empty pattern.
 TEST_F(CFileDialogTest, ShowsLabelsAndFiltersByPatterns) {
     for (const char* name : {"a.wal", "b.tga", "c.x", "noise"}) Put(name, {});
     CFileDialog dialog(nullptr, {}, {{"Targa (*.x)", "*tga;*.pak;"}, {"All Files (*.*)", "*.*"}});

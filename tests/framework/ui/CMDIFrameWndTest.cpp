@@ -1,9 +1,6 @@
 #include "framework/ui/CMenu.h"
 #include "support/ui/WindowFixture.h"
 
-#include <QMdiArea>
-#include <QMenuBar>
-
 namespace keltavlo {
 
 using CMDIFrameWndTest = WindowFixture;
@@ -76,8 +73,7 @@ TEST_F(CMDIFrameWndTest, AcceleratorsAskForTheStateWhenTheyFire) {
     pressCtrl(Qt::Key_D);
     EXPECT_THAT(Log(), ElementsAre("document"));
     document.blocked = false;
-    // The item's text names the same keys; they must not become ambiguous by it. Ctrl+W is the toolkit's key
-    // for closing a child.
+    // The item's text contains the same keys; they must stay unambiguous. Qt closes a child by Ctrl+W.
     mainFrame.GetCurrentMenu().UpdateAll();
     EXPECT_EQ(mainFrame.GetCurrentMenu().FindItem(documentCommand)->text(), "&Renamed\tCtrl+D");
     pressCtrl(Qt::Key_D);
@@ -118,6 +114,7 @@ TEST_F(CMDIFrameWndTest, ListsItsWindows) {
     menu.UpdateAll();
     EXPECT_EQ(menu.FindItem(ID_WINDOW_CHILD_FIRST)->text(), "&1 shown2");
     EXPECT_FALSE(menu.FindItem(ID_WINDOW_CHILD_FIRST + 1));
+    EXPECT_FALSE(AskCommand(mainFrame, ID_WINDOW_CHILD_FIRST + 1).enabled);
 }
 
 TEST_F(CMDIFrameWndTest, TilesWithoutGapsAndLeavesIconsAtTheLowerEdge) {
@@ -163,7 +160,7 @@ TEST_F(CMDIFrameWndTest, NumbersTheWindowsOfADocument) {
     TestDocument& document = NewDocument();
     document.SetTitle("a&b\tc[*]");
     CMDIChildWnd& first = FrameOf(document);
-    // The toolkit shows a doubled mark once, and in the place of a single one whether there are changes.
+    // Qt shows a doubled mark once, and replaces a single one by the sign of changes.
     EXPECT_EQ(first.windowTitle(), "a&b\tc[*][*][*]");
     ASSERT_TRUE(Send(ID_WINDOW_NEW));
     CMDIChildWnd& second = *mainFrame.MDIGetActive();

@@ -4,8 +4,6 @@
 #include "framework/ui/SplitTracker.h"
 #include "support/ui/WindowFixture.h"
 
-#include <QScrollBar>
-
 namespace keltavlo {
 
 constexpr auto rows = CSplitterWnd::rows;
@@ -21,7 +19,7 @@ struct CSplitterWndTest : WindowFixture {
         QTest::mouseMove(&handle, start + way);
         QTest::mouseRelease(&handle, Qt::LeftButton, {}, start + way);
     }
-    // The visible handles of the direction: the box or the line.
+    // The visible handle of the direction, which is a box or a line.
     QWidget& Handle(CSplitterWnd::Direction direction) const {
         const Qt::CursorShape shape = direction == rows ? Qt::SplitVCursor : Qt::SplitHCursor;
         for (QWidget* widget : splitter.findChildren<QWidget*>())
@@ -55,6 +53,8 @@ TEST_F(CSplitterWndTest, BoxesAndLinesAreDragged) {
     EXPECT_NE(frame.GetActiveView(), nullptr);
     QTest::mouseDClick(&Handle(columns), Qt::LeftButton);
     EXPECT_EQ(document.GetViews().size(), 1U);
+    QTest::mouseDClick(&Handle(columns), Qt::LeftButton);
+    EXPECT_EQ(splitter.GetSplit(columns), splitter.GetExtent(columns) / 2);
 }
 
 TEST_F(CSplitterWndTest, PanesShareTheBarsOfTheirRowsAndColumns) {

@@ -4,9 +4,6 @@
 #include "framework/ui/PlaceWindow.h"
 #include "support/ui/WindowFixture.h"
 
-#include <QStatusBar>
-#include <QStatusTipEvent>
-
 namespace keltavlo {
 
 namespace {
@@ -31,7 +28,7 @@ struct ControlBarsTest : WindowFixture {
     QToolButton& Button(int row) {
         return dynamic_cast<QToolButton&>(*tools.widgetForAction(tools.actions().at(row)));
     }
-    // Everything that the state holds, as people see it.
+    // Everything that the state contains, as the user sees it.
     std::string Layout() const {
         return Format("%d %d%s%s%s%s", mainFrame.toolBarArea(&tools), mainFrame.dockWidgetArea(&panel),
                       tools.IsVisible() ? " tools" : "", panel.IsVisible() ? " panel" : "",
@@ -82,7 +79,7 @@ TEST_F(ControlBarsTest, PixelArtIsPaintedInTheColorsOfTheDesktop) {
     EXPECT_EQ(qAlpha(icon.pixel(5, 18)) + qAlpha(icon.pixel(25, 28)) + qAlpha(icon.pixel(5, 1)), 0);
 }
 
-// The toolkit would crash on some of these states.
+// Qt itself would crash on some of these states.
 TEST_F(ControlBarsTest, TheStateComesBackWholeOrNotAtAll) {
     panel.setFloating(true);
     tools.hide();
@@ -107,7 +104,7 @@ TEST_F(ControlBarsTest, TheStateComesBackWholeOrNotAtAll) {
     EXPECT_EQ(layoutOf(whole), saved);
 }
 
-// Screens go and settings are damaged: the window is found all the same.
+// Screens disappear and settings are damaged, but the window stays visible.
 TEST_F(ControlBarsTest, PlacementsEndOnAScreen) {
     const QRect screen = mainFrame.screen()->availableGeometry();
     WindowPlacement placement;

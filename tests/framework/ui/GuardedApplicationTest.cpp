@@ -1,8 +1,5 @@
 #include "support/ui/WindowFixture.h"
 
-#include <QDropEvent>
-#include <QMimeData>
-
 #ifdef __SANITIZE_ADDRESS__
 #include <sanitizer/lsan_interface.h>
 #endif
@@ -23,7 +20,7 @@ protected:
 };
 
 struct GuardedApplicationTest : WindowFixture {
-    // What the toolkit has allocated for the event leaks when an exception passes through it.
+    // What Qt allocates for an event leaks when an exception passes through it.
     bool Fails(QEvent&& event) {
 #ifdef __SANITIZE_ADDRESS__
         const __lsan::ScopedDisabler toolkit;

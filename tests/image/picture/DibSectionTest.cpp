@@ -25,7 +25,7 @@ TEST(DibSectionTest, RefusesWhatItCannotHoldAndStaysAsItWas) {
     EXPECT_THROW(Image(0, 2).RenderTo(bitmap, IdentityTransform{}), BitmapError);
 }
 
-TEST(DibSectionTest, TablesOfColorsBeginAsGreys) {
+TEST(DibSectionTest, TablesOfColorsBeginAsGrays) {
     for (const int bitCount : {1, 4, 8}) {
         DibSection bitmap(1, 1, bitCount);
         bitmap.SetPixel(0, 0, 0xFFFFFFFF);
@@ -33,7 +33,7 @@ TEST(DibSectionTest, TablesOfColorsBeginAsGreys) {
     }
 }
 
-// Without a file header the rows follow the whole table, also the entries that no index can reach.
+// Without a file header the rows follow the whole table, with the entries that no index can reach.
 TEST(DibSectionTest, SkipsTheRestOfTheTable) {
     for (const std::uint16_t bitCount : {std::uint16_t{1}, std::uint16_t{32}}) {
         const DibHeader header{.width = 1, .height = 1, .bitCount = bitCount, .colorsUsed = 3};
@@ -48,8 +48,7 @@ TEST(DibSectionTest, SkipsTheRestOfTheTable) {
     }
 }
 
-// Bitmaps of every depth go through both forms of stream and come out as they were, and as the picture that
-// is read without a bitmap.
+// Bitmaps of every depth survive both forms of stream, and are read as pictures too.
 TEST(DibSectionTest, BitmapsOfEveryDepthSurvive) {
     const auto pictureOf = [](const DibSection& bitmap) {
         Image picture;

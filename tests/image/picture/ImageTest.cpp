@@ -42,7 +42,7 @@ TEST(ImageTest, ResizeCropsOrRepeatsTheEdges) {
     EXPECT_THAT(picture.Pixels(), ElementsAre(0, 0));
 }
 
-// Odd sizes are halved as if their last column and row stood there twice.
+// Odd sizes are halved as if their last column and row were doubled.
 TEST(ImageTest, HalvesEverySizeExactly) {
     const std::vector<Color> values{0, 1, 2, 3, 127, 128, 252, 253, 254, 255};
     std::mt19937 random(2);

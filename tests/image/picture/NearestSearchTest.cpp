@@ -1,6 +1,5 @@
 #include "image/picture/NearestSearch.h"
 
-#include "image/picture/ColorList.h"
 #include "image/picture/NearestKernels.h"
 #include "support/PlainDiffusion.h"
 
@@ -22,7 +21,7 @@ ColorList RandomList(std::size_t count, Color alphas, Color channelBits, std::mt
     return ColorList(colors);
 }
 
-// Random colours, a ramp, corners of cells, and the list's own entries.
+// Random colors, a ramp, corners of cells, and the list's own entries.
 std::vector<Color> MakePixels(const ColorList& list, Color alphas, std::mt19937& random) {
     std::vector<Color> pixels;
     for (std::uint32_t i = 0; i < 200; ++i) {
@@ -34,7 +33,7 @@ std::vector<Color> MakePixels(const ColorList& list, Color alphas, std::mt19937&
     return pixels;
 }
 
-// Each way of searching, on lists of every kind.
+// Tests each kernel on lists of every kind.
 class NearestSearchTest : public testing::TestWithParam<const NearestKernels*> {
 protected:
     void SetUp() override {

@@ -16,7 +16,7 @@ namespace {
 constexpr PixelSize view{50, 40};
 constexpr std::size_t viewPixels = 50 * 40, anyCount = 10000;
 
-// Every screen pixel that shows one of the texels, as the painter of the tiles has it.
+// Marks every screen pixel that shows one of the texels, according to PaintTiles.
 std::vector<Color> PaintRun(const TexelRun& run, PixelSize size, const TileViewport& viewport) {
     Image picture(size.width, size.height);
     for (int x = run.first; x < run.first + run.count; ++x) picture.SetPixel(x, run.row, 1);

@@ -4,16 +4,11 @@
 #include "image/picture/ColorList.h"
 #include "support/ui/TavloViewFixture.h"
 
-#include <QBuffer>
-#include <QClipboard>
-#include <QElapsedTimer>
-#include <QMimeData>
-
 namespace keltavlo {
 
 namespace {
 
-// Data of another program: counts what it is asked for, and takes its time.
+// Data of a slow program; counts the questions.
 class ForeignData : public QMimeData {
 public:
     ForeignData(QStringList offered, QByteArray content, int milliseconds)

@@ -8,7 +8,7 @@
 
 namespace keltavlo {
 
-// Both rows of the bitmap, twice as wide and three times as high, in their place.
+// Both rows of the bitmap appear twice as wide and three times as high.
 TEST(PainterSurfaceTest, StretchesBitmapsOfEveryDepthAndRowOrder) {
     for (const int bitCount : {1, 4, 8, 16, 24, 32})
         for (const int height : {2, -2}) {

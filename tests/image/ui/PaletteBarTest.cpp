@@ -3,18 +3,9 @@
 #include "image/ui/PaletteChooser.h"
 #include "support/ui/ProgramFixture.h"
 
-#include <QProcess>
-
 namespace keltavlo {
 
 struct PaletteBarTest : ProgramFixture {
-    PaletteBarTest() {
-        Start();
-        bar = GetMainFrame().findChild<QDockWidget*>("bar59401");
-        palette = dynamic_cast<PaletteBar*>(bar);
-        chooser = dynamic_cast<PaletteChooser*>(bar->findChild<QComboBox*>());
-    }
-
     // Through the window, as the windowing system sends it.
     void Click(PalettePlanes::Part part, const QPoint& point) {
         QTest::mouseClick(GetMainFrame().windowHandle(), Qt::LeftButton, {}, InWindow(part, point));
@@ -39,9 +30,10 @@ struct PaletteBarTest : ProgramFixture {
         return program.OpenDocumentFile(Put(name, bytes));
     }
 
-    QDockWidget* bar = nullptr;
-    PaletteBar* palette = nullptr;
-    PaletteChooser* chooser = nullptr;
+    bool started = Start();
+    QDockWidget* bar = GetMainFrame().findChild<QDockWidget*>("bar59401");
+    PaletteBar* palette = dynamic_cast<PaletteBar*>(bar);
+    PaletteChooser* chooser = dynamic_cast<PaletteChooser*>(bar->findChild<QComboBox*>());
 };
 
 TEST_F(PaletteBarTest, ThePointerIsOverThePixelThatItPicks) {
@@ -60,7 +52,7 @@ TEST_F(PaletteBarTest, ThePointerIsOverThePixelThatItPicks) {
     EXPECT_EQ(program.GetCurrentColor(), 0x00281EFFU);
 }
 
-// The scale is fixed for a process.
+// A process cannot change its scale.
 TEST_F(PaletteBarTest, ThePixelsAreTheSameAtTwiceTheScale) {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -105,7 +97,7 @@ TEST_F(PaletteBarTest, KeepsACopyOfTheTableThatItShows) {
     EXPECT_EQ(palette->GetPlanes().GetColors().GetCount(), 200U);
 }
 
-// The chooser's values are only good until the documents change.
+// The chooser's values are valid only until the documents change.
 TEST_F(PaletteBarTest, LeavesTheListsOfClosedDocumentsAlone) {
     CDocument* table = OpenTable("a.kelcolors", 9);
     chooser->FillChooser();

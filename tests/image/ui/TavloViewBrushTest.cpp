@@ -1,8 +1,5 @@
 #include "support/ui/TavloViewFixture.h"
 
-#include <QContextMenuEvent>
-#include <QWindow>
-
 namespace keltavlo {
 
 constexpr Color red = 0xFFFF0000;
@@ -12,7 +9,7 @@ struct TavloViewBrushTest : TavloViewFixture {
 
     void Press(const QPoint& place) { QTest::mousePress(view, Qt::LeftButton, {}, place); }
     void Release(const QPoint& place) { QTest::mouseRelease(view, Qt::LeftButton, {}, place); }
-    // The toolkit's helper remembers buttons from one test to the next.
+    // Qt's own helper remembers buttons from one test to the next.
     void Drag(const QPoint& place, Qt::MouseButtons buttons = Qt::LeftButton) {
         QMouseEvent event(QEvent::MouseMove, place, view->mapToGlobal(place), Qt::NoButton, buttons, {});
         QCoreApplication::sendEvent(view, &event);
@@ -53,7 +50,7 @@ TEST_F(TavloViewBrushTest, StrokesRepaintWhatTheyChangeInAllViews) {
     frame->SetZoom(4);
     Press({200, 5});
     QCoreApplication::processEvents();
-    PaintSpy painted(*view), paintedToo(*other);
+    EventSpy painted(*view), paintedToo(*other);
     Drag({9, 5});
     EXPECT_GT(painted.region.rectCount(), 1);
     for (const QRect& rect : painted.region) // in each tile of 256 x 128
@@ -127,7 +124,7 @@ TEST_F(TavloViewBrushTest, TheContextMenuComesByMouseAndKeyboard) {
     QCoreApplication::processEvents();
     ASSERT_TRUE(document->HasBrush());
     EXPECT_EQ(document->GetCurrentBrush()->GetTitle(), "Color Picker");
-    // What the windowing system makes of the menu key.
+    // The windowing system sends this for the menu key.
     QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, {}, view->mapToGlobal(QPoint()));
     QCoreApplication::sendEvent(view, &menuKey);
     QTest::keyClick(view, Qt::Key_F10, Qt::ShiftModifier);

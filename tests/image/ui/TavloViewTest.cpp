@@ -1,9 +1,6 @@
 #include "resources/PaletteDocument.h"
 #include "support/ui/TavloViewFixture.h"
 
-#include <QScrollBar>
-#include <QWheelEvent>
-
 namespace keltavlo {
 
 constexpr Color black = 0xFF000000, white = 0xFFFFFFFF;
@@ -25,12 +22,8 @@ struct TavloViewFilterTest : TavloViewFixture {
         document->UpdateAllViews(nullptr);
     }
 
-    PaletteDocument* OpenTable(const char* name, const Bytes& bytes) {
-        return dynamic_cast<PaletteDocument*>(program.OpenDocumentFile(Put(name, bytes)));
-    }
-
-    PaletteDocument* blackAndWhite = OpenTable("bw.kelcolors", Words({black, white}));
-    PaletteDocument* whiteOnly = OpenTable("w.kelcolors", Words({white}));
+    PaletteDocument* blackAndWhite = Open<PaletteDocument>(Put("bw.kelcolors", Words({black, white})));
+    PaletteDocument* whiteOnly = Open<PaletteDocument>(Put("w.kelcolors", Words({white})));
 };
 
 TEST_F(TavloViewTest, ScrollingGoesRound) {

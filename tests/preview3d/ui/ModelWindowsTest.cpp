@@ -7,8 +7,6 @@
 #include "support/ui/GLErrors.h"
 #include "support/ui/ProgramFixture.h"
 
-#include <QFile>
-
 #include <EGL/egl.h>
 #include <malloc.h>
 
@@ -16,10 +14,10 @@ namespace keltavlo {
 
 namespace {
 
-// A context that stays behind takes some megabytes, more than all else of a hundred windows.
+// A leaked context takes some megabytes, more than everything else of a hundred windows.
 constexpr long leeway = 8 << 20; // bytes
 
-// Bytes of memory that the process uses; 0 where a sanitizer keeps what was freed, and finds leaks itself.
+// Bytes in use; 0 under a sanitizer, which keeps what was freed and finds leaks itself.
 long MemoryInUse() {
 #ifdef __SANITIZE_ADDRESS__
     return 0;
@@ -72,7 +70,7 @@ struct ModelWindowsTest : ProgramFixture {
 
 std::vector<std::string> steps;
 
-// Notes the steps that come once for each context. Its name puts it in the place of the program's own view.
+// Records the steps that happen once for each context. Its name replaces the program's own view.
 class NotingView final : public Dynamic<"MD2View", NotingView, ModelView> {
 public:
     void InitGL() override {

@@ -4,10 +4,8 @@
 #include "preview3d/ui/PixelFormat.h"
 #include "preview3d/ui/RenderingContext.h"
 #include "res/ShellStrings.h"
+#include "support/ui/DialogAnswer.h"
 #include "support/ui/RayCaster.h"
-
-#include <QCoreApplication>
-#include <QPaintEvent>
 
 #include <EGL/egl.h>
 #include <GL/gl.h>
@@ -27,7 +25,7 @@ bool IsAnyCurrent() {
     return eglGetCurrentContext() != EGL_NO_CONTEXT;
 }
 
-// A control that notes its steps, on a widget of its own.
+// A control on a widget of its own that records its steps.
 class NotingCtrl final : public OpenGLCtrl {
 public:
     explicit NotingCtrl(QRect area = {0, 0, 120, 90}) {
@@ -76,7 +74,7 @@ class GreedyCtrl final : public OpenGLCtrl {
 
 } // namespace
 
-// In place of the system's own.
+// Replaces the system's own.
 extern "C" EGLSurface eglCreatePbufferSurface(EGLDisplay display, EGLConfig config,
                                               const EGLint* attributes) {
     using Create = EGLSurface (*)(EGLDisplay, EGLConfig, const EGLint*);
@@ -86,7 +84,7 @@ extern "C" EGLSurface eglCreatePbufferSurface(EGLDisplay display, EGLConfig conf
 
 namespace {
 
-// The cube that the control draws, its corners in the colors that are their places; three sides are seen.
+// Expects the cube that the control draws. Each corner's color is its place; three sides are visible.
 void ExpectCube(OpenGLCtrl& control) {
     const auto corner = [](float x, float y, float z) { return RayCaster::Corner{{x, y, z}, {x, y, z}}; };
     const RayCaster cube{{4, 4, 4},
@@ -183,10 +181,7 @@ TEST(OpenGLCtrlTest, SaysSoWhenItCannotDraw) {
     GreedyCtrl control;
     control.Create(host.rect(), host);
     host.show();
-    const QImage picture = host.grab().toImage();
-    QImage plain = picture;
-    plain.fill(picture.pixelColor(0, 0));
-    EXPECT_NE(picture, plain) << "a sentence on a plain ground";
+    EXPECT_FALSE(IsPlain(host.grab().toImage())) << "there is a sentence";
     control.setParent(nullptr);
 }
 

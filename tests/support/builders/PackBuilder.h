@@ -5,6 +5,7 @@
 #include <initializer_list>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace keltavlo {
@@ -24,6 +25,9 @@ Bytes ReadFile(const std::string& path);
 // Builds packs (".pak"): the header, the files' bytes, the directory.
 class PackBuilder {
 public:
+    PackBuilder(std::initializer_list<std::pair<std::string_view, Bytes>> contents = {}) {
+        for (const auto& [name, bytes] : contents) Add(name, bytes);
+    }
     void Add(std::string_view name, const Bytes& bytes);
     Bytes Build() const;
 

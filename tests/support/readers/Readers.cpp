@@ -15,7 +15,6 @@
 #include "support/builders/TextureBuilder.h"
 #include "support/builders/WadBuilder.h"
 #include "support/readers/ReadingStream.h"
-#include "support/readers/Scripts.h"
 
 #include <algorithm>
 #include <iterator>
@@ -126,10 +125,7 @@ Bytes MakeBitmapWithoutFileHeader() {
 }
 
 Bytes MakePack() {
-    PackBuilder pack;
-    pack.Add("a/b.txt", ToBytes("text"));
-    pack.Add("c", ToBytes("more"));
-    return pack.Build();
+    return PackBuilder{{"a/b.txt", ToBytes("text")}, {"c", ToBytes("more")}}.Build();
 }
 
 Bytes MakePathAndPack() {
@@ -147,12 +143,11 @@ Bytes MakeWad() {
 }
 
 Bytes MakeModel() {
-    Md2Builder model;
-    model.skins = {"models/a.pcx"};
-    model.texCoords = 3;
-    model.triangles = {{0, 1, 2, 0, 1, 2}, {2, 1, 0, 2, 1, 0}};
-    model.frames = 2;
-    model.vertices = 3;
+    const Md2Builder model{.skins = {"models/a.pcx"},
+                           .texCoords = 3,
+                           .triangles = {{0, 1, 2, 0, 1, 2}, {2, 1, 0, 2, 1, 0}},
+                           .frames = 2,
+                           .vertices = 3};
     return model.Build();
 }
 
@@ -170,7 +165,7 @@ std::vector<HeaderField> TaggedFields() {
     return Fields(4, {8, 12, 16, 20, 24, 28});
 }
 
-// Of a picture format; none are known of one that is not listed.
+// The fields of a picture format; none for a format that is not listed.
 std::vector<HeaderField> PictureFields(std::string_view format) {
     if (format == "wal") return Fields(4, {32, 36, 40, 44, 48, 52, 88, 92, 96});
     if (format == "mip") return Fields(4, {16, 20, 24, 28, 32, 36});
@@ -180,17 +175,18 @@ std::vector<HeaderField> PictureFields(std::string_view format) {
     return {};
 }
 
-// Reads into a document of the format, as opening a file does.
+// Reads into a document of the format, as opening a file does, and writes what was read.
 Reader PictureReader(const Codec& codec) {
     const std::string name(codec.name);
     return {name,
-            [name](ByteSpan bytes, Buffering buffering) {
-                return WithStream(bytes, buffering, [&name](InputStream& in, Digest& digest) {
+            [&codec, name](ByteSpan bytes, Buffering buffering) {
+                return WithStream(bytes, buffering, [&](InputStream& in, Digest& digest) {
                     const auto object =
                         DocTemplateRegistry::Get().GetDocumentClassOfName("x." + name)->create();
                     auto& document = dynamic_cast<TavloDocument&>(*object);
                     document.ReadContents(in);
                     Add(digest, document);
+                    CheckRecoding(codec, document.GetTexture());
                 });
             },
             [&codec] { return EncodePicture(codec.documentClass, MakePicture()); }, PictureFields(name)};
@@ -202,7 +198,7 @@ std::vector<Reader> PictureReaders() {
     return readers;
 }
 
-// The documents' readers, and those with a state.
+// The readers of other documents and of paths.
 std::vector<Reader> OtherReaders() {
     return {
         {"dib", ReadClipboardBitmap, MakeBitmapWithoutFileHeader, Fields(4, {0, 4, 8, 12, 14, 16, 20, 32})},
@@ -217,18 +213,10 @@ std::vector<Reader> OtherReaders() {
         {"path", ResolvePath, MakePathAndPack, Fields(4, {13, 17, 85, 89})},
         {"md2", ReadDocument<MD2Document>, MakeModel, Fields(4, {4, 16, 20, 24, 28, 32, 40, 44, 48, 52, 56})},
         {"mdl", ReadDocument<MDLDocument>, MakeTextures, Fields(4, {180, 184, 312, 316, 320, 392, 396, 400})},
-        {"edits", RunEditScript, MakeEditScript, {}},
-        {"recode", RecodePicture, MakePictureToRecode, {}, MakeMorePicturesToRecode},
     };
 }
 
 } // namespace
-
-std::vector<Bytes> Reader::MakeSeeds() const {
-    std::vector<Bytes> seeds = makeMoreSeeds ? makeMoreSeeds() : std::vector<Bytes>();
-    seeds.insert(seeds.begin(), makeSeed());
-    return seeds;
-}
 
 std::span<const Reader> Readers() {
     static const std::vector<Reader> readers = [] {
@@ -240,10 +228,8 @@ std::span<const Reader> Readers() {
 }
 
 const Reader& FindReader(std::string_view name) {
-    const std::span<const Reader> readers = Readers();
-    const auto place = std::find_if(readers.begin(), readers.end(),
-                                    [&](const Reader& reader) { return reader.name == name; });
-    if (place == readers.end()) throw std::invalid_argument("no reader " + std::string(name));
+    const auto place = std::ranges::find(Readers(), name, &Reader::name);
+    if (place == Readers().end()) throw std::invalid_argument("no reader " + std::string(name));
     return *place;
 }
 

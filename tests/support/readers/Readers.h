@@ -6,9 +6,6 @@
 #include <optional>
 #include <random>
 #include <span>
-#include <string>
-#include <string_view>
-#include <vector>
 
 namespace keltavlo {
 
@@ -18,10 +15,10 @@ struct HeaderField {
     std::size_t width; // bytes
 };
 
-// Whether the reader uses the buffer of CArchive or reads every single value from the file.
+// Whether the reader reads through the buffer of CArchive or each value from the file.
 enum class Buffering { whole, none };
 
-// A reader of files, for the fuzz targets and for MutatedFilesTest.
+// A reader of files, for the fuzz targets and the tests of damaged files.
 struct Reader {
     std::string name;
     // Returns a digest of what was read, or nothing if the file was refused with one of the program's own
@@ -29,10 +26,6 @@ struct Reader {
     std::function<std::optional<std::size_t>(std::span<const std::byte> bytes, Buffering buffering)> read;
     std::function<Bytes()> makeSeed; // builds a small valid file
     std::vector<HeaderField> fields;
-    std::function<std::vector<Bytes>()> makeMoreSeeds = nullptr;
-
-    // All seeds.
-    std::vector<Bytes> MakeSeeds() const;
 };
 
 // All readers of the program.

@@ -8,6 +8,8 @@
 
 namespace keltavlo {
 
+struct Codec;
+
 using Outcome = std::optional<std::size_t>;
 using ByteSpan = std::span<const std::byte>;
 
@@ -47,6 +49,10 @@ Bytes EncodePicture(std::string_view documentClass, const Texture& texture);
 
 // A small picture of many colors.
 Texture MakePicture();
+
+// Writes a small picture that the format has read, reads it again and compares the two. Throws
+// std::logic_error if they differ.
+void CheckRecoding(const Codec& codec, const Texture& texture);
 
 // Copies the bytes into a buffer of exactly their size and runs the action on a stream of it.
 template <class Action>

@@ -1,30 +1,17 @@
 #pragma once
 
-#include <QApplication>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDialogButtonBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListView>
-#include <QMenu>
-#include <QMessageBox>
-#include <QPointer>
-#include <QPushButton>
-#include <QTabWidget>
-#include <QTest>
-#include <QTimer>
-#include <QToolButton>
-#include <QTreeView>
+#include <QtTest>
+#include <QtWidgets>
 
 #include <functional>
 #include <gtest/gtest.h>
+#include <map>
 #include <type_traits>
 
 namespace keltavlo {
 
-// Answers the next windows of a kind by what the test does to each in turn. A window that never comes is a
-// failure of the test, and so is one that is left open for five seconds.
+// Calls one answer with each of the next windows of a kind. The test fails if a window never comes, or stays
+// open for five seconds.
 template <class Window, QWidget* (*activeWindow)()>
 class WindowAnswer {
 public:
@@ -35,7 +22,7 @@ public:
     ~WindowAnswer() { EXPECT_EQ(asked, answers.size()) << "dialogs or menus"; }
 
 private:
-    // By a timer for each look: an answer may open the next window, and runs as long as that.
+    // Each look has its own timer, because an answer may open the next window and return after it.
     void LookLater() {
         QTimer::singleShot(10, &watcher, [this] { Look(); });
     }
@@ -63,7 +50,26 @@ using DialogAnswer = WindowAnswer<QDialog, &QApplication::activeModalWidget>;
 // Closes the menu after the answer.
 using PopupAnswer = WindowAnswer<QMenu, &QApplication::activePopupWidget>;
 
-// Whether the condition comes to hold, on a machine with much else to do, too.
+// Counts the events that reach a widget, and collects the region that it repaints.
+struct EventSpy : QObject {
+    explicit EventSpy(QWidget& widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override {
+        ++counts[event->type()];
+        if (event->type() == QEvent::Paint) region += static_cast<QPaintEvent*>(event)->region();
+        return false;
+    }
+    std::map<QEvent::Type, int> counts;
+    QRegion region;
+};
+
+// Returns whether all pixels are equal.
+inline bool IsPlain(const QImage& picture) {
+    QImage plain = picture;
+    plain.fill(picture.pixelColor(0, 0));
+    return picture == plain;
+}
+
+// Waits for the condition, also on a busy machine, and returns whether it holds.
 template <class Condition>
 bool WaitFor(Condition holds) {
     return QTest::qWaitFor(holds, 30000);
@@ -75,9 +81,16 @@ inline void Press(const QDialog& dialog, QDialogButtonBox::StandardButton button
     ASSERT_TRUE(box && box->button(button)) << dialog.windowTitle().toStdString();
     box->button(button)->click();
 }
-// As an answer.
+// Returns this as an answer.
 inline auto Press(QDialogButtonBox::StandardButton button) {
     return [button](const QDialog& dialog) { Press(dialog, button); };
+}
+// Returns an answer that expects the words in a message box and presses the button.
+inline auto Confirm(const char* words, QDialogButtonBox::StandardButton button) {
+    return [=](const QDialog& dialog) {
+        EXPECT_TRUE(dynamic_cast<const QMessageBox&>(dialog).text().contains(words)) << words;
+        Press(dialog, button);
+    };
 }
 // Enters a file's name and presses the button.
 inline void EnterName(const QDialog& dialog, const QString& name, QDialogButtonBox::StandardButton button) {

@@ -7,7 +7,7 @@
 
 namespace keltavlo {
 
-// The controls in the window have drawn without an error of OpenGL.
+// Expects that no control in the window has caused an error of OpenGL.
 inline void ExpectNoGLErrors(const QWidget& window) {
     int controls = 0;
     for (QWidget* child : window.findChildren<QWidget*>())

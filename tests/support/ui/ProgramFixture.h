@@ -14,10 +14,14 @@ namespace keltavlo {
 
 // The program with its windows and a folder for files.
 struct ProgramFixture : FolderTest {
-    void Start() { Start(program); }
-    static void Start(CKelTavloApp& anyProgram) {
+    bool Start() { return Start(program); }
+    static bool Start(CKelTavloApp& anyProgram) {
         const DialogAnswer cancel([](QDialog& dialog) { dialog.reject(); });
-        anyProgram.InitInstance({});
+        return anyProgram.InitInstance({});
+    }
+    template <class Document>
+    Document* Open(const std::string& path) {
+        return dynamic_cast<Document*>(program.OpenDocumentFile(path));
     }
 
     MainFrame& GetMainFrame() { return *program.GetMainFrame(); }

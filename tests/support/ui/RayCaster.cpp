@@ -9,7 +9,7 @@ namespace keltavlo {
 
 namespace {
 
-// How far a pixel's middle may be off, in pixels, and how many pixels may differ for that.
+// How far a pixel's center may be off, in pixels, and the share of pixels that may differ because of it.
 constexpr float slack = 1.0F / 32;
 constexpr double largestExcusedShare = 0.01;
 
@@ -24,7 +24,7 @@ bool IsNear(QRgb a, QRgb b, int tolerance) {
 
 } // namespace
 
-// A corner's share in the point that is met is the volume of the ray and the other two corners.
+// A corner's weight at the hit point is the volume that the ray spans with the other two corners.
 QRgb RayCaster::ColorAlong(const QVector3D& ray) const {
     QRgb color = qRgb(0, 0, 0);
     float nearest = std::numeric_limits<float>::infinity();

@@ -9,8 +9,8 @@
 
 namespace keltavlo {
 
-// Follows a ray through each pixel: what pictures of OpenGL are compared with. The camera looks at the origin
-// with a vertical field of view of 45 degrees, z is up; faces that turn their back to it are not seen.
+// Casts a ray through each pixel, to check pictures drawn with OpenGL. The camera looks at the origin with a
+// vertical field of view of 45 degrees; z is up, and back faces are invisible.
 struct RayCaster {
     struct Corner {
         QVector3D place;
@@ -19,8 +19,8 @@ struct RayCaster {
     // Counter-clockwise from outside and wholly before the camera; two triangles that share the first corner.
     using Quad = std::array<Corner, 4>;
 
-    // The colors must be the same within `tolerance` of each channel. Few pixels may differ, where the
-    // color changes within a small part of a pixel. What no quad covers is black.
+    // Expects equal colors, within `tolerance` of each channel, except for few pixels in which the color
+    // changes. Pixels that no quad covers are black.
     void ExpectSeenIn(QWidget& widget, int tolerance = 0) const;
 
     QVector3D eye;

@@ -3,6 +3,7 @@
 #include "framework/core/CDocument.h"
 #include "framework/core/CWinApp.h"
 #include "framework/core/StandardIds.h"
+#include "framework/core/StringTable.h"
 #include "framework/ui/CMDIFrameWnd.h"
 #include "framework/ui/CStatusBar.h"
 #include "framework/ui/CView.h"
@@ -16,16 +17,34 @@ namespace keltavlo {
 
 using testing::ElementsAre;
 
-// A program of the framework's classes alone, with one type that people see and one that stays hidden.
+// A program of the framework's classes alone, with one visible and one hidden type of documents.
 
 constexpr CommandId viewCommand = 40001, documentCommand = 40002, frameCommand = 40003, mainCommand = 40004,
                     appCommand = 40005, unknownCommand = 40006, everywhereCommand = 40007;
 constexpr unsigned ownMenu = 1, documentMenu = 2;
+inline constexpr unsigned shownType = 9001, hiddenType = 9002;
 
-// What happened, in order.
-std::vector<std::string>& Log();
+inline constexpr StringRow testStrings[] = {
+    {shownType, "\nshown\nShown\n\n\n\n"}, {hiddenType, "\nhidden\n\n\n\n\n"},
+    {AFX_IDS_APP_TITLE, "KelTavlo"},       {mainCommand, "Main prompt\nMain tip"},
+    {documentCommand, "Document prompt"},
+};
+inline constexpr MenuRow ownItems[] = {{"&Main", mainCommand}, {"&Unknown\tCtrl+U", unknownCommand}};
+inline constexpr MenuRow ownRows[] = {{"&Own", 0, ownItems}};
+inline constexpr MenuRow documentItems[] = {
+    {"&Document\tCtrl+D", documentCommand}, {}, {"Recent", ID_FILE_MRU_FIRST}, {}, {"E&xit", 0}};
+inline constexpr MenuRow windowItems[] = {{"&New Window", ID_WINDOW_NEW}};
+inline constexpr MenuRow documentRows[] = {{"&File", 0, documentItems}, {"&Window", 0, windowItems}};
+inline constexpr unsigned paneSamples[] = {shownType, shownType};
+inline constexpr AcceleratorRow accelerators[] = {{"Ctrl+D", documentCommand}, {"Ctrl+W", mainCommand}};
 
-// Notes its name when one of its commands comes.
+// The events in their order.
+inline std::vector<std::string>& Log() {
+    static std::vector<std::string> log;
+    return log;
+}
+
+// Logs its name when it handles one of its commands.
 template <ClassName name, class Base, CommandId... commands>
 class Noting : public Base {
 public:
@@ -60,7 +79,9 @@ protected:
 
 class TestView : public Dynamic<"TestView", TestView, Noting<"view", CView, viewCommand>> {
 public:
-    void OnActivateView(bool activate, CView*, CView*) override;
+    void OnActivateView(bool activate, CView*, CView*) override {
+        Log().push_back((activate ? "activate " : "deactivate ") + GetDocument()->GetTitle());
+    }
 };
 
 class TestFrame
@@ -73,21 +94,37 @@ public:
 
 class TestMainFrame : public Noting<"main", CMDIFrameWnd, mainCommand, everywhereCommand> {
 public:
-    TestMainFrame();
+    TestMainFrame() : Noting(paneSamples) {
+        LoadFrame(ownMenu, accelerators);
+        resize(640, 480);
+        show();
+    }
 
 protected:
-    std::span<const MenuRow> GetMenuRows(unsigned menuId) const override;
+    std::span<const MenuRow> GetMenuRows(unsigned menuId) const override {
+        return menuId == ownMenu ? std::span<const MenuRow>(ownRows) : std::span<const MenuRow>(documentRows);
+    }
 };
 
-// The strings must be there before the main frame, which takes its title from them.
+// The main frame takes its title from the strings, so they come first.
 struct TestStrings {
-    TestStrings();
+    TestStrings() { AddStrings(testStrings); }
 };
 
 class TestProgram : public Noting<"application", CWinApp, appCommand, everywhereCommand>,
                     public WindowedUserInterface {
 public:
-    explicit TestProgram(const std::string& settings);
+    explicit TestProgram(const std::string& settings) : Noting(ProfileStore(settings)) {
+        GetFrameFactory()->SetMainFrame(&mainFrame);
+        for (const CRuntimeClass* type :
+             {&TestFrame::runtimeClass, &TestHiddenFrame::runtimeClass, &TestView::runtimeClass})
+            GetFrameFactory()->GetClasses().Register(*type);
+        for (const CDocTemplate::Row& row :
+             {CDocTemplate::Row{shownType, documentMenu, &TestDocument::runtimeClass, "TestFrame",
+                                "TestView"},
+              {hiddenType, ownMenu, &TestDocument::runtimeClass, "TestHiddenFrame", "TestView"}})
+            AddDocTemplate(std::make_unique<CDocTemplate>(row));
+    }
     ~TestProgram() override { CloseAllDocuments(); }
 
     std::optional<std::string> PromptFileName(const FileNameQuestion&) override { return std::nullopt; }
@@ -97,11 +134,18 @@ public:
 };
 
 struct WindowFixture : FolderTest {
-    WindowFixture();
+    WindowFixture() {
+        Log().clear();
+        QApplication::setActiveWindow(&mainFrame);
+    }
 
-    TestDocument& NewDocument(std::size_t type = 0);
+    TestDocument& NewDocument(std::size_t type = 0) {
+        return dynamic_cast<TestDocument&>(*program.GetTemplates().at(type)->OpenDocumentFile({}));
+    }
     bool Send(CommandId id) { return SendCommand(mainFrame, id); }
-    static CMDIChildWnd& FrameOf(const CDocument& document);
+    static CMDIChildWnd& FrameOf(const CDocument& document) {
+        return dynamic_cast<CMDIChildWnd&>(*document.GetFrame());
+    }
 
     TestProgram program{PathTo("settings.ini")};
     TestMainFrame& mainFrame = program.mainFrame;
