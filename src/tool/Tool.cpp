@@ -4,6 +4,7 @@
 #include "framework/core/Exceptions.h"
 #include "framework/core/Text.h"
 #include "tool/ToolCommands.h"
+#include "tool/archives/ArchiveTypes.h"
 
 #include <algorithm>
 #include <ostream>
@@ -65,7 +66,9 @@ Tool::Tool(std::ostream& outputStream, std::ostream& errorStream, bool showProgr
           std::string sentence = text;
           std::replace(sentence.begin(), sentence.end(), '\n', ' ');
           Fail(sentence);
-      }) {}
+      }) {
+    RegisterArchiveTypes(application);
+}
 
 int Tool::Run(const std::vector<std::string>& arguments) {
     try {
