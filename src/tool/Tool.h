@@ -1,9 +1,10 @@
 #pragma once
 
 #include "app/HeadlessApplication.h"
-#include "tool/ToolArguments.h"
 
 #include <iosfwd>
+#include <string>
+#include <vector>
 
 namespace keltavlo {
 
