@@ -3,19 +3,17 @@
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <string_view>
 
 namespace keltavlo {
 
-// What the games store beside the pixels. Only fields with a value change a texture.
+// What the game formats store beside a picture, as far as it is to be set; the rest stays as the source has
+// it.
 struct TextureFields {
-    std::optional<std::uint32_t> surface, contents, value;
-    std::optional<std::string> next; // the name of the next frame of an animation
-    std::optional<std::string> name; // the texture's own name
-};
+    std::optional<std::uint32_t> surface, contents, value; // of a WAL texture
+    std::optional<std::string> next;                       // the next frame of a WAL texture
+    std::optional<std::string> name;                       // of a WAL or MIP texture
 
-// Reads "surface=0x80,value=300,next=wall1". Numbers are decimal or hexadecimal. Throws std::invalid_argument
-// with a sentence for the user.
-TextureFields ParseTextureFields(std::string_view text);
+    bool operator==(const TextureFields&) const = default;
+};
 
 } // namespace keltavlo

@@ -1,14 +1,15 @@
-#include "tool/pictures/TextureFields.h"
+#include "tool/ParseTextureFields.h"
+
+#include "tool/ToolArguments.h"
 
 #include <charconv>
-#include <stdexcept>
 
 namespace keltavlo {
 
 namespace {
 
 [[noreturn]] void Refuse(std::string_view field, const char* reason) {
-    throw std::invalid_argument("\"" + std::string(field) + "\" " + reason);
+    throw UsageError("\"" + std::string(field) + "\" " + reason);
 }
 
 std::uint32_t ParseNumber(std::string_view field, std::string_view text) {
