@@ -27,8 +27,8 @@ public:
                                     CFileException* failure) override;
     std::optional<std::unique_ptr<CFile>> OpenExisting(const std::string& path, unsigned flags,
                                                        CFileException* failure) override;
-    // The archive's folder that the path leads to; of an archive its root. To walk all entries of a folder, go
-    // through its children instead of asking for the status of each path.
+    // The archive's folder that the path leads to; of an archive its root. To walk all entries of a folder,
+    // go through its children instead of asking for the status of each path.
     ArchiveFolder FindFolder(const std::string& path);
     // Names in an archive's folder; none for folders of the disk and for what is no folder.
     void ListFolder(const std::string& path, FolderListing& listing);
