@@ -95,13 +95,17 @@ std::optional<std::unique_ptr<CFile>> FileSystem::OpenExisting(const std::string
     return exists ? std::optional(OpenIn(archive, path, flags, failure)) : std::nullopt;
 }
 
-void FileSystem::ListFolder(const std::string& path, FolderListing& listing) {
-    listing = {{}, path};
-    const FolderDocument* archive = FindArchive(path);
+ArchiveFolder FileSystem::FindFolder(const std::string& path) {
     EntryStatus status;
     GetStatus(path, status);
-    if (status.browsable) archive = OpenFolder(status.fullName);
-    if (archive) archive->ListFolder(path, listing);
+    FolderDocument* archive = status.browsable ? OpenFolder(status.fullName) : FindArchive(path);
+    const FolderEntry* folder = archive ? archive->FindFolder(path) : nullptr;
+    return folder ? ArchiveFolder{archive, folder} : ArchiveFolder{};
+}
+
+void FileSystem::ListFolder(const std::string& path, FolderListing& listing) {
+    listing = {{}, path};
+    if (const ArchiveFolder found = FindFolder(path); found.archive) found.archive->ListFolder(path, listing);
 }
 
 } // namespace keltavlo

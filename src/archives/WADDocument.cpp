@@ -28,13 +28,11 @@ std::string ExtensionOfClass(std::string_view className) {
 // A lump, its bytes as they lie in the file, cut or filled with zeros to the size that the record claims.
 class WADEntry final : public StoredEntry {
 public:
-    explicit WADEntry(const WADRecord& directoryRecord) : record(directoryRecord) {}
+    WADEntry(const WADRecord& directoryRecord, const WADDocument& document)
+        : record(directoryRecord), owner(document) {}
     // The name with the extension of the document type that opens lumps of this kind.
     std::string GetName() const override {
-        std::string name(FileNameOf(record.GetPath()));
-        for (const auto& [lumpType, documentClass] : kinds)
-            if (lumpType == record.type) return name + ExtensionOfClass(documentClass);
-        return name;
+        return std::string(FileNameOf(record.GetPath())).append(owner.GetExtension(record.type));
     }
 
 protected:
@@ -44,6 +42,7 @@ protected:
 
 private:
     WADRecord record;
+    const WADDocument& owner;
 };
 
 WADHeader ReadHeader(InputStream& in) {
@@ -84,6 +83,9 @@ WADDirectory WADDocument::ReadDirectory(InputStream& in) {
 
 void WADDocument::ReadContents(InputStream& in) {
     BeginReading(in);
+    extensions.clear();
+    for (const auto& [lumpType, documentClass] : kinds)
+        extensions.emplace_back(lumpType, ExtensionOfClass(documentClass));
     const WADHeader header = ReadHeader(in);
     std::vector<WADRecord> records;
     {
@@ -93,7 +95,7 @@ void WADDocument::ReadContents(InputStream& in) {
         ReserveRootEntries(records.size());
         std::int32_t i = 0;
         for (const WADRecord& record : records) {
-            auto entry = std::make_unique<WADEntry>(record);
+            auto entry = std::make_unique<WADEntry>(record, *this);
             if (record.MayHaveFolder())
                 AddNamedEntry(record.GetPath(), std::move(entry));
             else
@@ -102,6 +104,11 @@ void WADDocument::ReadContents(InputStream& in) {
         }
     }
     CheckExtents(in, records);
+}
+
+std::string_view WADDocument::GetExtension(std::uint8_t lumpType) const {
+    const auto place = std::ranges::find(extensions, lumpType, [](const auto& row) { return row.first; });
+    return place == extensions.end() ? std::string_view() : place->second;
 }
 
 void WADDocument::WriteContents(OutputStream& out) {

@@ -20,6 +20,13 @@ public:
     // lump past the end. A lump that claims more data than the file is long fails only when it is opened.
     void ReadContents(InputStream& in) override;
     void WriteContents(OutputStream& out) override; // readOnly
+
+    // The extension of the document type that opens lumps of the type; empty for a type that none opens.
+    std::string_view GetExtension(std::uint8_t lumpType) const;
+
+private:
+    // By lump type, looked up once for all lumps of the file.
+    std::vector<std::pair<std::uint8_t, std::string>> extensions;
 };
 
 } // namespace keltavlo

@@ -8,6 +8,7 @@
 #include "preview3d/MDLDocument.h"
 #include "resources/PaletteDocument.h"
 #include "tool/Tool.h"
+#include "tool/ToolArguments.h"
 #include "tool/ToolCommands.h"
 #include "tool/TreeWalk.h"
 
@@ -76,11 +77,9 @@ void DescribeDocument(std::ostream& out, const CDocument& document) {
     if (const auto* model = dynamic_cast<const MDLDocument*>(&document)) DescribeModel(out, *model);
 }
 
-} // namespace
-
-void ListFolder(Tool& tool, const ToolArguments& arguments) {
+void ListFolder(Tool& tool, const std::string& argument) {
+    const std::string folder = TreePath(argument);
     FileSystem& files = tool.GetApplication().GetFileSystem();
-    const std::string folder = TreePath(arguments.paths.front());
     EntryStatus status;
     files.GetStatus(folder, status);
     FolderListing listing;
@@ -97,8 +96,8 @@ void ListFolder(Tool& tool, const ToolArguments& arguments) {
     }
 }
 
-void ShowInfo(Tool& tool, const ToolArguments& arguments) {
-    const std::string path = FullPath(arguments.paths.front());
+void DescribeFile(Tool& tool, const std::string& argument) {
+    const std::string path = FullPath(argument);
     const CDocument* document = tool.GetApplication().OpenDocumentFile(path);
     if (!document) return; // the application has said why
     EntryStatus status;
@@ -107,6 +106,16 @@ void ShowInfo(Tool& tool, const ToolArguments& arguments) {
     Put(tool.Output(), "format", TypeNameOf(path));
     Put(tool.Output(), "bytes", std::to_string(status.size));
     DescribeDocument(tool.Output(), *document);
+}
+
+} // namespace
+
+void List(Tool& tool, const ToolArguments& arguments) {
+    for (const std::string& input : arguments.inputs) ListFolder(tool, input);
+}
+
+void ShowInfo(Tool& tool, const ToolArguments& arguments) {
+    for (const std::string& input : arguments.inputs) DescribeFile(tool, input);
 }
 
 } // namespace keltavlo

@@ -1,10 +1,11 @@
 #pragma once
 
 #include "app/HeadlessApplication.h"
-#include "tool/ToolArguments.h"
 #include "tool/archives/ArchiveNotes.h"
 
 #include <iosfwd>
+#include <string>
+#include <vector>
 
 namespace keltavlo {
 

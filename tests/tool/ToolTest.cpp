@@ -38,19 +38,22 @@ protected:
 };
 
 TEST_F(ToolTest, RefusesWhatItDoesNotUnderstand) {
-    using Command = std::vector<std::string>;
-    for (const Command& command : {Command(),
-                                   {"fly", "a"},
-                                   {"list"},
-                                   {"list", "a", "--wings"},
-                                   {"convert", pack, PathTo("out")},
-                                   {"convert", pack, PathTo("out"), "--to", "png"},
-                                   {"convert", floor, PathTo("x.png")}}) {
-        EXPECT_EQ(Run(command), 2) << testing::PrintToString(command);
+    for (const auto& [command, sentence] :
+         {std::pair<std::vector<std::string>, const char*>{{}, "No command given"},
+          {{"fly", "a"}, "Unknown command: fly."},
+          {{"list"}, "list requires PATH"},
+          {{"list", "a", "--wings"}, "Unknown option: --wings."},
+          {{"convert", "a", "b", "--to"}, "--to requires FORMAT."},
+          {{"extract", "--force=1", "a", "b"}, "--force takes no value."},
+          {{"convert", pack, PathTo("out")}, "requires --to FORMAT"},
+          {{"convert", pack, PathTo("out"), "--to", "gif"}, "--to requires wal"},
+          {{"convert", floor, PathTo("x.gif")}, "must end in .wal"}}) {
+        EXPECT_EQ(Run(command), 2) << sentence;
+        EXPECT_THAT(err, HasSubstr(sentence));
         EXPECT_EQ(out, "");
     }
-    EXPECT_EQ(Run({"--help"}), 0);
-    EXPECT_THAT(out, HasSubstr("extract PATH OUTDIR"));
+    EXPECT_EQ(Run({"extract", "--help"}), 0);
+    EXPECT_THAT(out, HasSubstr("extract [OPTION]... PATH OUTDIR"));
 }
 
 TEST_F(ToolTest, ListsAndDescribes) {

@@ -1,0 +1,31 @@
+#include "tool/ToolOptions.h"
+
+#include "formats/Codec.h"
+#include "tool/ToolArguments.h"
+
+#include <CLI/CLI.hpp>
+
+namespace keltavlo {
+
+namespace {
+
+void AddFlag(CLI::App& command, const char* names, bool& flag, const char* help) {
+    command.add_flag(names, flag, help)->disable_flag_override();
+}
+
+} // namespace
+
+void AddFormatOption(CLI::App& command, ToolArguments& arguments) {
+    command
+        .add_option_function<std::string>(
+            "--to", [&arguments](const std::string& format) { arguments.format = "." + format; },
+            "The format of the outputs: " + ListFormats() + ". A folder or an archive requires it.")
+        ->type_name("FORMAT");
+}
+
+void AddForceOption(CLI::App& command, ToolArguments& arguments) {
+    AddFlag(command, "-f,--force", arguments.force,
+            "Overwrite existing files, but never one that the same run reads or has written.");
+}
+
+} // namespace keltavlo
