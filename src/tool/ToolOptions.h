@@ -13,5 +13,6 @@ struct ToolArguments;
 
 void AddFormatOption(CLI::App& command, ToolArguments& arguments);
 void AddForceOption(CLI::App& command, ToolArguments& arguments);
+void AddPackOptions(CLI::App& command, ToolArguments& arguments);
 
 } // namespace keltavlo

@@ -43,7 +43,8 @@ ArchiveContents ReadWAD(const SharedFile& file) {
     const WADDirectory directory = WADDocument::ReadDirectory(in);
     const std::string_view identification(directory.header.identification,
                                           sizeof directory.header.identification);
-    ArchiveContents contents{identification == wad2Identification ? ArchiveKind::wad2 : ArchiveKind::wad3, {}};
+    ArchiveContents contents{identification == wad2Identification ? ArchiveKind::wad2 : ArchiveKind::wad3,
+                             {}};
     for (const WADRecord& record : directory.records) {
         if (record.compression != 0)
             throw CException("The archive contains compressed lumps, which cannot be rewritten.");
@@ -95,6 +96,12 @@ std::vector<std::string> AddItems(ArchiveContents& contents, std::vector<Archive
             complaints.push_back("\"" + item.name + "\" is not in the archive; use --append to add it.");
     }
     return complaints;
+}
+
+std::vector<std::string> TellSurplus(const ArchiveContents& contents) {
+    if (contents.kind != ArchiveKind::pak || contents.items.size() <= maximumPAKRecords) return {};
+    return {"The pack would contain " + std::to_string(contents.items.size()) + " files; at most " +
+            std::to_string(maximumPAKRecords) + " are allowed."};
 }
 
 std::vector<std::string> RemoveItems(ArchiveContents& contents, std::span<const std::string> names) {

@@ -33,6 +33,8 @@ struct ArchiveEdit {
 // the contents must not be used.
 std::vector<std::string> AddItems(ArchiveContents& contents, std::vector<ArchiveItem> items,
                                   const ArchiveEdit& edit);
+// Sentences about limits that the archive exceeds as a whole.
+std::vector<std::string> TellSurplus(const ArchiveContents& contents);
 // Removes the entries of those names, without regard to case. Returns sentences about names that the archive
 // lacks.
 std::vector<std::string> RemoveItems(ArchiveContents& contents, std::span<const std::string> names);

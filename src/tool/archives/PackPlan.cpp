@@ -18,11 +18,26 @@ std::string Complain(const std::string& name, const std::string& reason) {
     return "\"" + name + "\" does not fit: " + reason;
 }
 
+bool IsPalette(const std::string& fileName) {
+    return EqualNoCase(ExtensionOf(fileName), paletteExtension);
+}
+
+// Whether a path with "/" begins at the root or has a component that leads upward.
+bool LeadsOut(const std::string& path) {
+    return path.starts_with('/') || ("/" + path + "/").find("/../") != std::string::npos;
+}
+
 bool HasSeparator(std::string_view name) {
     return name.find_first_of(std::string_view("\\:\0", 3)) != std::string_view::npos;
 }
 
 } // namespace
+
+std::string EntryNameOf(ArchiveKind kind, const std::string& fileName) {
+    if (!IsWAD(kind)) return fileName;
+    const bool isLump = FindPictureFormat(fileName) || IsPalette(fileName);
+    return LumpNameOfFile(isLump ? BaseNameOf(fileName) : FileNameOf(fileName));
+}
 
 PackPlan::PackPlan(ArchiveKind archiveKind, std::string format)
     : kind(archiveKind), pictureFormat(std::move(format)) {}
@@ -42,15 +57,14 @@ void PackPlan::Add(const PackSource& source) {
 }
 
 PlannedEntry PackPlan::NameEntry(const PackSource& source) const {
-    PlannedEntry entry{
-        source, IsWAD(kind) ? LumpNameOfFile(BaseNameOf(source.name)) : source.name, LumpType{}, {}};
+    PlannedEntry entry{source, EntryNameOf(kind, source.name), LumpType{}, {}};
     const bool isPicture = FindPictureFormat(source.name) != nullptr;
     const std::string_view extension = ExtensionOf(source.name);
     if (IsWAD(kind)) {
         if (isPicture) {
             entry.type = TextureTypeOf(kind);
             entry.format = lumpFormat;
-        } else if (EqualNoCase(extension, paletteExtension)) {
+        } else if (IsPalette(source.name)) {
             entry.type = LumpType::palette;
         }
     } else if (isPicture && !pictureFormat.empty() && !EqualNoCase(extension, pictureFormat)) {
@@ -65,9 +79,8 @@ std::string PackPlan::ReasonAgainst(const PlannedEntry& entry) const {
     if (!IsWAD(kind)) {
         if (entry.name.size() > longestPath)
             return "paths in a pack have at most " + std::to_string(longestPath) + " characters.";
+        if (LeadsOut(entry.name)) return "its path leads out of the packed folder.";
         if (HasSeparator(entry.name)) return "a pack would take its name for a path.";
-        if (entries.size() == maximumPAKRecords)
-            return "a pack contains at most " + std::to_string(maximumPAKRecords) + " files.";
         return {};
     }
     if (entry.type == LumpType{}) return "it is neither a picture nor a palette (.lmp).";

@@ -22,6 +22,10 @@ struct PlannedEntry {
     std::string format; // that a picture is converted to, with its dot; empty if the file goes in as it is
 };
 
+// The name of the entry for a file, or for a name as archives are listed: in a WAD, the file name without the
+// extension of a picture or palette and without escapes.
+std::string EntryNameOf(ArchiveKind kind, const std::string& fileName);
+
 // Names the entries of an archive that is to be written, and finds what does not fit before anything is done.
 class PackPlan {
 public:
