@@ -1,12 +1,21 @@
 #pragma once
 
 #include "archives/FolderDocument.h"
+#include "archives/WADFormat.h"
 
 namespace keltavlo {
+
+struct WADDirectory {
+    WADHeader header;
+    std::vector<WADRecord> records;
+};
 
 // A Quake or Half-Life texture archive (".wad") as a folder. Read only.
 class WADDocument final : public Dynamic<"WADDocument", WADDocument, FolderDocument> {
 public:
+    // Fails as ReadContents does, except for lumps past the end.
+    static WADDirectory ReadDirectory(InputStream& in);
+
     // badClass without "WAD2" or "WAD3"; badIndex for a negative number of lumps; endOfFile for a record or a
     // lump past the end. A lump that claims more data than the file is long fails only when it is opened.
     void ReadContents(InputStream& in) override;

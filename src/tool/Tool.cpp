@@ -5,6 +5,7 @@
 #include "tool/CommandLine.h"
 #include "tool/CommandTable.h"
 #include "tool/NameEscapes.h"
+#include "tool/archives/ArchiveTypes.h"
 
 #include <algorithm>
 #include <ostream>
@@ -18,7 +19,9 @@ Tool::Tool(std::ostream& outputStream, std::ostream& errorStream, bool showProgr
           std::string sentence = text;
           std::replace(sentence.begin(), sentence.end(), '\n', ' ');
           Fail(sentence);
-      }) {}
+      }) {
+    RegisterArchiveTypes(application);
+}
 
 int Tool::Run(const std::vector<std::string>& arguments) {
     try {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/HeadlessApplication.h"
+#include "tool/archives/ArchiveNotes.h"
 
 #include <iosfwd>
 #include <string>
@@ -10,7 +11,7 @@ namespace keltavlo {
 
 // The command-line companion: a thin face over the documents. Texts are UTF-8; results go to `output`,
 // failures, one sentence each, to `errors`.
-class Tool {
+class Tool : private ArchiveNotes {
 public:
     // `showProgress` writes the file at work over and over on one line of `errors`, for a terminal.
     Tool(std::ostream& outputStream, std::ostream& errorStream, bool showProgress);
@@ -28,6 +29,8 @@ public:
     void ShowProgress(const std::string& name);
 
 private:
+    void NoteArchive(const std::string& sentence) override { Note(sentence); }
+
     std::ostream& output;
     std::ostream& errors;
     bool isTerminal;
