@@ -13,7 +13,7 @@ set(LAYERS
     "preview3d         : image"
     "app               : preview3d"
     "tool/pictures     : formats"
-    "tool/archives     : preview3d"
+    "tool/archives     : preview3d tool/pictures"
     "tool              : app tool/pictures tool/archives"
     "framework/ui      : framework/core"
     "image/ui          : image framework/ui"

@@ -22,6 +22,12 @@ void AddConvertOptions(CLI::App& command, ToolArguments& arguments) {
     AddForceOption(command, arguments);
 }
 
+void AddPackingOptions(CLI::App& command, ToolArguments& arguments) {
+    AddFormatOption(command, arguments);
+    AddForceOption(command, arguments);
+    AddPackOptions(command, arguments);
+}
+
 constexpr ToolCommand commands[] = {
     {"list", "PATH...", "List the entries of archives.",
      "A PATH is an archive, a folder inside one or the folder of built-in files. Each line shows the size in "
@@ -46,6 +52,15 @@ constexpr ToolCommand commands[] = {
      "name, the second is written under a numbered name, and a note says so. If several files have the same "
      "name, only the first is written.",
      1, true, AddForceOption, Extract},
+    {"pack", "FOLDER|LIST... OUT", "Write a PAK or WAD archive.",
+     "The extension of OUT, .pak or .wad, selects the kind of archive. A FOLDER, which may be an archive, is "
+     "packed with all its folders, in the order of names. A LIST is a text file with a path a line, relative "
+     "to the folder of the list; lines that begin with # are left out. In a pack, files go in as they are; "
+     "--to converts the pictures among them. In a WAD, each picture becomes a texture, and each .lmp file a "
+     "palette. Their names are those of the files, without folders, where _xHH means the character of the "
+     "hexadecimal code HH; extract writes such names. If anything does not fit, the command reports all of "
+     "it and writes nothing.",
+     anyNumber, true, AddPackingOptions, Pack},
 };
 
 } // namespace

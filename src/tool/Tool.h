@@ -23,6 +23,7 @@ public:
     std::ostream& Output() { return output; }
     // Reports a failure and remembers that there was one.
     void Fail(const std::string& sentence);
+    bool HasFailed() const { return failed; }
     // Names something that was done otherwise than asked, or left out.
     void Note(const std::string& sentence);
     // The file that is worked on; an empty name clears the line.

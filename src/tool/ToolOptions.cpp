@@ -45,4 +45,14 @@ void AddForceOption(CLI::App& command, ToolArguments& arguments) {
             "Overwrite existing files, but never one that the same run reads or has written.");
 }
 
+void AddPackOptions(CLI::App& command, ToolArguments& arguments) {
+    AddFlag(command, "--wad2", arguments.wad2, "Write a WAD2 of Quake, not a WAD3 of Half-Life.");
+    AddFlag(command, "--append", arguments.append, "Add the files to an archive that exists.");
+    AddFlag(command, "--replace", arguments.replace,
+            "Replace the entries of the files' names in an archive.");
+    AddFlag(
+        command, "--delete", arguments.remove,
+        "Delete the entries of the files' names from an archive; a LIST may name files that do not exist.");
+}
+
 } // namespace keltavlo

@@ -16,5 +16,6 @@ void AddRecursiveOption(CLI::App& command, ToolArguments& arguments);
 void AddArchivesOption(CLI::App& command, ToolArguments& arguments);
 void AddFormatOption(CLI::App& command, ToolArguments& arguments);
 void AddForceOption(CLI::App& command, ToolArguments& arguments);
+void AddPackOptions(CLI::App& command, ToolArguments& arguments);
 
 } // namespace keltavlo
