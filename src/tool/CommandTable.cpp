@@ -11,7 +11,11 @@ namespace {
 
 constexpr std::size_t anyNumber = std::numeric_limits<std::size_t>::max();
 
-void AddNoOptions(CLI::App&, ToolArguments&) {}
+void AddListOptions(CLI::App& command, ToolArguments& arguments) {
+    AddRecursiveOption(command, arguments);
+    AddArchivesOption(command, arguments);
+    AddJsonOption(command, arguments);
+}
 
 void AddConvertOptions(CLI::App& command, ToolArguments& arguments) {
     AddFormatOption(command, arguments);
@@ -28,12 +32,12 @@ constexpr ToolCommand commands[] = {
     {"list", "PATH...", "List the entries of archives.",
      "A PATH is an archive, a folder inside one or the folder of built-in files. Each line shows the size in "
      "bytes, the type and the name of an entry.",
-     anyNumber, false, AddNoOptions, List},
+     anyNumber, false, AddListOptions, List},
     {"info", "PATH...", "Describe files.",
      "Shows the format and the size of each file, the names and flags that the games store, and its palette; "
      "for a Quake II model, the numbers of frames, vertices, texture coordinates and triangles, and its "
      "skins; for a studio model (.mdl), its textures.",
-     anyNumber, false, AddNoOptions, ShowInfo},
+     anyNumber, false, AddJsonOption, ShowInfo},
     {"convert", "IN OUT", "Convert pictures to another format.",
      "If IN is a picture, the extension of OUT selects the format. If IN is a folder or an archive, every "
      "picture in it is written below the folder OUT, in the same folders and in the format of --to. Files "

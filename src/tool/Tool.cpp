@@ -4,6 +4,7 @@
 #include "framework/core/Text.h"
 #include "tool/CommandLine.h"
 #include "tool/CommandTable.h"
+#include "tool/NameEscapes.h"
 #include "tool/archives/ArchiveTypes.h"
 
 #include <algorithm>
@@ -48,12 +49,12 @@ void Tool::Fail(const std::string& sentence) {
 
 void Tool::Note(const std::string& sentence) {
     ShowProgress({});
-    errors << "keltavlo-tool: " << ToUtf8(sentence) << "\n";
+    errors << "keltavlo-tool: " << EscapeText(ToUtf8(sentence)) << "\n";
 }
 
 void Tool::ShowProgress(const std::string& name) {
     constexpr const char* clearLine = "\r\x1B[K";
-    if (isTerminal) errors << clearLine << ToUtf8(name) << std::flush;
+    if (isTerminal) errors << clearLine << EscapeText(ToUtf8(name)) << std::flush;
 }
 
 } // namespace keltavlo

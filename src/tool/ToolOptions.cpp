@@ -15,6 +15,23 @@ void AddFlag(CLI::App& command, const char* names, bool& flag, const char* help)
 
 } // namespace
 
+void AddJsonOption(CLI::App& command, ToolArguments& arguments) {
+    AddFlag(command, "--json", arguments.json, "Write JSON: an array with one object for each path.");
+}
+
+void AddRecursiveOption(CLI::App& command, ToolArguments& arguments) {
+    AddFlag(command, "-r,--recursive", arguments.recursive,
+            "List the files of all folders below, and of the archives among them.");
+}
+
+void AddArchivesOption(CLI::App& command, ToolArguments& arguments) {
+    command
+        .add_flag_callback(
+            "--no-archives", [&arguments] { arguments.enterArchives = false; },
+            "Treat archives inside a folder or another archive as files.")
+        ->disable_flag_override();
+}
+
 void AddFormatOption(CLI::App& command, ToolArguments& arguments) {
     command
         .add_option_function<std::string>(
