@@ -11,11 +11,14 @@
 #include "resources/DocTemplateRegistry.h"
 #include "resources/PaletteDocument.h"
 #include "resources/streams/ArchiveStream.h"
+#include "support/builders/CompressedPictures.h"
 #include "support/builders/ModelBuilder.h"
 #include "support/builders/TextureBuilder.h"
 #include "support/builders/WadBuilder.h"
 #include "support/readers/ReadingStream.h"
 #include "support/readers/Scripts.h"
+#include "tool/pictures/JPEG.h"
+#include "tool/pictures/PNG.h"
 
 #include <algorithm>
 #include <iterator>
@@ -202,6 +205,39 @@ std::vector<Reader> PictureReaders() {
     return readers;
 }
 
+Outcome ReadCompressed(decltype(Codec::read) read, ByteSpan bytes, Buffering buffering) {
+    return WithStream(bytes, buffering, [&](InputStream& in, Digest& digest) {
+        Texture texture;
+        texture.indices.emplace();
+        read(in, texture, nullptr);
+        digest.Add(texture);
+        for (const std::uint8_t index : texture.IndicesOfLevel(0)) digest.Add(index);
+    });
+}
+
+// With its checksums repaired, because hardly a mutation gets past them.
+Outcome ReadRepairedPng(ByteSpan bytes, Buffering buffering) {
+    return ReadCompressed(ReadPNG, RepairChecksums({bytes.begin(), bytes.end()}), buffering);
+}
+
+std::vector<Bytes> MakePngs() {
+    std::vector<Bytes> pictures;
+    for (const auto& [depth, type] : {std::pair(1, 0),
+                                      {2, 0},
+                                      {4, 0},
+                                      {16, 0},
+                                      {16, 2},
+                                      {1, 3},
+                                      {2, 3},
+                                      {4, 3},
+                                      {8, 3},
+                                      {8, 4},
+                                      {16, 4},
+                                      {8, 6}})
+        pictures.push_back(MakePng(depth, type, pictures.size() % 2 == 1));
+    return pictures;
+}
+
 // The documents' readers, and those with a state.
 std::vector<Reader> OtherReaders() {
     return {
@@ -218,6 +254,14 @@ std::vector<Reader> OtherReaders() {
         {"md2", ReadDocument<MD2Document>, MakeModel, Fields(4, {4, 16, 20, 24, 28, 32, 40, 44, 48, 52, 56})},
         {"mdl", ReadDocument<MDLDocument>, MakeTextures, Fields(4, {180, 184, 312, 316, 320, 392, 396, 400})},
         {"edits", RunEditScript, MakeEditScript, {}},
+        {"png", ReadRepairedPng, [] { return MakePng(8, 2, false); },
+         Fields(1, {18, 19, 22, 23, 24, 25, 26, 27, 28}), MakePngs},
+        {"jpg",
+         [](ByteSpan bytes, Buffering buffering) { return ReadCompressed(ReadJPEG, bytes, buffering); },
+         [] { return MakeJpeg(3, false); }, Fields(2, {160, 163, 165, 167, 169, 611}),
+         [] {
+             return std::vector{MakeJpeg(1, false), MakeJpeg(3, true)};
+         }},
         {"recode", RecodePicture, MakePictureToRecode, {}, MakeMorePicturesToRecode},
     };
 }
