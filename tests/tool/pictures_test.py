@@ -110,19 +110,93 @@ def check_bombs():
         assert "compressed too highly" in answer, answer
 
 
-def check_wals():
-    """A WAL texture that goes through a PNG picture loses only its smaller mip levels."""
-    random.seed(4)
-    for size in ((8, 8), (64, 32), (256, 248)):
-        header = struct.pack("<32s6I32s3I", b"a", *size, 100, 0, 0, 0, b"e1u1/next", 0x81, 0x8000001, 300)
+def game_file(kind, size, level, name=b"a", palette=b""):
+    """Returns a WAL or MIP file whose smaller mip levels are 0."""
+    offset = {"wal": 100, "mip": 40}[kind]
+    offsets = [offset + len(level) * share // 64 for share in (0, 64, 80, 84)]
+    rest = level + bytes(len(level) * 21 // 64) + (struct.pack("<h", len(palette) // 3) + palette if palette else b"")
+    if kind == "mip":
+        return struct.pack("<16s6I", name, *size, *offsets) + rest
+    return struct.pack("<32s6I32s3I", name, *size, *offsets, b"e1u1/next", 0x81, 0x8000001, 300) + rest
+
+
+def to_picture(colors, width):
+    """Returns a PNG file of the colors."""
+    picture = Image.new("RGB" if len(colors[0]) == 3 else "RGBA", (width, len(colors) // width))
+    picture.putdata(colors)
+    file = io.BytesIO()
+    picture.save(file, "PNG")
+    return file.getvalue()
+
+
+def palette_of(kind):
+    """Returns the colors of a game's indices."""
+    return [color[:3] for color in pixels(convert(game_file(kind, (64, 8), bytes(range(256)) * 2), "a." + kind, "a.png"))[:256]]
+
+
+def distance(one, other):
+    return sum((a - b) ** 2 for a, b in zip(one, other))
+
+
+def check_indices():
+    """Indices survive a trip through the other paletted formats; those of another palette become the nearest."""
+    own = random.randbytes(768)
+    for size, palette, way in itertools.product(((8, 8), (256, 248)), (b"", own), ("png", "pcx")):
         level = random.randbytes(size[0] * size[1])
-        wal = header + level + bytes(len(level) * 21 // 64)
-        back = convert(convert(wal, "a.wal", "a.png"), "a.png", "a.wal", "--set",
-                       "surface=0x81,contents=0x8000001,value=300,next=e1u1/next")
-        assert back[:44] == wal[:44] and back[56:100 + len(level)] == wal[56:100 + len(level)], size
+        for kind in ("wal", "mip") if not palette else ("mip",):
+            file = game_file(kind, size, level, b"a", palette)
+            back = convert(convert(file, "a." + kind, "a." + way), "a." + way, "a." + kind, "--set",
+                           "surface=0x81,contents=0x8000001,value=300,next=e1u1/next")
+            end = len(file) - len(level) * 85 // 64 - (770 if palette else 0)
+            assert back[:end + len(level)] == file[:end + len(level)] and len(back) == len(file), (size, kind, way)
+            assert back[len(file) - 770:] == file[len(file) - 770:] or not palette
+    quake, quake2 = palette_of("mip"), palette_of("wal")
+    mip = convert(game_file("wal", (64, 8), bytes(range(256)) * 2), "a.wal", "a.mip")
+    for color, index in zip(quake2, mip[40:296]):
+        assert distance(color, quake[index]) == min(distance(color, other) for other in quake)
 
 
+def check_cutouts():
+    """Index 255 is for texels of an alpha below 128 and for no others, in the mip levels for most of a block."""
+    colors = [tuple(random.randrange(256) for _ in "rgba") for _ in range(32 * 16)]
+    for options in ((), ("--dither",), ("--palette", "own"), ("--palette", "own", "--dither"), ("--protect-fullbright",)):
+        mip = convert(to_picture(colors, 32), "{a.png", "{a.mip", *options)
+        assert [index == 255 for index in mip[40:552]] == [color[3] < 128 for color in colors], options
+        found = pixels(convert(mip, "{a.mip", "a.png"))
+        assert [color[3] for color in found] == [0 if color[3] < 128 else 255 for color in colors], options
+        for shift, start in ((1, 552), (2, 680), (3, 712)):
+            for i in range(512 >> 2 * shift):
+                left, top = i % (32 >> shift) << shift, i // (32 >> shift) << shift
+                block = [colors[y * 32 + x][3] < 128 for y in range(top, top + (1 << shift)) for x in range(left, left + (1 << shift))]
+                assert (mip[start + i] == 255) == (sum(block) * 2 > len(block)), (options, shift, i)
+
+
+def check_fullbright():
+    """No texel gets an index of 224 and above that it did not have."""
+    colors = palette_of("mip")
+    for options in ((), ("--dither",)):
+        mip = convert(to_picture(colors, 16), "a.png", "a.mip", "--protect-fullbright", *options)
+        assert [colors[index] for index in mip[40:264]] == colors[:224] or options, "others stay"
+        assert max(mip[40:]) < 224
+        file = game_file("mip", (16, 16), bytes(range(256)))
+        mip = convert(convert(file, "a.mip", "a.png"), "a.png", "a.mip", "--protect-fullbright", *options)
+        assert mip[40:296] == file[40:296]
+        assert min(mip[296 + 56:296 + 64]) >= 224 > max(mip[296:296 + 56]), "the smaller levels of both parts"
+
+
+def check_sizes():
+    for size, note in (((300, 20), "was cropped to 256 x 24 to"), ((60, 8), "was resized from 60 x 8 to 64 x 8 to")):
+        source = pathlib.Path(FOLDER.name, "a.png")
+        Image.new("RGB", size).save(source)
+        run = subprocess.run([TOOL, "convert", source, source.with_suffix(".wal"), "--force"], capture_output=True, text=True)
+        assert note in run.stdout + run.stderr, run
+
+
+random.seed(4)
 check_pngs()
 check_jpegs()
 check_bombs()
-check_wals()
+check_indices()
+check_cutouts()
+check_fullbright()
+check_sizes()
