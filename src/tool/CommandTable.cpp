@@ -17,6 +17,11 @@ void AddListOptions(CLI::App& command, ToolArguments& arguments) {
     AddJsonOption(command, arguments);
 }
 
+void AddSheetOptions(CLI::App& command, ToolArguments& arguments) {
+    AddForceOption(command, arguments);
+    AddSourcePaletteOption(command, arguments);
+}
+
 void AddConvertOptions(CLI::App& command, ToolArguments& arguments) {
     AddFormatOption(command, arguments);
     AddForceOption(command, arguments);
@@ -26,6 +31,7 @@ void AddPackingOptions(CLI::App& command, ToolArguments& arguments) {
     AddFormatOption(command, arguments);
     AddForceOption(command, arguments);
     AddPackOptions(command, arguments);
+    AddPaletteOptions(command, arguments);
 }
 
 constexpr ToolCommand commands[] = {
@@ -38,6 +44,12 @@ constexpr ToolCommand commands[] = {
      "for a Quake II model, the numbers of frames, vertices, texture coordinates and triangles, and its "
      "skins; for a studio model (.mdl), its textures.",
      anyNumber, false, AddJsonOption, ShowInfo},
+    {"sheet", "PATH OUT.png", "Draw a contact sheet of the textures in an archive.",
+     "Draws every picture in an archive or a folder with its name and its size in texels, 48 to a page. A "
+     "picture "
+     "of more than 128 texels is shown smaller, by a whole factor; a checkerboard shows through transparent "
+     "texels. The first page is OUT.png, the next one OUT-2.png and so on.",
+     1, true, AddSheetOptions, MakeSheet},
     {"convert", "IN OUT", "Convert pictures to another format.",
      "If IN is a picture, the extension of OUT selects the format. If IN is a folder or an archive, every "
      "picture in it is written below the folder OUT, in the same folders and in the format of --to. Files "

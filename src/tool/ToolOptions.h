@@ -15,6 +15,11 @@ void AddJsonOption(CLI::App& command, ToolArguments& arguments);
 void AddRecursiveOption(CLI::App& command, ToolArguments& arguments);
 void AddArchivesOption(CLI::App& command, ToolArguments& arguments);
 void AddFormatOption(CLI::App& command, ToolArguments& arguments);
+// The palette of pictures that are only read.
+void AddSourcePaletteOption(CLI::App& command, ToolArguments& arguments);
+// How pictures are brought to a palette.
+void AddPaletteOptions(CLI::App& command, ToolArguments& arguments);
+void AddFieldsOption(CLI::App& command, ToolArguments& arguments);
 void AddForceOption(CLI::App& command, ToolArguments& arguments);
 void AddPackOptions(CLI::App& command, ToolArguments& arguments);
 
