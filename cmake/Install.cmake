@@ -5,6 +5,9 @@ set(packaging "${CMAKE_SOURCE_DIR}/packaging")
 set(metainfo "${CMAKE_BINARY_DIR}/packaging/org.example.keltavlo.metainfo.xml")
 configure_file("${packaging}/org.example.keltavlo.metainfo.xml.in" "${metainfo}" @ONLY)
 
+set(service "${CMAKE_BINARY_DIR}/packaging/org.example.keltavlo.service")
+configure_file("${packaging}/org.example.keltavlo.service.in" "${service}" @ONLY)
+
 install(TARGETS keltavlo keltavlo-tool)
 install(FILES docs/keltavlo.1 "${toolManual}/keltavlo-tool.1" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
 install(FILES "${toolManual}/keltavlo-tool.bash" DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions"
@@ -13,7 +16,8 @@ install(FILES "${toolManual}/_keltavlo-tool" DESTINATION "${CMAKE_INSTALL_DATADI
 install(FILES "${toolManual}/keltavlo-tool.fish" DESTINATION "${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d")
 install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/keltavlo" RENAME copyright)
 install(FILES CHANGELOG.md DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/keltavlo")
-install(FILES "${packaging}/keltavlo.desktop" DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
+install(FILES "${packaging}/org.example.keltavlo.desktop" DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
+install(FILES "${service}" DESTINATION "${CMAKE_INSTALL_DATADIR}/dbus-1/services")
 install(FILES "${packaging}/keltavlo.xml" DESTINATION "${CMAKE_INSTALL_DATADIR}/mime/packages")
 install(FILES "${metainfo}" DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo")
 set(iconFolder "${CMAKE_INSTALL_DATADIR}/icons/hicolor")
