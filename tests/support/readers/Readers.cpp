@@ -90,7 +90,7 @@ Outcome ReadDocument(ByteSpan bytes, Buffering buffering) {
 
 Outcome ReadSkins(ByteSpan bytes, Buffering buffering) {
     return WithStream(bytes, buffering, [](InputStream& in, Digest& digest) {
-        for (const IDPOSkin& skin : ReadIDPOSkins(in, GetQuakePalette())) {
+        for (const ModelSkin& skin : ReadIDPOSkins(in, GetQuakePalette())) {
             digest.Add(skin.number);
             digest.Add(skin.picture);
         }
