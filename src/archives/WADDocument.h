@@ -22,11 +22,11 @@ public:
     void WriteContents(OutputStream& out) override; // readOnly
 
     // The extension of the document type that opens lumps of the type; empty for a type that none opens.
-    std::string_view GetExtension(std::uint8_t lumpType) const;
+    std::string_view GetExtension(LumpType type) const;
 
 private:
     // By lump type, looked up once for all lumps of the file.
-    std::vector<std::pair<std::uint8_t, std::string>> extensions;
+    std::vector<std::pair<LumpType, std::string>> extensions;
 };
 
 } // namespace keltavlo

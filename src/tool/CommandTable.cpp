@@ -15,7 +15,7 @@ void AddNoOptions(CLI::App&, ToolArguments&) {}
 
 void AddConvertOptions(CLI::App& command, ToolArguments& arguments) {
     AddFormatOption(command, arguments);
-    AddForceOption(command, arguments);
+    AddBatchOptions(command, arguments);
 }
 
 constexpr ToolCommand commands[] = {
@@ -34,14 +34,14 @@ constexpr ToolCommand commands[] = {
      "that are not pictures are skipped with a note. If a picture cannot be read, the command reports a "
      "failure and continues with the others. The games' formats require sides that are multiples of 8 from 8 "
      "to 256; a note names each picture that was fitted.",
-     1, true, AddConvertOptions, Convert},
+     anyNumber, true, AddConvertOptions, Convert},
     {"extract", "PATH OUTDIR", "Write files from archives to the disk.",
      "Writes one file of an archive, or all its files in their folders, below OUTDIR. For a studio model "
      "(.mdl), on the disk or in an archive, writes each texture as a numbered Targa file: model_1.tga and so "
      "on. Names that lead out of OUTDIR are refused. If a file and a folder of an archive have the same "
      "name, the second is written under a numbered name, and a note says so. If several files have the same "
      "name, only the first is written.",
-     1, true, AddForceOption, Extract},
+     anyNumber, true, AddBatchOptions, Extract},
 };
 
 } // namespace

@@ -23,7 +23,16 @@ void AddFormatOption(CLI::App& command, ToolArguments& arguments) {
         ->type_name("FORMAT");
 }
 
-void AddForceOption(CLI::App& command, ToolArguments& arguments) {
+void AddBatchOptions(CLI::App& command, ToolArguments& arguments) {
+    command
+        .add_option("-j,--jobs", arguments.jobs,
+                    "The number of files to work on at a time; 0, the default, for one on each core.")
+        ->type_name("a number of threads")
+        ->check(CLI::Range(0, 1024));
+    AddFlag(command, "-q,--quiet", arguments.quiet, "Report failures only.");
+    AddFlag(command, "-v,--verbose", arguments.verbose, "Name every file that is written.");
+    command.add_flag("!--no-archives", arguments.enterArchives,
+                     "Treat archives in a folder or archive as files, not as folders.");
     AddFlag(command, "-f,--force", arguments.force,
             "Overwrite existing files, but never one that the same run reads or has written.");
 }

@@ -12,6 +12,7 @@ struct ToolArguments;
 // throws UsageError for a value that an option does not accept.
 
 void AddFormatOption(CLI::App& command, ToolArguments& arguments);
-void AddForceOption(CLI::App& command, ToolArguments& arguments);
+// Those of commands that write many files: how many threads, what to overwrite, what to tell.
+void AddBatchOptions(CLI::App& command, ToolArguments& arguments);
 
 } // namespace keltavlo
