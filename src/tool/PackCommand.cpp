@@ -55,6 +55,7 @@ public:
             Add();
         if (failed) return tool.Fail("\"" + ToDisplayPath(target) + "\" was not written.");
         outputs.Write(target, WriteThroughArchive([&](OutputStream& out) { WriteArchive(out, contents); }));
+        outputs.Finish();
     }
 
 private:

@@ -21,8 +21,8 @@ std::string_view Trim(std::string_view line) {
 
 std::vector<PackSource> SourcesOfTree(Tool& tool, const std::string& tree, OutputPlace& outputs) {
     std::vector<PackSource> sources;
-    for (const auto& [path, name] : ListTree(tool, tree, outputs))
-        if (!IsMetadataName(name)) sources.push_back({path, name});
+    for (const TreeFile& file : ListTree(tool, tree, NestedArchives::asFiles, outputs))
+        if (!IsMetadataName(file.name)) sources.push_back({file.path, file.name});
     return sources;
 }
 

@@ -1,5 +1,4 @@
 #include "formats/TextureBytes.h"
-#include "framework/core/FileFailure.h"
 #include "framework/core/Path.h"
 #include "framework/core/Text.h"
 #include "tool/NameEscapes.h"
@@ -35,12 +34,14 @@ public:
             const std::size_t count = std::min(SheetPage::capacity, pictures.size() - first);
             WritePage(std::span(pictures).subspan(first, count), page + 1, pages);
         }
+        outputs.Finish();
         tool.ShowProgress({});
     }
 
 private:
     std::vector<TreeFile> FindPictures() {
-        std::vector<TreeFile> files = ListTree(tool, tree, outputs);
+        std::vector<TreeFile> files = ListTree(
+            tool, tree, arguments.enterArchives ? NestedArchives::entered : NestedArchives::asFiles, outputs);
         std::erase_if(files, [](const TreeFile& file) { return !FindPictureFormat(file.name); });
         return files;
     }
@@ -58,10 +59,7 @@ private:
         tool.ShowProgress(picture.name);
         const std::string name = EscapePath(picture.name);
         try {
-            const auto file = FileOrThrow([&](CFileException* failure) {
-                return tool.GetApplication().GetFileSystem().OpenFile(picture.path, CFile::modeRead, failure);
-            });
-            page.Add(name, ReadPicture(*file, picture.name, palettes, arguments.palette));
+            page.Add(name, ReadPicture(*OpenSource(picture), picture.name, palettes, arguments.palette));
         } catch (const CException& failure) {
             page.AddMissing(name);
             tool.Fail(DescribeFailure(Direction::opening, picture.path, failure));
@@ -92,7 +90,7 @@ void MakeSheet(Tool& tool, const ToolArguments& arguments) {
     EntryStatus status;
     const std::string path = TreePath(arguments.inputs.front());
     tool.GetApplication().GetFileSystem().GetStatus(path, status);
-    if (!status.exists) return tool.Fail("\"" + ToDisplayPath(path) + "\" was not found.");
+    if (!status.exists) return FailToFind(tool, path);
     if (!IsTree(status)) return tool.Fail("\"" + ToDisplayPath(path) + "\" is not a folder or an archive.");
     ContactSheet(tool, arguments).Run();
 }
