@@ -42,7 +42,8 @@ FolderDocument* OpenFolder(const std::string& path) {
 FolderDocument* FindDiskArchive(const std::string& path) {
     CFileStatus status;
     for (std::string folder = path; !folder.empty(); folder = ParentOf(folder)) {
-        if (!CFile::GetStatus(folder, status) || status.IsDirectory()) continue;
+        // To the disk, "x.wad/." is the archive itself; here it is an entry of that name.
+        if (FileNameOf(folder) == "." || !CFile::GetStatus(folder, status) || status.IsDirectory()) continue;
         return folder == path ? nullptr : OpenFolder(status.fullName);
     }
     return nullptr;
@@ -95,13 +96,17 @@ std::optional<std::unique_ptr<CFile>> FileSystem::OpenExisting(const std::string
     return exists ? std::optional(OpenIn(archive, path, flags, failure)) : std::nullopt;
 }
 
-void FileSystem::ListFolder(const std::string& path, FolderListing& listing) {
-    listing = {{}, path};
-    const FolderDocument* archive = FindArchive(path);
+ArchiveFolder FileSystem::FindFolder(const std::string& path) {
     EntryStatus status;
     GetStatus(path, status);
-    if (status.browsable) archive = OpenFolder(status.fullName);
-    if (archive) archive->ListFolder(path, listing);
+    FolderDocument* archive = status.browsable ? OpenFolder(status.fullName) : FindArchive(path);
+    const FolderEntry* folder = archive ? archive->FindFolder(path) : nullptr;
+    return folder ? ArchiveFolder{archive, folder} : ArchiveFolder{};
+}
+
+void FileSystem::ListFolder(const std::string& path, FolderListing& listing) {
+    listing = {{}, path};
+    if (const ArchiveFolder found = FindFolder(path); found.archive) found.archive->ListFolder(path, listing);
 }
 
 } // namespace keltavlo

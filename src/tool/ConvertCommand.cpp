@@ -5,6 +5,7 @@
 #include "resources/DocTemplateRegistry.h"
 #include "tool/OutputPlace.h"
 #include "tool/Tool.h"
+#include "tool/ToolArguments.h"
 #include "tool/ToolCommands.h"
 #include "tool/TreeWalk.h"
 
@@ -62,8 +63,8 @@ void ConvertTree(Tool& tool, const std::string& tree, const std::string& folder,
 } // namespace
 
 void Convert(Tool& tool, const ToolArguments& arguments) {
-    const std::string from = TreePath(arguments.paths[0]);
-    const std::string to = FullPath(arguments.paths[1]);
+    const std::string from = TreePath(arguments.inputs.front());
+    const std::string to = FullPath(arguments.output);
     EntryStatus status;
     tool.GetApplication().GetFileSystem().GetStatus(from, status);
     if (IsTree(status)) {

@@ -5,6 +5,7 @@
 #include "preview3d/MDLDocument.h"
 #include "tool/OutputPlace.h"
 #include "tool/Tool.h"
+#include "tool/ToolArguments.h"
 #include "tool/ToolCommands.h"
 #include "tool/TreeWalk.h"
 
@@ -60,8 +61,8 @@ void ExtractOne(Tool& tool, const std::string& path, const EntryStatus& status, 
 } // namespace
 
 void Extract(Tool& tool, const ToolArguments& arguments) {
-    const std::string path = TreePath(arguments.paths[0]);
-    const std::string folder = FullPath(arguments.paths[1]);
+    const std::string path = TreePath(arguments.inputs.front());
+    const std::string folder = FullPath(arguments.output);
     EntryStatus status;
     tool.GetApplication().GetFileSystem().GetStatus(path, status);
     if (!status.exists) return tool.Fail("\"" + ToDisplayPath(path) + "\" was not found.");

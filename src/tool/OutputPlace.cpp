@@ -56,15 +56,17 @@ void OutputPlace::AddWritten(const std::string& path) {
     if (const auto identity = IdentityOf(path)) outputs.insert(*identity);
 }
 
-void OutputPlace::Write(const std::string& path, std::span<const std::byte> bytes) {
-    if (!Prepare(path)) return;
+bool OutputPlace::Write(const std::string& path, std::span<const std::byte> bytes) {
+    if (!Prepare(path)) return false;
     try {
         ReplacingFile file(path);
         file.Write(bytes.data(), bytes.size());
         file.Close();
         AddWritten(path);
+        return true;
     } catch (const std::exception& failure) {
         tool.Fail(DescribeFailure(Direction::saving, path, failure));
+        return false;
     }
 }
 

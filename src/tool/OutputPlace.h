@@ -24,8 +24,8 @@ public:
     bool Prepare(const std::string& path);
     // The file was written by other means than Write.
     void AddWritten(const std::string& path);
-    // Prepares the file and writes the bytes to it.
-    void Write(const std::string& path, std::span<const std::byte> bytes);
+    // Prepares the file and writes the bytes to it. False, after reporting why, if it was not written.
+    bool Write(const std::string& path, std::span<const std::byte> bytes);
 
 private:
     using Identity = std::pair<std::uint64_t, std::uint64_t>; // device, inode

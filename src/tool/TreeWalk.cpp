@@ -1,10 +1,9 @@
 #include "tool/TreeWalk.h"
 
 #include "archives/FolderDocument.h"
-#include "framework/core/CDocTemplate.h"
 #include "framework/core/Path.h"
 #include "framework/core/Text.h"
-#include "resources/DocTemplateRegistry.h"
+#include "tool/NameEscapes.h"
 #include "tool/OutputPlace.h"
 #include "tool/Tool.h"
 
@@ -112,7 +111,8 @@ private:
 
 std::string TreePath(const std::string& argument) {
     const bool ended = !argument.empty() && IsSeparator(argument.back());
-    return ended ? JoinPath(FullPath(argument), {}) : FullPath(argument);
+    const std::string path = UnescapePath(FullPath(argument));
+    return ended ? JoinPath(path, {}) : path;
 }
 
 bool IsTree(const EntryStatus& status) {
@@ -125,14 +125,6 @@ std::vector<TreeFile> ListTree(Tool& tool, const std::string& tree, OutputPlace&
     TreeWalk walk(tool, outputs);
     walk.Walk(tree, {}, status);
     return std::move(walk.found);
-}
-
-std::string TypeNameOf(const std::string& path) {
-    const DocTemplateRegistry& registry = DocTemplateRegistry::Get();
-    const CDocTemplate* type = registry.FindTemplate(*registry.GetDocumentClassOfName(path));
-    const std::string extension = type->GetDocString(CDocTemplate::filterExt);
-    return EqualNoCase(extension, TypeExtensionOf(path)) ? type->GetDocString(CDocTemplate::filterName)
-                                                         : "unknown";
 }
 
 } // namespace keltavlo

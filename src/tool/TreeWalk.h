@@ -10,8 +10,8 @@ namespace keltavlo {
 class OutputPlace;
 class Tool;
 
-// The full path of an argument. A separator at its end stays: in an archive it picks the folder where a file
-// has the same name.
+// The full path of an argument, whose names in archives may be escaped (NameEscapes.h). A separator at its
+// end stays: in an archive it picks the folder where a file has the same name.
 std::string TreePath(const std::string& argument);
 
 // Whether a path is a folder of the disk or an archive, an archive's folder or an archive.
@@ -28,8 +28,5 @@ struct TreeFile {
 // one name in an archive, because no path reaches it. Of a file and a folder of one name, the second gets
 // another name, which a note tells.
 std::vector<TreeFile> ListTree(Tool& tool, const std::string& tree, OutputPlace& outputs);
-
-// What people call the type that the path would open as, such as "Quake II Texture Files (*.wal)".
-std::string TypeNameOf(const std::string& path);
 
 } // namespace keltavlo

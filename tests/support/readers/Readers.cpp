@@ -15,8 +15,12 @@
 #include "support/builders/ModelBuilder.h"
 #include "support/builders/TextureBuilder.h"
 #include "support/builders/WadBuilder.h"
+#include "support/readers/ArchiveSeeds.h"
 #include "support/readers/ReadingStream.h"
 #include "support/readers/Scripts.h"
+#include "tool/archives/BSPDocument.h"
+#include "tool/archives/IDPOSkins.h"
+#include "tool/archives/ZIPDocument.h"
 #include "tool/pictures/JPEG.h"
 #include "tool/pictures/PNG.h"
 
@@ -84,6 +88,15 @@ Outcome ReadDocument(ByteSpan bytes, Buffering buffering) {
         Document document;
         document.ReadContents(in);
         Add(digest, document);
+    });
+}
+
+Outcome ReadSkins(ByteSpan bytes, Buffering buffering) {
+    return WithStream(bytes, buffering, [](InputStream& in, Digest& digest) {
+        for (const ModelSkin& skin : ReadIDPOSkins(in, GetQuakePalette())) {
+            digest.Add(skin.number);
+            digest.Add(skin.picture);
+        }
     });
 }
 
@@ -253,6 +266,11 @@ std::vector<Reader> OtherReaders() {
         {"path", ResolvePath, MakePathAndPack, Fields(4, {13, 17, 85, 89})},
         {"md2", ReadDocument<MD2Document>, MakeModel, Fields(4, {4, 16, 20, 24, 28, 32, 40, 44, 48, 52, 56})},
         {"mdl", ReadDocument<MDLDocument>, MakeTextures, Fields(4, {180, 184, 312, 316, 320, 392, 396, 400})},
+        {"zip", ReadDocument<ZIPDocument>, MakeZip,
+         Fields(4, {87, 91, 97, 101, 105, 109, 123, 140, 144, 150, 154, 158, 162, 176, 187, 189, 193, 197})},
+        {"bsp", ReadDocument<BSPDocument>, MakeMap,
+         Fields(4, {0, 20, 24, 124, 128, 132, 156, 160, 164, 176})},
+        {"idpo", ReadSkins, MakeSkinnedModel, Fields(4, {4, 48, 52, 56, 84, 94, 98})},
         {"edits", RunEditScript, MakeEditScript, {}},
         {"png", ReadRepairedPng, [] { return MakePng(8, 2, false); },
          Fields(1, {18, 19, 22, 23, 24, 25, 26, 27, 28}), MakePngs},
