@@ -171,6 +171,14 @@ def check_cutouts():
                 assert (mip[start + i] == 255) == (sum(block) * 2 > len(block)), (options, shift, i)
 
 
+def check_own_palette():
+    """A palette of the picture's own has every color of a picture of few."""
+    colors = [color[:3] + (random.choice((0, 100, 255)),) for color in palette_of("wal")]
+    for target, options in itertools.product(("x.pcx", "x.png"), ((), ("--dither",))):
+        found = pixels(convert(to_picture(colors, 16), "a.png", target, "--palette", "own", *options))
+        assert [color[:3] for color in found] == [color[:3] for color in colors], (target, options)
+
+
 def check_fullbright():
     """No texel gets an index of 224 and above that it did not have."""
     colors = palette_of("mip")
@@ -198,5 +206,6 @@ check_jpegs()
 check_bombs()
 check_indices()
 check_cutouts()
+check_own_palette()
 check_fullbright()
 check_sizes()
