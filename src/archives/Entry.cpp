@@ -34,6 +34,13 @@ FolderEntry* FolderEntry::FindFolder(std::string_view name) const {
     return found ? found->folder : nullptr;
 }
 
+std::string FolderEntry::GetListedName(const Entry& child) const {
+    std::string name = child.GetName();
+    const bool isFolder = dynamic_cast<const FolderEntry*>(&child) != nullptr;
+    if (isFolder && FindChild(name) != &child) name += '/';
+    return name;
+}
+
 const FolderEntry::Named* FolderEntry::Find(std::string_view name) const {
     for (; indexedCount < children.size(); ++indexedCount) {
         Entry* child = children[indexedCount].get();

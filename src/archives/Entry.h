@@ -47,6 +47,9 @@ public:
     Entry* FindChild(std::string_view name) const;
     // Returns the folder with that name, even if a file has the same name, or null.
     FolderEntry* FindFolder(std::string_view name) const;
+    // The child's name as listings show it: a folder that has the same name as a file beside it ends in "/",
+    // so that joined to this folder's path the name leads to the folder.
+    std::string GetListedName(const Entry& child) const;
 
 private:
     struct Named {

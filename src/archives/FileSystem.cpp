@@ -19,10 +19,6 @@ const CRuntimeClass* FolderTypeOf(const std::string& path) {
     return type && type->IsDerivedFrom(FolderDocument::runtimeClass) ? type : nullptr;
 }
 
-bool IsFolderType(const std::string& path) {
-    return FolderTypeOf(path) != nullptr;
-}
-
 CDocument* FindOpenFolder(const CRuntimeClass& type, const std::string& path) {
     for (CDocument* document : DocTemplateRegistry::Get().FindTemplate(type)->GetDocuments())
         if (document->GetPathName() == path || SamePath(document->GetPathName(), path)) return document;
@@ -42,7 +38,8 @@ FolderDocument* OpenFolder(const std::string& path) {
 FolderDocument* FindDiskArchive(const std::string& path) {
     CFileStatus status;
     for (std::string folder = path; !folder.empty(); folder = ParentOf(folder)) {
-        if (!CFile::GetStatus(folder, status) || status.IsDirectory()) continue;
+        // To the disk, "x.wad/." is the archive itself; here it is an entry of that name.
+        if (FileNameOf(folder) == "." || !CFile::GetStatus(folder, status) || status.IsDirectory()) continue;
         return folder == path ? nullptr : OpenFolder(status.fullName);
     }
     return nullptr;
@@ -57,10 +54,14 @@ std::unique_ptr<CFile> OpenIn(FolderDocument* archive, const std::string& path, 
 
 } // namespace
 
+bool FileSystem::IsArchiveName(const std::string& name) {
+    return FolderTypeOf(name) != nullptr;
+}
+
 FolderDocument* FileSystem::FindArchive(const std::string& path) const {
     FolderDocument* archive = FindDiskArchive(path);
     for (int depth = 1; archive && depth < maximumDepth; ++depth) {
-        const std::string inner = archive->FindOnTheWay(path, IsFolderType);
+        const std::string inner = archive->FindOnTheWay(path, IsArchiveName);
         if (inner.empty()) return archive;
         archive = OpenFolder(inner);
     }
@@ -79,7 +80,7 @@ void FileSystem::GetStatus(const std::string& path, EntryStatus& status) {
     const bool isFile = status.exists && !status.IsDirectory();
     // Only a file of the disk can be the program; asking the disk about each entry would slow listings.
     const std::string name = status.onDisk ? status.fullName : std::string(FileNameOf(status.fullName));
-    if (isFile && IsFolderType(name)) status.browsable = true;
+    if (isFile && IsArchiveName(name)) status.browsable = true;
 }
 
 std::unique_ptr<CFile> FileSystem::OpenFile(const std::string& path, unsigned flags,
@@ -95,13 +96,17 @@ std::optional<std::unique_ptr<CFile>> FileSystem::OpenExisting(const std::string
     return exists ? std::optional(OpenIn(archive, path, flags, failure)) : std::nullopt;
 }
 
-void FileSystem::ListFolder(const std::string& path, FolderListing& listing) {
-    listing = {{}, path};
-    const FolderDocument* archive = FindArchive(path);
+ArchiveFolder FileSystem::FindFolder(const std::string& path) {
     EntryStatus status;
     GetStatus(path, status);
-    if (status.browsable) archive = OpenFolder(status.fullName);
-    if (archive) archive->ListFolder(path, listing);
+    FolderDocument* archive = status.browsable ? OpenFolder(status.fullName) : FindArchive(path);
+    const FolderEntry* folder = archive ? archive->FindFolder(path) : nullptr;
+    return folder ? ArchiveFolder{archive, folder} : ArchiveFolder{};
+}
+
+void FileSystem::ListFolder(const std::string& path, FolderListing& listing) {
+    listing = {{}, path};
+    if (const ArchiveFolder found = FindFolder(path); found.archive) found.archive->ListFolder(path, listing);
 }
 
 } // namespace keltavlo

@@ -60,16 +60,17 @@ std::unique_ptr<CFile> FolderDocument::OpenEntry(const std::string& path, unsign
     return file;
 }
 
+const FolderEntry* FolderDocument::FindFolder(const std::string& path) const {
+    const bool isRoot = EqualNoCase(FullPath(path), FullPath(GetRootName()));
+    return isRoot ? &root : dynamic_cast<const FolderEntry*>(FindEntry(path));
+}
+
 void FolderDocument::ListFolder(const std::string& path, FolderListing& listing) const {
     listing = {{}, path};
-    const bool isRoot = EqualNoCase(FullPath(path), FullPath(GetRootName()));
-    const auto* folder = isRoot ? &root : dynamic_cast<const FolderEntry*>(FindEntry(path));
+    const FolderEntry* folder = FindFolder(path);
     if (!folder) return;
-    for (const auto& child : folder->GetChildren()) {
-        listing.names.push_back(child->GetName());
-        const bool isFolder = dynamic_cast<const FolderEntry*>(child.get()) != nullptr;
-        if (isFolder && folder->FindChild(listing.names.back()) != child.get()) listing.names.back() += '/';
-    }
+    listing.names.reserve(folder->GetChildren().size());
+    for (const auto& child : folder->GetChildren()) listing.names.push_back(folder->GetListedName(*child));
 }
 
 bool FolderDocument::Refresh() {

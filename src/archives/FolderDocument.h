@@ -9,9 +9,7 @@ namespace keltavlo {
 
 // What a folder contains.
 struct FolderListing {
-    // In the order of the tree. A folder that has the same name as a file beside it ends in "/", so that
-    // joined to the folder's path each name leads to its own entry.
-    std::vector<std::string> names;
+    std::vector<std::string> names; // of FolderEntry::GetListedName, in the order of the tree
     std::string path;
 };
 
@@ -27,6 +25,9 @@ public:
     void SetRootName(const std::string& path) { root.rootName = path; }
     const std::string& GetRootName() const { return root.rootName; }
 
+    // Whether the entries are lumps, whose names may contain characters that file systems refuse.
+    virtual bool HasLumps() const { return false; }
+
     // Appends the entry in the folder that the path names below the root; folders that are missing are made.
     // The entry's own name is not looked at, so several entries may have one name.
     void AddEntry(const std::string& path, std::unique_ptr<Entry> entry);
@@ -36,6 +37,8 @@ public:
     // Resets the status when there is no such entry. A file's full name has no separator at its end.
     void GetEntryStatus(const std::string& path, EntryStatus& status) const;
     std::unique_ptr<CFile> OpenEntry(const std::string& path, unsigned flags, CFileException* failure);
+    // The folder of that path, or null. The root itself needs no separator at its end.
+    const FolderEntry* FindFolder(const std::string& path) const;
     // Empty names when the path is no folder.
     void ListFolder(const std::string& path, FolderListing& listing) const;
     // Reads the archive again if its file has changed since it was read, unless entries were written to.

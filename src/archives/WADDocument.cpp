@@ -3,7 +3,6 @@
 #include "archives/ProgressMeter.h"
 #include "archives/StoredEntry.h"
 #include "framework/core/CWinApp.h"
-#include "framework/core/Text.h"
 #include "res/StringIds.h"
 #include "resources/streams/OutputStream.h"
 
@@ -13,38 +12,12 @@ namespace keltavlo {
 
 namespace {
 
-struct Header {
-    char identification[4];
-    std::int32_t lumpCount;
-    std::uint32_t directoryOffset; // bytes from the start of the file
-};
-static_assert(sizeof(Header) == 12);
-
-// A record of a WAD file's directory, as it lies in the file; little-endian.
-struct WADRecord {
-    std::uint32_t offset;   // bytes from the start of the file
-    std::uint32_t diskSize; // bytes that the lump takes in the file
-    std::uint32_t size;     // bytes of its data
-    std::uint8_t type;
-    std::uint8_t compression; // never looked at
-    std::uint8_t padding[2];
-    char name[16]; // ended by a NUL when shorter
-
-    std::string_view GetPath() const { return UpToNul({name, sizeof name}); }
-    // False when the name has no folder. Looks at the whole field and not for its end: one step for all 16
-    // characters, of which large files have tens of thousands.
-    bool MayHaveFolder() const {
-        unsigned found = 0;
-        for (const char c : name) found |= unsigned{c == '/'} | unsigned{c == '\\'} | unsigned{c == ':'};
-        return found != 0;
-    }
-};
-static_assert(sizeof(WADRecord) == 32);
-
 constexpr struct {
-    std::uint8_t lumpType;
+    LumpType lumpType;
     std::string_view documentClass; // by name: pictures are documents of a higher layer
-} kinds[] = {{64, "LMPDocument"}, {67, "MIPDocument"}, {68, "MIPDocument"}};
+} kinds[] = {{LumpType::palette, "LMPDocument"},
+             {LumpType::wad3Texture, "MIPDocument"},
+             {LumpType::wad2Texture, "MIPDocument"}};
 
 std::string ExtensionOfClass(std::string_view className) {
     for (const CDocTemplate* type : CWinApp::Get().GetTemplates())
@@ -55,13 +28,11 @@ std::string ExtensionOfClass(std::string_view className) {
 // A lump, its bytes as they lie in the file, cut or filled with zeros to the size that the record claims.
 class WADEntry final : public StoredEntry {
 public:
-    explicit WADEntry(const WADRecord& directoryRecord) : record(directoryRecord) {}
+    WADEntry(const WADRecord& directoryRecord, const WADDocument& document)
+        : record(directoryRecord), owner(document) {}
     // The name with the extension of the document type that opens lumps of this kind.
     std::string GetName() const override {
-        std::string name(FileNameOf(record.GetPath()));
-        for (const auto& [lumpType, documentClass] : kinds)
-            if (lumpType == record.type) return name + ExtensionOfClass(documentClass);
-        return name;
+        return std::string(FileNameOf(record.GetPath())).append(owner.GetExtension(record.type));
     }
 
 protected:
@@ -71,21 +42,19 @@ protected:
 
 private:
     WADRecord record;
+    const WADDocument& owner;
 };
 
-constexpr std::string_view identifications[] = {"WAD2", "WAD3"};
-
-Header ReadHeader(InputStream& in) {
-    Header header;
+WADHeader ReadHeader(InputStream& in) {
+    WADHeader header;
     in.Read(&header, sizeof header);
     const std::string_view found(header.identification, sizeof header.identification);
-    if (std::ranges::find(identifications, found) == std::end(identifications))
-        in.Fail(StreamError::badClass);
+    if (found != wad2Identification && found != wad3Identification) in.Fail(StreamError::badClass);
     if (header.lumpCount < 0) in.Fail(StreamError::badIndex);
     return header;
 }
 
-std::vector<WADRecord> ReadDirectory(InputStream& in, const Header& header) {
+std::vector<WADRecord> ReadRecords(InputStream& in, const WADHeader& header) {
     const auto count = static_cast<std::size_t>(header.lumpCount);
     in.Seek(header.directoryOffset);
     if (count > in.GetRemaining() / sizeof(WADRecord)) in.Fail(StreamError::endOfFile);
@@ -107,18 +76,26 @@ void CheckExtents(const InputStream& in, const std::vector<WADRecord>& records) 
 
 } // namespace
 
+WADDirectory WADDocument::ReadDirectory(InputStream& in) {
+    const WADHeader header = ReadHeader(in);
+    return {header, ReadRecords(in, header)};
+}
+
 void WADDocument::ReadContents(InputStream& in) {
     BeginReading(in);
-    const Header header = ReadHeader(in);
+    extensions.clear();
+    for (const auto& [lumpType, documentClass] : kinds)
+        extensions.emplace_back(lumpType, ExtensionOfClass(documentClass));
+    const WADHeader header = ReadHeader(in);
     std::vector<WADRecord> records;
     {
         ProgressMeter meter(0, header.lumpCount);
         meter.SetText(IDS_READING_DIRECTORY);
-        records = ReadDirectory(in, header);
+        records = ReadRecords(in, header);
         ReserveRootEntries(records.size());
         std::int32_t i = 0;
         for (const WADRecord& record : records) {
-            auto entry = std::make_unique<WADEntry>(record);
+            auto entry = std::make_unique<WADEntry>(record, *this);
             if (record.MayHaveFolder())
                 AddNamedEntry(record.GetPath(), std::move(entry));
             else
@@ -127,6 +104,11 @@ void WADDocument::ReadContents(InputStream& in) {
         }
     }
     CheckExtents(in, records);
+}
+
+std::string_view WADDocument::GetExtension(LumpType lumpType) const {
+    const auto place = std::ranges::find(extensions, lumpType, [](const auto& row) { return row.first; });
+    return place == extensions.end() ? std::string_view() : place->second;
 }
 
 void WADDocument::WriteContents(OutputStream& out) {

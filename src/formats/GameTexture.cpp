@@ -30,7 +30,9 @@ std::uint8_t Highest(std::span<const std::uint8_t> indices) {
     return highest;
 }
 
-void WriteIndices(OutputStream& out, const Image& picture, NearestSearch& search) {
+void WriteIndices(OutputStream& out, const Image& picture, std::span<const std::uint8_t> known,
+                  NearestSearch& search) {
+    if (known.size() == picture.Pixels().size()) return out.Write(known);
     std::vector<std::uint8_t> indices(picture.Pixels().size());
     search.FindIndices(picture.Pixels(), indices);
     out.Write(std::span<const std::uint8_t>(indices));
@@ -66,7 +68,7 @@ std::array<std::uint32_t, levelCount> LevelOffsets(std::uint32_t start, int widt
     return offsets;
 }
 
-void ReadIndices(InputStream& in, Image& picture, int width, int height, const ColorList& palette) {
+void ReadIndices(InputStream& in, Texture& texture, int width, int height, const ColorList& palette) {
     const std::size_t count = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
     if (count > in.GetRemaining()) in.Fail(StreamError::endOfFile);
     const auto memory = std::make_unique_for_overwrite<std::uint8_t[]>(count);
@@ -74,18 +76,20 @@ void ReadIndices(InputStream& in, Image& picture, int width, int height, const C
     in.Read(indices);
     const std::span<const Color> colors = palette.Colors();
     if (colors.size() < maximumColors && Highest(indices) >= colors.size()) in.Fail(StreamError::badIndex);
-    picture.SetSizeUncleared(width, height);
-    ExpandIndices(indices, colors, picture.Pixels());
+    texture.SetSizeUncleared(width, height);
+    ExpandIndices(indices, colors, texture.Pixels());
+    if (texture.indices) texture.indices->assign(1, IndexPlane(indices.begin(), indices.end()));
 }
 
-void WriteMipLevels(OutputStream& out, const Image& picture, const ColorList& palette) {
+void WriteMipLevels(OutputStream& out, const Texture& texture, const ColorList& palette) {
     NearestSearch search(palette);
-    WriteIndices(out, picture, search);
+    const Image& picture = texture;
+    WriteIndices(out, picture, texture.IndicesOfLevel(0), search);
     Image level = picture;
-    for (int k = 1; k < levelCount; ++k) {
+    for (std::size_t k = 1; k < levelCount; ++k) {
         Image half;
         level.MakeHalfSize(half);
-        WriteIndices(out, half, search);
+        WriteIndices(out, half, texture.IndicesOfLevel(k), search);
         level = std::move(half);
     }
 }

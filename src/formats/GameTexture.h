@@ -45,12 +45,14 @@ void CheckPalette(const OutputStream& out, const ColorList& palette);
 // Offsets of the four levels when the first lies at `start` and they follow one another.
 std::array<std::uint32_t, levelCount> LevelOffsets(std::uint32_t start, int width, int height);
 
-// Reads width x height indices at the stream's position into the picture, which gets that size. badIndex for
-// an index past the end of the palette; endOfFile before the picture is made when there are too few.
-void ReadIndices(InputStream& in, Image& picture, int width, int height, const ColorList& palette);
+// Reads width x height indices at the stream's position into the picture, which gets that size, and into the
+// texture's indices if it wants them. badIndex for an index past the end of the palette; endOfFile before the
+// picture is made when there are too few.
+void ReadIndices(InputStream& in, Texture& texture, int width, int height, const ColorList& palette);
 
-// Writes the picture and its three half sizes as indices of the nearest palette colors.
-void WriteMipLevels(OutputStream& out, const Image& picture, const ColorList& palette);
+// Writes the picture and its three half sizes: the indices that the texture has, else those of the nearest
+// palette colors.
+void WriteMipLevels(OutputStream& out, const Texture& texture, const ColorList& palette);
 
 // The text of a name's field: up to its first NUL, or all of it.
 template <std::size_t n>

@@ -1,6 +1,7 @@
 #include "formats/MIP.h"
 
 #include "formats/GameTexture.h"
+#include "formats/MIPHeader.h"
 #include "image/picture/ColorList.h"
 #include "image/picture/Texture.h"
 #include "resources/streams/OutputStream.h"
@@ -15,29 +16,11 @@ using namespace gametexture;
 
 namespace {
 
-// As it lies in the file; little-endian.
-struct Header {
-    char name[16]; // ended by a NUL when shorter
-    std::uint32_t width, height;
-    std::uint32_t offsets[levelCount]; // of the levels, from the start of the header
-};
-static_assert(sizeof(Header) == 40);
-
-// After the levels: a signed 16-bit count, then red, green and blue of so many colors. A full palette is
-// what makes the end of a file a palette; some tools fill it up to a multiple of four bytes.
-constexpr std::int16_t fullCount = 256;
+// A full palette is what makes the end of a file a palette; some tools fill it up to a multiple of four
+// bytes.
+constexpr std::int16_t fullCount = fullMIPPaletteCount;
 constexpr std::int64_t fullTrailerSize = sizeof fullCount + fullCount * rgbTripleSize;
 constexpr std::int64_t maximumPadding = 2;
-
-// From the start of the header. The offsets are the file's and may be anything.
-std::uint64_t EndOfLevels(const Header& header) {
-    std::uint64_t end = sizeof header;
-    for (int k = 0; k < levelCount; ++k) {
-        const std::uint64_t size = std::uint64_t{header.width >> k} * (header.height >> k);
-        end = std::max(end, header.offsets[k] + size);
-    }
-    return end;
-}
 
 bool IsTrailerSize(std::int64_t size) {
     return size >= fullTrailerSize && size <= fullTrailerSize + maximumPadding;
@@ -66,10 +49,10 @@ void WriteTrailer(OutputStream& out, const ColorList& palette) {
 
 void ReadMIP(InputStream& in, Texture& texture, const ColorList* palette) {
     const std::uint64_t start = in.GetPosition();
-    Header header;
+    MIPHeader header;
     in.Read(&header, sizeof header);
     CheckSides(in, header.width, header.height);
-    std::unique_ptr<ColorList> ownPalette = ReadTrailer(in, start + EndOfLevels(header));
+    std::unique_ptr<ColorList> ownPalette = ReadTrailer(in, start + header.GetEndOfLevels());
     in.Seek(start + header.offsets[0]);
     ReadIndices(in, texture, static_cast<int>(header.width), static_cast<int>(header.height),
                 ownPalette ? *ownPalette : PaletteOf(texture, palette));
@@ -81,7 +64,7 @@ void WriteMIP(OutputStream& out, const Texture& texture, const ColorList* palett
     const ColorList& colors = PaletteOf(texture, palette);
     CheckSides(out, texture);
     CheckPalette(out, colors);
-    Header header{};
+    MIPHeader header{};
     PutName(header.name, texture.quakeName, NameEnd::anyCharacter);
     header.width = static_cast<std::uint32_t>(texture.GetWidth());
     header.height = static_cast<std::uint32_t>(texture.GetHeight());

@@ -168,12 +168,17 @@ void PutLine(std::vector<std::uint8_t>& bytes, std::span<const std::uint8_t> ind
     if (indices.size() % 2 != 0) bytes.push_back(0);
 }
 
-void WriteLines(OutputStream& out, const Image& picture, const ColorList& colors) {
-    std::vector<std::uint8_t> indices(static_cast<std::size_t>(picture.GetWidth()));
+void WriteLines(OutputStream& out, const Texture& texture, const ColorList& colors) {
+    const auto width = static_cast<std::size_t>(texture.GetWidth());
+    const std::span<const std::uint8_t> known = texture.IndicesOfLevel(0);
+    std::vector<std::uint8_t> indices(width);
     std::vector<std::uint8_t> bytes;
     NearestSearch search(colors);
-    for (int y = 0; y < picture.GetHeight(); ++y) {
-        search.FindIndices(picture.Row(y), indices);
+    for (int y = 0; y < texture.GetHeight(); ++y) {
+        if (known.empty())
+            search.FindIndices(texture.Row(y), indices);
+        else
+            std::ranges::copy(known.subspan(static_cast<std::size_t>(y) * width, width), indices.begin());
         bytes.clear();
         PutLine(bytes, indices);
         out.Write(std::span<const std::uint8_t>(bytes));
@@ -192,9 +197,14 @@ void ReadPCX(InputStream& in, Texture& texture, const ColorList* palette) {
     texture.SetSizeUncleared(header.Width(), header.Height());
     std::vector<std::uint8_t> line(header.LineSize());
     ByteReader bytes(in);
+    if (texture.indices) texture.indices->assign(1, {});
     for (int y = 0; y < header.Height(); ++y) {
         ReadLine(bytes, in, line);
-        ExpandIndices(line, colors, texture.Row(y));
+        const std::span<Color> row = texture.Row(y);
+        ExpandIndices(line, colors, row);
+        if (texture.indices)
+            texture.indices->front().insert(texture.indices->front().end(), line.begin(),
+                                            line.begin() + static_cast<std::ptrdiff_t>(row.size()));
     }
     texture.SetPalette(palette256);
 }

@@ -44,6 +44,9 @@ constexpr StringRow rows[] = {
     {IDR_COLOR_SPACE, "\n\n\nKelTavlo Color Space Files (*.kelcolorspace)\n.kelcolorspace\n\n"},
     {IDR_RESOURCES, "\n\n\nEXE Files (*.exe)\n.exe\n\n"},
     {IDR_COLOR_TABLE, "\n\n\nKelTavlo Color Table Files (*.kelcolors)\n.kelcolors\n\n"},
+    {IDR_PK3, "\n\n\nQuake III Pack Files (*.pk3)\n.pk3\n\n"},
+    {IDR_ZIP, "\n\n\nZIP Archives (*.zip)\n.zip\n\n"},
+    {IDR_BSP, "\n\n\nQuake Map Files (*.bsp)\n.bsp\n\n"},
 };
 
 } // namespace

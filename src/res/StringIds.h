@@ -43,7 +43,10 @@ enum DocumentTypeId : unsigned {
     IDR_MDL = 151,
     IDR_COLOR_SPACE = 152,
     IDR_RESOURCES = 153,
-    IDR_COLOR_TABLE = 154
+    IDR_COLOR_TABLE = 154,
+    IDR_PK3 = 155,
+    IDR_ZIP = 156,
+    IDR_BSP = 157
 };
 
 } // namespace keltavlo

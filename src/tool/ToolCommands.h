@@ -6,9 +6,11 @@ class Tool;
 struct ToolArguments;
 
 // The commands; each reports its failures to the tool.
-void ListFolder(Tool& tool, const ToolArguments& arguments);
+void List(Tool& tool, const ToolArguments& arguments);
 void ShowInfo(Tool& tool, const ToolArguments& arguments);
 void Convert(Tool& tool, const ToolArguments& arguments);
+void MakeSheet(Tool& tool, const ToolArguments& arguments);
 void Extract(Tool& tool, const ToolArguments& arguments);
+void Pack(Tool& tool, const ToolArguments& arguments);
 
 } // namespace keltavlo

@@ -5,6 +5,7 @@
 #include "image/picture/DibSection.h"
 #include "image/picture/HalfSize.h"
 #include "image/picture/NearestSearch.h"
+#include "image/picture/ResizedRows.h"
 #include "image/picture/StoredRows.h"
 
 #include <algorithm>
@@ -73,12 +74,7 @@ void Image::SetSizeUncleared(int newWidth, int newHeight) {
 Image Image::ResizedPicture(int newWidth, int newHeight) const {
     Image resized(newWidth, newHeight);
     if (!pixels.empty() && newWidth > 0) {
-        const auto keptWidth = std::min(width, newWidth);
-        for (int y = 0; y < newHeight; ++y) {
-            const std::span<const Color> source = Row(std::min(y, height - 1)).first(Side(keptWidth));
-            const auto edge = std::ranges::copy(source, resized.Row(y).begin()).out;
-            std::fill(edge, resized.Row(y).end(), source.back());
-        }
+        CopyResized<Color>({pixels, width, height}, {resized.pixels, newWidth, newHeight});
     }
     return resized;
 }

@@ -1,6 +1,7 @@
 #include "image/picture/Texture.h"
 
 #include "image/picture/ColorList.h"
+#include "image/picture/ResizedRows.h"
 
 #include <utility>
 
@@ -17,7 +18,8 @@ std::unique_ptr<ColorList> CopyOf(const std::unique_ptr<ColorList>& list) {
 Texture::Texture() = default;
 Texture::Texture(int initialWidth, int initialHeight) : Image(initialWidth, initialHeight) {}
 Texture::Texture(const Texture& other)
-    : Image(other), palette(CopyOf(other.palette)), quakeName(other.quakeName), quake2(other.quake2) {}
+    : Image(other), palette(CopyOf(other.palette)), quakeName(other.quakeName), quake2(other.quake2),
+      indices(other.indices) {}
 Texture::Texture(Texture&& other) noexcept = default;
 Texture& Texture::operator=(Texture&& other) noexcept = default;
 Texture::~Texture() = default;
@@ -34,6 +36,11 @@ Texture Texture::Resized(int newWidth, int newHeight) const {
     copy.quakeName = quakeName;
     copy.quake2 = quake2;
     static_cast<Image&>(copy) = ResizedPicture(newWidth, newHeight);
+    if (indices) copy.indices.emplace();
+    if (const auto plane = IndicesOfLevel(0); !plane.empty() && newWidth > 0) {
+        IndexPlane& resized = copy.indices->emplace_back(copy.Pixels().size());
+        CopyResized<std::uint8_t>({plane, GetWidth(), GetHeight()}, {resized, newWidth, newHeight});
+    }
     return copy;
 }
 

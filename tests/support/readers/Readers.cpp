@@ -11,10 +11,17 @@
 #include "resources/DocTemplateRegistry.h"
 #include "resources/PaletteDocument.h"
 #include "resources/streams/ArchiveStream.h"
+#include "support/builders/CompressedPictures.h"
 #include "support/builders/ModelBuilder.h"
 #include "support/builders/TextureBuilder.h"
 #include "support/builders/WadBuilder.h"
+#include "support/readers/ArchiveSeeds.h"
 #include "support/readers/ReadingStream.h"
+#include "tool/archives/BSPDocument.h"
+#include "tool/archives/IDPOSkins.h"
+#include "tool/archives/ZIPDocument.h"
+#include "tool/pictures/JPEG.h"
+#include "tool/pictures/PNG.h"
 
 #include <algorithm>
 #include <iterator>
@@ -80,6 +87,15 @@ Outcome ReadDocument(ByteSpan bytes, Buffering buffering) {
         Document document;
         document.ReadContents(in);
         Add(digest, document);
+    });
+}
+
+Outcome ReadSkins(ByteSpan bytes, Buffering buffering) {
+    return WithStream(bytes, buffering, [](InputStream& in, Digest& digest) {
+        for (const ModelSkin& skin : ReadIDPOSkins(in, GetQuakePalette())) {
+            digest.Add(skin.number);
+            digest.Add(skin.picture);
+        }
     });
 }
 
@@ -198,7 +214,40 @@ std::vector<Reader> PictureReaders() {
     return readers;
 }
 
-// The readers of other documents and of paths.
+Outcome ReadCompressed(decltype(Codec::read) read, ByteSpan bytes, Buffering buffering) {
+    return WithStream(bytes, buffering, [&](InputStream& in, Digest& digest) {
+        Texture texture;
+        texture.indices.emplace();
+        read(in, texture, nullptr);
+        digest.Add(texture);
+        for (const std::uint8_t index : texture.IndicesOfLevel(0)) digest.Add(index);
+    });
+}
+
+// With its checksums repaired, because hardly a mutation gets past them.
+Outcome ReadRepairedPng(ByteSpan bytes, Buffering buffering) {
+    return ReadCompressed(ReadPNG, RepairChecksums({bytes.begin(), bytes.end()}), buffering);
+}
+
+std::vector<Bytes> MakePngs() {
+    std::vector<Bytes> pictures;
+    for (const auto& [depth, type] : {std::pair(1, 0),
+                                      {2, 0},
+                                      {4, 0},
+                                      {16, 0},
+                                      {16, 2},
+                                      {1, 3},
+                                      {2, 3},
+                                      {4, 3},
+                                      {8, 3},
+                                      {8, 4},
+                                      {16, 4},
+                                      {8, 6}})
+        pictures.push_back(MakePng(depth, type, pictures.size() % 2 == 1));
+    return pictures;
+}
+
+// The readers of other documents, of paths and of pictures that only the tool reads.
 std::vector<Reader> OtherReaders() {
     return {
         {"dib", ReadClipboardBitmap, MakeBitmapWithoutFileHeader, Fields(4, {0, 4, 8, 12, 14, 16, 20, 32})},
@@ -213,6 +262,19 @@ std::vector<Reader> OtherReaders() {
         {"path", ResolvePath, MakePathAndPack, Fields(4, {13, 17, 85, 89})},
         {"md2", ReadDocument<MD2Document>, MakeModel, Fields(4, {4, 16, 20, 24, 28, 32, 40, 44, 48, 52, 56})},
         {"mdl", ReadDocument<MDLDocument>, MakeTextures, Fields(4, {180, 184, 312, 316, 320, 392, 396, 400})},
+        {"zip", ReadDocument<ZIPDocument>, MakeZip,
+         Fields(4, {87, 91, 97, 101, 105, 109, 123, 140, 144, 150, 154, 158, 162, 176, 187, 189, 193, 197})},
+        {"bsp", ReadDocument<BSPDocument>, MakeMap,
+         Fields(4, {0, 20, 24, 124, 128, 132, 156, 160, 164, 176})},
+        {"idpo", ReadSkins, MakeSkinnedModel, Fields(4, {4, 48, 52, 56, 84, 94, 98})},
+        {"png", ReadRepairedPng, [] { return MakePng(8, 2, false); },
+         Fields(1, {18, 19, 22, 23, 24, 25, 26, 27, 28}), MakePngs},
+        {"jpg",
+         [](ByteSpan bytes, Buffering buffering) { return ReadCompressed(ReadJPEG, bytes, buffering); },
+         [] { return MakeJpeg(3, false); }, Fields(2, {160, 163, 165, 167, 169, 611}),
+         [] {
+             return std::vector{MakeJpeg(1, false), MakeJpeg(3, true)};
+         }},
     };
 }
 

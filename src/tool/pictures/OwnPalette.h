@@ -1,0 +1,12 @@
+#pragma once
+
+#include "image/picture/ColorList.h"
+
+namespace keltavlo {
+
+// Makes a palette of at most `count` colors for the pixels, dark colors first. If the pixels have no more
+// colors, they are the palette; otherwise the sum of the pixels' distances (ColorDistance) from their nearest
+// entries is about as small as it gets. `count` is at least 1.
+ColorList MakeOwnPalette(std::span<const Color> pixels, std::size_t count);
+
+} // namespace keltavlo

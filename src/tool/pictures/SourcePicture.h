@@ -1,0 +1,24 @@
+#pragma once
+
+#include "image/picture/Texture.h"
+
+#include <string_view>
+
+namespace keltavlo {
+
+class CFile;
+struct PictureFormat;
+
+// A picture as a file stores it. If it has indices, it has the palette that they refer to, too.
+struct SourcePicture {
+    Texture texture;
+    bool carriesPalette; // the file does; the palette may also be that of the game
+};
+
+// Reads the file from its position. `palette` is for files that carry none; null only for formats that need
+// none. Texels of index 255 become transparent when the name, or the one in the file, begins with "{". Throws
+// what the codec throws.
+SourcePicture ReadSource(CFile& file, const PictureFormat& format, std::string_view name,
+                         const ColorList* palette);
+
+} // namespace keltavlo
