@@ -9,7 +9,11 @@ set(service "${CMAKE_BINARY_DIR}/packaging/org.example.keltavlo.service")
 configure_file("${packaging}/org.example.keltavlo.service.in" "${service}" @ONLY)
 
 install(TARGETS keltavlo keltavlo-tool)
-install(FILES docs/keltavlo.1 docs/keltavlo-tool.1 DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+install(FILES docs/keltavlo.1 "${toolManual}/keltavlo-tool.1" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+install(FILES "${toolManual}/keltavlo-tool.bash" DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions"
+    RENAME keltavlo-tool)
+install(FILES "${toolManual}/_keltavlo-tool" DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions")
+install(FILES "${toolManual}/keltavlo-tool.fish" DESTINATION "${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d")
 install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/keltavlo" RENAME copyright)
 install(FILES CHANGELOG.md DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/keltavlo")
 install(FILES "${packaging}/org.example.keltavlo.desktop" DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")

@@ -19,10 +19,6 @@ const CRuntimeClass* FolderTypeOf(const std::string& path) {
     return type && type->IsDerivedFrom(FolderDocument::runtimeClass) ? type : nullptr;
 }
 
-bool IsFolderType(const std::string& path) {
-    return FolderTypeOf(path) != nullptr;
-}
-
 CDocument* FindOpenFolder(const CRuntimeClass& type, const std::string& path) {
     for (CDocument* document : DocTemplateRegistry::Get().FindTemplate(type)->GetDocuments())
         if (document->GetPathName() == path || SamePath(document->GetPathName(), path)) return document;
@@ -58,10 +54,14 @@ std::unique_ptr<CFile> OpenIn(FolderDocument* archive, const std::string& path, 
 
 } // namespace
 
+bool FileSystem::IsArchiveName(const std::string& name) {
+    return FolderTypeOf(name) != nullptr;
+}
+
 FolderDocument* FileSystem::FindArchive(const std::string& path) const {
     FolderDocument* archive = FindDiskArchive(path);
     for (int depth = 1; archive && depth < maximumDepth; ++depth) {
-        const std::string inner = archive->FindOnTheWay(path, IsFolderType);
+        const std::string inner = archive->FindOnTheWay(path, IsArchiveName);
         if (inner.empty()) return archive;
         archive = OpenFolder(inner);
     }
@@ -80,7 +80,7 @@ void FileSystem::GetStatus(const std::string& path, EntryStatus& status) {
     const bool isFile = status.exists && !status.IsDirectory();
     // Only a file of the disk can be the program; asking the disk about each entry would slow listings.
     const std::string name = status.onDisk ? status.fullName : std::string(FileNameOf(status.fullName));
-    if (isFile && IsFolderType(name)) status.browsable = true;
+    if (isFile && IsArchiveName(name)) status.browsable = true;
 }
 
 std::unique_ptr<CFile> FileSystem::OpenFile(const std::string& path, unsigned flags,

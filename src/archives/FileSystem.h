@@ -17,6 +17,8 @@ struct ArchiveFolder {
 // Resolves paths through archives, nested ones too: an archive counts as a folder. It has no state.
 class FileSystem final : public FileSource {
 public:
+    // Whether files of that name open as archives.
+    static bool IsArchiveName(const std::string& name);
     // The innermost archive that the path leads into; null for a path of the disk, an archive's own path
     // included. An archive that is not open yet is opened; when that fails (the user has been told) the
     // answer is null.

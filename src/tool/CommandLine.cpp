@@ -71,6 +71,16 @@ public:
     }
     std::string Help() const { return app.help(); }
 
+    std::vector<CommandText> DescribeCommands() const {
+        std::vector<CommandText> texts;
+        for (const ToolCommand& row : Commands()) {
+            texts.push_back({&row, {}});
+            for (const CLI::Option* option : app.get_subcommand(row.name)->get_options())
+                texts.back().options.push_back(Describe(*option));
+        }
+        return texts;
+    }
+
     // The sentence for a failure of the library, whose text begins with the option.
     std::string Describe(const CLI::ParseError& failure) const {
         const std::string text = failure.what(), name = text.substr(0, text.find_first_of(": "));
@@ -85,6 +95,12 @@ private:
         target.allow_extras();
         target.formatter(std::make_shared<HelpFormatter>(synopsis));
         target.set_help_flag("-h,--help", "Show this help.");
+    }
+    static OptionText Describe(const CLI::Option& option) {
+        OptionText text{{}, option.get_type_name(), option.get_description()};
+        for (const std::string& name : option.get_snames()) text.names.push_back("-" + name);
+        for (const std::string& name : option.get_lnames()) text.names.push_back("--" + name);
+        return text;
     }
     std::string DescribeStranger() const {
         const std::string word = app.remaining().front();
@@ -106,6 +122,7 @@ void TakePaths(std::vector<std::string> paths, const ToolCommand& row, ToolArgum
     if (row.hasOutput) {
         arguments.output = std::move(paths.back());
         paths.pop_back();
+        if (arguments.output.empty()) throw UsageError("The name of the output is empty.");
     }
     arguments.inputs = std::move(paths);
 }
@@ -143,6 +160,11 @@ CommandLine ParseCommandLine(const std::vector<std::string>& words) {
         throw UsageError(parser.Describe(failure));
     }
     return line;
+}
+
+std::vector<CommandText> DescribeCommands() {
+    ToolArguments unused;
+    return Parser(unused).DescribeCommands();
 }
 
 } // namespace keltavlo

@@ -17,15 +17,30 @@ void AddListOptions(CLI::App& command, ToolArguments& arguments) {
     AddJsonOption(command, arguments);
 }
 
+void AddSheetOptions(CLI::App& command, ToolArguments& arguments) {
+    AddForceOption(command, arguments);
+    AddArchivesOption(command, arguments);
+    AddSourcePaletteOption(command, arguments);
+}
+
 void AddConvertOptions(CLI::App& command, ToolArguments& arguments) {
     AddFormatOption(command, arguments);
-    AddForceOption(command, arguments);
+    AddPaletteOptions(command, arguments);
+    AddFieldsOption(command, arguments);
+    AddMetadataOption(command, arguments);
+    AddBatchOptions(command, arguments);
+}
+
+void AddExtractOptions(CLI::App& command, ToolArguments& arguments) {
+    AddMetadataOption(command, arguments);
+    AddBatchOptions(command, arguments);
 }
 
 void AddPackingOptions(CLI::App& command, ToolArguments& arguments) {
     AddFormatOption(command, arguments);
     AddForceOption(command, arguments);
     AddPackOptions(command, arguments);
+    AddPaletteOptions(command, arguments);
 }
 
 constexpr ToolCommand commands[] = {
@@ -38,20 +53,36 @@ constexpr ToolCommand commands[] = {
      "for a Quake II model, the numbers of frames, vertices, texture coordinates and triangles, and its "
      "skins; for a studio model (.mdl), its textures.",
      anyNumber, false, AddJsonOption, ShowInfo},
-    {"convert", "IN OUT", "Convert pictures to another format.",
-     "If IN is a picture, the extension of OUT selects the format. If IN is a folder or an archive, every "
-     "picture in it is written below the folder OUT, in the same folders and in the format of --to. Files "
-     "that are not pictures are skipped with a note. If a picture cannot be read, the command reports a "
-     "failure and continues with the others. The games' formats require sides that are multiples of 8 from 8 "
-     "to 256; a note names each picture that was fitted.",
-     1, true, AddConvertOptions, Convert},
-    {"extract", "PATH OUTDIR", "Write files from archives to the disk.",
-     "Writes one file of an archive, or all its files in their folders, below OUTDIR. For a studio model "
-     "(.mdl), on the disk or in an archive, writes each texture as a numbered Targa file: model_1.tga and so "
-     "on. Names that lead out of OUTDIR are refused. If a file and a folder of an archive have the same "
-     "name, the second is written under a numbered name, and a note says so. If several files have the same "
-     "name, only the first is written.",
-     1, true, AddForceOption, Extract},
+    {"sheet", "PATH OUT.png", "Draw a contact sheet of the textures in an archive.",
+     "Draws every picture in an archive or a folder with its name and its size in texels, 48 to a page. A "
+     "picture "
+     "of more than 128 texels is shown smaller, by a whole factor; a checkerboard shows through transparent "
+     "texels. The first page is OUT.png, the next one OUT-2.png and so on.",
+     1, true, AddSheetOptions, MakeSheet},
+    {"convert", "IN... OUT", "Convert pictures to another format.",
+     "If IN is one picture, the extension of OUT selects the format, or OUT is a folder. If there are "
+     "several, or "
+     "IN is a folder or an archive, every picture is written below the folder OUT, in the same folders and "
+     "in the "
+     "format of --to. A single picture may come from the standard input or go to the standard output; - "
+     "stands for "
+     "them. Files that are not pictures are skipped with a note. If a picture cannot be read, the command "
+     "reports "
+     "a failure and continues with the others. The games' formats require sides that are multiples of 8 from "
+     "8 to "
+     "256; a note names each picture that was fitted.",
+     anyNumber, true, AddConvertOptions, Convert},
+    {"extract", "PATH... OUTDIR", "Write files from archives to the disk.",
+     "Writes one file of an archive, or all its files in their folders, below OUTDIR; if OUTDIR is -, writes "
+     "one "
+     "file to the standard output. For a model (.mdl), on the disk or in an archive, writes each texture as "
+     "a "
+     "numbered Targa file: model_1.tga and so on. Names that lead out of OUTDIR are refused. Names that "
+     "differ in "
+     "case only, and a file and a folder of the same name, get numbers, and a note says so. If several files "
+     "have "
+     "the same name, only the first is written.",
+     anyNumber, true, AddExtractOptions, Extract},
     {"pack", "FOLDER|LIST... OUT", "Write a PAK or WAD archive.",
      "The extension of OUT, .pak or .wad, selects the kind of archive. A FOLDER, which may be an archive, is "
      "packed with all its folders, in the order of names. A LIST is a text file with a path a line, relative "

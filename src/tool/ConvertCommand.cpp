@@ -1,84 +1,175 @@
-#include "formats/Codec.h"
+#include "framework/core/CMemFile.h"
 #include "framework/core/Path.h"
-#include "framework/core/Text.h"
-#include "image/TavloDocument.h"
-#include "resources/DocTemplateRegistry.h"
+#include "image/picture/Texture.h"
+#include "tool/BatchRun.h"
+#include "tool/FolderMetadata.h"
 #include "tool/OutputPlace.h"
+#include "tool/PaletteLoader.h"
+#include "tool/StandardStreams.h"
 #include "tool/Tool.h"
 #include "tool/ToolArguments.h"
 #include "tool/ToolCommands.h"
-#include "tool/TreeWalk.h"
+#include "tool/pictures/PictureFormat.h"
 
 namespace keltavlo {
 
 namespace {
 
-// The picture format of a name; null for any other type, and for extensions that no type has.
-const Codec* CodecOfName(const std::string& name) {
-    const DocTemplateRegistry& registry = DocTemplateRegistry::Get();
-    const CRuntimeClass& documentClass = *registry.GetDocumentClassOfName(name);
-    const bool isKnown = EqualNoCase(registry.GetFilterExtension(documentClass), ExtensionOf(name));
-    return isKnown ? FindCodec(documentClass.name) : nullptr;
+bool IsWritableFormat(std::string_view name) {
+    const PictureFormat* format = FindPictureFormat(name);
+    return format && format->codec.write;
 }
 
-std::string SizeOf(const Texture& texture) {
-    return std::to_string(texture.GetWidth()) + " x " + std::to_string(texture.GetHeight());
+std::string WithoutExtension(const std::string& name) {
+    return name.substr(0, name.size() - ExtensionOf(name).size());
 }
 
-// Writes the document's picture under another name.
-void WritePicture(Tool& tool, TavloDocument& document, const std::string& to, OutputPlace& outputs) {
-    if (!outputs.Prepare(to)) return;
-    const std::string before = SizeOf(document.GetTexture());
-    if (!document.OnSaveDocument(to)) return; // the application has said why
-    outputs.AddWritten(to);
-    const std::string after = SizeOf(document.GetTexture());
-    if (after != before)
-        tool.Note("\"" + ToDisplayPath(to) + "\" was resized from " + before + " to " + after +
-                  " to fit the games.");
+bool IsFolder(const std::string& path) {
+    CFileStatus status;
+    return CFile::GetStatus(path, status) && status.IsDirectory();
 }
 
-void ConvertPicture(Tool& tool, const std::string& from, const std::string& to, OutputPlace& outputs) {
-    CDocument* document = tool.GetApplication().OpenDocumentFile(from);
-    if (!document) return; // the application has said why
-    if (auto* picture = dynamic_cast<TavloDocument*>(document))
-        WritePicture(tool, *picture, to, outputs);
-    else
-        tool.Fail("\"" + ToDisplayPath(from) + "\" is not a picture.");
-    document->OnCloseDocument();
-}
+// Converts what the arguments name.
+class Conversion {
+public:
+    Conversion(Tool& reportingTool, const ToolArguments& toolArguments)
+        : tool(reportingTool), arguments(toolArguments), outputs(reportingTool, toolArguments.force),
+          stored(reportingTool) {}
 
-void ConvertTree(Tool& tool, const std::string& tree, const std::string& folder,
-                 const ToolArguments& arguments) {
-    OutputPlace outputs(tool, arguments.force);
-    for (const auto& [path, name] : ListTree(tool, tree, outputs)) {
-        tool.ShowProgress(name);
-        const std::string stem = name.substr(0, name.size() - ExtensionOf(name).size());
-        if (CodecOfName(name))
-            ConvertPicture(tool, path, JoinPath(folder, stem + arguments.format), outputs);
-        else
-            tool.Note("Skipped \"" + name + "\": not a picture.");
+    void Run() {
+        const bool toFolder = GoesToFolder();
+        CheckFormat(toFolder);
+        palettes = LoadPalettes(arguments.palette);
+        if (IsStandardStream(arguments.inputs.front()) || IsStandardStream(arguments.output))
+            return ConvertStream();
+        if (toFolder) outputs.KeepInside(FullPath(arguments.output));
+        std::vector<BatchFile> files;
+        for (const std::string& input : arguments.inputs) AddInput(input, toFolder, files);
+        RunBatch(tool, arguments, {"convert", "converted"}, std::move(files), outputs,
+                 [this](CFile& source, const BatchFile& file) { return Convert(source, file); });
+        gathered.Write(outputs);
+        outputs.Finish();
     }
-}
+
+private:
+    bool GoesToFolder() {
+        const std::string& output = arguments.output;
+        if (IsStandardStream(output)) return false;
+        if (arguments.inputs.size() > 1 || IsSeparator(output.back()) || IsFolder(output)) return true;
+        EntryStatus status;
+        tool.GetApplication().GetFileSystem().GetStatus(TreePath(arguments.inputs.front()), status);
+        return IsTree(status) || (!arguments.format.empty() && !FindPictureFormat(output));
+    }
+
+    void CheckFormat(bool toFolder) const {
+        const bool isStream = IsStandardStream(arguments.output);
+        if ((toFolder || isStream) && arguments.format.empty())
+            throw UsageError(std::string("Converting to ") + (isStream ? "the standard output" : "a folder") +
+                             " requires --to FORMAT.");
+        if (!arguments.format.empty() && !IsWritableFormat("x" + arguments.format))
+            throw UsageError("--to requires " + ListWritableFormats() + ".");
+        if (!toFolder && !isStream && !IsWritableFormat(arguments.output))
+            throw UsageError("The name of the output must end in " + ListWritableFormats(".") + ".");
+    }
+
+    void AddInput(const std::string& input, bool toFolder, std::vector<BatchFile>& files) {
+        const std::string path = TreePath(input);
+        EntryStatus status;
+        tool.GetApplication().GetFileSystem().GetStatus(path, status);
+        if (!status.exists) return FailToFind(tool, path);
+        if (!IsTree(status)) {
+            outputs.AddInput(path);
+            if (!FindPictureFormat(path))
+                return tool.Fail("\"" + ToDisplayPath(path) + "\" is not a picture.");
+            return Add(FindFile(tool, path), toFolder, files);
+        }
+        const NestedArchives nested =
+            arguments.enterArchives ? NestedArchives::entered : NestedArchives::asFiles;
+        for (TreeFile& file : ListTree(tool, path, nested, outputs)) Add(std::move(file), true, files);
+    }
+
+    void Add(TreeFile source, bool toFolder, std::vector<BatchFile>& files) {
+        if (IsMetadataName(source.name)) return;
+        std::string target = toFolder ? FullPath(JoinPath(FullPath(arguments.output),
+                                                          WithoutExtension(source.name) + arguments.format))
+                                      : FullPath(arguments.output);
+        if (!FindPictureFormat(source.name)) target.clear();
+        TextureFields fields = stored.Find(source.path);
+        files.push_back({std::move(source), std::move(target), std::move(fields)});
+    }
+
+    ConvertedFile Convert(CFile& source, const BatchFile& file) {
+        if (arguments.metadata) gathered.Add(source, file.source.name, file.target, palettes);
+        const ConversionOptions options{arguments.palette, Merge(arguments.set, file.fields),
+                                        WithoutExtension(file.source.name), false};
+        return ConvertPicture(source, file.source.name, file.target, palettes, options);
+    }
+
+    // A single picture from or to a standard stream.
+    void ConvertStream() {
+        const std::string& input = arguments.inputs.front();
+        if (arguments.inputs.size() > 1) throw UsageError("The standard streams take one picture at a time.");
+        BatchFile file;
+        std::unique_ptr<CFile> source;
+        if (IsStandardStream(input)) {
+            auto bytes = std::make_unique<CMemFile>();
+            ReadStandardInput(*bytes);
+            file.source.name = "picture" + GuessFormat(*bytes);
+            source = std::move(bytes);
+        } else {
+            EntryStatus status;
+            tool.GetApplication().GetFileSystem().GetStatus(TreePath(input), status);
+            if (!status.exists) return FailToFind(tool, input);
+            if (IsTree(status)) throw UsageError("The standard output takes a single picture.");
+            file.source = FindFile(tool, TreePath(input));
+            source = OpenSource(file.source);
+        }
+        Write(*source, file);
+    }
+
+    void Write(CFile& source, BatchFile& file) {
+        const bool toOutput = IsStandardStream(arguments.output);
+        const std::string path = FullPath(arguments.output);
+        file.target = toOutput         ? "picture" + arguments.format
+                      : GoesToFolder() ? JoinPath(path, WithoutExtension(file.source.name) + arguments.format)
+                                       : path;
+        const ConvertedFile converted = Convert(source, file);
+        if (toOutput)
+            WriteStandardOutput(tool.Output(), converted.bytes);
+        else if (outputs.Write(file.target, converted.bytes))
+            outputs.Finish();
+        for (const std::string& note : converted.notes)
+            if (!arguments.quiet) tool.Note("\"" + ToDisplayPath(file.target) + "\" " + note);
+    }
+
+    // The extension of the format that reads the bytes. CException if none does.
+    std::string GuessFormat(CMemFile& bytes) const {
+        // Formats with a signature come first; a Targa file may begin with anything.
+        for (const char* extension : {".png", ".jpg", ".bmp", ".pcx", ".wal", ".mip", ".tga"}) {
+            if (!FindPictureFormat(extension)) continue;
+            try {
+                bytes.Seek(0, CFile::From::begin);
+                static_cast<void>(ReadPicture(bytes, extension, palettes, arguments.palette));
+                bytes.Seek(0, CFile::From::begin);
+                return extension;
+            } catch (const CException&) { // another format, then
+            }
+        }
+        throw CException("The standard input is not a picture of a known format.");
+    }
+
+    Tool& tool;
+    const ToolArguments& arguments;
+    OutputPlace outputs;
+    PaletteSet palettes;
+    StoredMetadata stored;
+    GatheredMetadata gathered;
+};
 
 } // namespace
 
 void Convert(Tool& tool, const ToolArguments& arguments) {
-    const std::string from = TreePath(arguments.inputs.front());
-    const std::string to = FullPath(arguments.output);
-    EntryStatus status;
-    tool.GetApplication().GetFileSystem().GetStatus(from, status);
-    if (IsTree(status)) {
-        if (arguments.format.empty())
-            throw UsageError("Converting a folder or archive requires --to FORMAT.");
-        if (!CodecOfName("x" + arguments.format)) throw UsageError("--to requires " + ListFormats() + ".");
-        ConvertTree(tool, from, to, arguments);
-    } else {
-        if (!CodecOfName(to))
-            throw UsageError("The name of the output must end in " + ListFormats(".") + ".");
-        OutputPlace outputs(tool, arguments.force);
-        outputs.AddInput(from);
-        ConvertPicture(tool, from, to, outputs);
-    }
+    Conversion(tool, arguments).Run();
 }
 
 } // namespace keltavlo

@@ -1,28 +1,19 @@
 #include "formats/TextureBytes.h"
-#include "framework/core/FileFailure.h"
 #include "framework/core/Path.h"
 #include "framework/core/Text.h"
 #include "preview3d/MDLDocument.h"
+#include "tool/BatchRun.h"
+#include "tool/FolderMetadata.h"
 #include "tool/OutputPlace.h"
+#include "tool/PaletteLoader.h"
+#include "tool/StandardStreams.h"
 #include "tool/Tool.h"
 #include "tool/ToolArguments.h"
 #include "tool/ToolCommands.h"
-#include "tool/TreeWalk.h"
 
 namespace keltavlo {
 
 namespace {
-
-void ExtractFile(Tool& tool, const std::string& path, const std::string& target, OutputPlace& outputs) {
-    try {
-        const auto file = FileOrThrow([&](CFileException* failure) {
-            return tool.GetApplication().GetFileSystem().OpenFile(path, CFile::modeRead, failure);
-        });
-        outputs.Write(target, ReadAll(*file));
-    } catch (const std::exception& failure) {
-        tool.Fail(DescribeFailure(Direction::opening, path, failure));
-    }
-}
 
 std::vector<std::byte> ToTarga(const Image& picture) {
     Texture texture;
@@ -30,48 +21,95 @@ std::vector<std::byte> ToTarga(const Image& picture) {
     return EncodeTexture(*FindCodec("TGADocument"), texture, nullptr);
 }
 
-// Writes each texture that the model carries, numbered from 1: the file does not say which names are theirs
-// to keep.
-void ExtractTextures(Tool& tool, const std::string& path, const std::string& folder, OutputPlace& outputs) {
-    auto* model = dynamic_cast<MDLDocument*>(tool.GetApplication().OpenDocumentFile(path));
-    if (!model) return; // the application has said why
-    const std::string stem = folder + "/" + std::string(BaseNameOf(path)) + "_";
-    int number = 0;
-    for (const Image& texture : model->GetTextures()) {
-        const std::string target = stem + std::to_string(++number) + ".tga";
-        if (texture.Pixels().empty())
-            tool.Note("Skipped \"" + ToDisplayPath(target) + "\": it would have no pixels.");
-        else
-            outputs.Write(target, ToTarga(texture));
-    }
-    if (number == 0) tool.Note("\"" + ToDisplayPath(path) + "\" contains no textures.");
-    model->OnCloseDocument();
-}
+// Writes files and the textures of models.
+class Extraction {
+public:
+    Extraction(Tool& reportingTool, const ToolArguments& toolArguments)
+        : tool(reportingTool), arguments(toolArguments), outputs(reportingTool, toolArguments.force),
+          folder(FullPath(toolArguments.output)) {}
 
-// A file of an archive, and the textures of a model wherever it lies.
-void ExtractOne(Tool& tool, const std::string& path, const EntryStatus& status, const std::string& folder,
-                OutputPlace& outputs) {
-    outputs.AddInput(path);
-    const bool isModel = EqualNoCase(ExtensionOf(path), ".mdl");
-    if (isModel) ExtractTextures(tool, path, folder, outputs);
-    if (!isModel || !status.onDisk)
-        ExtractFile(tool, path, folder + "/" + std::string(FileNameOf(path)), outputs);
-}
+    void Run() {
+        if (IsStandardStream(arguments.output)) return WriteToStream();
+        outputs.KeepInside(folder);
+        for (const std::string& input : arguments.inputs) AddInput(input);
+        for (const std::string& model : models) ExtractTextures(model);
+        if (arguments.metadata) palettes = LoadPalettes({});
+        RunBatch(tool, arguments, {"extract", "extracted"}, std::move(files), outputs,
+                 [this](CFile& source, const BatchFile& file) {
+                     if (arguments.metadata) gathered.Add(source, file.source.name, file.target, palettes);
+                     return ConvertedFile{ReadAll(source), {}};
+                 });
+        gathered.Write(outputs);
+        outputs.Finish();
+    }
+
+private:
+    void AddInput(const std::string& input) {
+        const std::string path = TreePath(input);
+        EntryStatus status;
+        tool.GetApplication().GetFileSystem().GetStatus(path, status);
+        if (!status.exists) return FailToFind(tool, path);
+        if (IsTree(status)) return AddTree(path);
+        outputs.AddInput(path);
+        const bool isModel = EqualNoCase(ExtensionOf(path), ".mdl");
+        if (isModel) models.push_back(FullPath(path));
+        if (!isModel || !status.onDisk) Add(FindFile(tool, FullPath(path)));
+    }
+
+    // A map stays whole, because its textures are only part of it.
+    void AddTree(const std::string& tree) {
+        const NestedArchives nested =
+            arguments.enterArchives ? NestedArchives::enteredWithoutMaps : NestedArchives::asFiles;
+        for (TreeFile& file : ListTree(tool, tree, nested, outputs)) Add(std::move(file));
+    }
+
+    void Add(TreeFile source) {
+        std::string target = FullPath(JoinPath(folder, source.name));
+        files.push_back({std::move(source), std::move(target)});
+    }
+
+    // Writes each texture that the model carries, numbered from 1: the file does not say which names are
+    // theirs to keep.
+    void ExtractTextures(const std::string& path) {
+        auto* model = dynamic_cast<MDLDocument*>(tool.GetApplication().OpenDocumentFile(path));
+        if (!model) return; // the application has said why
+        const std::string stem = folder + "/" + std::string(BaseNameOf(path)) + "_";
+        int number = 0;
+        for (const Image& texture : model->GetTextures()) {
+            const std::string target = stem + std::to_string(++number) + ".tga";
+            if (texture.Pixels().empty())
+                tool.Note("Skipped \"" + ToDisplayPath(target) + "\": it would have no pixels.");
+            else
+                outputs.Write(target, ToTarga(texture));
+        }
+        if (number == 0) tool.Note("\"" + ToDisplayPath(path) + "\" contains no textures.");
+        model->OnCloseDocument();
+    }
+
+    void WriteToStream() {
+        const std::string path = TreePath(arguments.inputs.front());
+        EntryStatus status;
+        tool.GetApplication().GetFileSystem().GetStatus(path, status);
+        if (!status.exists) return FailToFind(tool, path);
+        if (arguments.inputs.size() > 1 || IsTree(status))
+            throw UsageError("The standard output takes a single file.");
+        WriteStandardOutput(tool.Output(), ReadAll(*OpenSource(FindFile(tool, path))));
+    }
+
+    Tool& tool;
+    const ToolArguments& arguments;
+    OutputPlace outputs;
+    const std::string folder; // full path
+    std::vector<std::string> models;
+    std::vector<BatchFile> files;
+    PaletteSet palettes;
+    GatheredMetadata gathered;
+};
 
 } // namespace
 
 void Extract(Tool& tool, const ToolArguments& arguments) {
-    const std::string path = TreePath(arguments.inputs.front());
-    const std::string folder = FullPath(arguments.output);
-    EntryStatus status;
-    tool.GetApplication().GetFileSystem().GetStatus(path, status);
-    if (!status.exists) return tool.Fail("\"" + ToDisplayPath(path) + "\" was not found.");
-    OutputPlace outputs(tool, arguments.force);
-    if (!IsTree(status)) return ExtractOne(tool, FullPath(path), status, folder, outputs);
-    for (const auto& [file, name] : ListTree(tool, path, outputs)) {
-        tool.ShowProgress(name);
-        ExtractFile(tool, file, JoinPath(folder, name), outputs);
-    }
+    Extraction(tool, arguments).Run();
 }
 
 } // namespace keltavlo

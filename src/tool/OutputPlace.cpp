@@ -1,10 +1,8 @@
 #include "tool/OutputPlace.h"
 
 #include "framework/core/Path.h"
-#include "framework/core/ReplacingFile.h"
 #include "tool/Tool.h"
 
-#include <filesystem>
 #include <optional>
 #include <sys/stat.h>
 
@@ -18,7 +16,20 @@ std::optional<std::pair<std::uint64_t, std::uint64_t>> IdentityOf(const std::str
     return std::pair(std::uint64_t{info.st_dev}, std::uint64_t{info.st_ino});
 }
 
+// As the disk has it: the paths of trees have both kinds of separators.
+std::string DiskPath(const std::string& path) {
+    return FullPath(path);
+}
+
 } // namespace
+
+OutputPlace::OutputPlace(Tool& reportingTool, bool force)
+    : tool(reportingTool), overwrites(force), batch([this](const std::string& path, const auto& failure) {
+          ++lostCount;
+          tool.FailSaving(path, failure);
+      }) {
+    RemoveAbandonedSaves();
+}
 
 void OutputPlace::AddInput(const std::string& path) {
     for (std::string file = path; !file.empty(); file = ParentOf(file)) {
@@ -29,45 +40,65 @@ void OutputPlace::AddInput(const std::string& path) {
     }
 }
 
-bool OutputPlace::Prepare(const std::string& path) {
-    if (!MayOverwrite(path)) return false;
-    std::error_code failure;
-    std::filesystem::create_directories(ToNativePath(ParentOf(path)), failure);
-    if (failure)
-        tool.Fail("Cannot create the folder of \"" + ToDisplayPath(path) + "\": " + failure.message() + ".");
-    return !failure;
-}
-
-bool OutputPlace::MayOverwrite(const std::string& path) {
-    const auto identity = IdentityOf(path);
-    if (!identity) return true;
-    const char* reason = nullptr;
-    if (inputs.contains(*identity))
-        reason = "is read in this run and cannot be overwritten.";
-    else if (outputs.contains(*identity))
-        reason = "was written in this run and cannot be overwritten.";
-    else if (!overwrites)
-        reason = "already exists; use --force to overwrite it.";
-    if (reason) tool.Fail("\"" + ToDisplayPath(path) + "\" " + reason);
-    return !reason;
-}
-
-void OutputPlace::AddWritten(const std::string& path) {
-    if (const auto identity = IdentityOf(path)) outputs.insert(*identity);
-}
-
 bool OutputPlace::Write(const std::string& path, std::span<const std::byte> bytes) {
-    if (!Prepare(path)) return false;
     try {
-        ReplacingFile file(path);
-        file.Write(bytes.data(), bytes.size());
-        file.Close();
-        AddWritten(path);
-        return true;
+        if (IsTaken(path)) {
+            RefuseTaken(path);
+            return false;
+        }
+        return Accept(path, Stage(path, bytes));
     } catch (const std::exception& failure) {
-        tool.Fail(DescribeFailure(Direction::saving, path, failure));
+        tool.FailSaving(path, failure);
         return false;
     }
+}
+
+bool OutputPlace::Finish() {
+    const std::size_t before = lostCount;
+    batch.Finish();
+    return lostCount == before;
+}
+
+StagedFile OutputPlace::Stage(const std::string& path, std::span<const std::byte> bytes) {
+    return {folders.Resolve(DiskPath(path)), bytes, names};
+}
+
+bool OutputPlace::Accept(const std::string& path, StagedFile file) {
+    if (!MayWrite(path, file.GetTarget())) return false;
+    batch.Add(std::move(file), overwrites, path);
+    return true;
+}
+
+bool OutputPlace::IsTaken(const std::string& path) {
+    struct stat info {};
+    return !overwrites && lstat(DiskPath(path).c_str(), &info) == 0;
+}
+
+void OutputPlace::RefuseTaken(const std::string& path) {
+    const std::string reason = ReasonAgainst(folders.Resolve(DiskPath(path)));
+    tool.Fail("\"" + ToDisplayPath(path) + "\" " +
+              (reason.empty() ? "was removed during this run." : reason));
+}
+
+bool OutputPlace::MayWrite(const std::string& path, const std::string& target) {
+    const std::string reason = ReasonAgainst(target);
+    if (!reason.empty()) {
+        tool.Fail("\"" + ToDisplayPath(path) + "\" " + reason);
+        return false;
+    }
+    targets.insert(target);
+    if (const auto identity = IdentityOf(target)) overwritten.insert(*identity);
+    return true;
+}
+
+std::string OutputPlace::ReasonAgainst(const std::string& target) const {
+    constexpr const char* written = "was written in this run and cannot be overwritten.";
+    if (targets.contains(target)) return written;
+    const auto identity = IdentityOf(target);
+    if (!identity) return {};
+    if (inputs.contains(*identity)) return "is read in this run and cannot be overwritten.";
+    if (overwritten.contains(*identity)) return written;
+    return overwrites ? "" : "already exists; use --force to overwrite it.";
 }
 
 } // namespace keltavlo

@@ -4,6 +4,7 @@
 #include "framework/core/Path.h"
 #include "framework/core/Text.h"
 #include "tool/OutputPlace.h"
+#include "tool/TextureMetadata.h"
 #include "tool/Tool.h"
 #include "tool/TreeWalk.h"
 
@@ -20,7 +21,8 @@ std::string_view Trim(std::string_view line) {
 
 std::vector<PackSource> SourcesOfTree(Tool& tool, const std::string& tree, OutputPlace& outputs) {
     std::vector<PackSource> sources;
-    for (const auto& [path, name] : ListTree(tool, tree, outputs)) sources.push_back({path, name});
+    for (const TreeFile& file : ListTree(tool, tree, NestedArchives::asFiles, outputs))
+        if (!IsMetadataName(file.name)) sources.push_back({file.path, file.name});
     return sources;
 }
 

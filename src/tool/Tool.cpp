@@ -6,6 +6,7 @@
 #include "tool/CommandTable.h"
 #include "tool/NameEscapes.h"
 #include "tool/archives/ArchiveTypes.h"
+#include "tool/output/Interruption.h"
 
 #include <algorithm>
 #include <ostream>
@@ -16,9 +17,7 @@ Tool::Tool(std::ostream& outputStream, std::ostream& errorStream, bool showProgr
     : output(outputStream), errors(errorStream), isTerminal(showProgress),
       application([this](const std::string& text) {
           failed = true; // also when there is no memory to say so
-          std::string sentence = text;
-          std::replace(sentence.begin(), sentence.end(), '\n', ' ');
-          Fail(sentence);
+          Fail(text);
       }) {
     RegisterArchiveTypes(application);
 }
@@ -33,6 +32,9 @@ int Tool::Run(const std::vector<std::string>& arguments) {
     } catch (const UsageError& error) {
         Fail(error.what());
         return 2;
+    } catch (const InterruptedError& end) {
+        Fail(end.what());
+        return end.GetExitCode();
     } catch (const std::exception& failure) {
         Fail(SentenceOf(failure));
     }
@@ -47,9 +49,17 @@ void Tool::Fail(const std::string& sentence) {
     Note(sentence);
 }
 
+void Tool::FailSaving(const std::string& path, const std::exception& failure) {
+    failed = true;
+    Fail(DescribeFailure(Direction::saving, path, failure));
+}
+
+// The application's messages have several lines.
 void Tool::Note(const std::string& sentence) {
+    std::string line = ToUtf8(sentence);
+    std::replace(line.begin(), line.end(), '\n', ' ');
     ShowProgress({});
-    errors << "keltavlo-tool: " << EscapeText(ToUtf8(sentence)) << "\n";
+    errors << "keltavlo-tool: " << EscapeText(line) << "\n";
 }
 
 void Tool::ShowProgress(const std::string& name) {

@@ -15,7 +15,15 @@ void AddJsonOption(CLI::App& command, ToolArguments& arguments);
 void AddRecursiveOption(CLI::App& command, ToolArguments& arguments);
 void AddArchivesOption(CLI::App& command, ToolArguments& arguments);
 void AddFormatOption(CLI::App& command, ToolArguments& arguments);
+// The palette of pictures that are only read.
+void AddSourcePaletteOption(CLI::App& command, ToolArguments& arguments);
+// How pictures are brought to a palette.
+void AddPaletteOptions(CLI::App& command, ToolArguments& arguments);
+void AddFieldsOption(CLI::App& command, ToolArguments& arguments);
 void AddForceOption(CLI::App& command, ToolArguments& arguments);
+void AddMetadataOption(CLI::App& command, ToolArguments& arguments);
 void AddPackOptions(CLI::App& command, ToolArguments& arguments);
+// Those of commands that write many files: how many threads, what to overwrite, what to tell.
+void AddBatchOptions(CLI::App& command, ToolArguments& arguments);
 
 } // namespace keltavlo

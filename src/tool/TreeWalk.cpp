@@ -1,15 +1,20 @@
 #include "tool/TreeWalk.h"
 
 #include "archives/FolderDocument.h"
+#include "framework/core/DiskFile.h"
+#include "framework/core/FileFailure.h"
 #include "framework/core/Path.h"
 #include "framework/core/Text.h"
 #include "tool/NameEscapes.h"
+#include "tool/NewNames.h"
 #include "tool/OutputPlace.h"
 #include "tool/Tool.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <filesystem>
 #include <set>
+#include <sys/stat.h>
 
 namespace keltavlo {
 
@@ -31,80 +36,115 @@ std::vector<std::string> NamesOnDisk(const std::string& folder) {
     return names;
 }
 
-std::vector<std::string> NamesIn(Tool& tool, const std::string& folder, const EntryStatus& status) {
-    if (status.onDisk && !status.browsable) return NamesOnDisk(folder);
-    FolderListing listing;
-    tool.GetApplication().GetFileSystem().ListFolder(folder, listing);
-    return listing.names;
+std::vector<std::string> NamesIn(const FolderEntry& folder) {
+    std::vector<std::string> names;
+    names.reserve(folder.GetChildren().size());
+    for (const auto& child : folder.GetChildren()) names.push_back(child->GetName());
+    return names;
 }
-
-// Names for the entries of one folder, each used once. Archives do not tell capitals apart.
-class NewNames {
-public:
-    explicit NewNames(const std::vector<std::string>& names) {
-        for (const std::string& name : names) all.insert(FoldCase(WithoutSeparator(name)));
-    }
-    static std::string WithoutSeparator(const std::string& name) {
-        return name.substr(0, name.size() - (name.ends_with('/') ? 1 : 0));
-    }
-    // The name itself if it is still free, else one with a number.
-    std::string Take(const std::string& name) {
-        if (used.insert(FoldCase(name)).second) return name;
-        const std::string_view extension = ExtensionOf(name);
-        const std::string stem = name.substr(0, name.size() - extension.size()) + "_";
-        std::string numbered = name;
-        for (int i = 2; !all.insert(FoldCase(numbered)).second; ++i)
-            numbered = (stem + std::to_string(i)).append(extension);
-        return numbered;
-    }
-
-private:
-    std::set<std::string> all, used;
-};
 
 // Walks a tree and gathers its files.
 class TreeWalk {
 public:
-    TreeWalk(Tool& reportingTool, OutputPlace& outputPlace) : tool(reportingTool), outputs(outputPlace) {}
+    TreeWalk(Tool& reportingTool, NestedArchives nestedArchives, OutputPlace& outputPlace)
+        : tool(reportingTool), nested(nestedArchives), outputs(outputPlace) {}
 
-    void Walk(const std::string& folder, const std::string& prefix, const EntryStatus& status) {
-        const std::vector<std::string> names = NamesIn(tool, folder, status);
-        if (status.onDisk && !status.browsable) {
-            for (const std::string& name : names) Add(JoinPath(folder, name), prefix, name, name);
-            return;
-        }
-        std::set<std::string> seen;
-        NewNames newNames(names);
-        for (const std::string& name : names) {
-            const std::string plain = NewNames::WithoutSeparator(name);
-            if (seen.insert(FoldCase(name)).second)
-                Add(JoinPath(folder, name), prefix, plain, newNames.Take(plain));
-            else
-                NoteDuplicate(prefix + name);
-        }
+    void Walk(const std::string& path, const std::string& prefix, const EntryStatus& status) {
+        if (status.onDisk && !status.browsable) return WalkDisk(path, prefix);
+        const ArchiveFolder place = tool.GetApplication().GetFileSystem().FindFolder(path);
+        if (!place.folder) return; // the application has said why
+        outputs.AddInput(place.archive->GetPathName());
+        WalkArchive(place, path, prefix);
     }
 
     std::vector<TreeFile> found;
 
 private:
-    void NoteDuplicate(const std::string& name) { tool.Note("Skipped another \"" + name + "\"."); }
+    void WalkDisk(const std::string& folder, const std::string& prefix) {
+        std::vector<std::string> names;
+        try {
+            const std::string real = fs::canonical(ToNativePath(folder)).string();
+            if (std::ranges::find(way, real) != way.end())
+                return tool.Fail("Skipped \"" + ToDisplayPath(folder) +
+                                 "\": it leads back to a folder above it.");
+            way.push_back(real);
+            names = NamesOnDisk(folder);
+        } catch (const fs::filesystem_error& failure) {
+            return tool.Fail("Cannot read the folder \"" + ToDisplayPath(folder) +
+                             "\": " + failure.code().message() + ".");
+        }
+        for (const std::string& name : names) AddFromDisk(JoinPath(folder, name), prefix, name);
+        way.pop_back();
+    }
 
-    void Add(const std::string& path, const std::string& prefix, const std::string& name,
-             const std::string& newName) {
-        if (!StaysInside(name))
-            return tool.Fail("Skipped \"" + prefix + name + "\": it would lead out of the folder.");
-        if (newName != name)
-            tool.Note("A file and a folder are called \"" + prefix + name + "\"; the second becomes \"" +
-                      prefix + newName + "\".");
-        EntryStatus status;
-        tool.GetApplication().GetFileSystem().GetStatus(path, status);
-        if (status.IsDirectory()) return Walk(path, prefix + newName + "/", status);
+    void AddFromDisk(const std::string& path, const std::string& prefix, const std::string& name) {
+        if (!StaysInside(name)) return Refuse(prefix + name);
+        std::error_code failure;
+        const bool isFolder = fs::is_directory(ToNativePath(path), failure);
+        if (isFolder) return WalkDisk(path, prefix + name + "/");
+        if (IsEntered(name)) {
+            EntryStatus status;
+            tool.GetApplication().GetFileSystem().GetStatus(path, status);
+            return Walk(path, prefix + name + "/", status);
+        }
         outputs.AddInput(path);
-        found.push_back({path, prefix + newName});
+        found.push_back({path, prefix + name, nullptr, nullptr});
+    }
+
+    void WalkArchive(const ArchiveFolder& place, const std::string& path, const std::string& prefix) {
+        const std::vector<std::string> names = NamesIn(*place.folder);
+        std::set<std::string> files;
+        NewNames newNames(names);
+        for (std::size_t i = 0; i < names.size(); ++i) {
+            const std::string& name = names[i];
+            Entry& child = *place.folder->GetChildren()[i];
+            const auto* folder = dynamic_cast<const FolderEntry*>(&child);
+            if (!StaysInside(name)) {
+                Refuse(prefix + name);
+            } else if (!folder && !files.insert(name).second) {
+                tool.Note("Skipped another \"" + prefix + name + "\".");
+            } else {
+                const std::string newName = newNames.Take(name);
+                if (newName != name) NoteNewName(prefix + name, prefix + newName);
+                const std::string childPath = JoinPath(path, place.folder->GetListedName(child));
+                if (folder)
+                    WalkArchive({place.archive, folder}, childPath, prefix + newName + "/");
+                else
+                    AddEntry(place, child, childPath, prefix + newName, newName == name);
+            }
+        }
+    }
+
+    // Paths lead to the first of the names that are equal without regard to case, so only that can be
+    // entered.
+    void AddEntry(const ArchiveFolder& place, Entry& entry, const std::string& path, const std::string& name,
+                  bool isFirst) {
+        if (isFirst && IsEntered(name)) {
+            EntryStatus status;
+            tool.GetApplication().GetFileSystem().GetStatus(path, status);
+            return Walk(path, name + "/", status);
+        }
+        found.push_back({path, name, place.archive, &entry});
+    }
+
+    bool IsEntered(const std::string& name) const {
+        if (nested == NestedArchives::asFiles || !FileSystem::IsArchiveName(name)) return false;
+        return nested == NestedArchives::entered || !EqualNoCase(ExtensionOf(name), ".bsp");
+    }
+
+    void Refuse(const std::string& name) {
+        tool.Fail("Skipped \"" + ToDisplayPath(name) + "\": it would lead out of the folder.");
+    }
+
+    void NoteNewName(const std::string& name, const std::string& newName) {
+        tool.Note("Another entry is called \"" + name + "\", without regard to case; this one becomes \"" +
+                  newName + "\".");
     }
 
     Tool& tool;
+    NestedArchives nested;
     OutputPlace& outputs;
+    std::vector<std::string> way; // real paths of the disk's folders that the walk is in
 };
 
 } // namespace
@@ -119,12 +159,32 @@ bool IsTree(const EntryStatus& status) {
     return status.exists && (status.browsable || status.IsDirectory());
 }
 
-std::vector<TreeFile> ListTree(Tool& tool, const std::string& tree, OutputPlace& outputs) {
+std::vector<TreeFile> ListTree(Tool& tool, const std::string& tree, NestedArchives nested,
+                               OutputPlace& outputs) {
     EntryStatus status;
     tool.GetApplication().GetFileSystem().GetStatus(tree, status);
-    TreeWalk walk(tool, outputs);
+    TreeWalk walk(tool, nested, outputs);
     walk.Walk(tree, {}, status);
     return std::move(walk.found);
+}
+
+TreeFile FindFile(Tool& tool, const std::string& path) {
+    FolderDocument* const archive = tool.GetApplication().GetFileSystem().FindArchive(path);
+    return {path, std::string(FileNameOf(path)), archive, archive ? archive->FindEntry(path) : nullptr};
+}
+
+std::unique_ptr<CFile> OpenSource(const TreeFile& source) {
+    if (!source.entry) return std::make_unique<DiskFile>(source.path, CFile::modeRead);
+    return FileOrThrow([&](CFileException* failure) {
+        return source.entry->OpenEntry(CFile::modeRead, failure, *source.archive);
+    });
+}
+
+void FailToFind(Tool& tool, const std::string& path) {
+    struct stat info {};
+    const bool mayNotLook = stat(ToNativePath(path).c_str(), &info) != 0 && errno == EACCES;
+    tool.Fail("\"" + ToDisplayPath(path) +
+              (mayNotLook ? "\" cannot be read: access was denied." : "\" was not found."));
 }
 
 } // namespace keltavlo

@@ -23,6 +23,15 @@ int Descriptor::Close() {
     return value < 0 ? 0 : ::close(std::exchange(value, -1));
 }
 
+void WriteAll(int descriptor, std::span<const std::byte> bytes, const std::string& path) {
+    while (!bytes.empty()) {
+        const ssize_t put = write(descriptor, bytes.data(), bytes.size());
+        if (put < 0 && errno == EINTR) continue;
+        if (put < 0) throw CFileException::FromErrno(errno, path);
+        bytes = bytes.subspan(static_cast<std::size_t>(put));
+    }
+}
+
 DiskFile::DiskFile(const std::string& path, unsigned flags) : filePath(FullPath(path)) {
     // O_NONBLOCK: opening a pipe must answer at once, so that it can be refused.
     descriptor = Descriptor(::open(ToNativePath(path).c_str(), NativeFlags(flags) | O_NONBLOCK | O_CLOEXEC));

@@ -2,6 +2,7 @@
 
 #include "framework/core/CFile.h"
 
+#include <span>
 #include <utility>
 
 namespace keltavlo {
@@ -25,6 +26,9 @@ public:
 private:
     int value;
 };
+
+// Writes all of the bytes at the position of the descriptor; CFileException with the path if that fails.
+void WriteAll(int descriptor, std::span<const std::byte> bytes, const std::string& path);
 
 // An ordinary file on disk, read and written where it lies.
 class DiskFile final : public CFile {

@@ -25,15 +25,6 @@ std::string BehindLinks(const std::string& path) {
     return realpath(path.c_str(), resolved) ? resolved : path;
 }
 
-void WriteAll(int descriptor, std::span<const std::byte> bytes, const std::string& path) {
-    while (!bytes.empty()) {
-        const ssize_t put = write(descriptor, bytes.data(), bytes.size());
-        if (put < 0 && errno == EINTR) continue;
-        if (put < 0) ThrowErrno(path);
-        bytes = bytes.subspan(static_cast<std::size_t>(put));
-    }
-}
-
 // Overwrites the file where it lies. The room is reserved before the first old byte goes; when writing fails
 // all the same, the old bytes are put back.
 void WriteInPlace(const std::string& target, std::span<const std::byte> bytes) {
@@ -55,6 +46,8 @@ void WriteInPlace(const std::string& target, std::span<const std::byte> bytes) {
     if (file.Close() != 0) ThrowErrno(target);
 }
 
+} // namespace
+
 void FlushFolder(const std::string& folder) {
     // The rename has happened; a folder that cannot be flushed is no reason to report a failed save.
     Descriptor descriptor(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
@@ -71,8 +64,6 @@ bool FolderIsWritable(const std::string& target) {
     const std::string folder = ParentOf(target);
     return access(folder.empty() ? "." : folder.c_str(), W_OK | X_OK) == 0;
 }
-
-} // namespace
 
 ReplacingFile::ReplacingFile(const std::string& path) : targetPath(FullPath(path)) {
     struct stat info {};

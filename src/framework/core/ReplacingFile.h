@@ -2,7 +2,19 @@
 
 #include "framework/core/CMemFile.h"
 
+struct stat;
+
 namespace keltavlo {
+
+// Gives the open file of that path the permissions of the one that it replaces, and its owner as far as the
+// user may.
+void TakeOverRights(int descriptor, const struct stat& old, const std::string& path);
+
+// Whether files can be made in the folder of the path.
+bool FolderIsWritable(const std::string& path);
+
+// Makes the names in a folder durable.
+void FlushFolder(const std::string& folder);
 
 // A file that is being written anew. What is written gathers in memory; Close puts it in the target's place
 // in one step: a temporary file beside the target, written and flushed whole, then renamed over it. A save

@@ -1,8 +1,11 @@
 #include "framework/core/SaveJournal.h"
 
+#include "framework/core/Text.h"
+
 #include <QStandardPaths>
 
 #include <algorithm>
+#include <chrono>
 #include <climits>
 #include <fcntl.h>
 #include <filesystem>
@@ -26,37 +29,57 @@ bool WasRemoved(const Descriptor& file) {
     return fstat(file.Get(), &status) == 0 && status.st_nlink == 0;
 }
 
-// The record, which names the temporary file and stays locked while it is open.
-Descriptor WriteRecord(const std::string& record, const std::string& temporary) {
+// An empty record, which stays locked while it is open.
+Descriptor MakeRecord(const std::string& record) {
     for (;;) {
-        Descriptor file(open(record.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+        Descriptor file(open(record.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_APPEND | O_CLOEXEC, 0600));
         if (!file.IsOpen()) return file;
         flock(file.Get(), LOCK_EX);
         // Another program that starts meanwhile takes a record that is not locked yet for an abandoned one.
-        if (WasRemoved(file)) continue;
-        // A record that could not be written whole names nothing, and the save goes on without it.
-        static_cast<void>(write(file.Get(), temporary.data(), temporary.size()) < 0);
-        return file;
+        if (!WasRemoved(file)) return file;
     }
 }
 
 std::string ReadRecord(const Descriptor& record) {
-    char path[PATH_MAX];
-    const ssize_t length = read(record.Get(), path, sizeof path);
-    return {path, static_cast<std::size_t>(std::max<ssize_t>(length, 0))};
+    std::string content;
+    char part[PATH_MAX];
+    for (ssize_t length; (length = read(record.Get(), part, sizeof part)) > 0;)
+        content.append(part, static_cast<std::size_t>(length));
+    return content;
+}
+
+// Removes the files that the record lists.
+void RemoveListed(const Descriptor& record) {
+    const std::string content = ReadRecord(record);
+    for (std::string_view left = content; !left.empty();) {
+        const std::string temporary(UpToNul(left));
+        left.remove_prefix(std::min(temporary.size() + 1, left.size()));
+        if (temporary.ends_with(temporarySuffix)) unlink(temporary.c_str());
+    }
 }
 
 } // namespace
 
-SaveRecord::SaveRecord(const std::string& name, const std::string& temporary) {
+std::string UniqueSaveName() {
+    const auto now = std::chrono::system_clock::now().time_since_epoch();
+    return std::to_string(getpid()) + "-" + std::to_string(now / std::chrono::nanoseconds(1));
+}
+
+SaveRecord::SaveRecord(const std::string& name) {
     std::error_code failed;
     fs::create_directories(JournalFolder(), failed);
     path = JournalFolder() / name;
-    file = WriteRecord(path, temporary);
+    file = MakeRecord(path);
 }
 
 SaveRecord::~SaveRecord() {
     if (file.IsOpen()) unlink(path.c_str());
+}
+
+void SaveRecord::Add(const std::string& temporary) {
+    // A path that could not be written whole lists nothing, and the save goes on without it. One call, so
+    // that paths from several threads do not mix.
+    if (file.IsOpen()) static_cast<void>(write(file.Get(), temporary.c_str(), temporary.size() + 1) < 0);
 }
 
 void RemoveAbandonedSaves() {
@@ -64,8 +87,7 @@ void RemoveAbandonedSaves() {
     for (const fs::directory_entry& entry : fs::directory_iterator(JournalFolder(), failed)) {
         const Descriptor record(open(entry.path().c_str(), O_RDONLY | O_CLOEXEC));
         if (!record.IsOpen() || flock(record.Get(), LOCK_EX | LOCK_NB) != 0) continue;
-        const std::string temporary = ReadRecord(record);
-        if (temporary.ends_with(temporarySuffix)) unlink(temporary.c_str());
+        RemoveListed(record);
         // While the lock is held, so that a save that has just made the record sees that it is gone.
         unlink(entry.path().c_str());
     }

@@ -9,13 +9,19 @@ namespace keltavlo {
 // The end of every temporary file's name.
 inline constexpr const char* temporarySuffix = ".keltavlo-save";
 
-// Names a temporary file in the journal for as long as it lives. A lock on the record shows that the save
-// still runs.
+// A name that differs from that of any other save, even of a process that was killed and had the same number.
+std::string UniqueSaveName();
+
+// Lists the temporary files of a save in the journal for as long as it lives. A lock on the record shows that
+// the save still runs.
 class SaveRecord {
 public:
     // `name` differs from that of every other record. Without effect if the journal cannot be written.
-    SaveRecord(const std::string& name, const std::string& temporary);
+    explicit SaveRecord(const std::string& name);
     ~SaveRecord();
+
+    // Call it before the file is made. Safe to call from several threads.
+    void Add(const std::string& temporary);
 
     SaveRecord(const SaveRecord&) = delete;
     SaveRecord& operator=(const SaveRecord&) = delete;

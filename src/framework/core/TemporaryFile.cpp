@@ -1,7 +1,6 @@
 #include "framework/core/TemporaryFile.h"
 
 #include <cerrno>
-#include <chrono>
 #include <cstdio>
 #include <fcntl.h>
 #include <filesystem>
@@ -9,25 +8,13 @@
 
 namespace keltavlo {
 
-namespace {
-
-namespace fs = std::filesystem;
-
-// Unlike that of any other save, even of a process that was killed and had the same number.
-std::string UniqueName() {
-    const auto now = std::chrono::system_clock::now().time_since_epoch();
-    return std::to_string(getpid()) + "-" + std::to_string(now / std::chrono::nanoseconds(1));
-}
-
-} // namespace
-
-TemporaryFile::TemporaryFile(const std::string& target) : TemporaryFile(target, UniqueName()) {}
+TemporaryFile::TemporaryFile(const std::string& target) : TemporaryFile(target, UniqueSaveName()) {}
 
 TemporaryFile::TemporaryFile(const std::string& target, const std::string& name)
-    : path(fs::path(target).parent_path() / ("." + name + temporarySuffix)), record(name, path),
-      descriptor(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666)) {
-    if (descriptor.IsOpen()) return;
-    throw CFileException::FromErrno(errno, target);
+    : path(std::filesystem::path(target).parent_path() / ("." + name + temporarySuffix)), record(name) {
+    record.Add(path);
+    descriptor = Descriptor(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+    if (!descriptor.IsOpen()) throw CFileException::FromErrno(errno, target);
 }
 
 TemporaryFile::~TemporaryFile() {
