@@ -1,4 +1,4 @@
-// MakeSeeds FOLDER: writes FOLDER/READER/seed for every reader, and prints the readers' names.
+// MakeSeeds FOLDER: writes FOLDER/READER/seed1 and so on for every reader, and prints the readers' names.
 
 #include "support/readers/Readers.h"
 
@@ -12,7 +12,9 @@ int main(int argc, char** argv) {
     for (const Reader& reader : Readers()) {
         const std::filesystem::path folder = std::filesystem::path(argv[1]) / reader.name;
         std::filesystem::create_directories(folder);
-        WriteFile((folder / "seed").string(), reader.makeSeed());
+        int number = 0;
+        for (const Bytes& seed : reader.MakeSeeds())
+            WriteFile((folder / ("seed" + std::to_string(++number))).string(), seed);
         std::puts(reader.name.c_str());
     }
     return 0;

@@ -280,6 +280,12 @@ std::vector<Reader> OtherReaders() {
 
 } // namespace
 
+std::vector<Bytes> Reader::MakeSeeds() const {
+    std::vector<Bytes> seeds = makeMoreSeeds ? makeMoreSeeds() : std::vector<Bytes>();
+    seeds.insert(seeds.begin(), makeSeed());
+    return seeds;
+}
+
 std::span<const Reader> Readers() {
     static const std::vector<Reader> readers = [] {
         std::vector<Reader> all = PictureReaders();

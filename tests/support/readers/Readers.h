@@ -26,6 +26,10 @@ struct Reader {
     std::function<std::optional<std::size_t>(std::span<const std::byte> bytes, Buffering buffering)> read;
     std::function<Bytes()> makeSeed; // builds a small valid file
     std::vector<HeaderField> fields;
+    std::function<std::vector<Bytes>()> makeMoreSeeds = nullptr;
+
+    // All seeds.
+    std::vector<Bytes> MakeSeeds() const;
 };
 
 // All readers of the program.
