@@ -38,7 +38,8 @@ FolderDocument* OpenFolder(const std::string& path) {
 FolderDocument* FindDiskArchive(const std::string& path) {
     CFileStatus status;
     for (std::string folder = path; !folder.empty(); folder = ParentOf(folder)) {
-        if (!CFile::GetStatus(folder, status) || status.IsDirectory()) continue;
+        // To the disk, "x.wad/." is the archive itself; here it is an entry of that name.
+        if (FileNameOf(folder) == "." || !CFile::GetStatus(folder, status) || status.IsDirectory()) continue;
         return folder == path ? nullptr : OpenFolder(status.fullName);
     }
     return nullptr;

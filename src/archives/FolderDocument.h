@@ -25,6 +25,9 @@ public:
     void SetRootName(const std::string& path) { root.rootName = path; }
     const std::string& GetRootName() const { return root.rootName; }
 
+    // Whether the entries are lumps, whose names may contain characters that file systems refuse.
+    virtual bool HasLumps() const { return false; }
+
     // Appends the entry in the folder that the path names below the root; folders that are missing are made.
     // The entry's own name is not looked at, so several entries may have one name.
     void AddEntry(const std::string& path, std::unique_ptr<Entry> entry);

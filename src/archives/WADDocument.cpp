@@ -106,8 +106,8 @@ void WADDocument::ReadContents(InputStream& in) {
     CheckExtents(in, records);
 }
 
-std::string_view WADDocument::GetExtension(LumpType type) const {
-    const auto place = std::ranges::find(extensions, type, [](const auto& row) { return row.first; });
+std::string_view WADDocument::GetExtension(LumpType lumpType) const {
+    const auto place = std::ranges::find(extensions, lumpType, [](const auto& row) { return row.first; });
     return place == extensions.end() ? std::string_view() : place->second;
 }
 

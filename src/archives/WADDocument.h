@@ -20,9 +20,10 @@ public:
     // lump past the end. A lump that claims more data than the file is long fails only when it is opened.
     void ReadContents(InputStream& in) override;
     void WriteContents(OutputStream& out) override; // readOnly
+    bool HasLumps() const override { return true; }
 
     // The extension of the document type that opens lumps of the type; empty for a type that none opens.
-    std::string_view GetExtension(LumpType type) const;
+    std::string_view GetExtension(LumpType lumpType) const;
 
 private:
     // By lump type, looked up once for all lumps of the file.

@@ -83,8 +83,9 @@ void ReadIndices(InputStream& in, Texture& texture, int width, int height, const
 
 void WriteMipLevels(OutputStream& out, const Texture& texture, const ColorList& palette) {
     NearestSearch search(palette);
-    WriteIndices(out, texture, texture.IndicesOfLevel(0), search);
-    Image level = texture;
+    const Image& picture = texture;
+    WriteIndices(out, picture, texture.IndicesOfLevel(0), search);
+    Image level = picture;
     for (std::size_t k = 1; k < levelCount; ++k) {
         Image half;
         level.MakeHalfSize(half);

@@ -71,6 +71,16 @@ public:
     }
     std::string Help() const { return app.help(); }
 
+    std::vector<CommandText> DescribeCommands() const {
+        std::vector<CommandText> texts;
+        for (const ToolCommand& row : Commands()) {
+            texts.push_back({&row, {}});
+            for (const CLI::Option* option : app.get_subcommand(row.name)->get_options())
+                texts.back().options.push_back(Describe(*option));
+        }
+        return texts;
+    }
+
     // The sentence for a failure of the library, whose text begins with the option.
     std::string Describe(const CLI::ParseError& failure) const {
         const std::string text = failure.what(), name = text.substr(0, text.find_first_of(": "));
@@ -85,6 +95,12 @@ private:
         target.allow_extras();
         target.formatter(std::make_shared<HelpFormatter>(synopsis));
         target.set_help_flag("-h,--help", "Show this help.");
+    }
+    static OptionText Describe(const CLI::Option& option) {
+        OptionText text{{}, option.get_type_name(), option.get_description()};
+        for (const std::string& name : option.get_snames()) text.names.push_back("-" + name);
+        for (const std::string& name : option.get_lnames()) text.names.push_back("--" + name);
+        return text;
     }
     std::string DescribeStranger() const {
         const std::string word = app.remaining().front();
@@ -143,6 +159,11 @@ CommandLine ParseCommandLine(const std::vector<std::string>& words) {
         throw UsageError(parser.Describe(failure));
     }
     return line;
+}
+
+std::vector<CommandText> DescribeCommands() {
+    ToolArguments unused;
+    return Parser(unused).DescribeCommands();
 }
 
 } // namespace keltavlo

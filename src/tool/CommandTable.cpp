@@ -11,37 +11,76 @@ namespace {
 
 constexpr std::size_t anyNumber = std::numeric_limits<std::size_t>::max();
 
-void AddNoOptions(CLI::App&, ToolArguments&) {}
+void AddListOptions(CLI::App& command, ToolArguments& arguments) {
+    AddRecursiveOption(command, arguments);
+    AddArchivesOption(command, arguments);
+    AddJsonOption(command, arguments);
+}
+
+void AddSheetOptions(CLI::App& command, ToolArguments& arguments) {
+    AddForceOption(command, arguments);
+    AddSourcePaletteOption(command, arguments);
+}
 
 void AddConvertOptions(CLI::App& command, ToolArguments& arguments) {
     AddFormatOption(command, arguments);
+    AddPaletteOptions(command, arguments);
+    AddFieldsOption(command, arguments);
     AddBatchOptions(command, arguments);
+}
+
+void AddPackingOptions(CLI::App& command, ToolArguments& arguments) {
+    AddFormatOption(command, arguments);
+    AddForceOption(command, arguments);
+    AddPackOptions(command, arguments);
+    AddPaletteOptions(command, arguments);
 }
 
 constexpr ToolCommand commands[] = {
     {"list", "PATH...", "List the entries of archives.",
      "A PATH is an archive, a folder inside one or the folder of built-in files. Each line shows the size in "
      "bytes, the type and the name of an entry.",
-     anyNumber, false, AddNoOptions, List},
+     anyNumber, false, AddListOptions, List},
     {"info", "PATH...", "Describe files.",
      "Shows the format and the size of each file, the names and flags that the games store, and its palette; "
      "for a Quake II model, the numbers of frames, vertices, texture coordinates and triangles, and its "
      "skins; for a studio model (.mdl), its textures.",
-     anyNumber, false, AddNoOptions, ShowInfo},
-    {"convert", "IN OUT", "Convert pictures to another format.",
-     "If IN is a picture, the extension of OUT selects the format. If IN is a folder or an archive, every "
-     "picture in it is written below the folder OUT, in the same folders and in the format of --to. Files "
-     "that are not pictures are skipped with a note. If a picture cannot be read, the command reports a "
-     "failure and continues with the others. The games' formats require sides that are multiples of 8 from 8 "
+     anyNumber, false, AddJsonOption, ShowInfo},
+    {"sheet", "PATH OUT.png", "Draw a contact sheet of the textures in an archive.",
+     "Draws every picture in an archive or a folder with its name and its size in texels, 48 to a page. A "
+     "picture "
+     "of more than 128 texels is shown smaller, by a whole factor; a checkerboard shows through transparent "
+     "texels. The first page is OUT.png, the next one OUT-2.png and so on.",
+     1, true, AddSheetOptions, MakeSheet},
+    {"convert", "IN... OUT", "Convert pictures to another format.",
+     "If IN is a single picture, the extension of OUT selects the format. Otherwise OUT is a folder: every "
+     "picture in the folders and archives is written below it, in the same folders and in the format of "
+     "--to. Archives inside them count as folders. Files that are not pictures are skipped with a note. If a "
+     "picture cannot be read, the command reports a failure and continues with the others. A single picture "
+     "may come from the standard input and go to the standard output, both written as -. The games' formats "
+     "require sides that are multiples of 8 from 8 "
      "to 256; a note names each picture that was fitted.",
      anyNumber, true, AddConvertOptions, Convert},
-    {"extract", "PATH OUTDIR", "Write files from archives to the disk.",
-     "Writes one file of an archive, or all its files in their folders, below OUTDIR. For a studio model "
+    {"extract", "PATH... OUTDIR", "Write files from archives to the disk.",
+     "Writes single files of archives, or all their files in their folders, below OUTDIR; a single file goes "
+     "to the standard output if OUTDIR is -. Archives inside a PATH become folders, except maps. For a "
+     "studio model "
      "(.mdl), on the disk or in an archive, writes each texture as a numbered Targa file: model_1.tga and so "
-     "on. Names that lead out of OUTDIR are refused. If a file and a folder of an archive have the same "
-     "name, the second is written under a numbered name, and a note says so. If several files have the same "
-     "name, only the first is written.",
+     "on. Names that lead out of OUTDIR are refused. If names in an archive differ at most in case, all but "
+     "the "
+     "first are written under numbered names, and notes say so; of files with exactly the same name, only "
+     "the "
+     "first is written.",
      anyNumber, true, AddBatchOptions, Extract},
+    {"pack", "FOLDER|LIST... OUT", "Write a PAK or WAD archive.",
+     "The extension of OUT, .pak or .wad, selects the kind of archive. A FOLDER, which may be an archive, is "
+     "packed with all its folders, in the order of names. A LIST is a text file with a path a line, relative "
+     "to the folder of the list; lines that begin with # are left out. In a pack, files go in as they are; "
+     "--to converts the pictures among them. In a WAD, each picture becomes a texture, and each .lmp file a "
+     "palette. Their names are those of the files, without folders, where _xHH means the character of the "
+     "hexadecimal code HH; extract writes such names. If anything does not fit, the command reports all of "
+     "it and writes nothing.",
+     anyNumber, true, AddPackingOptions, Pack},
 };
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "framework/core/Text.h"
 #include "tool/CommandLine.h"
 #include "tool/CommandTable.h"
+#include "tool/NameEscapes.h"
 #include "tool/archives/ArchiveTypes.h"
 #include "tool/output/Interruption.h"
 
@@ -58,12 +59,12 @@ void Tool::Note(const std::string& sentence) {
     std::string line = ToUtf8(sentence);
     std::replace(line.begin(), line.end(), '\n', ' ');
     ShowProgress({});
-    errors << "keltavlo-tool: " << line << "\n";
+    errors << "keltavlo-tool: " << EscapeText(line) << "\n";
 }
 
 void Tool::ShowProgress(const std::string& name) {
     constexpr const char* clearLine = "\r\x1B[K";
-    if (isTerminal) errors << clearLine << ToUtf8(name) << std::flush;
+    if (isTerminal) errors << clearLine << EscapeText(ToUtf8(name)) << std::flush;
 }
 
 } // namespace keltavlo

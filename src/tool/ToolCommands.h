@@ -9,6 +9,8 @@ struct ToolArguments;
 void List(Tool& tool, const ToolArguments& arguments);
 void ShowInfo(Tool& tool, const ToolArguments& arguments);
 void Convert(Tool& tool, const ToolArguments& arguments);
+void MakeSheet(Tool& tool, const ToolArguments& arguments);
 void Extract(Tool& tool, const ToolArguments& arguments);
+void Pack(Tool& tool, const ToolArguments& arguments);
 
 } // namespace keltavlo

@@ -13,8 +13,8 @@ class FolderDocument;
 class OutputPlace;
 class Tool;
 
-// The full path of an argument. A separator at its end stays: in an archive it picks the folder where a file
-// has the same name.
+// The full path of an argument, whose names in archives may be escaped (NameEscapes.h). A separator at its
+// end stays: in an archive it picks the folder where a file has the same name.
 std::string TreePath(const std::string& argument);
 
 // Whether a path is a folder of the disk or an archive, an archive's folder or an archive.
@@ -48,8 +48,5 @@ std::unique_ptr<CFile> OpenSource(const TreeFile& source);
 
 // Reports that nothing can be read at the path, and why.
 void FailToFind(Tool& tool, const std::string& path);
-
-// What people call the type that the path would open as, such as "Quake II Texture Files (*.wal)".
-std::string TypeNameOf(const std::string& path);
 
 } // namespace keltavlo

@@ -14,7 +14,6 @@ endforeach()
 
 # expect_answer(ARGUMENT CODE ANSWER)
 function(expect_answer argument code answer)
-    set(ENV{QT_QPA_PLATFORM} offscreen)
     execute_process(COMMAND "${PROGRAM}" ${argument} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
     if(NOT result EQUAL code OR NOT output MATCHES "${answer}")
         message(SEND_ERROR "${argument}: exit code ${result}, and:\n${output}")

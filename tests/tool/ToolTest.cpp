@@ -3,6 +3,8 @@
 #include "support/FolderTest.h"
 #include "support/builders/ModelBuilder.h"
 #include "support/builders/TextureBuilder.h"
+#include "support/builders/WadBuilder.h"
+#include "tool/TreeWalk.h"
 
 #include <filesystem>
 #include <sstream>
@@ -68,6 +70,47 @@ TEST_F(ToolTest, ListsAndDescribes) {
     EXPECT_THAT(out, HasSubstr("size: 64 x 32\nQuake II name: e1u1/floor\n"));
     EXPECT_EQ(Run({"info", pack + "/textures/broken.wal"}), 1);
     EXPECT_THAT(err, HasSubstr("broken.wal\". The file ends too early."));
+}
+
+TEST_F(ToolTest, ListsFoldersAndArchivesInArchives) {
+    PackBuilder outer;
+    outer.Add("maps/inner.pak", ReadFile(pack));
+    outer.Add("caf\xE9", {});
+    const std::string path = Put("outer.pak", outer.Build());
+    EXPECT_EQ(Run({"list", "-r", path}), 0);
+    EXPECT_THAT(out, HasSubstr("  maps/inner.pak/textures/floor.wal\n"));
+    EXPECT_EQ(Run({"list", "-r", "--no-archives", "--json", path, PathTo("no.pak")}), 1);
+    EXPECT_THAT(err, HasSubstr("no.pak\" was not found"));
+    EXPECT_THAT(out,
+                HasSubstr("\"name\": \"caf%E9\",\n        \"type\": \"unknown\",\n        \"size\": 0\n"));
+    EXPECT_THAT(out, testing::Not(HasSubstr("floor.wal")));
+    EXPECT_EQ(Run({"info", "--json", floor}), 0);
+    EXPECT_THAT(out, HasSubstr("\"width\": 64,\n    \"height\": 32,\n    \"quake2Name\": \"e1u1/floor\""));
+}
+
+TEST_F(ToolTest, FindsEveryNameThatItLists) {
+    std::vector<std::string> names{"..", "%41", "%%41", "a%1", "%2F"};
+    for (int code = 1; code < 256; ++code)
+        if (code != '/' && code != '\\' && code != ':') names.emplace_back(1, static_cast<char>(code));
+    WadBuilder wad;
+    const auto sizeOf = [](const std::string& name) { // capitals lead to the same lump as small letters
+        return name.size() * 300 +
+               static_cast<std::size_t>(std::tolower(static_cast<unsigned char>(name.back())));
+    };
+    for (const std::string& name : names) wad.Add(name, 0, Bytes(sizeOf(name)));
+    const std::string path = Put("names.wad", wad.Build());
+    EXPECT_EQ(Run({"list", path}), 0);
+    std::istringstream lines(out);
+    std::ostringstream nothing;
+    Tool tool(nothing, nothing, false);
+    for (const std::string& name : names) {
+        std::string line;
+        std::getline(lines, line);
+        const std::string shown = line.substr(52);
+        EntryStatus status;
+        tool.GetApplication().GetFileSystem().GetStatus(TreePath(path + "/" + shown), status);
+        EXPECT_EQ(status.size, sizeOf(name)) << shown;
+    }
 }
 
 TEST_F(ToolTest, ConvertsOnePictureWithoutOverwriting) {

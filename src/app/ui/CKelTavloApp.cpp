@@ -67,12 +67,31 @@ void CKelTavloApp::RegisterWindowClasses() {
 }
 
 bool CKelTavloApp::InitInstance(const std::vector<std::string>& paths) {
+    CreateMainFrame();
+    mainFrame->ShowAsLeft();
+    desktop.Register(); // without it the program runs all the same
+    return CarryOut(paths);
+}
+
+bool CKelTavloApp::InitService() {
+    CreateMainFrame();
+    return desktop.Register();
+}
+
+void CKelTavloApp::CreateMainFrame() {
     RemoveAbandonedSaves();
     if (const auto colors = ReadCustomColors(GetProfile(), applicationSection)) SetCustomColors(*colors);
     mainFrame = std::make_unique<MainFrame>();
     GetFrameFactory()->SetMainFrame(mainFrame.get());
-    mainFrame->ShowAsLeft();
-    return CarryOut(paths);
+}
+
+void CKelTavloApp::OnDesktopRequest(const std::vector<std::string>& paths) {
+    const bool isFirst = !mainFrame->isVisible();
+    if (isFirst) mainFrame->ShowAsLeft();
+    mainFrame->setWindowState(mainFrame->windowState() & ~Qt::WindowMinimized);
+    mainFrame->raise();
+    mainFrame->activateWindow();
+    if (isFirst || !paths.empty()) CarryOut(paths);
 }
 
 // Cancelling the choice of a new document is no failure.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Workshop.h"
+#include "app/ui/DesktopService.h"
 #include "archives/ui/FileDialogMemory.h"
 #include "framework/core/CWinApp.h"
 #include "framework/ui/CClipboard.h"
@@ -25,6 +26,9 @@ public:
     // Shows the main window, then opens the files, or asks for a new document when there are none. False when
     // none of the files could be opened (the user has been told): the program is to end.
     bool InitInstance(const std::vector<std::string>& paths);
+    // Waits on the session bus without a window, which comes with the first request. False when there is no
+    // bus or another program serves it.
+    bool InitService();
     // Null before InitInstance.
     MainFrame* GetMainFrame() const { return mainFrame.get(); }
 
@@ -48,6 +52,8 @@ protected:
 
 private:
     void RegisterWindowClasses();
+    void CreateMainFrame();
+    void OnDesktopRequest(const std::vector<std::string>& paths);
     bool TryOpen(const std::string& path);
     bool CarryOut(const std::vector<std::string>& paths);
     void OnCommandNew() { OnFileNew(); }
@@ -65,6 +71,7 @@ private:
     CClipboard clipboard;
     FileDialogMemory dialogMemory;
     std::unique_ptr<MainFrame> mainFrame;
+    DesktopService desktop{[this](const std::vector<std::string>& paths) { OnDesktopRequest(paths); }};
     std::unique_ptr<HelpWindow> help; // made when it is first asked for
     std::unique_ptr<ContextHelp> contextHelp;
     std::uint32_t currentColor = 0; // 0xAARRGGBB; of the brushes of all documents

@@ -9,18 +9,37 @@ namespace keltavlo {
 
 namespace {
 
+// The options that the toolkit takes for itself. They are named here only so that the parser accepts them.
+constexpr const char* toolkitOptions[] = {"reverse", "widgetcount"};
+constexpr const char* toolkitValues[] = {"display",       "name",    "platform",    "platformpluginpath",
+                                         "platformtheme", "plugin",  "qwindowicon", "qwindowgeometry",
+                                         "qwindowtitle",  "session", "style",       "stylesheet"};
+
 struct Parser : QCommandLineParser {
     QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")},
                             QStringLiteral("Print this text.")};
     QCommandLineOption version = addVersionOption();
+    QCommandLineOption service{
+        QStringLiteral("service"),
+        QStringLiteral("Wait for the desktop to open files; the session bus starts this.")};
 
     Parser() {
         setApplicationDescription(QStringLiteral("A workshop for the textures of games."));
         addOption(help);
-        setSingleDashWordOptionMode(ParseAsLongOptions); // such as the toolkit's own "-platform"
+        addOption(service);
+        setSingleDashWordOptionMode(ParseAsLongOptions); // as the toolkit's options are written
+        for (const char* name : toolkitOptions) AddToolkitOption(name, {});
+        for (const char* name : toolkitValues) AddToolkitOption(name, QStringLiteral("value"));
         addPositionalArgument(QStringLiteral("file"),
                               QStringLiteral("The file to open, which may be inside an archive."),
                               QStringLiteral("[file...]"));
+    }
+
+private:
+    void AddToolkitOption(const char* name, const QString& value) {
+        QCommandLineOption option(QString::fromLatin1(name), {}, value);
+        option.setFlags(QCommandLineOption::HiddenFromHelp);
+        addOption(option);
     }
 };
 
@@ -43,6 +62,7 @@ CommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
     if (!parser.parse(texts)) line.error = ToBytes(parser.errorText());
     line.help = parser.isSet(parser.help);
     line.version = parser.isSet(parser.version);
+    line.service = parser.isSet(parser.service);
     for (const QString& path : parser.positionalArguments()) line.paths.push_back(ToBytes(path));
     return line;
 }

@@ -11,9 +11,11 @@ struct CommandLine {
     std::string error;              // a sentence; empty when the arguments are understood
     bool help = false;
     bool version = false;
+    bool service = false; // wait for requests on the session bus
 };
 
-// The first argument is the program's own name.
+// Reads the arguments of main: the program's name, then the toolkit's own options and ours in any order. The
+// toolkit reads its own again.
 CommandLine ParseCommandLine(const std::vector<std::string>& arguments);
 // What --help and --version print. Needs a QCoreApplication.
 std::string HelpText();

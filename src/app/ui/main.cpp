@@ -35,33 +35,25 @@ void NameApplication() {
     QCoreApplication::setApplicationVersion(QStringLiteral(KELTAVLO_VERSION));
 }
 
-// Texts need no screen, so they are answered before the windowing system is asked for one.
-bool AnswerOnConsole(int argc, char** argv) {
-    const QCoreApplication console(argc, argv);
-    const CommandLine line = ParseCommandLine({argv, argv + argc});
+// Answers what needs no screen, before the windowing system is asked for one. Returns the exit code.
+int AnswerOnConsole(const CommandLine& line, int argc, char** argv) {
+    const QCoreApplication console(argc, argv); // the help shows the program's name
     if (line.help)
         std::fputs(HelpText().c_str(), stdout);
     else if (line.version)
         std::fputs(VersionText().c_str(), stdout);
-    return line.help || line.version;
+    else
+        std::fprintf(stderr, "keltavlo: %s\n", line.error.c_str());
+    return line.help || line.version ? 0 : 1;
 }
 
 // The desktop finds the program's name and icon under the name of its desktop file.
 void NameWindows() {
-    QGuiApplication::setDesktopFileName(QStringLiteral("keltavlo"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.example.keltavlo"));
     QIcon icon;
     for (const int size : {16, 24, 32, 48, 64, 128})
         icon.addFile(QStringLiteral(":/icons/keltavlo-%1.png").arg(size));
     QGuiApplication::setWindowIcon(icon);
-}
-
-int RunProgram(const CommandLine& line) {
-    if (!line.error.empty()) {
-        std::fprintf(stderr, "keltavlo: %s\n", line.error.c_str());
-        return 1;
-    }
-    CKelTavloApp program(ProfileStore("KelTavlo", "KelTavlo"));
-    return program.InitInstance(line.paths) ? QCoreApplication::exec() : 1;
 }
 
 } // namespace
@@ -69,11 +61,14 @@ int RunProgram(const CommandLine& line) {
 int main(int argc, char** argv) try {
     KeepMemoryReserve();
     NameApplication();
-    if (AnswerOnConsole(argc, argv)) return 0;
+    const CommandLine line = ParseCommandLine({argv, argv + argc});
+    if (line.help || line.version || !line.error.empty()) return AnswerOnConsole(line, argc, argv);
     toolkitHandler = qInstallMessageHandler(&HandleMessage);
-    const GuardedApplication windows(argc, argv); // which takes its own options out of the arguments
+    const GuardedApplication windows(argc, argv);
     NameWindows();
-    return RunProgram(ParseCommandLine({argv, argv + argc}));
+    CKelTavloApp program(ProfileStore("KelTavlo", "KelTavlo"));
+    const bool isReady = line.service ? program.InitService() : program.InitInstance(line.paths);
+    return isReady ? QCoreApplication::exec() : 1;
 } catch (const std::bad_alloc& failure) { // no event was under way
     std::fprintf(stderr, "keltavlo: %s\n", SentenceOf(failure));
     return 1;

@@ -6,6 +6,7 @@
 
 #include <QByteArray>
 #include <QDir>
+#include <QLockFile>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -22,6 +23,9 @@ using Sections = ProfileStore::Sections;
 
 // A larger file is none of ours.
 constexpr std::uint64_t largestFile = 1 << 20;
+
+// A program that hangs keeps the lock. Losing one of two settings is better than waiting for it.
+constexpr int longestWait = 500; // milliseconds
 
 std::string DefaultPath(const std::string& company, const std::string& application) {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
@@ -78,7 +82,6 @@ std::string ToText(const Sections& sections) {
 
 bool WriteText(const std::string& path, const std::string& text) {
     try {
-        QDir().mkpath(QFile::decodeName(ParentOf(path).c_str()));
         ReplacingFile file(path);
         file.Write(text.data(), text.size());
         file.Close();
@@ -111,22 +114,29 @@ std::optional<Bytes> ProfileStore::GetProfileBinary(const std::string& section, 
 }
 
 bool ProfileStore::WriteBinary(const std::string& section, const std::string& name, const Bytes& data) {
-    Sections changed = Load();
-    const auto [place, isNew] = changed[section].try_emplace(name, data);
-    const bool isKept = !isNew && std::exchange(place->second, data) == data;
-    if (!isKept) return Store(std::move(changed));
-    sections = std::move(changed);
-    return true;
+    return Change([&](Sections& all) {
+        const auto [place, isNew] = all[section].try_emplace(name, data);
+        return isNew || std::exchange(place->second, data) != data;
+    });
 }
 
-bool ProfileStore::WriteSection(const std::string& section, const Section& values) {
-    Sections changed = Load();
-    changed[section] = values;
-    return Store(std::move(changed));
+Section ProfileStore::GetSection(const std::string& section) const {
+    const auto place = sections.find(section);
+    return place == sections.end() ? Section() : place->second;
+}
+
+bool ProfileStore::EditSection(const std::string& section, const std::function<void(Section&)>& edit) {
+    return Change([&](Sections& all) {
+        edit(all[section]);
+        return true;
+    });
 }
 
 bool ProfileStore::DeleteSubKeys() {
-    return Store({});
+    return Change([](Sections& all) {
+        all.clear();
+        return true;
+    });
 }
 
 Sections ProfileStore::Load() const {
@@ -138,8 +148,15 @@ Sections ProfileStore::Load() const {
     }
 }
 
-bool ProfileStore::Store(Sections changed) {
-    if (!path.empty() && !WriteText(path, ToText(changed))) return false;
+bool ProfileStore::Change(const std::function<bool(Sections&)>& edit) {
+    const QString file = QFile::decodeName(path.c_str());
+    QLockFile lock(file + QStringLiteral(".lock"));
+    if (!path.empty()) {
+        QDir().mkpath(QFileInfo(file).path());
+        lock.tryLock(longestWait);
+    }
+    Sections changed = Load();
+    if (edit(changed) && !path.empty() && !WriteText(path, ToText(changed))) return false;
     sections = std::move(changed);
     return true;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -9,8 +10,9 @@
 namespace keltavlo {
 
 // The user's settings: sections of named binary values, in a file. Nothing here fails loudly: a setting that
-// cannot be read is absent, one that cannot be written is lost. The file is read at the start and again
-// before each change, so that programs that run at once do not undo each other's settings.
+// cannot be read is absent, one that cannot be written is lost. The file is read at the start. Each change
+// reads it again, edits it and replaces it under a lock, so that two running programs keep each other's
+// settings.
 class ProfileStore {
 public:
     using Bytes = std::vector<std::byte>;
@@ -30,14 +32,17 @@ public:
                                           std::size_t size) const;
     // False when the value is lost.
     bool WriteBinary(const std::string& section, const std::string& name, const Bytes& data);
-    // Replaces all values of the section.
-    bool WriteSection(const std::string& section, const Section& values);
+    // Empty when there is no such section.
+    Section GetSection(const std::string& section) const;
+    // Passes the section's values to `edit` and stores what it leaves. Returns false when that is lost.
+    bool EditSection(const std::string& section, const std::function<void(Section&)>& edit);
     // Deletes every section with everything in it.
     bool DeleteSubKeys();
 
 private:
     Sections Load() const;
-    bool Store(Sections changed);
+    // Passes all sections to `edit` and stores them if it returns true.
+    bool Change(const std::function<bool(Sections&)>& edit);
 
     std::string path; // empty without a file
     Sections sections;

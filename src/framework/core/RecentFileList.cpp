@@ -4,7 +4,6 @@
 #include "framework/core/ProfileStore.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace keltavlo {
 
@@ -22,34 +21,50 @@ ProfileStore::Bytes ToBytes(const std::string& path) {
     return {first, first + path.size()};
 }
 
-} // namespace
-
-RecentFileList::RecentFileList(ProfileStore& settings) : profile(settings) {
-    for (std::size_t n = 0; n < capacity; ++n) {
-        const auto bytes = profile.ReadBinary(section, ValueName(n));
-        if (bytes && !bytes->empty())
-            paths.emplace_back(reinterpret_cast<const char*>(bytes->data()), bytes->size());
+std::vector<std::string> PathsIn(const ProfileStore::Section& values) {
+    std::vector<std::string> paths;
+    for (std::size_t n = 0; n < RecentFileList::capacity; ++n) {
+        const auto value = values.find(ValueName(n));
+        if (value != values.end() && !value->second.empty())
+            paths.emplace_back(reinterpret_cast<const char*>(value->second.data()), value->second.size());
     }
+    return paths;
 }
 
+ProfileStore::Section ToValues(const std::vector<std::string>& paths) {
+    ProfileStore::Section values;
+    for (std::size_t n = 0; n < paths.size(); ++n) values[ValueName(n)] = ToBytes(paths[n]);
+    return values;
+}
+
+} // namespace
+
+RecentFileList::RecentFileList(ProfileStore& settings)
+    : profile(settings), paths(PathsIn(settings.GetSection(section))) {}
+
 void RecentFileList::Add(const std::string& path) {
-    std::vector<std::string> updated{path}; // apart, so that running out of memory loses no entry
-    std::ranges::copy_if(paths, std::back_inserter(updated),
-                         [&](const std::string& old) { return !SamePath(old, path); });
-    updated.resize(std::min(updated.size(), capacity));
-    paths = std::move(updated);
-    Write();
+    Change(path, true);
 }
 
 void RecentFileList::Remove(const std::string& path) {
-    std::erase_if(paths, [&](const std::string& old) { return SamePath(old, path); });
-    Write();
+    Change(path, false);
 }
 
-void RecentFileList::Write() {
-    ProfileStore::Section values;
-    for (std::size_t n = 0; n < paths.size(); ++n) values[ValueName(n)] = ToBytes(paths[n]);
-    profile.WriteSection(section, values);
+void RecentFileList::Change(const std::string& path, bool isAdded) {
+    std::vector<std::string> changed; // apart, so that running out of memory loses no entry
+    const auto append = [&](const std::string& other) {
+        const bool isKnown =
+            SamePath(other, path) ||
+            std::ranges::any_of(changed, [&](const std::string& old) { return SamePath(old, other); });
+        if (!isKnown && changed.size() < capacity) changed.push_back(other);
+    };
+    if (isAdded) changed.push_back(path);
+    profile.EditSection(section, [&](ProfileStore::Section& values) {
+        std::ranges::for_each(PathsIn(values), append);
+        std::ranges::for_each(paths, append); // that could not be written
+        values = ToValues(changed);
+    });
+    paths = std::move(changed);
 }
 
 } // namespace keltavlo

@@ -7,7 +7,8 @@ namespace keltavlo {
 
 class ProfileStore;
 
-// The files opened or saved last, newest first; kept in the user's settings.
+// The files opened or saved last, newest first; kept in the user's settings. A change takes in what other
+// programs have added to the list meanwhile.
 class RecentFileList {
 public:
     static constexpr std::size_t capacity = 4;
@@ -19,7 +20,7 @@ public:
     void Remove(const std::string& path);
 
 private:
-    void Write();
+    void Change(const std::string& path, bool isAdded);
 
     ProfileStore& profile;
     std::vector<std::string> paths;

@@ -9,6 +9,7 @@
 #include "framework/ui/CControlBar.h"
 #include "framework/ui/CStatusBar.h"
 #include "framework/ui/Commands.h"
+#include "framework/ui/LocalPath.h"
 #include "framework/ui/MDIClientArea.h"
 #include "framework/ui/NextInRing.h"
 
@@ -19,21 +20,11 @@
 #include <QMimeData>
 #include <QShortcut>
 #include <QStatusTipEvent>
-#include <QUrl>
 
 #include <algorithm>
 #include <utility>
 
 namespace keltavlo {
-
-namespace {
-
-// The name's own bytes: QUrl::toLocalFile would replace those that are not UTF-8.
-std::string LocalPathOf(const QUrl& url) {
-    return QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()).toStdString();
-}
-
-} // namespace
 
 CMDIFrameWnd::CMDIFrameWnd(std::span<const unsigned> paneSampleIds)
     : clientArea(new MDIClientArea(this)), statusBarWindow(new CStatusBar(paneSampleIds, this)) {

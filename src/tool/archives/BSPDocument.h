@@ -12,6 +12,7 @@ public:
     // Textures whose pixels are not in the map are left out, which ArchiveNotes is told.
     void ReadContents(InputStream& in) override;
     void WriteContents(OutputStream& out) override; // readOnly
+    bool HasLumps() const override { return true; }
 };
 
 } // namespace keltavlo

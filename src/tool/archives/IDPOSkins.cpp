@@ -42,7 +42,7 @@ public:
         ReadPicture(number);
     }
 
-    std::vector<IDPOSkin> skins;
+    std::vector<ModelSkin> skins;
 
 private:
     void ReadGroup(const std::string& number) {
@@ -82,7 +82,7 @@ bool IsIDPO(InputStream& in) {
     return std::memcmp(start, identification, sizeof start) == 0;
 }
 
-std::vector<IDPOSkin> ReadIDPOSkins(InputStream& in, const ColorList& palette) {
+std::vector<ModelSkin> ReadIDPOSkins(InputStream& in, const ColorList& palette) {
     if (!IsIDPO(in)) in.FailUnnamed(StreamError::badClass);
     in.Seek(0);
     Header header;

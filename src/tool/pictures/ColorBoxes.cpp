@@ -3,6 +3,7 @@
 #include <queue>
 
 #include <algorithm>
+#include <cmath>
 
 namespace keltavlo {
 
@@ -83,7 +84,8 @@ ColorSums ColorSums::Without(const ColorSums& other) const {
 
 Color ColorSums::Mean() const {
     Color mean = 0;
-    for (std::size_t i = 0; i < channelCount; ++i) mean |= static_cast<Color>(sums[i] / count + 0.5) << 8 * i;
+    for (std::size_t i = 0; i < channelCount; ++i)
+        mean |= static_cast<Color>(std::lround(sums[i] / count)) << 8 * i;
     return mean;
 }
 

@@ -10,7 +10,7 @@ enum class PaletteSource { automatic, quake, quake2, hexen2, own, file };
 
 struct PaletteOptions {
     PaletteSource source = PaletteSource::automatic;
-    std::string file; // the path for PaletteSource::file
+    std::string file{}; // the path for PaletteSource::file
     bool dither = false;
     // Keeps pixels out of the indices 224 to 255, which Quake draws at full brightness, unless they had such
     // an index before.

@@ -23,10 +23,9 @@ const PictureFormat& FormatOf(std::string_view name) {
 }
 
 const PictureFormat& WritableFormatOf(std::string_view name) {
-    const PictureFormat& format = FormatOf(name);
-    if (!format.codec.write)
-        throw CException("Pictures cannot be written as " + std::string(format.codec.name) + ".");
-    return format;
+    const PictureFormat* format = FindPictureFormat(name);
+    if (format && format->codec.write) return *format;
+    throw CException("The name of the output must end in " + ListWritableFormats(".") + ".");
 }
 
 std::string SizeOf(const Image& picture) {

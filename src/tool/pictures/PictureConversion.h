@@ -15,11 +15,11 @@ class Texture;
 struct PaletteSet;
 
 struct ConversionOptions {
-    PaletteOptions palette;
-    TextureFields fields;
+    PaletteOptions palette{};
+    TextureFields fields{};
     // The texture's path below the folder of textures, without its extension: "e1u1/floor1_1". The output's
     // name is used when it is empty.
-    std::string textureName;
+    std::string textureName{};
     // A MIP file carries the palette that it is written in, as WAD3 archives require.
     bool embedPalette = false;
 };

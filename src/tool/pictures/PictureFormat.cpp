@@ -2,6 +2,8 @@
 
 #include "framework/core/Path.h"
 #include "framework/core/Text.h"
+#include "tool/pictures/JPEG.h"
+#include "tool/pictures/PNG.h"
 
 #include <algorithm>
 #include <array>
@@ -15,6 +17,9 @@ std::span<const PictureFormat> PictureFormats() {
         PictureFormat{*FindCodec("PCXDocument"), PaletteUse::own},
         PictureFormat{*FindCodec("TGADocument"), PaletteUse::none},
         PictureFormat{*FindCodec("BMPDocument"), PaletteUse::none},
+        PictureFormat{Codec{{}, "png", ReadPNG, WritePNG, false, DefaultPalette::none}, PaletteUse::optional},
+        PictureFormat{Codec{{}, "jpg", ReadJPEG, nullptr, false, DefaultPalette::none}, PaletteUse::none},
+        PictureFormat{Codec{{}, "jpeg", ReadJPEG, nullptr, false, DefaultPalette::none}, PaletteUse::none},
     };
     return formats;
 }

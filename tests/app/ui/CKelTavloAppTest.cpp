@@ -77,8 +77,11 @@ TEST(CommandLineTest, TellsPathsFromOptions) {
     const CommandLine line = ParseCommandLine({"keltavlo", "caf\xE9.wal", "", "--", "-b.wal"});
     EXPECT_EQ(line.paths, (std::vector<std::string>{"caf\xE9.wal", "", "-b.wal"}));
     EXPECT_TRUE(line.error.empty());
-    EXPECT_TRUE(ParseCommandLine({"keltavlo", "-platform", "offscreen", "--help"}).help);
-    EXPECT_FALSE(ParseCommandLine({"keltavlo", "-reverse"}).version);
+    const CommandLine toolkit =
+        ParseCommandLine({"keltavlo", "-platform", "offscreen", "-reverse", "a", "--style=fusion", "--help"});
+    EXPECT_EQ(toolkit.error, "");
+    EXPECT_EQ(toolkit.paths, std::vector<std::string>{"a"});
+    EXPECT_TRUE(toolkit.help && !toolkit.version);
     for (const char* option : {"--bogus", "--help-all"})
         EXPECT_FALSE(ParseCommandLine({"keltavlo", option}).error.empty()) << option;
     EXPECT_EQ(HelpText().find("--help-all"), std::string::npos);

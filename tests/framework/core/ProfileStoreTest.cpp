@@ -3,7 +3,11 @@
 #include "framework/core/RecentFileList.h"
 #include "support/FolderTest.h"
 
+#include <QLockFile>
+
+#include <chrono>
 #include <sys/stat.h>
+#include <thread>
 
 namespace keltavlo {
 
@@ -11,6 +15,7 @@ class ProfileStoreTest : public FolderTest {
 protected:
     const std::string path = PathTo("made/settings.ini");
     ProfileStore store{path};
+    ProfileStore unwritable{PathTo("")}; // a folder
 };
 
 const ProfileStore::Bytes three{std::byte{0}, std::byte{0x5D}, std::byte{0xFF}};
@@ -65,6 +70,36 @@ TEST_F(ProfileStoreTest, RecentFilesHaveAValueEach) {
     EXPECT_EQ(RecentFileList(store).GetPaths(), (std::vector<std::string>{"/e", "/d\xFF\n", "/b"}));
     EXPECT_EQ(store.ReadBinary("Recent File List", "File1")->size(), 2U);
     EXPECT_FALSE(store.ReadBinary("Recent File List", "File4"));
+}
+
+TEST_F(ProfileStoreTest, ProgramsThatRunAtOnceKeepEachOthersSettings) {
+    const auto writeTen = [&](const std::string& name) {
+        ProfileStore mine(path);
+        for (int i = 0; i < 10; ++i) mine.WriteBinary("Main", name + std::to_string(i), three);
+    };
+    std::thread other(writeTen, "other");
+    writeTen("mine");
+    other.join();
+    EXPECT_EQ(ProfileStore(path).GetSection("Main").size(), 20U);
+
+    ProfileStore second(path);
+    RecentFileList list(store), otherList(second);
+    list.Add("/a");
+    otherList.Add("/b");
+    list.Add("/c");
+    EXPECT_EQ(list.GetPaths(), (std::vector<std::string>{"/c", "/b", "/a"}));
+    RecentFileList lost(unwritable);
+    for (const char* recent : {"/a", "/b"}) lost.Add(recent);
+    EXPECT_EQ(lost.GetPaths(), (std::vector<std::string>{"/b", "/a"})) << "stays until the program ends";
+}
+
+TEST_F(ProfileStoreTest, AProgramThatHangsHoldsUpNoOther) {
+    ASSERT_TRUE(store.WriteBinary("Main", "Value", three));
+    QLockFile lock(QString::fromStdString(path + ".lock"));
+    ASSERT_TRUE(lock.lock());
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_TRUE(store.WriteBinary("Main", "Value", {}));
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2));
 }
 
 } // namespace keltavlo

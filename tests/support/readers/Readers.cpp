@@ -11,6 +11,7 @@
 #include "resources/DocTemplateRegistry.h"
 #include "resources/PaletteDocument.h"
 #include "resources/streams/ArchiveStream.h"
+#include "support/builders/CompressedPictures.h"
 #include "support/builders/ModelBuilder.h"
 #include "support/builders/TextureBuilder.h"
 #include "support/builders/WadBuilder.h"
@@ -20,6 +21,8 @@
 #include "tool/archives/BSPDocument.h"
 #include "tool/archives/IDPOSkins.h"
 #include "tool/archives/ZIPDocument.h"
+#include "tool/pictures/JPEG.h"
+#include "tool/pictures/PNG.h"
 
 #include <algorithm>
 #include <iterator>
@@ -90,7 +93,7 @@ Outcome ReadDocument(ByteSpan bytes, Buffering buffering) {
 
 Outcome ReadSkins(ByteSpan bytes, Buffering buffering) {
     return WithStream(bytes, buffering, [](InputStream& in, Digest& digest) {
-        for (const IDPOSkin& skin : ReadIDPOSkins(in, GetQuakePalette())) {
+        for (const ModelSkin& skin : ReadIDPOSkins(in, GetQuakePalette())) {
             digest.Add(skin.number);
             digest.Add(skin.picture);
         }
@@ -215,6 +218,39 @@ std::vector<Reader> PictureReaders() {
     return readers;
 }
 
+Outcome ReadCompressed(decltype(Codec::read) read, ByteSpan bytes, Buffering buffering) {
+    return WithStream(bytes, buffering, [&](InputStream& in, Digest& digest) {
+        Texture texture;
+        texture.indices.emplace();
+        read(in, texture, nullptr);
+        digest.Add(texture);
+        for (const std::uint8_t index : texture.IndicesOfLevel(0)) digest.Add(index);
+    });
+}
+
+// With its checksums repaired, because hardly a mutation gets past them.
+Outcome ReadRepairedPng(ByteSpan bytes, Buffering buffering) {
+    return ReadCompressed(ReadPNG, RepairChecksums({bytes.begin(), bytes.end()}), buffering);
+}
+
+std::vector<Bytes> MakePngs() {
+    std::vector<Bytes> pictures;
+    for (const auto& [depth, type] : {std::pair(1, 0),
+                                      {2, 0},
+                                      {4, 0},
+                                      {16, 0},
+                                      {16, 2},
+                                      {1, 3},
+                                      {2, 3},
+                                      {4, 3},
+                                      {8, 3},
+                                      {8, 4},
+                                      {16, 4},
+                                      {8, 6}})
+        pictures.push_back(MakePng(depth, type, pictures.size() % 2 == 1));
+    return pictures;
+}
+
 // The documents' readers, and those with a state.
 std::vector<Reader> OtherReaders() {
     return {
@@ -236,6 +272,14 @@ std::vector<Reader> OtherReaders() {
          Fields(4, {0, 20, 24, 124, 128, 132, 156, 160, 164, 176})},
         {"idpo", ReadSkins, MakeSkinnedModel, Fields(4, {4, 48, 52, 56, 84, 94, 98})},
         {"edits", RunEditScript, MakeEditScript, {}},
+        {"png", ReadRepairedPng, [] { return MakePng(8, 2, false); },
+         Fields(1, {18, 19, 22, 23, 24, 25, 26, 27, 28}), MakePngs},
+        {"jpg",
+         [](ByteSpan bytes, Buffering buffering) { return ReadCompressed(ReadJPEG, bytes, buffering); },
+         [] { return MakeJpeg(3, false); }, Fields(2, {160, 163, 165, 167, 169, 611}),
+         [] {
+             return std::vector{MakeJpeg(1, false), MakeJpeg(3, true)};
+         }},
         {"recode", RecodePicture, MakePictureToRecode, {}, MakeMorePicturesToRecode},
     };
 }

@@ -99,11 +99,11 @@ TEST_F(ArchiveTypesTest, ReadsSingleSkinsAndGroups) {
         Bytes bytes = FindReader("idpo").makeSeed();
         PutU32(bytes, offset, value);
         CMemFile file{std::span<std::byte>(bytes)};
-        std::vector<IDPOSkin> skins;
+        std::vector<ModelSkin> skins;
         ReadThroughArchive(file, [&](InputStream& in) { skins = ReadIDPOSkins(in, palette); });
         return skins;
     };
-    const std::vector<IDPOSkin> skins = tryWith(4, 6);
+    const std::vector<ModelSkin> skins = tryWith(4, 6);
     ASSERT_EQ(skins.size(), 3U);
     EXPECT_EQ(skins[0].number + " " + skins[1].number + " " + skins[2].number, "1 2_1 2_2");
     EXPECT_EQ(skins[2].picture.GetPixel(2, 1), palette.GetColor(17));
