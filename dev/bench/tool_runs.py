@@ -1,10 +1,10 @@
 """Runs of keltavlo-tool over many files and the same work by other programs, for dev/bench/compare."""
 import pathlib
 import random
-import shutil
 import statistics
 import struct
 import subprocess
+import sys
 import tempfile
 import time
 
@@ -68,13 +68,15 @@ def wall_time(command):
 def report(tool):
     """Prints a table of median wall times of interleaved runs, each into a new folder."""
     # On a disk, not in memory, and next to nothing that was deleted a moment ago, which would slow new files.
-    box = pathlib.Path(tempfile.mkdtemp(dir="/var/tmp"))
+    folder = tempfile.TemporaryDirectory(dir="/var/tmp")
+    box = pathlib.Path(folder.name)
     make_inputs(box)
     subprocess.run([tool, "extract", "-q", box / "files.pak", box / "files"], check=True)
     subprocess.run(["sync"], check=True)
     runs = {
-        "396 textures of a WAD2 to Targa, durable": lambda out: [tool, "convert", "-q", box / "textures.wad", out, "--to", "tga"],
-        "the same as PCX files, Pillow in one process": lambda out: ["python3", "-c", PILLOW, box / "pcx", out],
+        "396 textures of a WAD2 to Targa, durable":
+            lambda out: [tool, "convert", "-q", box / "textures.wad", out, "--to", "tga"],
+        "the same as PCX files, Pillow in one process": lambda out: [sys.executable, "-c", PILLOW, box / "pcx", out],
         "the same, mogrify": lambda out: ["mogrify", "-format", "tga", "-path", out, *sorted((box / "pcx").iterdir())],
         "4,000 files extracted, durable": lambda out: [tool, "extract", "-q", box / "files.pak", out],
         "the same files, cp -r and sync": lambda out: ["sh", "-c", 'cp -r "$0" "$1" && sync -f "$1"', box / "files", out],
@@ -92,4 +94,3 @@ def report(tool):
     print("| run | median | fastest |\n|---|---|---|")
     for title, taken in times.items():
         print(f"| {title} | {1000 * statistics.median(taken):,.0f} ms | {1000 * min(taken):,.0f} ms |")
-    shutil.rmtree(box)
