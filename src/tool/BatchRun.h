@@ -14,7 +14,8 @@ struct ToolArguments;
 // One file of a run and where it goes.
 struct BatchFile {
     TreeFile source;
-    std::string target; // full path; empty for a file that is skipped because it is no picture
+    std::string target;        // full path; empty for a file that is skipped because it is no picture
+    TextureFields fields = {}; // of a picture, from the metadata of its folder
 };
 
 // What happens to the files of a run: "convert" and "converted".

@@ -122,6 +122,7 @@ void TakePaths(std::vector<std::string> paths, const ToolCommand& row, ToolArgum
     if (row.hasOutput) {
         arguments.output = std::move(paths.back());
         paths.pop_back();
+        if (arguments.output.empty()) throw UsageError("The name of the output is empty.");
     }
     arguments.inputs = std::move(paths);
 }

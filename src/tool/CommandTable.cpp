@@ -19,6 +19,7 @@ void AddListOptions(CLI::App& command, ToolArguments& arguments) {
 
 void AddSheetOptions(CLI::App& command, ToolArguments& arguments) {
     AddForceOption(command, arguments);
+    AddArchivesOption(command, arguments);
     AddSourcePaletteOption(command, arguments);
 }
 
@@ -26,6 +27,12 @@ void AddConvertOptions(CLI::App& command, ToolArguments& arguments) {
     AddFormatOption(command, arguments);
     AddPaletteOptions(command, arguments);
     AddFieldsOption(command, arguments);
+    AddMetadataOption(command, arguments);
+    AddBatchOptions(command, arguments);
+}
+
+void AddExtractOptions(CLI::App& command, ToolArguments& arguments) {
+    AddMetadataOption(command, arguments);
     AddBatchOptions(command, arguments);
 }
 
@@ -53,25 +60,27 @@ constexpr ToolCommand commands[] = {
      "texels. The first page is OUT.png, the next one OUT-2.png and so on.",
      1, true, AddSheetOptions, MakeSheet},
     {"convert", "IN... OUT", "Convert pictures to another format.",
-     "If IN is a single picture, the extension of OUT selects the format. Otherwise OUT is a folder: every "
-     "picture in the folders and archives is written below it, in the same folders and in the format of "
-     "--to. Archives inside them count as folders. Files that are not pictures are skipped with a note. If a "
-     "picture cannot be read, the command reports a failure and continues with the others. A single picture "
-     "may come from the standard input and go to the standard output, both written as -. The games' formats "
-     "require sides that are multiples of 8 from 8 "
-     "to 256; a note names each picture that was fitted.",
+     "If IN is one picture, the extension of OUT selects the format, or OUT is a folder. If there are "
+     "several, or "
+     "IN is a folder or an archive, every picture is written below the folder OUT, in the same folders and "
+     "in the "
+     "format of --to. A single picture may come from the standard input or go to the standard output; - "
+     "stands for "
+     "them. Files that are not pictures are skipped with a note. If a picture cannot be read, the command "
+     "reports "
+     "a failure and continues with the others. The games' formats require sides that are multiples of 8 from "
+     "8 to "
+     "256; a note names each picture that was fitted.",
      anyNumber, true, AddConvertOptions, Convert},
     {"extract", "PATH... OUTDIR", "Write files from archives to the disk.",
-     "Writes single files of archives, or all their files in their folders, below OUTDIR; a single file goes "
-     "to the standard output if OUTDIR is -. Archives inside a PATH become folders, except maps. For a "
-     "studio model "
-     "(.mdl), on the disk or in an archive, writes each texture as a numbered Targa file: model_1.tga and so "
-     "on. Names that lead out of OUTDIR are refused. If names in an archive differ at most in case, all but "
-     "the "
-     "first are written under numbered names, and notes say so; of files with exactly the same name, only "
-     "the "
-     "first is written.",
-     anyNumber, true, AddBatchOptions, Extract},
+     "Writes one file of an archive, or all its files in their folders, below OUTDIR; if OUTDIR is -, writes "
+     "one file to the standard output. Archives inside an archive or a folder become folders, except maps. "
+     "For a model (.mdl), on the disk or in an archive, writes each texture as a numbered Targa file: "
+     "model_1.tga and so on. Names that lead out of OUTDIR are refused. Names that differ in case only, and "
+     "a "
+     "file and a folder of the same name, get numbers, and a note says so. If several files have the same "
+     "name, only the first is written.",
+     anyNumber, true, AddExtractOptions, Extract},
     {"pack", "FOLDER|LIST... OUT", "Write a PAK or WAD archive.",
      "The extension of OUT, .pak or .wad, selects the kind of archive. A FOLDER, which may be an archive, is "
      "packed with all its folders, in the order of names. A LIST is a text file with a path a line, relative "

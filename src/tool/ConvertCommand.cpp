@@ -2,6 +2,7 @@
 #include "framework/core/Path.h"
 #include "image/picture/Texture.h"
 #include "tool/BatchRun.h"
+#include "tool/FolderMetadata.h"
 #include "tool/OutputPlace.h"
 #include "tool/PaletteLoader.h"
 #include "tool/StandardStreams.h"
@@ -32,7 +33,8 @@ bool IsFolder(const std::string& path) {
 class Conversion {
 public:
     Conversion(Tool& reportingTool, const ToolArguments& toolArguments)
-        : tool(reportingTool), arguments(toolArguments), outputs(reportingTool, toolArguments.force) {}
+        : tool(reportingTool), arguments(toolArguments), outputs(reportingTool, toolArguments.force),
+          stored(reportingTool) {}
 
     void Run() {
         const bool toFolder = GoesToFolder();
@@ -45,12 +47,15 @@ public:
         for (const std::string& input : arguments.inputs) AddInput(input, toFolder, files);
         RunBatch(tool, arguments, {"convert", "converted"}, std::move(files), outputs,
                  [this](CFile& source, const BatchFile& file) { return Convert(source, file); });
+        gathered.Write(outputs);
+        outputs.Finish();
     }
 
 private:
     bool GoesToFolder() {
         const std::string& output = arguments.output;
         if (IsStandardStream(output)) return false;
+        if (output.empty()) return false;
         if (arguments.inputs.size() > 1 || IsSeparator(output.back()) || IsFolder(output)) return true;
         EntryStatus status;
         tool.GetApplication().GetFileSystem().GetStatus(TreePath(arguments.inputs.front()), status);
@@ -84,17 +89,20 @@ private:
         for (TreeFile& file : ListTree(tool, path, nested, outputs)) Add(std::move(file), true, files);
     }
 
-    void Add(TreeFile source, bool toFolder, std::vector<BatchFile>& files) const {
+    void Add(TreeFile source, bool toFolder, std::vector<BatchFile>& files) {
+        if (IsMetadataName(source.name)) return;
         std::string target = toFolder ? FullPath(JoinPath(FullPath(arguments.output),
                                                           WithoutExtension(source.name) + arguments.format))
                                       : FullPath(arguments.output);
         if (!FindPictureFormat(source.name)) target.clear();
-        files.push_back({std::move(source), std::move(target)});
+        TextureFields fields = stored.Find(source.path);
+        files.push_back({std::move(source), std::move(target), std::move(fields)});
     }
 
-    ConvertedFile Convert(CFile& source, const BatchFile& file) const {
-        ConversionOptions options{arguments.palette, arguments.set, WithoutExtension(file.source.name),
-                                  false};
+    ConvertedFile Convert(CFile& source, const BatchFile& file) {
+        if (arguments.metadata) gathered.Add(source, file.source.name, file.target, palettes);
+        const ConversionOptions options{arguments.palette, Merge(arguments.set, file.fields),
+                                        WithoutExtension(file.source.name), false};
         return ConvertPicture(source, file.source.name, file.target, palettes, options);
     }
 
@@ -155,6 +163,8 @@ private:
     const ToolArguments& arguments;
     OutputPlace outputs;
     PaletteSet palettes;
+    StoredMetadata stored;
+    GatheredMetadata gathered;
 };
 
 } // namespace

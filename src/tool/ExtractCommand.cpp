@@ -3,7 +3,9 @@
 #include "framework/core/Text.h"
 #include "resources/BuiltInFiles.h"
 #include "tool/BatchRun.h"
+#include "tool/FolderMetadata.h"
 #include "tool/OutputPlace.h"
+#include "tool/PaletteLoader.h"
 #include "tool/StandardStreams.h"
 #include "tool/Tool.h"
 #include "tool/ToolArguments.h"
@@ -32,10 +34,14 @@ public:
         outputs.KeepInside(folder);
         for (const std::string& input : arguments.inputs) AddInput(input);
         for (const TreeFile& model : models) ExtractTextures(model);
+        if (arguments.metadata) palettes = LoadPalettes({});
         RunBatch(tool, arguments, {"extract", "extracted"}, std::move(files), outputs,
-                 [](CFile& source, const BatchFile&) {
+                 [this](CFile& source, const BatchFile& file) {
+                     if (arguments.metadata) gathered.Add(source, file.source.name, file.target, palettes);
                      return ConvertedFile{ReadAll(source), {}};
                  });
+        gathered.Write(outputs);
+        outputs.Finish();
     }
 
 private:
@@ -100,6 +106,8 @@ private:
     const std::string folder; // full path
     std::vector<TreeFile> models;
     std::vector<BatchFile> files;
+    PaletteSet palettes;
+    GatheredMetadata gathered;
 };
 
 } // namespace

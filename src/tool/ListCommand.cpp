@@ -7,7 +7,6 @@
 #include "tool/ToolCommands.h"
 #include "tool/TreeWalk.h"
 
-#include <filesystem>
 #include <nlohmann/json.hpp>
 #include <ostream>
 
@@ -102,23 +101,14 @@ ordered_json JsonOf(const std::string& path, const std::vector<ListedEntry>& ent
     return {{"path", EscapePath(path)}, {"entries", std::move(list)}};
 }
 
-// Ends the sentence about a path that leads to nothing.
-std::string DescribeAbsence(const std::string& path) {
-    std::error_code failure;
-    const auto kind = std::filesystem::status(ToNativePath(path), failure).type();
-    const bool isUnreadable = kind == std::filesystem::file_type::none;
-    return isUnreadable ? "cannot be read: " + failure.message() + "." : "was not found.";
-}
-
 // Says why a path cannot be listed, unless the archive's reader has said so.
 void ReportNoFolder(Tool& tool, const std::string& path) {
     EntryStatus status;
     tool.GetApplication().GetFileSystem().GetStatus(path, status);
-    const std::string quoted = "\"" + EscapePath(path) + "\" ";
     if (!status.exists)
-        tool.Fail(quoted + DescribeAbsence(path));
+        FailToFind(tool, path);
     else if (!status.browsable)
-        tool.Fail(quoted + "is not an archive or a folder in one.");
+        tool.Fail("\"" + EscapePath(path) + "\" is not an archive or a folder in one.");
 }
 
 } // namespace

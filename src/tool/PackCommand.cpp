@@ -2,6 +2,7 @@
 #include "framework/core/FileFailure.h"
 #include "framework/core/Path.h"
 #include "resources/streams/ArchiveTransfer.h"
+#include "tool/FolderMetadata.h"
 #include "tool/OutputPlace.h"
 #include "tool/PackSources.h"
 #include "tool/PaletteLoader.h"
@@ -89,6 +90,8 @@ private:
         std::vector<PackSource> all;
         for (const std::string& input : arguments.inputs)
             std::ranges::move(GatherPackSources(tool, input, outputs), std::back_inserter(all));
+        StoredMetadata metadata(tool);
+        for (PackSource& source : all) source.fields = metadata.Find(source.path);
         failed = failed || tool.HasFailed();
         return all;
     }

@@ -4,6 +4,7 @@
 #include "framework/core/Path.h"
 #include "framework/core/Text.h"
 #include "tool/OutputPlace.h"
+#include "tool/TextureMetadata.h"
 #include "tool/Tool.h"
 #include "tool/TreeWalk.h"
 
@@ -21,7 +22,7 @@ std::string_view Trim(std::string_view line) {
 std::vector<PackSource> SourcesOfTree(Tool& tool, const std::string& tree, OutputPlace& outputs) {
     std::vector<PackSource> sources;
     for (const TreeFile& file : ListTree(tool, tree, NestedArchives::asFiles, outputs))
-        sources.push_back({file.path, file.name});
+        if (!IsMetadataName(file.name)) sources.push_back({file.path, file.name});
     return sources;
 }
 

@@ -23,9 +23,9 @@ public:
     std::ostream& Output() { return output; }
     // Reports a failure and remembers that there was one.
     void Fail(const std::string& sentence);
+    bool HasFailed() const { return failed; }
     // Reports that the file could not be saved.
     void FailSaving(const std::string& path, const std::exception& failure);
-    bool HasFailed() const { return failed; }
     // Names something that was done otherwise than asked, or left out.
     void Note(const std::string& sentence);
     // The file that is worked on; an empty name clears the line.

@@ -5,6 +5,7 @@
 #include "tool/pictures/PictureFormat.h"
 
 #include <CLI/CLI.hpp>
+#include <charconv>
 
 namespace keltavlo {
 
@@ -42,6 +43,15 @@ void AddPaletteOption(CLI::App& command, PaletteOptions& palette, const std::vec
         palette.file = row == named.end() ? name : std::string();
     };
     command.add_option_function<std::string>("--palette", take, help)->type_name(choices + "FILE");
+}
+
+unsigned ParseJobs(const std::string& text) {
+    constexpr unsigned limit = 1024;
+    unsigned jobs = 0;
+    const auto [stop, failure] = std::from_chars(text.data(), text.data() + text.size(), jobs);
+    if (failure != std::errc() || stop != text.data() + text.size() || jobs > limit)
+        throw UsageError("--jobs requires a number from 0 to " + std::to_string(limit) + ".");
+    return jobs;
 }
 
 std::string FormatChoices() {
@@ -93,8 +103,7 @@ void AddPaletteOptions(CLI::App& command, ToolArguments& arguments) {
     AddFlag(command, "--dither", palette.dither, "Dither colors that the palette lacks.");
     AddFlag(command, "--protect-fullbright", palette.protectFullbright,
             "Keep texels out of the palette indices 224 to 255, which Quake draws at full brightness, unless "
-            "they "
-            "had such an index before.");
+            "they had such an index before.");
 }
 
 void AddFieldsOption(CLI::App& command, ToolArguments& arguments) {
@@ -102,10 +111,8 @@ void AddFieldsOption(CLI::App& command, ToolArguments& arguments) {
         .add_option_function<std::string>(
             "--set", [&arguments](const std::string& text) { arguments.set = ParseTextureFields(text); },
             "What WAL textures store beside the texels, for example "
-            "surface=0x80,contents=1,value=300,next=wall2. "
-            "The flags surface and contents and the number value are decimal or hexadecimal; next is the "
-            "next "
-            "frame of an animation.")
+            "surface=0x80,contents=1,value=300,next=wall2. Numbers are decimal or hexadecimal; next is the "
+            "next frame of an animation.")
         ->type_name("FIELDS");
 }
 
@@ -116,14 +123,20 @@ void AddForceOption(CLI::App& command, ToolArguments& arguments) {
 
 void AddBatchOptions(CLI::App& command, ToolArguments& arguments) {
     command
-        .add_option("-j,--jobs", arguments.jobs,
-                    "The number of files to work on at a time; 0, the default, for one on each core.")
-        ->type_name("a number of threads")
-        ->check(CLI::Range(0, 1024));
+        .add_option_function<std::string>(
+            "-j,--jobs", [&arguments](const std::string& text) { arguments.jobs = ParseJobs(text); },
+            "The number of files to work on at a time; 0, the default, for one on each core.")
+        ->type_name("N");
     AddFlag(command, "-q,--quiet", arguments.quiet, "Report failures only.");
     AddFlag(command, "-v,--verbose", arguments.verbose, "Name every file that is written.");
     AddArchivesOption(command, arguments);
     AddForceOption(command, arguments);
+}
+
+void AddMetadataOption(CLI::App& command, ToolArguments& arguments) {
+    AddFlag(command, "--metadata", arguments.metadata,
+            "Write what WAL and MIP textures store beside the texels to a file textures.json in each folder. "
+            "convert and pack read it.");
 }
 
 void AddPackOptions(CLI::App& command, ToolArguments& arguments) {

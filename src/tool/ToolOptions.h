@@ -21,6 +21,7 @@ void AddSourcePaletteOption(CLI::App& command, ToolArguments& arguments);
 void AddPaletteOptions(CLI::App& command, ToolArguments& arguments);
 void AddFieldsOption(CLI::App& command, ToolArguments& arguments);
 void AddForceOption(CLI::App& command, ToolArguments& arguments);
+void AddMetadataOption(CLI::App& command, ToolArguments& arguments);
 void AddPackOptions(CLI::App& command, ToolArguments& arguments);
 // Those of commands that write many files: how many threads, what to enter and overwrite, what to report.
 void AddBatchOptions(CLI::App& command, ToolArguments& arguments);

@@ -88,6 +88,7 @@ bool LumpEncoder::IsReadyLump(std::span<const std::byte> file, const PlannedEntr
 ConversionOptions LumpEncoder::OptionsFor(const PlannedEntry& entry) const {
     ConversionOptions options;
     options.palette = palette;
+    options.fields = entry.source.fields;
     options.embedPalette = kind == ArchiveKind::wad3;
     if (IsWAD(kind)) options.fields.name = entry.name;
     options.textureName = entry.name.substr(0, entry.name.size() - (IsWAD(kind) ? 0 : entry.format.size()));

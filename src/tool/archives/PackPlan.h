@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tool/archives/ArchiveKind.h"
+#include "tool/pictures/TextureFields.h"
 
 #include <string>
 #include <unordered_map>
@@ -11,7 +12,8 @@ namespace keltavlo {
 // A file that is to be packed.
 struct PackSource {
     std::string path;
-    std::string name; // its path below the packed folder, with "/"
+    std::string name;          // its path below the packed folder, with "/"
+    TextureFields fields = {}; // of a picture, from the metadata of its folder
 };
 
 // The entry that a file becomes.

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "tool/pictures/TextureFields.h"
+
+#include <map>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace keltavlo {
+
+class Texture;
+
+// The file "textures.json" of a folder: what the games store beside the pixels of its textures, for formats
+// that store only pixels.
+class TextureMetadata {
+public:
+    static constexpr const char* fileName = "textures.json";
+
+    // Throws CException, with a sentence, for bytes that are no such file.
+    static TextureMetadata Parse(std::span<const std::byte> bytes);
+    std::vector<std::byte> Write() const;
+
+    void Set(const std::string& name, TextureFields fields) { textures[name] = std::move(fields); }
+    // The fields of a file name, else of the first name that differs in its extension only; null for others.
+    const TextureFields* Find(const std::string& name) const;
+    bool IsEmpty() const { return textures.empty(); }
+
+private:
+    std::map<std::string, TextureFields> textures; // by file name
+};
+
+// Whether a file has the name of metadata, which commands read and do not convert or pack.
+bool IsMetadataName(const std::string& path);
+
+// Whether the format of a file name stores fields beside the pixels.
+bool HasFields(const std::string& name);
+// What a texture of such a format carries: all fields of a WAL file, the name of a MIP file.
+TextureFields FieldsOf(const Texture& texture, const std::string& name);
+
+// The fields of `set`, and those of `stored` that it leaves open.
+TextureFields Merge(const TextureFields& set, const TextureFields& stored);
+
+} // namespace keltavlo
