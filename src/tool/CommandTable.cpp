@@ -37,10 +37,10 @@ void AddExtractOptions(CLI::App& command, ToolArguments& arguments) {
 }
 
 void AddPackingOptions(CLI::App& command, ToolArguments& arguments) {
-    AddFormatOption(command, arguments);
-    AddForceOption(command, arguments);
     AddPackOptions(command, arguments);
+    AddFormatOption(command, arguments);
     AddPaletteOptions(command, arguments);
+    AddRunOptions(command, arguments);
 }
 
 constexpr ToolCommand commands[] = {

@@ -1,7 +1,7 @@
 #include "formats/TextureBytes.h"
 #include "framework/core/Path.h"
 #include "framework/core/Text.h"
-#include "preview3d/MDLDocument.h"
+#include "resources/BuiltInFiles.h"
 #include "tool/BatchRun.h"
 #include "tool/FolderMetadata.h"
 #include "tool/OutputPlace.h"
@@ -10,6 +10,7 @@
 #include "tool/Tool.h"
 #include "tool/ToolArguments.h"
 #include "tool/ToolCommands.h"
+#include "tool/archives/ModelSkins.h"
 
 namespace keltavlo {
 
@@ -68,22 +69,30 @@ private:
         files.push_back({std::move(source), std::move(target)});
     }
 
-    // Writes each texture that the model carries, numbered from 1: the file does not say which names are
-    // theirs to keep.
+    // Writes each texture in the model, numbered: the file does not say which names are theirs to keep.
     void ExtractTextures(const std::string& path) {
-        auto* model = dynamic_cast<MDLDocument*>(tool.GetApplication().OpenDocumentFile(path));
-        if (!model) return; // the application has said why
         const std::string stem = folder + "/" + std::string(BaseNameOf(path)) + "_";
-        int number = 0;
-        for (const Image& texture : model->GetTextures()) {
-            const std::string target = stem + std::to_string(++number) + ".tga";
-            if (texture.Pixels().empty())
+        const std::vector<ModelSkin> skins = ReadSkins(path);
+        for (const auto& [number, picture] : skins) {
+            const std::string target = stem + number + ".tga";
+            if (picture.Pixels().empty())
                 tool.Note("Skipped \"" + ToDisplayPath(target) + "\": it would have no pixels.");
             else
-                outputs.Write(target, ToTarga(texture));
+                outputs.Write(target, ToTarga(picture));
         }
-        if (number == 0) tool.Note("\"" + ToDisplayPath(path) + "\" contains no textures.");
-        model->OnCloseDocument();
+    }
+
+    // None, after reporting why, if the model cannot be read.
+    std::vector<ModelSkin> ReadSkins(const std::string& path) {
+        std::vector<ModelSkin> skins;
+        try {
+            ReadThroughArchive(*OpenSource(FindFile(tool, path)),
+                               [&](InputStream& in) { skins = ReadModelSkins(in, GetQuakePalette()); });
+            if (skins.empty()) tool.Note("\"" + ToDisplayPath(path) + "\" contains no textures.");
+        } catch (const CException& failure) {
+            tool.Fail(DescribeFailure(Direction::opening, path, failure));
+        }
+        return skins;
     }
 
     void WriteToStream() {

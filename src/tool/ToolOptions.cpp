@@ -116,7 +116,7 @@ void AddFieldsOption(CLI::App& command, ToolArguments& arguments) {
         ->type_name("FIELDS");
 }
 
-void AddBatchOptions(CLI::App& command, ToolArguments& arguments) {
+void AddRunOptions(CLI::App& command, ToolArguments& arguments) {
     command
         .add_option_function<std::string>(
             "-j,--jobs", [&arguments](const std::string& text) { arguments.jobs = ParseJobs(text); },
@@ -124,8 +124,12 @@ void AddBatchOptions(CLI::App& command, ToolArguments& arguments) {
         ->type_name("N");
     AddFlag(command, "-q,--quiet", arguments.quiet, "Report failures only.");
     AddFlag(command, "-v,--verbose", arguments.verbose, "Name every file that is written.");
-    AddArchivesOption(command, arguments);
     AddForceOption(command, arguments);
+}
+
+void AddBatchOptions(CLI::App& command, ToolArguments& arguments) {
+    AddRunOptions(command, arguments);
+    AddArchivesOption(command, arguments);
 }
 
 void AddForceOption(CLI::App& command, ToolArguments& arguments) {

@@ -23,7 +23,9 @@ void AddFieldsOption(CLI::App& command, ToolArguments& arguments);
 void AddForceOption(CLI::App& command, ToolArguments& arguments);
 void AddMetadataOption(CLI::App& command, ToolArguments& arguments);
 void AddPackOptions(CLI::App& command, ToolArguments& arguments);
-// Those of commands that write many files: how many threads, what to overwrite, what to tell.
+// Those of commands that read many files: how many threads, what to overwrite, what to tell.
+void AddRunOptions(CLI::App& command, ToolArguments& arguments);
+// The same, and whether archives are entered.
 void AddBatchOptions(CLI::App& command, ToolArguments& arguments);
 
 } // namespace keltavlo

@@ -9,6 +9,7 @@
 #include "tool/NewNames.h"
 #include "tool/OutputPlace.h"
 #include "tool/Tool.h"
+#include "tool/archives/LumpName.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -36,10 +37,13 @@ std::vector<std::string> NamesOnDisk(const std::string& folder) {
     return names;
 }
 
-std::vector<std::string> NamesIn(const FolderEntry& folder) {
+// The names of the entries for files on the disk.
+std::vector<std::string> NamesIn(const ArchiveFolder& place) {
+    const bool areLumps = place.archive->HasLumps();
     std::vector<std::string> names;
-    names.reserve(folder.GetChildren().size());
-    for (const auto& child : folder.GetChildren()) names.push_back(child->GetName());
+    names.reserve(place.folder->GetChildren().size());
+    for (const auto& child : place.folder->GetChildren())
+        names.push_back(areLumps ? FileNameOfLump(child->GetName()) : child->GetName());
     return names;
 }
 
@@ -92,7 +96,7 @@ private:
     }
 
     void WalkArchive(const ArchiveFolder& place, const std::string& path, const std::string& prefix) {
-        const std::vector<std::string> names = NamesIn(*place.folder);
+        const std::vector<std::string> names = NamesIn(place);
         std::set<std::string> files;
         NewNames newNames(names);
         for (std::size_t i = 0; i < names.size(); ++i) {
@@ -170,7 +174,9 @@ std::vector<TreeFile> ListTree(Tool& tool, const std::string& tree, NestedArchiv
 
 TreeFile FindFile(Tool& tool, const std::string& path) {
     FolderDocument* const archive = tool.GetApplication().GetFileSystem().FindArchive(path);
-    return {path, std::string(FileNameOf(path)), archive, archive ? archive->FindEntry(path) : nullptr};
+    const std::string name(FileNameOf(path));
+    return {path, archive && archive->HasLumps() ? FileNameOfLump(name) : name, archive,
+            archive ? archive->FindEntry(path) : nullptr};
 }
 
 std::unique_ptr<CFile> OpenSource(const TreeFile& source) {
