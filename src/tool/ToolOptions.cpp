@@ -80,11 +80,10 @@ void AddArchivesOption(CLI::App& command, ToolArguments& arguments) {
         ->disable_flag_override();
 }
 
-void AddFormatOption(CLI::App& command, ToolArguments& arguments) {
+void AddFormatOption(CLI::App& command, ToolArguments& arguments, const char* help) {
     command
         .add_option_function<std::string>(
-            "--to", [&arguments](const std::string& format) { arguments.format = "." + format; },
-            "The format of the outputs. A folder or an archive requires it.")
+            "--to", [&arguments](const std::string& format) { arguments.format = "." + format; }, help)
         ->type_name(FormatChoices());
 }
 

@@ -14,7 +14,7 @@ struct ToolArguments;
 void AddJsonOption(CLI::App& command, ToolArguments& arguments);
 void AddRecursiveOption(CLI::App& command, ToolArguments& arguments);
 void AddArchivesOption(CLI::App& command, ToolArguments& arguments);
-void AddFormatOption(CLI::App& command, ToolArguments& arguments);
+void AddFormatOption(CLI::App& command, ToolArguments& arguments, const char* help);
 // The palette of pictures that are only read.
 void AddSourcePaletteOption(CLI::App& command, ToolArguments& arguments);
 // How pictures are brought to a palette.
