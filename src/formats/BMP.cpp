@@ -36,7 +36,8 @@ void ReadIndexRows(InputStream& in, const DibDescription& bitmap, Texture& textu
         std::ranges::copy(rows.Next().first(width), indices.begin() + first);
     }
     ExpandIndices(indices, texture.palette->Colors(), texture.Pixels());
-    texture.indices->assign(1, std::move(indices));
+    texture.indices->clear();
+    texture.indices->push_back(std::move(indices));
 }
 
 } // namespace

@@ -53,6 +53,14 @@ bool HaveSameColors(const ColorList& left, const ColorList& right) {
                               [](Color a, Color b) { return ((a ^ b) & ~alphaMask) == 0; });
 }
 
+// As files of the games carry palettes: full and opaque.
+ColorList FullPalette(const ColorList& palette) {
+    std::vector<Color> colors(palette.Colors().begin(), palette.Colors().end());
+    colors.resize(fullCount);
+    for (Color& color : colors) color |= alphaMask;
+    return ColorList(std::move(colors));
+}
+
 // Of opaque colors: the alpha of a texel only decides whether it is cut out.
 ColorList OwnOpaquePalette(const Image& picture, const IndexingRules& rules) {
     std::vector<Color> pixels;
@@ -60,7 +68,7 @@ ColorList OwnOpaquePalette(const Image& picture, const IndexingRules& rules) {
         if (!rules.isCutout || Alpha(pixel) >= cutoutAlpha) pixels.push_back(pixel | alphaMask);
     ColorList palette = MakeOwnPalette(pixels, rules.UsableColors(fullCount));
     if (!rules.isCutout) return palette;
-    palette.SetCount(fullCount);
+    palette = FullPalette(palette);
     palette.SetColor(cutoutIndex, cutoutColor);
     return palette;
 }
@@ -118,8 +126,7 @@ std::optional<OutputPalette> ChoosePalette(const SourcePicture& picture, const P
     std::optional<OutputPalette> palette = PlainPalette(picture, to, palettes, source, rules);
     if (!palette) return palette;
     ColorList& colors = palette->colors;
-    // Files of the games carry full palettes only.
-    if (to.IsAlwaysPaletted() || rules.isCutout) colors.SetCount(fullCount);
+    if (to.IsAlwaysPaletted() || rules.isCutout) colors = FullPalette(colors);
     if (rules.isCutout) colors.SetColor(cutoutIndex, std::as_const(colors)[cutoutIndex] & ~alphaMask);
     return palette;
 }
