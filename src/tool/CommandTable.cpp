@@ -24,7 +24,7 @@ void AddSheetOptions(CLI::App& command, ToolArguments& arguments) {
 }
 
 void AddConvertOptions(CLI::App& command, ToolArguments& arguments) {
-    AddFormatOption(command, arguments);
+    AddFormatOption(command, arguments, "The format of the outputs. A folder or an archive requires it.");
     AddPaletteOptions(command, arguments);
     AddFieldsOption(command, arguments);
     AddMetadataOption(command, arguments);
@@ -37,10 +37,10 @@ void AddExtractOptions(CLI::App& command, ToolArguments& arguments) {
 }
 
 void AddPackingOptions(CLI::App& command, ToolArguments& arguments) {
-    AddFormatOption(command, arguments);
-    AddForceOption(command, arguments);
     AddPackOptions(command, arguments);
+    AddFormatOption(command, arguments, "The format that pictures in a PAK are converted to.");
     AddPaletteOptions(command, arguments);
+    AddRunOptions(command, arguments);
 }
 
 constexpr ToolCommand commands[] = {
@@ -83,12 +83,13 @@ constexpr ToolCommand commands[] = {
      anyNumber, true, AddExtractOptions, Extract},
     {"pack", "FOLDER|LIST... OUT", "Write a PAK or WAD archive.",
      "The extension of OUT, .pak or .wad, selects the kind of archive. A FOLDER, which may be an archive, is "
-     "packed with all its folders, in the order of names. A LIST is a text file with a path a line, relative "
-     "to the folder of the list; lines that begin with # are left out. In a pack, files go in as they are; "
-     "--to converts the pictures among them. In a WAD, each picture becomes a texture, and each .lmp file a "
-     "palette. Their names are those of the files, without folders, where _xHH means the character of the "
-     "hexadecimal code HH; extract writes such names. If anything does not fit, the command reports all of "
-     "it and writes nothing.",
+     "packed with all its folders, in the order of names. A LIST is a text file with a path on each line, "
+     "relative to the folder of the list; lines that begin with # are left out. In a pack, files go in as "
+     "they are; --to converts the pictures among them. In a WAD, each picture becomes a texture, and each "
+     ".lmp file a palette. Textures in a WAD2 have Quake's palette unless --palette names another one; those "
+     "in a WAD3 each have their own. The names of textures are those of the files, without folders, where "
+     "_xHH means the character of the hexadecimal code HH; extract writes such names. If anything does not "
+     "fit, the command reports all of it and writes nothing.",
      anyNumber, true, AddPackingOptions, Pack},
 };
 

@@ -1,19 +1,23 @@
-#include "formats/Codec.h"
-#include "framework/core/FileFailure.h"
+#include "framework/core/DiskFile.h"
 #include "framework/core/Path.h"
 #include "resources/streams/ArchiveTransfer.h"
 #include "tool/FolderMetadata.h"
 #include "tool/OutputPlace.h"
 #include "tool/PackSources.h"
 #include "tool/PaletteLoader.h"
+#include "tool/RunReport.h"
 #include "tool/Tool.h"
 #include "tool/ToolArguments.h"
 #include "tool/ToolCommands.h"
+#include "tool/TreeWalk.h"
 #include "tool/archives/ArchiveContents.h"
 #include "tool/archives/LumpEncoder.h"
+#include "tool/output/Interruption.h"
+#include "tool/output/OrderedWork.h"
 #include "tool/pictures/PictureFormat.h"
 
 #include <algorithm>
+#include <mutex>
 
 namespace keltavlo {
 
@@ -33,10 +37,12 @@ ArchiveKind KindOf(const ToolArguments& arguments) {
     return ArchiveKind::pak;
 }
 
-std::unique_ptr<CFile> OpenSource(const std::string& path) {
-    return FileOrThrow(
-        [&](CFileException* failure) { return FileSource::Get().OpenFile(path, CFile::modeRead, failure); });
-}
+// What a thread made of a file.
+struct MadeItem {
+    ArchiveItem item;
+    std::vector<std::string> notes;
+    std::string failure; // a sentence; empty if there is none
+};
 
 // One run of the command. Everything that can go wrong is found, and reported, before the archive is written.
 class PackRun {
@@ -54,8 +60,11 @@ public:
         else
             Add();
         if (failed) return tool.Fail("\"" + ToDisplayPath(target) + "\" was not written.");
-        outputs.Write(target, WriteThroughArchive([&](OutputStream& out) { WriteArchive(out, contents); }));
-        outputs.Finish();
+        const bool isWritten = outputs.Write(
+            target, WriteThroughArchive([&](OutputStream& out) { WriteArchive(out, contents); }));
+        if (isWritten && outputs.Finish() && !arguments.quiet)
+            tool.Note("\"" + ToDisplayPath(target) + "\" was written with " +
+                      std::to_string(contents.items.size()) + " entries.");
     }
 
 private:
@@ -65,7 +74,7 @@ private:
     bool ReadTarget() {
         const ArchiveKind kind = contents.kind;
         try {
-            contents = ReadArchive(OpenSource(target));
+            contents = ReadArchive(std::make_unique<DiskFile>(target, CFile::modeRead));
         } catch (const CException& failure) {
             tool.Fail(DescribeFailure(Direction::opening, target, failure));
             return false;
@@ -127,28 +136,53 @@ private:
     std::vector<ArchiveItem> MakeItems(const std::vector<PlannedEntry>& entries) {
         const PaletteSet palettes = LoadPalettes(arguments.palette);
         const LumpEncoder encoder(contents.kind, palettes, arguments.palette);
+        const unsigned threadCount = ThreadCount(arguments.jobs);
+        RunReport report(tool, arguments, "packed", entries.size());
         std::vector<ArchiveItem> items;
-        for (const PlannedEntry& entry : entries) {
-            tool.ShowProgress(entry.source.name);
-            try {
-                items.push_back(MakeItem(entry, encoder));
-            } catch (const CException& failure) {
-                Fail("\"" + entry.source.name + "\" does not fit: " + failure.what());
-            }
-        }
+        OrderedWork<MadeItem> work(entries.size(), std::size_t{4} * threadCount,
+                                   [&](std::size_t i) { return Make(entries[i], encoder); });
+        work.Run(threadCount, [&](std::size_t i, MadeItem made) {
+            report.ShowProgress(entries[i].source.name);
+            Take(entries[i], made, report);
+            items.push_back(std::move(made.item));
+            return Interruption::GetSignal() == 0;
+        });
+        tool.ShowProgress({});
+        if (const int signal = Interruption::GetSignal()) throw InterruptedError(signal);
         return items;
     }
 
-    // Pictures are made at once, to see whether they fit; other files are only opened.
-    ArchiveItem MakeItem(const PlannedEntry& entry, const LumpEncoder& encoder) {
-        const std::unique_ptr<CFile> file = OpenSource(entry.source.path);
-        if (entry.format.empty())
-            return {entry.name, entry.type,
-                    [path = entry.source.path] { return ReadAll(*OpenSource(path)); }};
-        std::vector<std::byte> bytes = ReadAll(*file);
-        ConvertedFile lump = encoder.Encode(bytes, entry);
-        for (const std::string& note : lump.notes) tool.Note("\"" + entry.source.name + "\" " + note);
-        return {entry.name, entry.type, [made = std::move(lump.bytes)]() mutable { return std::move(made); }};
+    // Runs in any thread. Pictures are encoded at once, to see whether they fit; other files are only opened.
+    MadeItem Make(const PlannedEntry& entry, const LumpEncoder& encoder) {
+        MadeItem made{{entry.name, entry.type, {}}, {}, {}};
+        try {
+            const std::unique_ptr<CFile> file = Open(entry.source);
+            if (entry.format.empty()) {
+                made.item.read = [this, source = entry.source] { return ReadAll(*Open(source)); };
+            } else {
+                std::vector<std::byte> bytes = ReadAll(*file);
+                ConvertedFile lump = encoder.Encode(bytes, entry);
+                made.notes = std::move(lump.notes);
+                made.item.read = [encoded = std::move(lump.bytes)]() mutable { return std::move(encoded); };
+            }
+        } catch (const std::exception& failure) {
+            made.failure = "\"" + entry.source.name + "\" does not fit: " + SentenceOf(failure);
+        }
+        return made;
+    }
+
+    std::unique_ptr<CFile> Open(const PackSource& source) {
+        std::unique_lock lock(archives, std::defer_lock);
+        if (source.entry) lock.lock();
+        return OpenSource({source.path, source.name, source.archive, source.entry});
+    }
+
+    // Runs in the calling thread, in the order of the entries.
+    void Take(const PlannedEntry& entry, const MadeItem& made, RunReport& report) {
+        for (const std::string& note : made.notes) report.Note("\"" + entry.source.name + "\" " + note);
+        if (made.failure.empty()) return report.AddDone(entry.source.path, entry.name);
+        Fail(made.failure);
+        report.AddFailed();
     }
 
     Tool& tool;
@@ -157,6 +191,7 @@ private:
     ArchiveContents contents;
     OutputPlace outputs;
     bool failed = false;
+    std::mutex archives; // of all open archives, which threads read one after the other
 };
 
 } // namespace
@@ -164,6 +199,7 @@ private:
 void Pack(Tool& tool, const ToolArguments& arguments) {
     if (arguments.remove && (arguments.append || arguments.replace))
         throw UsageError("--delete cannot be combined with --append or --replace.");
+    const Interruption interruption;
     PackRun(tool, arguments).Run();
 }
 

@@ -22,7 +22,7 @@ std::string_view Trim(std::string_view line) {
 std::vector<PackSource> SourcesOfTree(Tool& tool, const std::string& tree, OutputPlace& outputs) {
     std::vector<PackSource> sources;
     for (const TreeFile& file : ListTree(tool, tree, NestedArchives::asFiles, outputs))
-        if (!IsMetadataName(file.name)) sources.push_back({file.path, file.name});
+        if (!IsMetadataName(file.name)) sources.push_back({file.path, file.name, file.archive, file.entry});
     return sources;
 }
 
@@ -38,7 +38,8 @@ std::vector<PackSource> SourcesOfList(Tool& tool, const std::string& list, Outpu
             continue;
         }
         outputs.AddInput(path);
-        sources.push_back({path, name.starts_with("./") ? name.substr(2) : name});
+        const TreeFile file = FindFile(tool, path);
+        sources.push_back({path, name.starts_with("./") ? name.substr(2) : name, file.archive, file.entry});
     }
     return sources;
 }

@@ -80,11 +80,10 @@ void AddArchivesOption(CLI::App& command, ToolArguments& arguments) {
         ->disable_flag_override();
 }
 
-void AddFormatOption(CLI::App& command, ToolArguments& arguments) {
+void AddFormatOption(CLI::App& command, ToolArguments& arguments, const char* help) {
     command
         .add_option_function<std::string>(
-            "--to", [&arguments](const std::string& format) { arguments.format = "." + format; },
-            "The format of the outputs. A folder or an archive requires it.")
+            "--to", [&arguments](const std::string& format) { arguments.format = "." + format; }, help)
         ->type_name(FormatChoices());
 }
 
@@ -121,7 +120,7 @@ void AddForceOption(CLI::App& command, ToolArguments& arguments) {
             "Overwrite existing files, but never one that the same run reads or has written.");
 }
 
-void AddBatchOptions(CLI::App& command, ToolArguments& arguments) {
+void AddRunOptions(CLI::App& command, ToolArguments& arguments) {
     command
         .add_option_function<std::string>(
             "-j,--jobs", [&arguments](const std::string& text) { arguments.jobs = ParseJobs(text); },
@@ -129,8 +128,12 @@ void AddBatchOptions(CLI::App& command, ToolArguments& arguments) {
         ->type_name("NUMBER");
     AddFlag(command, "-q,--quiet", arguments.quiet, "Report failures only.");
     AddFlag(command, "-v,--verbose", arguments.verbose, "Name every file that is written.");
-    AddArchivesOption(command, arguments);
     AddForceOption(command, arguments);
+}
+
+void AddBatchOptions(CLI::App& command, ToolArguments& arguments) {
+    AddRunOptions(command, arguments);
+    AddArchivesOption(command, arguments);
 }
 
 void AddMetadataOption(CLI::App& command, ToolArguments& arguments) {

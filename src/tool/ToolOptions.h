@@ -14,7 +14,7 @@ struct ToolArguments;
 void AddJsonOption(CLI::App& command, ToolArguments& arguments);
 void AddRecursiveOption(CLI::App& command, ToolArguments& arguments);
 void AddArchivesOption(CLI::App& command, ToolArguments& arguments);
-void AddFormatOption(CLI::App& command, ToolArguments& arguments);
+void AddFormatOption(CLI::App& command, ToolArguments& arguments, const char* help);
 // The palette of pictures that are only read.
 void AddSourcePaletteOption(CLI::App& command, ToolArguments& arguments);
 // How pictures are brought to a palette.
@@ -23,7 +23,9 @@ void AddFieldsOption(CLI::App& command, ToolArguments& arguments);
 void AddForceOption(CLI::App& command, ToolArguments& arguments);
 void AddMetadataOption(CLI::App& command, ToolArguments& arguments);
 void AddPackOptions(CLI::App& command, ToolArguments& arguments);
-// Those of commands that write many files: how many threads, what to enter and overwrite, what to report.
+// Those of commands that read many files: how many threads, what to overwrite, what to tell.
+void AddRunOptions(CLI::App& command, ToolArguments& arguments);
+// The same, and whether archives are entered.
 void AddBatchOptions(CLI::App& command, ToolArguments& arguments);
 
 } // namespace keltavlo

@@ -35,11 +35,12 @@ enum class NestedArchives { asFiles, enteredWithoutMaps, entered };
 // Every file below a folder of the disk or of an archive; each becomes an input of `outputs`. Skips, and
 // reports, a name that would lead out of the tree, a second file of exactly the same name in an archive, a
 // link that leads back to a folder above it, and a folder or archive that cannot be read. Of names in an
-// archive that are equal without regard to case, all but the first get other names, which notes tell.
+// archive that are equal without regard to case, all but the first get other names, which notes tell. Lumps
+// have the names of their files (LumpName.h).
 std::vector<TreeFile> ListTree(Tool& tool, const std::string& tree, NestedArchives nested,
                                OutputPlace& outputs);
 
-// The file of a path that is no tree. Its name is that of the path.
+// The file of a path that is no tree. Its name is that of the path, or of a lump's file.
 TreeFile FindFile(Tool& tool, const std::string& path);
 
 // Opens the file for reading; CException if that fails. Files of archives must be opened one after the other;

@@ -188,7 +188,7 @@ def edit():
     run("pack", "one", "e.pak")
     for option in "--append", "--replace":
         before = (HERE / "e.pak").read_bytes()
-        assert len(run("pack", option, "two", "e.pak", code=1).splitlines()) == 2
+        assert len(run("pack", option, "two", "e.pak", code=1).splitlines()) == 2  # a reason and the result
         assert (HERE / "e.pak").read_bytes() == before
     run("pack", "--append", "--replace", "two", "e.pak")
     assert read_pak(HERE / "e.pak") == {"a/B.TXT": b"second", "c": b"last", "new": b"new"}
@@ -207,6 +207,21 @@ def edit():
     assert not (HERE / "m.pak").exists()
 
 
+def skins():
+    """Extracts the skins of a Quake model, a single one and a group, from a pack."""
+    pixels = [bytes(range(first, first + 32)) for first in (0, 50, 100)]
+    model = b"IDPO" + struct.pack("<i40x3i24x", 6, 2, 8, 4)
+    model += struct.pack("<i", 0) + pixels[0] + struct.pack("<iiff", 1, 2, 0.5, 1) + pixels[1] + pixels[2]
+    (HERE / "progs").mkdir()
+    (HERE / "progs/soldier.mdl").write_bytes(model)
+    run("pack", "progs", "progs.pak")
+    run("extract", "progs.pak/soldier.mdl", "skins")
+    quake = palette_of("quake.txt")
+    for number, indices in zip(("1", "2_1", "2_2"), pixels):
+        picture = Image.open(HERE / f"skins/soldier_{number}.tga").convert("RGB")
+        assert picture.size == (8, 4) and list(picture.getdata()) == [quake[i] for i in indices]
+
+
 def guide():
     """Runs the Makefile of the guide."""
     guide = (ROOT / "docs/pipeline.md").read_text()
@@ -219,5 +234,6 @@ def guide():
 
 
 edit()
+skins()
 main()
 guide()

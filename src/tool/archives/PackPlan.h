@@ -9,11 +9,16 @@
 
 namespace keltavlo {
 
+class Entry;
+class FolderDocument;
+
 // A file that is to be packed.
 struct PackSource {
     std::string path;
-    std::string name;          // its path below the packed folder, with "/"
-    TextureFields fields = {}; // of a picture, from the metadata of its folder
+    std::string name;                  // its path below the packed folder, with "/"
+    FolderDocument* archive = nullptr; // of a file in an archive
+    Entry* entry = nullptr;            // in the archive
+    TextureFields fields = {};         // of a picture, from the metadata of its folder
 };
 
 // The entry that a file becomes.
