@@ -7,10 +7,13 @@
 #include "resources/PaletteDocument.h"
 #include "tool/EntryTypes.h"
 #include "tool/FileFacts.h"
+#include "tool/PaletteLoader.h"
 #include "tool/Tool.h"
 #include "tool/ToolArguments.h"
 #include "tool/ToolCommands.h"
 #include "tool/TreeWalk.h"
+#include "tool/pictures/PictureConversion.h"
+#include "tool/pictures/PictureFormat.h"
 
 #include <nlohmann/json.hpp>
 #include <ostream>
@@ -69,17 +72,35 @@ void AddDocument(FileFacts& facts, const CDocument& document) {
     if (const auto* model = dynamic_cast<const MDLDocument*>(&document)) AddModel(facts, *model);
 }
 
-// False after a failure, which the application reports.
+// Whether only the tool reads the picture format: the application has no document type for it.
+bool IsToolPicture(const std::string& path) {
+    const PictureFormat* format = FindPictureFormat(path);
+    return format && format->codec.documentClass.empty();
+}
+
+// False after a failure, which is reported.
+bool AddContents(Tool& tool, const std::string& path, FileFacts& facts) {
+    if (!IsToolPicture(path)) {
+        const CDocument* document = tool.GetApplication().OpenDocumentFile(path);
+        if (document) AddDocument(facts, *document);
+        return document != nullptr;
+    }
+    try {
+        AddTexture(facts, ReadPicture(*OpenSource(FindFile(tool, path)), path, LoadPalettes({}), {}));
+        return true;
+    } catch (const CException& failure) {
+        tool.Fail(DescribeFailure(Direction::opening, path, failure));
+        return false;
+    }
+}
+
 bool Describe(Tool& tool, const std::string& path, FileFacts& facts) {
-    const CDocument* document = tool.GetApplication().OpenDocumentFile(path);
-    if (!document) return false;
     EntryStatus status;
     tool.GetApplication().GetFileSystem().GetStatus(path, status);
     facts.AddPath(path);
     facts.Add("format", "format", EntryTypes().Find(path).name);
     facts.Add("bytes", "bytes", status.size);
-    AddDocument(facts, *document);
-    return true;
+    return AddContents(tool, path, facts);
 }
 
 } // namespace
