@@ -1,16 +1,15 @@
 #include "formats/TextureBytes.h"
 #include "framework/core/Path.h"
 #include "framework/core/Text.h"
-#include "resources/BuiltInFiles.h"
 #include "tool/BatchRun.h"
 #include "tool/FolderMetadata.h"
+#include "tool/ModelFile.h"
 #include "tool/OutputPlace.h"
 #include "tool/PaletteLoader.h"
 #include "tool/StandardStreams.h"
 #include "tool/Tool.h"
 #include "tool/ToolArguments.h"
 #include "tool/ToolCommands.h"
-#include "tool/archives/ModelSkins.h"
 
 namespace keltavlo {
 
@@ -72,27 +71,16 @@ private:
     // Writes each texture in the model, numbered: the file does not say which names are theirs to keep.
     void ExtractTextures(const std::string& path) {
         const std::string stem = folder + "/" + std::string(BaseNameOf(path)) + "_";
-        const std::vector<ModelSkin> skins = ReadSkins(path);
-        for (const auto& [number, picture] : skins) {
+        const std::optional<std::vector<ModelSkin>> skins = ReadModelFile(tool, path);
+        if (!skins) return;
+        if (skins->empty()) tool.Note("\"" + ToDisplayPath(path) + "\" contains no textures.");
+        for (const auto& [number, picture] : *skins) {
             const std::string target = stem + number + ".tga";
             if (picture.Pixels().empty())
                 tool.Note("Skipped \"" + ToDisplayPath(target) + "\": it would have no pixels.");
             else
                 outputs.Write(target, ToTarga(picture));
         }
-    }
-
-    // None, after reporting why, if the model cannot be read.
-    std::vector<ModelSkin> ReadSkins(const std::string& path) {
-        std::vector<ModelSkin> skins;
-        try {
-            ReadThroughArchive(*OpenSource(FindFile(tool, path)),
-                               [&](InputStream& in) { skins = ReadModelSkins(in, GetQuakePalette()); });
-            if (skins.empty()) tool.Note("\"" + ToDisplayPath(path) + "\" contains no textures.");
-        } catch (const CException& failure) {
-            tool.Fail(DescribeFailure(Direction::opening, path, failure));
-        }
-        return skins;
     }
 
     void WriteToStream() {

@@ -3,10 +3,10 @@
 #include "image/TavloDocument.h"
 #include "image/picture/ColorList.h"
 #include "preview3d/MD2Document.h"
-#include "preview3d/MDLDocument.h"
 #include "resources/PaletteDocument.h"
 #include "tool/EntryTypes.h"
 #include "tool/FileFacts.h"
+#include "tool/ModelFile.h"
 #include "tool/Tool.h"
 #include "tool/ToolArguments.h"
 #include "tool/ToolCommands.h"
@@ -54,10 +54,10 @@ void AddModel(FileFacts& facts, const MD2Document& model) {
     for (const std::string& skin : model.GetSkins()) facts.AppendText("skin", "skins", skin);
 }
 
-void AddModel(FileFacts& facts, const MDLDocument& model) {
-    facts.Add("textures", "textureCount", model.GetTextures().size());
-    for (const Image& texture : model.GetTextures())
-        facts.AppendSize("texture", "textures", texture.GetWidth(), texture.GetHeight());
+void AddModel(FileFacts& facts, const std::vector<ModelSkin>& skins) {
+    facts.Add("textures", "textureCount", skins.size());
+    for (const ModelSkin& skin : skins)
+        facts.AppendSize("texture", "textures", skin.picture.GetWidth(), skin.picture.GetHeight());
 }
 
 void AddDocument(FileFacts& facts, const CDocument& document) {
@@ -66,19 +66,21 @@ void AddDocument(FileFacts& facts, const CDocument& document) {
     if (const auto* palette = dynamic_cast<const PaletteDocument*>(&document)) AddPalette(facts, *palette);
     if (const auto* folder = dynamic_cast<const FolderDocument*>(&document)) AddFolder(facts, *folder);
     if (const auto* model = dynamic_cast<const MD2Document*>(&document)) AddModel(facts, *model);
-    if (const auto* model = dynamic_cast<const MDLDocument*>(&document)) AddModel(facts, *model);
 }
 
-// False after a failure, which the application reports.
+// False after a failure, which was reported.
 bool Describe(Tool& tool, const std::string& path, FileFacts& facts) {
-    const CDocument* document = tool.GetApplication().OpenDocumentFile(path);
-    if (!document) return false;
+    const bool isModel = EqualNoCase(ExtensionOf(path), ".mdl");
+    const auto skins = isModel ? ReadModelFile(tool, path) : std::nullopt;
+    const CDocument* document = isModel ? nullptr : tool.GetApplication().OpenDocumentFile(path);
+    if (!skins && !document) return false;
     EntryStatus status;
     tool.GetApplication().GetFileSystem().GetStatus(path, status);
     facts.AddPath(path);
     facts.Add("format", "format", EntryTypes().Find(path).name);
     facts.Add("bytes", "bytes", status.size);
-    AddDocument(facts, *document);
+    if (skins) AddModel(facts, *skins);
+    if (document) AddDocument(facts, *document);
     return true;
 }
 
