@@ -10,6 +10,7 @@
 #include "tool/Tool.h"
 #include "tool/ToolArguments.h"
 #include "tool/ToolCommands.h"
+#include "tool/archives/ModelSkins.h"
 
 namespace keltavlo {
 
@@ -32,7 +33,7 @@ public:
         if (IsStandardStream(arguments.output)) return WriteToStream();
         outputs.KeepInside(folder);
         for (const std::string& input : arguments.inputs) AddInput(input);
-        for (const std::string& model : models) ExtractTextures(model);
+        for (const TreeFile& model : models) ExtractTextures(model);
         if (arguments.metadata) palettes = LoadPalettes({});
         RunBatch(tool, arguments, {"extract", "extracted"}, std::move(files), outputs,
                  [this](CFile& source, const BatchFile& file) {
@@ -52,7 +53,7 @@ private:
         if (IsTree(status)) return AddTree(path);
         outputs.AddInput(path);
         const bool isModel = EqualNoCase(ExtensionOf(path), ".mdl");
-        if (isModel) models.push_back(FullPath(path));
+        if (isModel) models.push_back(FindFile(tool, FullPath(path)));
         if (!isModel || !status.onDisk) Add(FindFile(tool, FullPath(path)));
     }
 
@@ -69,11 +70,11 @@ private:
     }
 
     // Writes each texture in the model, numbered: the file does not say which names are theirs to keep.
-    void ExtractTextures(const std::string& path) {
-        const std::string stem = folder + "/" + std::string(BaseNameOf(path)) + "_";
-        const std::optional<std::vector<ModelSkin>> skins = ReadModelFile(tool, path);
+    void ExtractTextures(const TreeFile& model) {
+        const std::string stem = folder + "/" + std::string(BaseNameOf(model.name)) + "_";
+        const std::optional<std::vector<ModelSkin>> skins = ReadModelFile(tool, model);
         if (!skins) return;
-        if (skins->empty()) tool.Note("\"" + ToDisplayPath(path) + "\" contains no textures.");
+        if (skins->empty()) tool.Note("\"" + ToDisplayPath(model.path) + "\" contains no textures.");
         for (const auto& [number, picture] : *skins) {
             const std::string target = stem + number + ".tga";
             if (picture.Pixels().empty())
@@ -97,7 +98,7 @@ private:
     const ToolArguments& arguments;
     OutputPlace outputs;
     const std::string folder; // full path
-    std::vector<std::string> models;
+    std::vector<TreeFile> models;
     std::vector<BatchFile> files;
     PaletteSet palettes;
     GatheredMetadata gathered;

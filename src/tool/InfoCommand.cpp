@@ -7,10 +7,13 @@
 #include "tool/EntryTypes.h"
 #include "tool/FileFacts.h"
 #include "tool/ModelFile.h"
+#include "tool/PaletteLoader.h"
 #include "tool/Tool.h"
 #include "tool/ToolArguments.h"
 #include "tool/ToolCommands.h"
 #include "tool/TreeWalk.h"
+#include "tool/pictures/PictureConversion.h"
+#include "tool/pictures/PictureFormat.h"
 
 #include <nlohmann/json.hpp>
 #include <ostream>
@@ -68,20 +71,40 @@ void AddDocument(FileFacts& facts, const CDocument& document) {
     if (const auto* model = dynamic_cast<const MD2Document*>(&document)) AddModel(facts, *model);
 }
 
-// False after a failure, which was reported.
+// Whether only the tool reads the picture format: the application has no document type for it.
+bool IsToolPicture(const std::string& path) {
+    const PictureFormat* format = FindPictureFormat(path);
+    return format && format->codec.documentClass.empty();
+}
+
+// False after a failure, which is reported.
+bool AddContents(Tool& tool, const std::string& path, FileFacts& facts) {
+    if (EqualNoCase(ExtensionOf(path), ".mdl")) {
+        const auto skins = ReadModelFile(tool, FindFile(tool, path));
+        if (skins) AddModel(facts, *skins);
+        return skins.has_value();
+    }
+    if (!IsToolPicture(path)) {
+        const CDocument* document = tool.GetApplication().OpenDocumentFile(path);
+        if (document) AddDocument(facts, *document);
+        return document != nullptr;
+    }
+    try {
+        AddTexture(facts, ReadPicture(*OpenSource(FindFile(tool, path)), path, LoadPalettes({}), {}));
+        return true;
+    } catch (const CException& failure) {
+        tool.Fail(DescribeFailure(Direction::opening, path, failure));
+        return false;
+    }
+}
+
 bool Describe(Tool& tool, const std::string& path, FileFacts& facts) {
-    const bool isModel = EqualNoCase(ExtensionOf(path), ".mdl");
-    const auto skins = isModel ? ReadModelFile(tool, path) : std::nullopt;
-    const CDocument* document = isModel ? nullptr : tool.GetApplication().OpenDocumentFile(path);
-    if (!skins && !document) return false;
     EntryStatus status;
     tool.GetApplication().GetFileSystem().GetStatus(path, status);
     facts.AddPath(path);
     facts.Add("format", "format", EntryTypes().Find(path).name);
     facts.Add("bytes", "bytes", status.size);
-    if (skins) AddModel(facts, *skins);
-    if (document) AddDocument(facts, *document);
-    return true;
+    return AddContents(tool, path, facts);
 }
 
 } // namespace

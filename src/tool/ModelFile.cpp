@@ -8,13 +8,13 @@
 
 namespace keltavlo {
 
-std::optional<std::vector<ModelSkin>> ReadModelFile(Tool& tool, const std::string& path) {
+std::optional<std::vector<ModelSkin>> ReadModelFile(Tool& tool, const TreeFile& model) {
     std::vector<ModelSkin> skins;
     try {
-        ReadThroughArchive(*OpenSource(FindFile(tool, path)),
+        ReadThroughArchive(*OpenSource(model),
                            [&](InputStream& in) { skins = ReadModelSkins(in, GetQuakePalette()); });
     } catch (const CException& failure) {
-        tool.Fail(DescribeFailure(Direction::opening, path, failure));
+        tool.Fail(DescribeFailure(Direction::opening, model.path, failure));
         return std::nullopt;
     }
     return skins;

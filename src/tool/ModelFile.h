@@ -8,9 +8,10 @@
 namespace keltavlo {
 
 class Tool;
+struct TreeFile;
 
 // The textures in the model (".mdl") of that path, which may lead into an archive. Nothing, after reporting
 // why, if it cannot be read.
-std::optional<std::vector<ModelSkin>> ReadModelFile(Tool& tool, const std::string& path);
+std::optional<std::vector<ModelSkin>> ReadModelFile(Tool& tool, const TreeFile& model);
 
 } // namespace keltavlo

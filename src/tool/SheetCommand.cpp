@@ -1,4 +1,5 @@
 #include "formats/TextureBytes.h"
+#include "framework/core/CFile.h"
 #include "framework/core/Path.h"
 #include "framework/core/Text.h"
 #include "tool/NameEscapes.h"
@@ -68,7 +69,7 @@ private:
 
     // The first page has the name of the output; the others are numbered.
     std::string PathOfPage(std::size_t number) const {
-        const std::string path = FullPath(arguments.output);
+        std::string path = FullPath(arguments.output);
         if (number == 1) return path;
         const std::string_view extension = ExtensionOf(path);
         const std::string stem = path.substr(0, path.size() - extension.size());

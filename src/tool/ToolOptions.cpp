@@ -120,7 +120,7 @@ void AddRunOptions(CLI::App& command, ToolArguments& arguments) {
         .add_option_function<std::string>(
             "-j,--jobs", [&arguments](const std::string& text) { arguments.jobs = ParseJobs(text); },
             "The number of files to work on at a time; 0, the default, for one on each core.")
-        ->type_name("N");
+        ->type_name("NUMBER");
     AddFlag(command, "-q,--quiet", arguments.quiet, "Report failures only.");
     AddFlag(command, "-v,--verbose", arguments.verbose, "Name every file that is written.");
     AddForceOption(command, arguments);

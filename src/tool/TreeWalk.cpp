@@ -37,13 +37,16 @@ std::vector<std::string> NamesOnDisk(const std::string& folder) {
     return names;
 }
 
-// The names of the entries for files on the disk.
+// The name of a file of the disk for an entry.
+std::string FileNameOfEntry(const FolderDocument& archive, const Entry& entry) {
+    return archive.HasLumps() ? FileNameOfLump(entry.GetName()) : entry.GetName();
+}
+
 std::vector<std::string> NamesIn(const ArchiveFolder& place) {
-    const bool areLumps = place.archive->HasLumps();
     std::vector<std::string> names;
     names.reserve(place.folder->GetChildren().size());
     for (const auto& child : place.folder->GetChildren())
-        names.push_back(areLumps ? FileNameOfLump(child->GetName()) : child->GetName());
+        names.push_back(FileNameOfEntry(*place.archive, *child));
     return names;
 }
 
@@ -174,9 +177,8 @@ std::vector<TreeFile> ListTree(Tool& tool, const std::string& tree, NestedArchiv
 
 TreeFile FindFile(Tool& tool, const std::string& path) {
     FolderDocument* const archive = tool.GetApplication().GetFileSystem().FindArchive(path);
-    const std::string name(FileNameOf(path));
-    return {path, archive && archive->HasLumps() ? FileNameOfLump(name) : name, archive,
-            archive ? archive->FindEntry(path) : nullptr};
+    Entry* const entry = archive ? archive->FindEntry(path) : nullptr;
+    return {path, entry ? FileNameOfEntry(*archive, *entry) : std::string(FileNameOf(path)), archive, entry};
 }
 
 std::unique_ptr<CFile> OpenSource(const TreeFile& source) {

@@ -45,8 +45,10 @@ TEST_F(ToolTest, RefusesWhatItDoesNotUnderstand) {
           {{"fly", "a"}, "Unknown command: fly."},
           {{"list"}, "list requires PATH"},
           {{"list", "a", "--wings"}, "Unknown option: --wings."},
-          {{"convert", "a", "b", "--to"}, "--to requires FORMAT."},
+          {{"convert", "a", "b", "--to"}, "--to requires wal|mip|"},
           {{"extract", "--force=1", "a", "b"}, "--force takes no value."},
+          {{"convert", "-j", "-1", "a", "b"}, "--jobs requires a number"},
+          {{"convert", "a", ""}, "The name of the output is empty."},
           {{"convert", pack, PathTo("out")}, "requires --to FORMAT"},
           {{"convert", pack, PathTo("out"), "--to", "gif"}, "--to requires wal"},
           {{"convert", floor, PathTo("x.gif")}, "must end in .wal"}}) {
@@ -55,7 +57,7 @@ TEST_F(ToolTest, RefusesWhatItDoesNotUnderstand) {
         EXPECT_EQ(out, "");
     }
     EXPECT_EQ(Run({"extract", "--help"}), 0);
-    EXPECT_THAT(out, HasSubstr("extract [OPTION]... PATH OUTDIR"));
+    EXPECT_THAT(out, HasSubstr("extract [OPTION]... PATH... OUTDIR"));
 }
 
 TEST_F(ToolTest, ListsAndDescribes) {

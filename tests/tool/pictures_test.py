@@ -12,7 +12,7 @@ import zlib
 
 from PIL import Image
 
-TOOL = sys.argv[1]
+TOOL = pathlib.Path(sys.argv[1]).resolve()
 FOLDER = tempfile.TemporaryDirectory()
 CHANNELS = {0: 1, 2: 3, 3: 1, 4: 2, 6: 4}  # of PNG's color types
 PASSES = [(0, 0, 8, 8), (4, 0, 8, 8), (0, 4, 4, 8), (2, 0, 4, 4), (0, 2, 2, 4), (1, 0, 2, 2), (0, 1, 1, 2)]
@@ -200,6 +200,21 @@ def check_sizes():
         assert note in run.stdout + run.stderr, run
 
 
+def check_samples():
+    """The textures of the sample pack go through PNG pictures unharmed."""
+    pack = TOOL.parent / "samples/sample.pak"
+    wals, pngs, back = (pathlib.Path(FOLDER.name, name) for name in ("wals", "pngs", "back"))
+    for command in (("extract", pack, wals), ("convert", pack, pngs, "--to", "png", "--metadata"),
+                    ("convert", pngs, back, "--to", "wal")):
+        subprocess.run([TOOL, *command], check=True, capture_output=True)
+    paths = [path.relative_to(wals) for path in wals.rglob("*.wal")]
+    assert paths
+    for path in paths:
+        wal = (wals / path).read_bytes()
+        width, height = struct.unpack_from("<2I", wal, 32)
+        assert (back / path).read_bytes()[:100 + width * height] == wal[:100 + width * height], path
+
+
 random.seed(4)
 check_pngs()
 check_jpegs()
@@ -209,3 +224,4 @@ check_cutouts()
 check_own_palette()
 check_fullbright()
 check_sizes()
+check_samples()

@@ -41,7 +41,7 @@ public:
             return plane;
         }
         Image dithered = picture;
-        for (int y = 0; y < dithered.GetHeight(); ++y) Dither(dithered.Row(y));
+        Dither(dithered);
         search.FindIndices(dithered.Pixels(), plane);
         return plane;
     }
@@ -74,9 +74,15 @@ public:
     }
 
 private:
+    void Dither(Image& picture) {
+        if (rules.isCutout)
+            for (int y = 0; y < picture.GetHeight(); ++y) DitherSolid(picture.Row(y));
+        else
+            search.Diffuse(picture.Pixels(), static_cast<std::size_t>(picture.GetWidth()));
+    }
+
     // The color of a transparent texel means nothing, so its error is not carried on.
-    void Dither(std::span<Color> row) {
-        if (!rules.isCutout) return search.Diffuse(row, row.size());
+    void DitherSolid(std::span<Color> row) {
         const auto isSolid = [](Color pixel) { return Alpha(pixel) >= cutoutAlpha; };
         for (auto place = row.begin(); place != row.end();) {
             const auto first = std::find_if(place, row.end(), isSolid);
