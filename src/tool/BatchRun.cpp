@@ -17,8 +17,6 @@ namespace keltavlo {
 
 namespace {
 
-constexpr std::size_t resultWindow = 1024; // that wait for their turn; their bytes are on the disk already
-
 // What a thread made of a file.
 struct Made {
     std::optional<StagedFile> staged;
@@ -37,7 +35,8 @@ public:
 
     void Run(unsigned threadCount) {
         RenameClashes();
-        OrderedWork<Made> work(files.size(), resultWindow, [this](std::size_t i) { return Make(files[i]); });
+        OrderedWork<Made> work(files.size(), outputs.GetStagedLimit(),
+                               [this](std::size_t i) { return Make(files[i]); });
         work.Run(threadCount, [this](std::size_t i, Made made) { return Take(files[i], std::move(made)); });
         outputs.Finish();
         report.AddLost(outputs.GetLostCount());

@@ -74,14 +74,12 @@ constexpr ToolCommand commands[] = {
      anyNumber, true, AddConvertOptions, Convert},
     {"extract", "PATH... OUTDIR", "Write files from archives to the disk.",
      "Writes one file of an archive, or all its files in their folders, below OUTDIR; if OUTDIR is -, writes "
-     "one "
-     "file to the standard output. For a model (.mdl), on the disk or in an archive, writes each texture as "
+     "one file to the standard output. Archives inside an archive or a folder become folders, except maps. "
+     "For a model (.mdl), on the disk or in an archive, writes each texture as a numbered Targa file: "
+     "model_1.tga and so on. Names that lead out of OUTDIR are refused. Names that differ in case only, and "
      "a "
-     "numbered Targa file: model_1.tga and so on. Names that lead out of OUTDIR are refused. Names that "
-     "differ in "
-     "case only, and a file and a folder of the same name, get numbers, and a note says so. If several files "
-     "have "
-     "the same name, only the first is written.",
+     "file and a folder of the same name, get numbers, and a note says so. If several files have the same "
+     "name, only the first is written.",
      anyNumber, true, AddExtractOptions, Extract},
     {"pack", "FOLDER|LIST... OUT", "Write a PAK or WAD archive.",
      "The extension of OUT, .pak or .wad, selects the kind of archive. A FOLDER, which may be an archive, is "

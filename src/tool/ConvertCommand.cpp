@@ -55,6 +55,7 @@ private:
     bool GoesToFolder() {
         const std::string& output = arguments.output;
         if (IsStandardStream(output)) return false;
+        if (output.empty()) return false;
         if (arguments.inputs.size() > 1 || IsSeparator(output.back()) || IsFolder(output)) return true;
         EntryStatus status;
         tool.GetApplication().GetFileSystem().GetStatus(TreePath(arguments.inputs.front()), status);

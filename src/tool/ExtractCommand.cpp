@@ -1,7 +1,7 @@
 #include "formats/TextureBytes.h"
 #include "framework/core/Path.h"
 #include "framework/core/Text.h"
-#include "preview3d/MDLDocument.h"
+#include "resources/BuiltInFiles.h"
 #include "tool/BatchRun.h"
 #include "tool/FolderMetadata.h"
 #include "tool/OutputPlace.h"
@@ -10,6 +10,7 @@
 #include "tool/Tool.h"
 #include "tool/ToolArguments.h"
 #include "tool/ToolCommands.h"
+#include "tool/archives/ModelSkins.h"
 
 namespace keltavlo {
 
@@ -32,7 +33,7 @@ public:
         if (IsStandardStream(arguments.output)) return WriteToStream();
         outputs.KeepInside(folder);
         for (const std::string& input : arguments.inputs) AddInput(input);
-        for (const std::string& model : models) ExtractTextures(model);
+        for (const TreeFile& model : models) ExtractTextures(model);
         if (arguments.metadata) palettes = LoadPalettes({});
         RunBatch(tool, arguments, {"extract", "extracted"}, std::move(files), outputs,
                  [this](CFile& source, const BatchFile& file) {
@@ -52,7 +53,7 @@ private:
         if (IsTree(status)) return AddTree(path);
         outputs.AddInput(path);
         const bool isModel = EqualNoCase(ExtensionOf(path), ".mdl");
-        if (isModel) models.push_back(FullPath(path));
+        if (isModel) models.push_back(FindFile(tool, FullPath(path)));
         if (!isModel || !status.onDisk) Add(FindFile(tool, FullPath(path)));
     }
 
@@ -68,22 +69,25 @@ private:
         files.push_back({std::move(source), std::move(target)});
     }
 
-    // Writes each texture that the model carries, numbered from 1: the file does not say which names are
-    // theirs to keep.
-    void ExtractTextures(const std::string& path) {
-        auto* model = dynamic_cast<MDLDocument*>(tool.GetApplication().OpenDocumentFile(path));
-        if (!model) return; // the application has said why
-        const std::string stem = folder + "/" + std::string(BaseNameOf(path)) + "_";
-        int number = 0;
-        for (const Image& texture : model->GetTextures()) {
-            const std::string target = stem + std::to_string(++number) + ".tga";
-            if (texture.Pixels().empty())
+    // Writes each texture in the file of a model, numbered: the file does not say what to call them.
+    void ExtractTextures(const TreeFile& model) {
+        const std::string stem = folder + "/" + std::string(BaseNameOf(model.name)) + "_";
+        std::vector<ModelSkin> skins;
+        try {
+            const auto file = OpenSource(model);
+            ReadThroughArchive(*file,
+                               [&](InputStream& in) { skins = ReadModelSkins(in, GetQuakePalette()); });
+        } catch (const CException& failure) {
+            return tool.Fail(DescribeFailure(Direction::opening, model.path, failure));
+        }
+        for (const ModelSkin& skin : skins) {
+            const std::string target = stem + skin.number + ".tga";
+            if (skin.picture.Pixels().empty())
                 tool.Note("Skipped \"" + ToDisplayPath(target) + "\": it would have no pixels.");
             else
-                outputs.Write(target, ToTarga(texture));
+                outputs.Write(target, ToTarga(skin.picture));
         }
-        if (number == 0) tool.Note("\"" + ToDisplayPath(path) + "\" contains no textures.");
-        model->OnCloseDocument();
+        if (skins.empty()) tool.Note("\"" + ToDisplayPath(model.path) + "\" contains no textures.");
     }
 
     void WriteToStream() {
@@ -100,7 +104,7 @@ private:
     const ToolArguments& arguments;
     OutputPlace outputs;
     const std::string folder; // full path
-    std::vector<std::string> models;
+    std::vector<TreeFile> models;
     std::vector<BatchFile> files;
     PaletteSet palettes;
     GatheredMetadata gathered;

@@ -37,7 +37,7 @@ public:
             if (const auto* inner = dynamic_cast<const FolderEntry*>(child.get()))
                 AddFolder(*inner, JoinPath(path, name), prefix + EscapePath(name));
             else
-                AddFile(*child, JoinPath(path, name), prefix + EscapeName(name));
+                AddFile(*child, path, name, prefix + EscapeName(name));
         }
     }
 
@@ -51,12 +51,14 @@ private:
             Append({shown, &types.Folder(), 0});
     }
 
-    void AddFile(const Entry& file, const std::string& path, const std::string& shown) {
+    void AddFile(const Entry& file, const std::string& folder, const std::string& name,
+                 const std::string& shown) {
         EntryStatus status;
         file.GetStatus(status);
-        const EntryType& type = types.Find(path);
+        const EntryType& type = types.Find(name);
         Append({shown, &type, status.size});
         if (!type.isArchive || !arguments.recursive || !arguments.enterArchives) return;
+        const std::string path = JoinPath(folder, name);
         if (const FolderEntry* root = tool.GetApplication().GetFileSystem().FindFolder(path).folder)
             Add(*root, path, shown + "/");
     }
@@ -72,9 +74,9 @@ private:
     EntryTypes types;
 };
 
-std::string Padded(const std::string& text, std::size_t width, bool toTheRight) {
-    const std::string blanks(width - std::min(width, text.size()), ' ');
-    return toTheRight ? blanks + text : text + blanks;
+// The blanks that bring the text to the width.
+std::size_t Blanks(const std::string& text, std::size_t width) {
+    return width - std::min(width, text.size());
 }
 
 std::string LinesOf(const std::vector<ListedEntry>& entries) {
@@ -82,8 +84,9 @@ std::string LinesOf(const std::vector<ListedEntry>& entries) {
     std::string lines;
     for (const ListedEntry& entry : entries) {
         const std::string size = entry.type->isFolder ? std::string() : std::to_string(entry.size);
-        lines += Padded(size, sizeWidth, true) + "  " + Padded(entry.type->name, typeWidth, false) + "  ";
-        lines += entry.name + "\n";
+        lines.append(Blanks(size, sizeWidth), ' ').append(size).append("  ");
+        lines.append(entry.type->name).append(Blanks(entry.type->name, typeWidth), ' ').append("  ");
+        lines.append(entry.name).append("\n");
     }
     return lines;
 }

@@ -27,9 +27,7 @@ OutputPlace::OutputPlace(Tool& reportingTool, bool force)
     : tool(reportingTool), overwrites(force), batch([this](const std::string& path, const auto& failure) {
           ++lostCount;
           tool.FailSaving(path, failure);
-      }) {
-    RemoveAbandonedSaves();
-}
+      }) {}
 
 void OutputPlace::AddInput(const std::string& path) {
     for (std::string file = path; !file.empty(); file = ParentOf(file)) {

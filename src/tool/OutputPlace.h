@@ -4,6 +4,7 @@
 #include "tool/output/OutputFolders.h"
 #include "tool/output/TemporaryNames.h"
 
+#include <algorithm>
 #include <set>
 #include <utility>
 
@@ -34,7 +35,9 @@ public:
     // Outputs that were accepted but could not be published.
     std::size_t GetLostCount() const { return lostCount; }
 
-    // Write in two steps, of which the first may run in any thread.
+    // Write in two steps, of which the first may run in any thread. At most so many files may wait for
+    // Accept.
+    std::size_t GetStagedLimit() const { return std::max<std::size_t>(1, batch.GetCapacity() / 2); }
     StagedFile Stage(const std::string& path, std::span<const std::byte> bytes);
     bool Accept(const std::string& path, StagedFile file);
     // Whether a file that must stay has the path, so that making its bytes is useless. May run in any thread.

@@ -51,7 +51,7 @@ std::vector<PackSource> GatherPackSources(Tool& tool, const std::string& input, 
     tool.GetApplication().GetFileSystem().GetStatus(path, status);
     if (IsTree(status)) return SourcesOfTree(tool, path, outputs);
     if (status.exists) return SourcesOfList(tool, FullPath(path), outputs);
-    tool.Fail("\"" + ToDisplayPath(path) + "\" was not found.");
+    FailToFind(tool, path);
     return {};
 }
 

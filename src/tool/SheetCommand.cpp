@@ -1,4 +1,5 @@
 #include "formats/TextureBytes.h"
+#include "framework/core/CFile.h"
 #include "framework/core/Path.h"
 #include "framework/core/Text.h"
 #include "tool/NameEscapes.h"

@@ -116,6 +116,11 @@ void AddFieldsOption(CLI::App& command, ToolArguments& arguments) {
         ->type_name("FIELDS");
 }
 
+void AddForceOption(CLI::App& command, ToolArguments& arguments) {
+    AddFlag(command, "-f,--force", arguments.force,
+            "Overwrite existing files, but never one that the same run reads or has written.");
+}
+
 void AddBatchOptions(CLI::App& command, ToolArguments& arguments) {
     command
         .add_option_function<std::string>(
@@ -126,11 +131,6 @@ void AddBatchOptions(CLI::App& command, ToolArguments& arguments) {
     AddFlag(command, "-v,--verbose", arguments.verbose, "Name every file that is written.");
     AddArchivesOption(command, arguments);
     AddForceOption(command, arguments);
-}
-
-void AddForceOption(CLI::App& command, ToolArguments& arguments) {
-    AddFlag(command, "-f,--force", arguments.force,
-            "Overwrite existing files, but never one that the same run reads or has written.");
 }
 
 void AddMetadataOption(CLI::App& command, ToolArguments& arguments) {

@@ -23,7 +23,7 @@ void AddFieldsOption(CLI::App& command, ToolArguments& arguments);
 void AddForceOption(CLI::App& command, ToolArguments& arguments);
 void AddMetadataOption(CLI::App& command, ToolArguments& arguments);
 void AddPackOptions(CLI::App& command, ToolArguments& arguments);
-// Those of commands that write many files: how many threads, what to overwrite, what to tell.
+// Those of commands that write many files: how many threads, what to enter and overwrite, what to report.
 void AddBatchOptions(CLI::App& command, ToolArguments& arguments);
 
 } // namespace keltavlo

@@ -9,6 +9,7 @@
 #include "tool/NewNames.h"
 #include "tool/OutputPlace.h"
 #include "tool/Tool.h"
+#include "tool/archives/LumpName.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -36,10 +37,16 @@ std::vector<std::string> NamesOnDisk(const std::string& folder) {
     return names;
 }
 
-std::vector<std::string> NamesIn(const FolderEntry& folder) {
+// The name of a file of the disk for an entry.
+std::string FileNameOfEntry(const FolderDocument& archive, const Entry& entry) {
+    return archive.HasLumps() ? FileNameOfLump(entry.GetName()) : entry.GetName();
+}
+
+std::vector<std::string> NamesIn(const ArchiveFolder& place) {
     std::vector<std::string> names;
-    names.reserve(folder.GetChildren().size());
-    for (const auto& child : folder.GetChildren()) names.push_back(child->GetName());
+    names.reserve(place.folder->GetChildren().size());
+    for (const auto& child : place.folder->GetChildren())
+        names.push_back(FileNameOfEntry(*place.archive, *child));
     return names;
 }
 
@@ -92,7 +99,7 @@ private:
     }
 
     void WalkArchive(const ArchiveFolder& place, const std::string& path, const std::string& prefix) {
-        const std::vector<std::string> names = NamesIn(*place.folder);
+        const std::vector<std::string> names = NamesIn(place);
         std::set<std::string> files;
         NewNames newNames(names);
         for (std::size_t i = 0; i < names.size(); ++i) {
@@ -170,7 +177,8 @@ std::vector<TreeFile> ListTree(Tool& tool, const std::string& tree, NestedArchiv
 
 TreeFile FindFile(Tool& tool, const std::string& path) {
     FolderDocument* const archive = tool.GetApplication().GetFileSystem().FindArchive(path);
-    return {path, std::string(FileNameOf(path)), archive, archive ? archive->FindEntry(path) : nullptr};
+    Entry* const entry = archive ? archive->FindEntry(path) : nullptr;
+    return {path, entry ? FileNameOfEntry(*archive, *entry) : std::string(FileNameOf(path)), archive, entry};
 }
 
 std::unique_ptr<CFile> OpenSource(const TreeFile& source) {

@@ -1,5 +1,6 @@
 #include "framework/core/Exceptions.h"
 #include "framework/core/MemoryReserve.h"
+#include "framework/core/SaveJournal.h"
 #include "tool/Tool.h"
 
 #include <QCoreApplication>
@@ -13,6 +14,7 @@ using namespace keltavlo;
 
 int main(int argc, char** argv) try {
     KeepMemoryReserve();
+    RemoveAbandonedSaves();
     const QCoreApplication core(argc, argv);
     Tool tool(std::cout, std::cerr, isatty(STDERR_FILENO) != 0);
     return tool.Run({argv + 1, argv + argc}); // the arguments' bytes, whatever their encoding

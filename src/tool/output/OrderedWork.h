@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <condition_variable>
 #include <cstddef>
 #include <exception>
@@ -26,7 +27,8 @@ public:
     using Take = std::function<bool(std::size_t, Result)>;
 
     OrderedWork(std::size_t workCount, std::size_t windowSize, Work workFunction)
-        : count(workCount), window(windowSize), work(std::move(workFunction)), results(windowSize) {}
+        : count(workCount), window(std::max<std::size_t>(1, std::min(workCount, windowSize))),
+          work(std::move(workFunction)), results(window) {}
 
     void Run(unsigned threadCount, const Take& take) {
         if (threadCount <= 1 || count <= 1) {
