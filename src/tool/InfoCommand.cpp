@@ -1,4 +1,6 @@
 #include "archives/FolderDocument.h"
+#include "framework/core/Path.h"
+#include "framework/core/Text.h"
 #include "image/SurfaceFlags.h"
 #include "image/TavloDocument.h"
 #include "image/picture/ColorList.h"
