@@ -21,6 +21,7 @@ public:
 
     static bool Hits(Step step) noexcept;
     bool HasHit() const { return count >= first; }
+    unsigned GetCount() const { return count; } // of such steps so far
 
 private:
     static inline thread_local Fault* current = nullptr;
