@@ -1,9 +1,9 @@
 #include "formats/TextureBytes.h"
 #include "framework/core/Path.h"
 #include "framework/core/Text.h"
-#include "resources/BuiltInFiles.h"
 #include "tool/BatchRun.h"
 #include "tool/FolderMetadata.h"
+#include "tool/ModelFile.h"
 #include "tool/OutputPlace.h"
 #include "tool/PaletteLoader.h"
 #include "tool/StandardStreams.h"
@@ -69,25 +69,19 @@ private:
         files.push_back({std::move(source), std::move(target)});
     }
 
-    // Writes each texture in the file of a model, numbered: the file does not say what to call them.
+    // Writes each texture in the model, numbered: the file does not say which names are theirs to keep.
     void ExtractTextures(const TreeFile& model) {
         const std::string stem = folder + "/" + std::string(BaseNameOf(model.name)) + "_";
-        std::vector<ModelSkin> skins;
-        try {
-            const auto file = OpenSource(model);
-            ReadThroughArchive(*file,
-                               [&](InputStream& in) { skins = ReadModelSkins(in, GetQuakePalette()); });
-        } catch (const CException& failure) {
-            return tool.Fail(DescribeFailure(Direction::opening, model.path, failure));
-        }
-        for (const ModelSkin& skin : skins) {
-            const std::string target = stem + skin.number + ".tga";
-            if (skin.picture.Pixels().empty())
+        const std::optional<std::vector<ModelSkin>> skins = ReadModelFile(tool, model);
+        if (!skins) return;
+        if (skins->empty()) tool.Note("\"" + ToDisplayPath(model.path) + "\" contains no textures.");
+        for (const auto& [number, picture] : *skins) {
+            const std::string target = stem + number + ".tga";
+            if (picture.Pixels().empty())
                 tool.Note("Skipped \"" + ToDisplayPath(target) + "\": it would have no pixels.");
             else
-                outputs.Write(target, ToTarga(skin.picture));
+                outputs.Write(target, ToTarga(picture));
         }
-        if (skins.empty()) tool.Note("\"" + ToDisplayPath(model.path) + "\" contains no textures.");
     }
 
     void WriteToStream() {

@@ -1,12 +1,14 @@
 #include "archives/FolderDocument.h"
+#include "framework/core/Path.h"
+#include "framework/core/Text.h"
 #include "image/SurfaceFlags.h"
 #include "image/TavloDocument.h"
 #include "image/picture/ColorList.h"
 #include "preview3d/MD2Document.h"
-#include "preview3d/MDLDocument.h"
 #include "resources/PaletteDocument.h"
 #include "tool/EntryTypes.h"
 #include "tool/FileFacts.h"
+#include "tool/ModelFile.h"
 #include "tool/PaletteLoader.h"
 #include "tool/Tool.h"
 #include "tool/ToolArguments.h"
@@ -57,10 +59,10 @@ void AddModel(FileFacts& facts, const MD2Document& model) {
     for (const std::string& skin : model.GetSkins()) facts.AppendText("skin", "skins", skin);
 }
 
-void AddModel(FileFacts& facts, const MDLDocument& model) {
-    facts.Add("textures", "textureCount", model.GetTextures().size());
-    for (const Image& texture : model.GetTextures())
-        facts.AppendSize("texture", "textures", texture.GetWidth(), texture.GetHeight());
+void AddModel(FileFacts& facts, const std::vector<ModelSkin>& skins) {
+    facts.Add("textures", "textureCount", skins.size());
+    for (const ModelSkin& skin : skins)
+        facts.AppendSize("texture", "textures", skin.picture.GetWidth(), skin.picture.GetHeight());
 }
 
 void AddDocument(FileFacts& facts, const CDocument& document) {
@@ -69,7 +71,6 @@ void AddDocument(FileFacts& facts, const CDocument& document) {
     if (const auto* palette = dynamic_cast<const PaletteDocument*>(&document)) AddPalette(facts, *palette);
     if (const auto* folder = dynamic_cast<const FolderDocument*>(&document)) AddFolder(facts, *folder);
     if (const auto* model = dynamic_cast<const MD2Document*>(&document)) AddModel(facts, *model);
-    if (const auto* model = dynamic_cast<const MDLDocument*>(&document)) AddModel(facts, *model);
 }
 
 // Whether only the tool reads the picture format: the application has no document type for it.
@@ -80,6 +81,11 @@ bool IsToolPicture(const std::string& path) {
 
 // False after a failure, which is reported.
 bool AddContents(Tool& tool, const std::string& path, FileFacts& facts) {
+    if (EqualNoCase(ExtensionOf(path), ".mdl")) {
+        const auto skins = ReadModelFile(tool, FindFile(tool, path));
+        if (skins) AddModel(facts, *skins);
+        return skins.has_value();
+    }
     if (!IsToolPicture(path)) {
         const CDocument* document = tool.GetApplication().OpenDocumentFile(path);
         if (document) AddDocument(facts, *document);

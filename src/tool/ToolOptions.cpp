@@ -115,11 +115,6 @@ void AddFieldsOption(CLI::App& command, ToolArguments& arguments) {
         ->type_name("FIELDS");
 }
 
-void AddForceOption(CLI::App& command, ToolArguments& arguments) {
-    AddFlag(command, "-f,--force", arguments.force,
-            "Overwrite existing files, but never one that the same run reads or has written.");
-}
-
 void AddRunOptions(CLI::App& command, ToolArguments& arguments) {
     command
         .add_option_function<std::string>(
@@ -134,6 +129,11 @@ void AddRunOptions(CLI::App& command, ToolArguments& arguments) {
 void AddBatchOptions(CLI::App& command, ToolArguments& arguments) {
     AddRunOptions(command, arguments);
     AddArchivesOption(command, arguments);
+}
+
+void AddForceOption(CLI::App& command, ToolArguments& arguments) {
+    AddFlag(command, "-f,--force", arguments.force,
+            "Overwrite existing files, but never one that the same run reads or has written.");
 }
 
 void AddMetadataOption(CLI::App& command, ToolArguments& arguments) {

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""pack_test.py TOOL: packs 200 pictures and reads the archives with a reader of its own, then takes them apart again."""
+"""pack_test.py TOOL: packs 200 pictures, reads the archives with a reader of its own, and takes them apart again."""
 import pathlib
 import random
 import struct
@@ -39,7 +39,8 @@ def read_wad(path):
     data = path.read_bytes()
     magic, count, place = struct.unpack_from("<4siI", data)
     lumps = {}
-    for start, stored, size, kind, packed, name in struct.iter_unpack("<IIIBBxx16s", data[place:]):
+    records = struct.iter_unpack("<IIIBBxx16s", data[place:])
+    for start, stored, size, kind, packed, name in records:
         assert stored == size and packed == 0 and start % 4 == 0 and b"\0" in name
         lumps[name.split(b"\0")[0].decode()] = kind, data[start:start + size]
     assert len(lumps) == count
@@ -47,7 +48,7 @@ def read_wad(path):
 
 
 def read_levels(data, start, places):
-    """Returns the size, the indices of level 0 and what follows the levels, and checks that the levels follow one another."""
+    """Returns the size, the indices of level 0 and what follows the levels; checks that these follow one another."""
     width, height = struct.unpack_from("<II", data, start)
     offsets = struct.unpack_from("<4I", data, start + 8)
     sizes = [(width >> k) * (height >> k) for k in range(4)]
@@ -67,13 +68,13 @@ def read_texture(lump, palette=None):
 
 
 def make_pictures(folder):
-    """Makes 200 pictures. Returns what each becomes: the name of its lump and its colors; and the names of the odd ones."""
+    """Makes 200 pictures. Returns the lump name and the colors of each, and the names of those with odd sides."""
     made, odd = {}, set()
     for n in range(200):
         mode = ("1", "L", "P", "RGB", "LA", "RGBA", "I;16", "few")[n % 8]
         size = RANDOM.choice((8, 16, 64, 72)), RANDOM.choice((8, 24, 32))
-        name, lump = ("_x2Awater%d", "*water%d") if n % 10 == 0 else (("+%d{lamp", "fifteen_let_%d", "~w%d")[n % 3],) * 2
-        name, lump = name % n, lump % n
+        plain = ("+%d{lamp", "fifteen_let_%d", "~w%d")[n % 3] % n
+        name, lump = (f"_x2Awater{n}", f"*water{n}") if n % 10 == 0 else (plain, plain)
         if n % 12 == 5:
             size = size[0] + 1 + n % 7, size[1]
             odd.add(name + ".png")
