@@ -12,10 +12,8 @@
 #include "tool/archives/LumpName.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <filesystem>
 #include <set>
-#include <sys/stat.h>
 
 namespace keltavlo {
 
@@ -109,7 +107,7 @@ private:
             if (!StaysInside(name)) {
                 Refuse(prefix + name);
             } else if (!folder && !files.insert(name).second) {
-                tool.Note("Skipped another \"" + prefix + name + "\".");
+                tool.Note(("Skipped another \"" + prefix).append(name).append("\"."));
             } else {
                 const std::string newName = newNames.Take(name);
                 if (newName != name) NoteNewName(prefix + name, prefix + newName);
@@ -189,10 +187,10 @@ std::unique_ptr<CFile> OpenSource(const TreeFile& source) {
 }
 
 void FailToFind(Tool& tool, const std::string& path) {
-    struct stat info {};
-    const bool mayNotLook = stat(ToNativePath(path).c_str(), &info) != 0 && errno == EACCES;
-    tool.Fail("\"" + ToDisplayPath(path) +
-              (mayNotLook ? "\" cannot be read: access was denied." : "\" was not found."));
+    std::error_code failure;
+    const bool isUnreadable = fs::status(ToNativePath(path), failure).type() == fs::file_type::none;
+    tool.Fail("\"" + EscapePath(path) + "\" " +
+              (isUnreadable ? "cannot be read: " + failure.message() + "." : "was not found."));
 }
 
 } // namespace keltavlo
