@@ -7,7 +7,7 @@ namespace keltavlo {
 
 namespace {
 
-// The choices of an option with blanks between them; words in capitals stand for files.
+// The choices of an option with blanks between them; a word in capitals means a file.
 std::string ChoicesOf(const OptionText& option) {
     std::string choices;
     std::istringstream words(option.value);

@@ -55,30 +55,23 @@ constexpr ToolCommand commands[] = {
      anyNumber, false, AddJsonOption, ShowInfo},
     {"sheet", "PATH OUT.png", "Draw a contact sheet of the textures in an archive.",
      "Draws every picture in an archive or a folder with its name and its size in texels, 48 to a page. A "
-     "picture "
-     "of more than 128 texels is shown smaller, by a whole factor; a checkerboard shows through transparent "
-     "texels. The first page is OUT.png, the next one OUT-2.png and so on.",
+     "picture of more than 128 texels is shown smaller, by a whole factor; a checkerboard shows through "
+     "transparent texels. The first page is OUT.png, the next one OUT-2.png and so on.",
      1, true, AddSheetOptions, MakeSheet},
     {"convert", "IN... OUT", "Convert pictures to another format.",
      "If IN is one picture, the extension of OUT selects the format, or OUT is a folder. If there are "
-     "several, or "
-     "IN is a folder or an archive, every picture is written below the folder OUT, in the same folders and "
-     "in the "
-     "format of --to. A single picture may come from the standard input or go to the standard output; - "
-     "stands for "
-     "them. Files that are not pictures are skipped with a note. If a picture cannot be read, the command "
-     "reports "
-     "a failure and continues with the others. The games' formats require sides that are multiples of 8 from "
-     "8 to "
-     "256; a note names each picture that was fitted.",
+     "several, or IN is a folder or an archive, every picture is written below the folder OUT, in the same "
+     "folders and in the format of --to. A single picture may come from the standard input or go to the "
+     "standard output; - means either. Files that are not pictures are skipped with a note. If a picture "
+     "cannot be read, the command reports a failure and continues with the others. The games' formats "
+     "require sides that are multiples of 8 from 8 to 256; a note names each picture that was fitted.",
      anyNumber, true, AddConvertOptions, Convert},
     {"extract", "PATH... OUTDIR", "Write files from archives to the disk.",
      "Writes one file of an archive, or all its files in their folders, below OUTDIR; if OUTDIR is -, writes "
      "one file to the standard output. Archives inside an archive or a folder become folders, except maps. "
      "For a model (.mdl), on the disk or in an archive, writes each texture as a numbered Targa file: "
      "model_1.tga and so on. Names that lead out of OUTDIR are refused. Names that differ in case only, and "
-     "a "
-     "file and a folder of the same name, get numbers, and a note says so. If several files have the same "
+     "a file and a folder of the same name, get numbers, and a note says so. If several files have the same "
      "name, only the first is written.",
      anyNumber, true, AddExtractOptions, Extract},
     {"pack", "FOLDER|LIST... OUT", "Write a PAK or WAD archive.",

@@ -94,11 +94,10 @@ void AddSourcePaletteOption(CLI::App& command, ToolArguments& arguments) {
 
 void AddPaletteOptions(CLI::App& command, ToolArguments& arguments) {
     PaletteOptions& palette = arguments.palette;
-    AddPaletteOption(
-        command, palette, OutputPalettes(),
-        "The palette of paletted outputs: that of a game, one made for each picture (own), or that of "
-        "a file, which may be a palette or a picture. The default is that of the picture, if the "
-        "format can store it, else that of the format's game.");
+    AddPaletteOption(command, palette, OutputPalettes(),
+                     "The palette of paletted outputs: that of a game, one made for each picture (own), or "
+                     "that of a file, which may be a palette or a picture. The default is that of the "
+                     "picture, if the format can store it, else that of the format's game.");
     AddFlag(command, "--dither", palette.dither, "Dither colors that the palette lacks.");
     AddFlag(command, "--protect-fullbright", palette.protectFullbright,
             "Keep texels out of the palette indices 224 to 255, which Quake draws at full brightness, unless "

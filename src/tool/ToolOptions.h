@@ -17,7 +17,7 @@ void AddArchivesOption(CLI::App& command, ToolArguments& arguments);
 void AddFormatOption(CLI::App& command, ToolArguments& arguments, const char* help);
 // The palette of pictures that are only read.
 void AddSourcePaletteOption(CLI::App& command, ToolArguments& arguments);
-// How pictures are brought to a palette.
+// How colors become palette indices.
 void AddPaletteOptions(CLI::App& command, ToolArguments& arguments);
 void AddFieldsOption(CLI::App& command, ToolArguments& arguments);
 void AddForceOption(CLI::App& command, ToolArguments& arguments);

@@ -20,7 +20,7 @@ ColorList Part(const ColorList& list, std::size_t first, std::size_t end) {
                                         colors.begin() + static_cast<std::ptrdiff_t>(end)));
 }
 
-// An opaque entry stands for its color whatever alpha a texel has.
+// An opaque entry matches its color, whatever alpha a texel has.
 bool IsSameColor(Color source, Color entry) {
     return source == entry || (Alpha(entry) == opaqueAlpha && ((source ^ entry) & ~alphaMask) == 0);
 }
