@@ -50,7 +50,7 @@ TEST_F(ResourceTablesTest, HoldWhatTheyAreKnownToHold) {
     EXPECT_EQ(tables.str(), known.str());
 }
 
-TEST(StringTableTest, NoIdHasTwoStrings) {
+TEST_F(ResourceTablesTest, NoIdHasTwoStrings) {
     std::set<unsigned> seen;
     for (const auto& rows : {ShellStrings(), DocumentStrings()})
         for (const StringRow& row : rows) {
