@@ -75,7 +75,7 @@ bool CKelTavloApp::InitInstance(const std::vector<std::string>& paths) {
 
 bool CKelTavloApp::InitService() {
     CreateMainFrame();
-    return desktop.Register();
+    return desktop.RegisterAndWait();
 }
 
 void CKelTavloApp::CreateMainFrame() {

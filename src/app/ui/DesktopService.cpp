@@ -3,6 +3,7 @@
 #include "framework/ui/LocalPath.h"
 
 #include <QAbstractEventDispatcher>
+#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QThread>
@@ -17,6 +18,11 @@ namespace {
 const QString serviceName = QStringLiteral("org.example.keltavlo");
 const QString objectPath = QStringLiteral("/org/example/keltavlo");
 const QString interfaceName = QStringLiteral("org.freedesktop.Application");
+
+// The signal that the connection itself sends when the bus has gone.
+const QString localPath = QStringLiteral("/org/freedesktop/DBus/Local");
+const QString localInterface = QStringLiteral("org.freedesktop.DBus.Local");
+const QString endOfBus = QStringLiteral("Disconnected");
 
 // The methods of the interface that the desktop calls for a program without actions.
 const QString introspection = QStringLiteral(R"(<interface name="org.freedesktop.Application">
@@ -67,6 +73,18 @@ bool DesktopService::Register() {
     return isRegistered;
 }
 
+bool DesktopService::RegisterAndWait() {
+    endsWithBus = Register() && QDBusConnection::sessionBus().connect({}, localPath, localInterface, endOfBus,
+                                                                      qApp, SLOT(quit()));
+    return endsWithBus;
+}
+
+// From the first request on there is a window, and maybe work in it.
+void DesktopService::StayWithoutBus() {
+    if (!std::exchange(endsWithBus, false)) return;
+    QDBusConnection::sessionBus().disconnect({}, localPath, localInterface, endOfBus, qApp, SLOT(quit()));
+}
+
 QString DesktopService::introspect(const QString&) const {
     return introspection;
 }
@@ -77,6 +95,7 @@ bool DesktopService::handleMessage(const QDBusMessage& message, const QDBusConne
         message.member() == QStringLiteral("Open") && message.signature() == QStringLiteral("asa{sv}");
     const bool activates = message.member() == QStringLiteral("Activate");
     if (!opens && !activates) return false;
+    StayWithoutBus();
     waiting.push_back(opens ? PathsOf(message.arguments().constFirst().toStringList())
                             : std::vector<std::string>());
     bus.send(message.createReply());

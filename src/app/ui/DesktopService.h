@@ -23,16 +23,20 @@ public:
 
     // Takes the program's name on the bus. Returns false if there is no bus or another program has the name.
     bool Register();
+    // The same for a program without a window. Until the first request, the program ends if the bus does.
+    bool RegisterAndWait();
 
     QString introspect(const QString& path) const override;
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override;
 
 private:
     void CarryOut();
+    void StayWithoutBus();
 
     Request carryOut;
     std::vector<std::vector<std::string>> waiting;
     bool isRegistered = false;
+    bool endsWithBus = false;
 };
 
 } // namespace keltavlo

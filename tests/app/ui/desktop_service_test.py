@@ -66,6 +66,9 @@ def check(program, folder):
         finally:
             running.kill()
             other.kill()
+    wait_until(lambda: owner() is None, "the name stays")
+    assert call("org.freedesktop.DBus", "/", "org.freedesktop.DBus.StartServiceByName", NAME, "0")
+    (folder / "waiting").write_text(str(owner()))
 
 
 def main():
@@ -79,7 +82,11 @@ def main():
         environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen", "XDG_CONFIG_HOME": f"{folder}/config",
                        "XDG_DATA_HOME": f"{folder}/data", "XDG_RUNTIME_DIR": folder}
         command = ["dbus-run-session", "--", sys.executable, __file__, program, folder]
-        return subprocess.run(command, env=environment, timeout=5 * LIMIT).returncode
+        code = subprocess.run(command, env=environment, timeout=5 * LIMIT).returncode
+        if code == 0:
+            waiting = pathlib.Path("/proc", (pathlib.Path(folder) / "waiting").read_text())
+            wait_until(lambda: not waiting.exists(), "a program without a window outlives the bus")
+        return code
 
 
 sys.exit(main())
