@@ -3,7 +3,7 @@
 #include "tool/CommandTable.h"
 
 #include <gmock/gmock.h>
-#include <regex>
+#include <sstream>
 
 namespace keltavlo {
 
@@ -24,7 +24,8 @@ TEST(CommandLine, HelpFitsATerminal) {
     for (const ToolCommand& command : Commands()) {
         const std::string text = ParseCommandLine({command.name, "--help"}).text;
         EXPECT_THAT(text, testing::HasSubstr(command.paths));
-        EXPECT_FALSE(std::regex_search(text, std::regex("[^\n]{81}"))) << text;
+        std::istringstream lines(text);
+        for (std::string line; std::getline(lines, line);) EXPECT_LE(line.size(), 80U) << line;
     }
 }
 

@@ -71,6 +71,16 @@ def check(program, folder):
     (folder / "waiting").write_text(str(owner()))
 
 
+def end_programs(folder):
+    """Ends what the bus started, which a failed test leaves behind."""
+    for process in pathlib.Path("/proc").glob("[0-9]*"):
+        try:
+            if f"XDG_RUNTIME_DIR={folder}\0".encode() in (process / "environ").read_bytes():
+                os.kill(int(process.name), 9)
+        except OSError:  # it has ended
+            pass
+
+
 def main():
     program = sys.argv[1]
     if len(sys.argv) == 3:
@@ -82,11 +92,14 @@ def main():
         environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen", "XDG_CONFIG_HOME": f"{folder}/config",
                        "XDG_DATA_HOME": f"{folder}/data", "XDG_RUNTIME_DIR": folder}
         command = ["dbus-run-session", "--", sys.executable, __file__, program, folder]
-        code = subprocess.run(command, env=environment, timeout=5 * LIMIT).returncode
-        if code == 0:
-            waiting = pathlib.Path("/proc", (pathlib.Path(folder) / "waiting").read_text())
-            wait_until(lambda: not waiting.exists(), "a program without a window outlives the bus")
-        return code
+        try:
+            code = subprocess.run(command, env=environment, timeout=5 * LIMIT).returncode
+            if code == 0:
+                waiting = pathlib.Path("/proc", (pathlib.Path(folder) / "waiting").read_text())
+                wait_until(lambda: not waiting.exists(), "a program without a window outlives the bus")
+            return code
+        finally:
+            end_programs(folder)
 
 
 sys.exit(main())
