@@ -42,7 +42,7 @@ TEST_F(CSplitterWndTest, BoxesAndLinesAreDragged) {
     Drag(Handle(columns), {150, 0});
     ASSERT_EQ(splitter.GetCount(columns), 2);
     EXPECT_EQ(document.GetViews().size(), 4U);
-    EXPECT_EQ(frame.windowTitle(), "shown1[*]"); // all of them stand in one window
+    EXPECT_EQ(frame.windowTitle(), "shown1[*]"); // one window shows all of them
     Drag(Handle(rows), {0, -40});
     EXPECT_EQ(splitter.GetSplit(rows), 80);
     const CView* lower = splitter.GetPane(1, 0);
