@@ -1,6 +1,7 @@
 #include "framework/core/ReplacingFile.h"
 
 #include "framework/core/DiskFile.h"
+#include "framework/core/FileAttributes.h"
 #include "framework/core/Path.h"
 #include "framework/core/TemporaryFile.h"
 
@@ -54,12 +55,6 @@ void FlushFolder(const std::string& folder) {
     if (descriptor.IsOpen()) static_cast<void>(fsync(descriptor.Get()));
 }
 
-void TakeOverRights(int descriptor, const struct stat& old, const std::string& path) {
-    if (fchmod(descriptor, old.st_mode & 07777) != 0) ThrowErrno(path);
-    // Only root may give files away; for others the new file is theirs.
-    static_cast<void>(fchown(descriptor, old.st_uid, old.st_gid) == 0);
-}
-
 bool FolderIsWritable(const std::string& target) {
     const std::string folder = ParentOf(target);
     return access(folder.empty() ? "." : folder.c_str(), W_OK | X_OK) == 0;
@@ -89,7 +84,7 @@ void ReplacingFile::Close() {
         return;
     }
     TemporaryFile temporary(target);
-    if (existed) TakeOverRights(temporary.GetDescriptor(), old, target);
+    if (existed) TakeOverAttributes(temporary.GetDescriptor(), old, target);
     WriteAll(temporary.GetDescriptor(), Bytes(), target);
     if (fsync(temporary.GetDescriptor()) != 0) ThrowErrno(target);
     temporary.RenameTo(target);

@@ -2,13 +2,7 @@
 
 #include "framework/core/CMemFile.h"
 
-struct stat;
-
 namespace keltavlo {
-
-// Gives the open file of that path the permissions of the one that it replaces, and its owner as far as the
-// user may.
-void TakeOverRights(int descriptor, const struct stat& old, const std::string& path);
 
 // Whether files can be made in the folder of the path.
 bool FolderIsWritable(const std::string& path);

@@ -1,5 +1,6 @@
 #include "tool/output/StagedFile.h"
 
+#include "framework/core/FileAttributes.h"
 #include "framework/core/Path.h"
 #include "framework/core/ReplacingFile.h"
 #include "tool/output/TemporaryNames.h"
@@ -112,7 +113,7 @@ void StagedFile::Replace() {
         file.Write(bytes.data(), bytes.size());
         return file.Close();
     }
-    if (existed) TakeOverRights(descriptor.Get(), old, target);
+    if (existed) TakeOverAttributes(descriptor.Get(), old, target);
     if (temporary.empty()) {
         const std::string path = temporaryNames->Next(target);
         if (linkat(AT_FDCWD, LinkPath(descriptor).c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW) != 0)

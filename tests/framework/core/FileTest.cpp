@@ -5,6 +5,8 @@
 
 #include <filesystem>
 #include <sys/stat.h>
+#include <sys/xattr.h>
+#include <unistd.h>
 
 namespace keltavlo {
 
@@ -56,6 +58,27 @@ TEST_F(FileTest, ReplacesInOneStepAndLeavesNothingElse) {
     EXPECT_EQ(ReadFile(path), ToBytes("new"));
     EXPECT_EQ(fs::status(path).permissions(), fs::perms(0640));
     EXPECT_EQ(std::distance(fs::directory_iterator(PathTo("")), {}), 1);
+}
+
+TEST_F(FileTest, KeepsOwnerAccessListAndAttributes) {
+    const std::string path = Put("a", ToBytes("old"));
+    // Version 2: the owner reads and writes, user 1234 reads, the group nothing, mask read, others nothing.
+    constexpr char list[] = "\2\0\0\0\1\0\6\0\377\377\377\377\2\0\4\0\322\4\0\0\4\0\0\0\377\377\377\377"
+                            "\20\0\4\0\377\377\377\377\40\0\0\0\377\377\377\377";
+    const bool mayGiveAway = geteuid() == 0 && chown(path.c_str(), 1234, 2345) == 0;
+    if (setxattr(path.c_str(), "user.origin", "a pack", 6, 0) != 0 ||
+        setxattr(path.c_str(), "system.posix_acl_access", list, sizeof list - 1, 0) != 0)
+        GTEST_SKIP() << "a file system without attributes";
+    Replace(path, "new");
+    struct stat info {};
+    ASSERT_EQ(stat(path.c_str(), &info), 0);
+    EXPECT_EQ(info.st_mode & 07777, 0640U);
+    EXPECT_EQ(info.st_uid == 1234 && info.st_gid == 2345, mayGiveAway);
+    char got[sizeof list] = {};
+    EXPECT_EQ(getxattr(path.c_str(), "user.origin", got, sizeof got), 6);
+    EXPECT_STREQ(got, "a pack");
+    EXPECT_EQ(getxattr(path.c_str(), "system.posix_acl_access", got, sizeof got), std::ssize(list) - 1);
+    EXPECT_EQ(std::string_view(got, sizeof list - 1), std::string_view(list, sizeof list - 1));
 }
 
 TEST_F(FileTest, KeepsLinks) {
