@@ -280,7 +280,7 @@ TEST_F(ArchiveFileDialogTest, EnterClosesTheListOfCompletions) {
 }
 
 TEST_F(ArchiveFileDialogTest, CutsNoColumnOfTheUpperListWhileThereIsRoom) {
-    Put("a name that is longer than the width that a new column has in the list of files.wal", {});
+    Put("a rather long name of a texture.wal", {});
     dialog.setViewMode(QFileDialog::Detail);
     Show();
     const auto& tree = *dialog.findChild<QTreeView*>("treeView");
