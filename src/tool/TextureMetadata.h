@@ -17,12 +17,13 @@ class TextureMetadata {
 public:
     static constexpr const char* fileName = "textures.json";
 
-    // Throws CException, with a sentence, for bytes that are no such file.
+    // Throws CException, with a sentence, if the bytes are no such file.
     static TextureMetadata Parse(std::span<const std::byte> bytes);
     std::vector<std::byte> Write() const;
 
     void Set(const std::string& name, TextureFields fields) { textures[name] = std::move(fields); }
-    // The fields of a file name, else of the first name that differs in its extension only; null for others.
+    // Returns the fields of a file name, otherwise of the first name that differs only in its extension; null
+    // if there is none.
     const TextureFields* Find(const std::string& name) const;
     bool IsEmpty() const { return textures.empty(); }
 
@@ -35,10 +36,10 @@ bool IsMetadataName(const std::string& path);
 
 // Whether the format of a file name stores fields beside the pixels.
 bool HasFields(const std::string& name);
-// What a texture of such a format carries: all fields of a WAL file, the name of a MIP file.
+// Returns what a texture of such a format contains: all fields of a WAL file, the name of a MIP file.
 TextureFields FieldsOf(const Texture& texture, const std::string& name);
 
-// The fields of `set`, and those of `stored` that it leaves open.
+// Returns the fields of `set`; where it has none, those of `stored`.
 TextureFields Merge(const TextureFields& set, const TextureFields& stored);
 
 } // namespace keltavlo
