@@ -11,8 +11,8 @@ namespace keltavlo {
 
 class Texture;
 
-// The file "textures.json" of a folder: what the games store beside the pixels of its textures, for formats
-// that store only pixels.
+// The file "textures.json" of a folder. It contains what the games store beside the pixels of its textures,
+// because the other files contain only pixels.
 class TextureMetadata {
 public:
     static constexpr const char* fileName = "textures.json";
@@ -31,7 +31,7 @@ private:
     std::map<std::string, TextureFields> textures; // by file name
 };
 
-// Whether a file has the name of metadata, which commands read and do not convert or pack.
+// Whether a file has the name of a metadata file. Commands read it, and do not convert or pack it.
 bool IsMetadataName(const std::string& path);
 
 // Whether the format of a file name stores fields beside the pixels.

@@ -32,7 +32,7 @@ std::vector<NamedPalette> OutputPalettes() {
     return palettes;
 }
 
-// Adds an option that takes one of the names or the path of a file.
+// Adds an option whose value is one of the names or the path of a file.
 void AddPaletteOption(CLI::App& command, PaletteOptions& palette, const std::vector<NamedPalette>& named,
                       const std::string& help) {
     std::string choices;

@@ -22,7 +22,7 @@ constexpr std::string_view textMark = "JASC-PAL";
 }
 
 ColorList PaletteOfPicture(CFile& file, const PictureFormat& format, std::string_view name) {
-    // Stands in for the palette of a file without one.
+    // Replaces the palette of a file that has none.
     static const ColorList noPalette(maximumCount);
     const SourcePicture picture = ReadSource(file, format, name, &noPalette);
     if (!picture.carriesPalette || *picture.texture.palette == noPalette)
@@ -32,7 +32,7 @@ ColorList PaletteOfPicture(CFile& file, const PictureFormat& format, std::string
     return palette;
 }
 
-// After the mark, the version, the number of colors, and a line of red, green and blue for each.
+// The text has a mark, a version, the number of colors, and a line with red, green and blue for each.
 ColorList PaletteOfText(CFile& file, const std::string& text) {
     std::istringstream in(text.substr(textMark.size()));
     std::string version;

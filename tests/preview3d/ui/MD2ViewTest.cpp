@@ -17,8 +17,8 @@ using Shade = std::function<QRgb(const QVector3D&)>;
 constexpr QRgb gray = qRgb(0x80, 0x80, 0x80);
 const QVector3D scale{0.25F, 0.5F, 0.25F}, translate{-30, 40, -30};
 
-// In vertices before they are scaled, with places in the texture: one before the other, the nearer tilted and
-// with a texture that is laid side by side; a third is turned away before both.
+// The quads of the model, in unscaled vertices and texture coordinates. The second one is tilted in front of
+// the first and repeats the texture. The third one is in front of both but faces away.
 const std::vector<RayCaster::Quad> scene = {
     {{{{0, 120, 0}, {0, 200, 0}},
       {{240, 120, 0}, {240, 200, 0}},
@@ -58,7 +58,7 @@ Color TexelColor(int x, int y) {
     return 0xFF000000 | static_cast<Color>(x) << 16 | static_cast<Color>(y) << 8 | 0x40;
 }
 
-// A picture whose edge runs on until it has that side, and that is laid side by side.
+// The colors of a texture whose edges are repeated up to the side; the result is tiled.
 auto TextureShade(int width, int height, int side) {
     return [=](const QVector3D& place) {
         const auto texel = [=](float at, int count) {
