@@ -31,7 +31,7 @@ const std::vector<RayCaster::Quad> scene = {
     {{{{0, 10, 0}, {}}, {{0, 10, 240}, {}}, {{240, 10, 240}, {}}, {{240, 10, 0}, {}}}},
 };
 
-// The file of the scene behind triangles that cannot be drawn.
+// Builds a model of the scene, drawn after triangles that cannot be drawn.
 Bytes BuildScene() {
     const auto at = [](int i) -> const RayCaster::Corner& {
         return scene[static_cast<std::size_t>(i) / 4][static_cast<std::size_t>(i) % 4];
@@ -73,7 +73,7 @@ auto PlainShade(QRgb color) {
 }
 
 struct MD2ViewTest : ProgramFixture {
-    // An open texture, every texel in a color of its own.
+    // Opens a texture that has a different color in every texel.
     TavloDocument& OpenTexture(const std::string& name, int width, int height) {
         auto* document = Open<TavloDocument>(Put(name, MakeWal(8, 8)));
         document->GetTexture().SetSize(width, height);
