@@ -56,9 +56,8 @@ private:
             if (file.target.empty() || !seen.insert(file.target).second) continue;
             std::string target = names.Take(file.target);
             if (target != file.target)
-                report.Note("Another output is called \"" + ToDisplayPath(file.target) +
-                            "\", without regard to case; this one becomes \"" + ToDisplayPath(target) +
-                            "\".");
+                report.Note("Another output has the same name as \"" + ToDisplayPath(file.target) +
+                            "\", ignoring case; this one becomes \"" + ToDisplayPath(target) + "\".");
             file.target = std::move(target);
         }
     }

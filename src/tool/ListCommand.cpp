@@ -108,7 +108,7 @@ void ReportNoFolder(Tool& tool, const std::string& path) {
     if (!status.exists)
         FailToFind(tool, path);
     else if (!status.browsable)
-        tool.Fail("\"" + EscapePath(path) + "\" is not an archive or a folder in one.");
+        tool.Fail("\"" + EscapePath(path) + "\" is not an archive or a folder inside one.");
 }
 
 } // namespace

@@ -80,7 +80,8 @@ private:
             return false;
         }
         if (IsWAD(contents.kind) != IsWAD(kind))
-            tool.Fail("\"" + ToDisplayPath(target) + "\" is not the kind of archive that its name says.");
+            tool.Fail("\"" + ToDisplayPath(target) +
+                      "\" is not the kind of archive that its extension says.");
         else if (contents.kind == ArchiveKind::wad3 && arguments.wad2)
             tool.Fail("\"" + ToDisplayPath(target) + "\" is a WAD3, but --wad2 was given.");
         return !tool.HasFailed();

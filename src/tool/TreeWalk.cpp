@@ -141,7 +141,7 @@ private:
     }
 
     void NoteNewName(const std::string& name, const std::string& newName) {
-        tool.Note("Another entry is called \"" + name + "\", without regard to case; this one becomes \"" +
+        tool.Note("Another entry has the same name as \"" + name + "\", ignoring case; this one becomes \"" +
                   newName + "\".");
     }
 

@@ -85,7 +85,8 @@ void StagedFile::Open(TemporaryNames& names) {
 void StagedFile::Publish(bool overwrite) {
     if (descriptor.IsOpen() && GiveNewName()) return;
     if (descriptor.IsOpen() && errno != EEXIST) ThrowErrno(target);
-    if (!overwrite) throw CFileException(CFileException::accessDenied, target, "A file of that name exists.");
+    if (!overwrite)
+        throw CFileException(CFileException::accessDenied, target, "A file with that name already exists.");
     Replace();
 }
 

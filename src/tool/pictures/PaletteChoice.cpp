@@ -75,7 +75,7 @@ ColorList OwnOpaquePalette(const Image& picture, const IndexingRules& rules) {
 
 ColorList OwnPalette(const Image& picture, const PictureFormat& to, const IndexingRules& rules) {
     if (to.paletteUse == PaletteUse::game)
-        throw CException("A file of this format cannot carry a palette of its own.");
+        throw CException("A file of this format cannot contain a palette of its own.");
     if (to.IsAlwaysPaletted() || rules.isCutout) return OwnOpaquePalette(picture, rules);
     return MakeOwnPalette(picture.Pixels(), rules.UsableColors(fullCount));
 }
