@@ -23,7 +23,8 @@ public:
     void Note(const std::string& sentence);
     // Shows the current file on the terminal, at most ten times a second.
     void ShowProgress(const std::string& name);
-    // Counts files as failed that were done but could not be published. The reason has been reported.
+    // Counts `count` files as failed instead of done, because they could not be published. The reason has
+    // been reported.
     void AddLost(std::size_t count);
     // Prints the summary, unless --quiet is given.
     void Finish();

@@ -27,7 +27,7 @@ public:
     bool HasFailed() const { return failed; }
     // Reports that the file could not be saved.
     void FailSaving(const std::string& path, const std::exception& failure);
-    // Reports something that was left out or done in another way than asked.
+    // Reports something that was skipped or done in another way than asked.
     void Note(const std::string& sentence);
     // Shows the current file; an empty name clears the line.
     void ShowProgress(const std::string& name);

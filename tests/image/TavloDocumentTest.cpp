@@ -21,7 +21,7 @@ struct CountingView : DocumentView {
     int updates = 0;
 };
 
-// The sides, names and numbers, and whether the last texel is gray.
+// Returns the sides, names and numbers, and whether the last texel is gray.
 std::string Describe(const Texture& texture) {
     std::ostringstream text;
     text << texture.GetWidth() << 'x' << texture.GetHeight() << ',' << texture.quakeName;

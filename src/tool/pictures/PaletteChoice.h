@@ -14,8 +14,8 @@ struct PictureFormat;
 struct SourcePicture;
 
 // Returns the palette for reading a file that contains none. If the output can store colors, it is the
-// palette that the options name, because it is not the output's then; otherwise that of the format's game.
-// Returns null for formats without a game.
+// palette that the options name, because the output does not use that; otherwise it is that of the format's
+// game. Returns null for formats without a game.
 const ColorList* PaletteToRead(const PictureFormat& from, bool toColors, const PaletteSet& palettes,
                                PaletteSource source);
 
