@@ -10,8 +10,8 @@
 
 namespace keltavlo {
 
-// "CopyPicture" is the reference for the others: run all with --benchmark_enable_random_interleaving=true and
-// compare.
+// "CopyPicture" is the reference for the others: run all of them to compare, with the option
+// --benchmark_enable_random_interleaving=true.
 
 namespace {
 

@@ -24,8 +24,8 @@ std::string Wrap(std::string text, std::size_t limit) {
     return text;
 }
 
-// Lists the paths as the command's row describes them. They are no options for the parser, because it would
-// split a path such as "[a,b]" into a list.
+// Lists the paths as the command's row describes them. The parser does not know them as options, because it
+// would split a path such as "[a,b]" into a list.
 class HelpFormatter final : public CLI::Formatter {
 public:
     explicit HelpFormatter(std::string synopsisOfApp) : synopsis(std::move(synopsisOfApp)) {

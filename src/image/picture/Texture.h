@@ -41,8 +41,7 @@ public:
     // The palette indices of the picture, then of as many of its half sizes as are known. A caller that wants
     // indices assigns an empty list before reading; only then do the readers of paletted formats fill the
     // first level. Writers of paletted formats store these levels and search for the indices of the others.
-    // The caller must keep the indices in step with the pixels and below the color count of the written
-    // palette.
+    // The caller must keep the indices in step with the pixels and below the written palette's color count.
     std::optional<std::vector<IndexPlane>> indices;
 
     // Returns the indices of a mip level; empty if there are none.

@@ -36,7 +36,7 @@ public:
             return;
         }
         std::vector<std::jthread> threads;
-        const Ending ending{*this}; // before the threads are joined
+        const Ending ending{*this}; // destroyed before the threads are joined
         for (unsigned i = 0; i < threadCount && i < count; ++i) threads.emplace_back([this] { WorkOn(); });
         for (std::size_t i = 0; i < count && take(i, Await(i));) ++i;
     }
