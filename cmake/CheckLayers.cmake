@@ -98,7 +98,7 @@ macro(note_use file folder header)
     endif()
 endmacro()
 
-# Leaves in `list` only those files of which a relation (uses_FILE or users_FILE) leads to another one in it.
+# Keeps in `list` only files that a relation (uses_FILE or users_FILE) leads from to another file of the list.
 function(keep_related list relation)
     set(left ${${list}})
     set(before "(none yet)")
@@ -143,7 +143,7 @@ foreach(file IN LISTS files)
     endforeach()
 endforeach()
 
-# What uses nothing that is left is in no circle, nor is what nothing that is left uses.
+# Only files that use a remaining file, and that a remaining file uses, can be in a circle.
 foreach(folder IN LISTS folders)
     set(circle ${files})
     list(FILTER circle INCLUDE REGEX "^${folder}/[^/]*$")

@@ -99,8 +99,7 @@ void Open(benchmark::State& state, GetArchive archive) {
 BENCHMARK_CAPTURE(Open, Pack, Pack)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Open, Wad, Wad)->Unit(benchmark::kMillisecond);
 
-// Browsing: the names of a folder, then the status of each. The argument is the number of other open
-// documents.
+// Browsing: lists a folder's names and the status of each. The argument is how many other documents are open.
 void ListWithStatus(benchmark::State& state) {
     HeadlessApplication application([](const std::string&) {});
     FileSystem& files = application.GetFileSystem();

@@ -10,8 +10,8 @@
 
 namespace keltavlo {
 
-// "CopyPicture" is the reference for the others: run all with --benchmark_enable_random_interleaving=true and
-// compare.
+// "CopyPicture" is the reference for the others: run all of them to compare, with the option
+// --benchmark_enable_random_interleaving=true.
 
 namespace {
 
@@ -33,7 +33,7 @@ Table MakeRandomTable() {
     return table;
 }
 
-// Like that of a gamma setting: changes the colors and keeps alpha.
+// Like the table of a gamma setting: changes the colors and keeps alpha.
 Table MakeGammaTable() {
     Table table{};
     for (std::uint32_t i = 0; i < 256; ++i) table[i] = Compose(i * i / 255, (i + 255) / 2, 255 - i, i);

@@ -67,7 +67,7 @@ def wall_time(command):
 
 def report(tool):
     """Prints a table of median wall times of interleaved runs, each into a new folder."""
-    # On a disk, not in memory, and next to nothing that was deleted a moment ago, which would slow new files.
+    # On a disk, not in memory, and in a new folder, because many deleted files would slow down the creation of others.
     folder = tempfile.TemporaryDirectory(dir="/var/tmp")
     box = pathlib.Path(folder.name)
     make_inputs(box)

@@ -8,7 +8,7 @@ namespace keltavlo {
 // uninitialized memory returns different results for different fills.
 void BeginMemoryWatch(unsigned char fill);
 
-// The peak of the bytes in use since BeginMemoryWatch, beyond those in use then.
+// Returns the peak of the bytes in use since BeginMemoryWatch, less those in use then.
 std::size_t EndMemoryWatch();
 
 } // namespace keltavlo

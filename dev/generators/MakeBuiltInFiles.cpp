@@ -40,8 +40,7 @@ Bytes ColorTable(unsigned count, const std::function<std::uint32_t(std::uint32_t
     return bytes;
 }
 
-// Builds a file in the tagged format: magic, type and chunk count, then the kind and the title, padded with
-// NULs.
+// Builds a file in the tagged format: magic, type, chunk count, the kind, and the title padded with NULs.
 Bytes TaggedFile(const std::string& type, std::uint32_t kind, const std::string& title,
                  std::uint32_t titleSize) {
     Bytes bytes;

@@ -11,7 +11,7 @@ using namespace keltavlo;
 
 namespace {
 
-// The text as roff shows it literally.
+// Escapes the text, so that roff shows it literally.
 std::string Roff(const std::string& text) {
     std::string out;
     for (const char c : text) {

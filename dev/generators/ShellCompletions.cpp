@@ -7,7 +7,7 @@ namespace keltavlo {
 
 namespace {
 
-// The choices of an option with blanks between them; a word in capitals means a file.
+// Returns the choices of an option, separated by blanks. A word in capitals means a file.
 std::string ChoicesOf(const OptionText& option) {
     std::string choices;
     std::istringstream words(option.value);
@@ -29,7 +29,7 @@ std::string Join(const std::vector<std::string>& names, const char* between) {
     return joined;
 }
 
-// The text with a backslash before each of the special characters.
+// Puts a backslash before each of the special characters.
 std::string Backslashed(const std::string& text, std::string_view special) {
     std::string out;
     for (const char c : text) {
@@ -39,7 +39,7 @@ std::string Backslashed(const std::string& text, std::string_view special) {
     return out;
 }
 
-// The text within single quotes of a shell.
+// Quotes the text for a shell.
 std::string Quote(const std::string& text) {
     std::string quoted;
     for (const char c : text) {
@@ -65,7 +65,7 @@ std::string BashCase(const CommandText& text) {
            " ;;\n        esac\n        ;;\n";
 }
 
-// The option as zsh describes it: (-f --force){-f,--force}[help]:value:(choices).
+// Describes the option for zsh: (-f --force){-f,--force}[help]:value:(choices).
 std::string ZshOption(const OptionText& option) {
     const std::string suffix = option.value.empty() ? "" : "=";
     std::vector<std::string> names = option.names;

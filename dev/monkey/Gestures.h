@@ -11,8 +11,8 @@ class QWidget;
 
 namespace keltavlo {
 
-// Random gestures of the mouse and keyboard. They reach the widgets as Qt's own events do; any widget may be
-// gone afterwards.
+// Random gestures of the mouse and keyboard. They reach the widgets like Qt's own events, after which any
+// widget may be gone.
 class Gestures {
 public:
     explicit Gestures(unsigned seed) : random(seed) {}

@@ -42,8 +42,7 @@ public:
     void Reserve(std::size_t count) { children.reserve(count); }
     void RemoveChildren();
 
-    // Returns the first file with that name, ignoring case; otherwise the folder with that name;
-    // otherwise null.
+    // Returns the first file with that name, ignoring case; otherwise the folder; otherwise null.
     Entry* FindChild(std::string_view name) const;
     // Returns the folder with that name, even if a file has the same name, or null.
     FolderEntry* FindFolder(std::string_view name) const;
@@ -59,8 +58,7 @@ private:
     const Named* Find(std::string_view name) const;
 
     std::vector<std::unique_ptr<Entry>> children;
-    // By folded name. Filled when a child is first looked up, so that reading a large archive does not wait
-    // for it.
+    // By folded name; filled on the first lookup, so that reading a large archive does not take longer.
     mutable std::unordered_map<std::string, Named> index;
     mutable std::size_t indexedCount = 0;
 };

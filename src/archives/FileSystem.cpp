@@ -10,10 +10,10 @@ namespace keltavlo {
 
 namespace {
 
-// Archives in archives; a pack that contains itself must end somewhere.
+// Limits archives inside archives, because a pack may contain itself.
 constexpr int maximumDepth = 8;
 
-// By the name alone: what else is open must not slow the listing of a large archive.
+// Looks only at the name, so that open documents do not slow the listing of a large archive.
 const CRuntimeClass* FolderTypeOf(const std::string& path) {
     const CRuntimeClass* type = DocTemplateRegistry::Get().GetDocumentClassOfName(path);
     return type && type->IsDerivedFrom(FolderDocument::runtimeClass) ? type : nullptr;
@@ -34,18 +34,18 @@ FolderDocument* OpenFolder(const std::string& path) {
     return archive->Refresh() ? archive : nullptr;
 }
 
-// The archive of the disk that the path leads into.
+// Returns the archive on the disk that the path leads into, or null.
 FolderDocument* FindDiskArchive(const std::string& path) {
     CFileStatus status;
     for (std::string folder = path; !folder.empty(); folder = ParentOf(folder)) {
-        // To the disk, "x.wad/." is the archive itself; here it is an entry of that name.
+        // The disk takes "x.wad/." for the archive itself; here it is an entry called ".".
         if (FileNameOf(folder) == "." || !CFile::GetStatus(folder, status) || status.IsDirectory()) continue;
         return folder == path ? nullptr : OpenFolder(status.fullName);
     }
     return nullptr;
 }
 
-// Null for the archive means the disk.
+// Opens a file in the archive, or on the disk if `archive` is null.
 std::unique_ptr<CFile> OpenIn(FolderDocument* archive, const std::string& path, unsigned flags,
                               CFileException* failure) {
     if (archive) return archive->OpenEntry(path, flags, failure);
@@ -78,7 +78,8 @@ void FileSystem::GetStatus(const std::string& path, EntryStatus& status) {
                   disk.created, disk.accessed, disk.modified};
     }
     const bool isFile = status.exists && !status.IsDirectory();
-    // Only a file of the disk can be the program; asking the disk about each entry would slow listings.
+    // Only a file on the disk can be the program itself. Checking the full name of each entry would make
+    // listings slow.
     const std::string name = status.onDisk ? status.fullName : std::string(FileNameOf(status.fullName));
     if (isFile && IsArchiveName(name)) status.browsable = true;
 }

@@ -7,8 +7,8 @@ namespace keltavlo {
 
 namespace {
 
-// With its last separator. Archives have thousands of names: the standard search for one of several
-// characters takes a third of the time of opening them.
+// Returns the folder with its last separator. Written by hand, because find_last_of takes a third of the time
+// of opening an archive with thousands of names.
 std::string_view FolderPartOf(std::string_view name) {
     std::size_t end = name.size();
     const auto endsFolder = [](char c) { return c == '/' || c == '\\' || c == ':'; };
@@ -77,8 +77,8 @@ bool FolderDocument::Refresh() {
     return ArchiveFreeze::Find() || !IsOutdated() || OnOpenDocument(GetPathName());
 }
 
-// An archive without a root name was not read: its file was empty, or damaged when it was last refreshed. The
-// built-in files have no source.
+// An archive without a root name was not read, because its file was empty or, when last refreshed, damaged.
+// The built-in files have no source.
 bool FolderDocument::IsOutdated() const {
     if (IsModified()) return false;
     return source ? !source->IsUnchanged() : GetRootName().empty();

@@ -7,18 +7,18 @@
 
 namespace keltavlo {
 
-// What a folder contains.
+// The contents of a folder.
 struct FolderListing {
-    std::vector<std::string> names; // of FolderEntry::GetListedName, in the order of the tree
+    std::vector<std::string> names; // from FolderEntry::GetListedName, in the order of the tree
     std::string path;
 };
 
-// While one exists, an archive whose file has changed is not read again, so that no message can appear: for
-// code that runs while the screen is being painted.
+// While one exists, no archive is read again, even if its file has changed. Code that runs while the screen
+// is painted creates one, because reading may show a message.
 class ArchiveFreeze : public Service<ArchiveFreeze> {};
 
-// A document that is a tree of named entries: an archive or the folder of built-in files. Its entries are
-// reached by paths that go through the document's own path as if it were a folder.
+// A document that is a tree of named entries: an archive or the folder of built-in files. The path of an
+// entry goes through the document's own path as if that were a folder.
 class FolderDocument : public Dynamic<"FolderDocument", FolderDocument, ReferenceDocument> {
 public:
     void ResetTree() { root.RemoveChildren(); }
@@ -28,42 +28,42 @@ public:
     // Whether the entries are lumps, whose names may contain characters that file systems refuse.
     virtual bool HasLumps() const { return false; }
 
-    // Appends the entry in the folder that the path names below the root; folders that are missing are made.
-    // The entry's own name is not looked at, so several entries may have one name.
+    // Appends the entry to the folder that the path names below the root. Creates missing folders. Ignores
+    // the entry's own name, so several entries may have the same one.
     void AddEntry(const std::string& path, std::unique_ptr<Entry> entry);
-    // The first file of that path without regard to case, else the folder, else null. If the path ends in a
-    // separator, the folder comes first.
+    // Returns the first file with that path, ignoring case; otherwise the folder; otherwise null. If the path
+    // ends in a separator, the folder comes first.
     Entry* FindEntry(const std::string& path) const;
-    // Resets the status when there is no such entry. A file's full name has no separator at its end.
+    // Resets the status if there is no such entry. The full name of a file does not end in a separator.
     void GetEntryStatus(const std::string& path, EntryStatus& status) const;
     std::unique_ptr<CFile> OpenEntry(const std::string& path, unsigned flags, CFileException* failure);
-    // The folder of that path, or null. The root itself needs no separator at its end.
+    // Returns the folder with that path, or null. The root's path needs no separator at its end.
     const FolderEntry* FindFolder(const std::string& path) const;
-    // Empty names when the path is no folder.
+    // Lists no names if the path is not a folder.
     void ListFolder(const std::string& path, FolderListing& listing) const;
-    // Reads the archive again if its file has changed since it was read, unless entries were written to.
-    // False when that failed: the user was told, and the archive is empty until a later call succeeds.
+    // Reads the archive again if its file has changed, unless entries were written to. If that fails, tells
+    // the user and returns false; the archive then stays empty until a later call succeeds.
     bool Refresh();
-    // The path of the first file entry on the way to the path that `isArchive` accepts; empty when there is
-    // none.
+    // Returns the path of the first file entry on the way to the path, if `isArchive` accepts it; otherwise
+    // an empty string.
     template <class Predicate>
     std::string FindOnTheWay(const std::string& path, Predicate isArchive) const;
 
-    // The file that the entries' bytes lie in, for reading an extent of it. CFileException when it was
-    // changed since it was opened, or does not back the extent.
+    // Returns the file that contains the entries' bytes, for reading an extent of it. Throws CFileException
+    // if the file has changed since it was opened or ends before the extent does.
     CFile& GetSource(std::uint64_t offset, std::uint64_t length) const;
-    // CFileException for an entry that is out of date.
+    // Throws the CFileException for an archive that has changed.
     [[noreturn]] static void ThrowChanged(const std::string& archivePath);
 
 protected:
-    // The first step of reading an archive: an empty tree under the name of what is read, whose bytes stay at
-    // hand.
+    // Call this first when reading an archive. It empties the tree, gives it the name of the file and keeps
+    // the file open for the entries.
     void BeginReading(InputStream& in);
-    // AddEntry for a name from an archive's directory.
+    // Adds an entry under a name from an archive's directory.
     void AddNamedEntry(std::string_view name, std::unique_ptr<Entry> entry);
-    // The same for a name that is known to have no folder.
+    // Adds an entry whose name is known to contain no folder.
     void AddRootEntry(std::unique_ptr<Entry> entry) { root.Append(std::move(entry)); }
-    // Before so many entries are added, most of them to the root.
+    // Reserves memory for `count` entries of the root.
     void ReserveRootEntries(std::size_t count) { root.Reserve(count); }
     void DeleteContents() override;
 
@@ -73,7 +73,7 @@ private:
 
     RootEntry root;
     std::unique_ptr<CFile> source;
-    // The folder of the entry added last: archives list their folders one after the other.
+    // The folder of the entry added last, because archives list the entries of a folder together.
     std::string lastFolderName;
     FolderEntry* lastFolder = nullptr;
 };

@@ -7,8 +7,7 @@
 
 namespace keltavlo {
 
-// A pack (".pak") as it lies in the file: the header, and a directory of records anywhere behind it.
-// Little-endian.
+// The layout of a pack (".pak"), little-endian: the header, and a directory of records anywhere after it.
 struct PAKHeader {
     static constexpr char expectedIdentification[4] = {'P', 'A', 'C', 'K'};
 
@@ -19,7 +18,7 @@ struct PAKHeader {
 static_assert(sizeof(PAKHeader) == 12);
 
 struct PAKRecord {
-    char name[56];        // relative path, ended by a NUL when shorter
+    char name[56];        // relative path, NUL-terminated unless full
     std::uint32_t offset; // bytes from the start of the file
     std::uint32_t length; // bytes
 

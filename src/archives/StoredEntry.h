@@ -5,8 +5,7 @@
 
 namespace keltavlo {
 
-// A file entry whose bytes are part of its archive's file. They are read on first use. Changed
-// bytes stay in memory.
+// A file entry whose bytes are part of its archive's file, read on first use. Changes stay in memory.
 class StoredEntry : public Entry {
 public:
     void GetStatus(EntryStatus& status) const override;
@@ -27,7 +26,7 @@ private:
     std::shared_ptr<EntryBytes> Load(FolderDocument& owner);
 
     struct Use {
-        std::weak_ptr<EntryBytes> loaded;    // as long as a file over them is open
+        std::weak_ptr<EntryBytes> loaded;    // while a file over them is open
         std::shared_ptr<EntryBytes> changed; // set by the first write
     };
     // Created when the entry is first opened, because most entries of a large archive never are. Files over

@@ -14,7 +14,7 @@ namespace {
 
 constexpr struct {
     LumpType lumpType;
-    std::string_view documentClass; // by name: pictures are documents of a higher layer
+    std::string_view documentClass; // a name, because pictures belong to a higher layer
 } kinds[] = {{LumpType::palette, "LMPDocument"},
              {LumpType::wad3Texture, "MIPDocument"},
              {LumpType::wad2Texture, "MIPDocument"}};
@@ -25,12 +25,12 @@ std::string ExtensionOfClass(std::string_view className) {
     return {};
 }
 
-// A lump, its bytes as they lie in the file, cut or filled with zeros to the size that the record claims.
+// A lump: its bytes in the file, cut or filled with zeros to the size that the record claims.
 class WADEntry final : public StoredEntry {
 public:
     WADEntry(const WADRecord& directoryRecord, const WADDocument& document)
         : record(directoryRecord), owner(document) {}
-    // The name with the extension of the document type that opens lumps of this kind.
+    // Returns the name with the extension of the document type that opens lumps of this type.
     std::string GetName() const override {
         return std::string(FileNameOf(record.GetPath())).append(owner.GetExtension(record.type));
     }

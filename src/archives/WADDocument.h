@@ -13,16 +13,17 @@ struct WADDirectory {
 // A Quake or Half-Life texture archive (".wad") as a folder. Read only.
 class WADDocument final : public Dynamic<"WADDocument", WADDocument, FolderDocument> {
 public:
-    // Fails as ReadContents does, except for lumps past the end.
+    // Throws like ReadContents, except for lumps past the end.
     static WADDirectory ReadDirectory(InputStream& in);
 
-    // badClass without "WAD2" or "WAD3"; badIndex for a negative number of lumps; endOfFile for a record or a
-    // lump past the end. A lump that claims more data than the file is long fails only when it is opened.
+    // Throws badClass without "WAD2" or "WAD3", badIndex for a negative number of lumps, endOfFile for a
+    // record or a lump past the end. If a lump claims more data than the whole file has, only opening the
+    // lump fails.
     void ReadContents(InputStream& in) override;
-    void WriteContents(OutputStream& out) override; // readOnly
+    void WriteContents(OutputStream& out) override; // throws readOnly
     bool HasLumps() const override { return true; }
 
-    // The extension of the document type that opens lumps of the type; empty for a type that none opens.
+    // Returns the extension of the document type that opens lumps of the type; empty if there is none.
     std::string_view GetExtension(LumpType lumpType) const;
 
 private:

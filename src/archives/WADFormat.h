@@ -7,8 +7,8 @@
 
 namespace keltavlo {
 
-// A texture archive (".wad") as it lies in the file: the header, and a directory of records anywhere behind
-// it. Little-endian.
+// The layout of a texture archive (".wad"), little-endian: the header, and a directory of records anywhere
+// after it.
 struct WADHeader {
     char identification[4]; // one of wadIdentifications
     std::int32_t lumpCount;
@@ -18,21 +18,21 @@ static_assert(sizeof(WADHeader) == 12);
 
 inline constexpr std::string_view wad2Identification = "WAD2", wad3Identification = "WAD3";
 
-// What a lump is.
+// The types of lumps that the program opens. Files may contain others.
 enum class LumpType : std::uint8_t { palette = 64, wad3Texture = 67, wad2Texture = 68 };
 
 struct WADRecord {
     std::uint32_t offset;   // bytes from the start of the file
-    std::uint32_t diskSize; // bytes that the lump takes in the file
-    std::uint32_t size;     // bytes of its data
-    LumpType type;          // the file's; it may have another value
+    std::uint32_t diskSize; // bytes in the file
+    std::uint32_t size;     // bytes of the data
+    LumpType type;          // unchecked, may have other values
     std::uint8_t compression;
     std::uint8_t padding[2];
-    char name[16]; // ended by a NUL when shorter
+    char name[16]; // NUL-terminated unless full
 
     std::string_view GetPath() const { return UpToNul({name, sizeof name}); }
-    // False when the name has no folder. Looks at the whole field and not for its end: one step for all 16
-    // characters, of which large files have tens of thousands.
+    // Returns false if the name has no folder. Checks all 16 characters, even those after the NUL, because
+    // that is a single step; large files have tens of thousands of names.
     bool MayHaveFolder() const {
         unsigned found = 0;
         for (const char c : name) found |= unsigned{c == '/'} | unsigned{c == '\\'} | unsigned{c == ':'};

@@ -17,7 +17,7 @@ namespace {
 constexpr int indexBits = 8;
 constexpr std::uint32_t indexCount = 256;
 
-// An index without a color is black.
+// Indices without a color become black.
 ColorList PaletteOf(const DibDescription& bitmap) {
     ColorList palette(indexCount);
     for (std::uint32_t i = 0; i < indexCount; ++i) palette.SetColor(i, bitmap.ColorOf(i));

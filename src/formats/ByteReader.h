@@ -8,18 +8,18 @@
 
 namespace keltavlo {
 
-// Shows the rest of a stream piece by piece, of which it reads large ones. The stream's own position is of no
-// use afterwards.
+// Reads the rest of a stream in large pieces and shows it to the caller. The stream's own position is
+// undefined afterwards.
 class ByteReader {
 public:
     explicit ByteReader(InputStream& stream) : in(stream), remaining(stream.GetRemaining()) {}
 
-    // The next bytes: at least so many, unless the stream ends before.
+    // Returns the next bytes: at least `count`, unless the stream ends earlier.
     std::span<const std::uint8_t> Peek(std::size_t count) {
         if (filled - used < count) Fill();
         return {buffer.data() + used, filled - used};
     }
-    // Goes on by some of the bytes that Peek showed.
+    // Skips `count` of the bytes that Peek returned.
     void Take(std::size_t count) { used += count; }
 
 private:

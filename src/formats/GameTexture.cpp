@@ -17,13 +17,13 @@ namespace gametexture {
 
 namespace {
 
-constexpr std::size_t maximumColors = 256; // that a byte can tell apart
+constexpr std::size_t maximumColors = 256; // an index is one byte
 
 bool IsAllowedSide(std::uint32_t side) {
     return side <= maximumSide && IsFittingSide(static_cast<int>(side));
 }
 
-// In one pass that the compiler spreads over the processor's vectors.
+// Does not stop early, so that the compiler can vectorize it.
 std::uint8_t Highest(std::span<const std::uint8_t> indices) {
     std::uint8_t highest = 0;
     for (const std::uint8_t index : indices) highest = std::max(highest, index);

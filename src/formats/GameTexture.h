@@ -15,15 +15,14 @@ class InputStream;
 class OutputStream;
 class Texture;
 
-// What the game texture formats share: their sizes, four mip levels of palette indices, names in fixed
-// fields.
+// What the formats of game textures share: sizes, four mip levels of palette indices, names in fixed fields.
 namespace gametexture {
 
 constexpr int levelCount = 4;
-constexpr int sideUnit = 8; // sides are multiples of it, so that level 3 has whole texels
+constexpr int sideUnit = 8; // sides are multiples of this, so that level 3 has whole texels
 constexpr int maximumSide = 256;
 
-// The side that a picture gets before it is saved.
+// Rounds a side up to one that the formats allow; anything larger becomes maximumSide.
 constexpr int FittingSide(int side) {
     const int rounded = (side + sideUnit - 1) / sideUnit * sideUnit;
     return rounded < sideUnit ? sideUnit : rounded > maximumSide ? maximumSide : rounded;
@@ -36,32 +35,32 @@ constexpr bool IsFittingSide(int side) {
 void CheckSides(const InputStream& in, std::uint32_t width, std::uint32_t height);
 void CheckSides(const OutputStream& out, const Image& picture);
 
-// The palette that the indices of a file refer to: the texture's own, else the default one.
+// Returns the texture's own palette, or `fallback` if it has none.
 const ColorList& PaletteOf(const Texture& texture, const ColorList* fallback);
-// Calls Fail(badIndex) for a palette that bytes cannot be indices of: an empty one, or of more than 256
-// colors.
+// Calls Fail(badIndex) unless the palette has 1 to 256 colors, because an index is one byte.
 void CheckPalette(const OutputStream& out, const ColorList& palette);
 
-// Offsets of the four levels when the first lies at `start` and they follow one another.
+// Returns the offsets of the four levels, which follow one another from `start`.
 std::array<std::uint32_t, levelCount> LevelOffsets(std::uint32_t start, int width, int height);
 
-// Reads width x height indices at the stream's position into the picture, which gets that size, and into the
-// texture's indices if it wants them. badIndex for an index past the end of the palette; endOfFile before the
-// picture is made when there are too few.
+// Reads width x height indices at the stream's position. Gives the picture that size and their colors, and
+// stores the indices if the texture wants them. Throws badIndex for an index past the end of the palette.
+// Throws endOfFile, before it allocates anything, if the stream is too short.
 void ReadIndices(InputStream& in, Texture& texture, int width, int height, const ColorList& palette);
 
-// Writes the picture and its three half sizes: the indices that the texture has, else those of the nearest
-// palette colors.
+// Writes the indices of the picture and its three half sizes. Where the texture has none, those of the
+// nearest palette colors are written.
 void WriteMipLevels(OutputStream& out, const Texture& texture, const ColorList& palette);
 
-// The text of a name's field: up to its first NUL, or all of it.
+// Returns the text of a name field: up to its first NUL, or all of it.
 template <std::size_t n>
 std::string GetName(const char (&field)[n]) {
     return std::string(UpToNul({field, n}));
 }
 
-// Fills a zeroed field with as much of a name as fits; whether a NUL must stay at its end, the format says.
+// Whether the last character of a name field must be a NUL.
 enum class NameEnd { withNul, anyCharacter };
+// Copies as much of the name as fits into a zeroed field.
 template <std::size_t n>
 void PutName(char (&field)[n], const std::string& name, NameEnd end) {
     name.copy(field, end == NameEnd::withNul ? n - 1 : n);

@@ -16,8 +16,7 @@ using namespace gametexture;
 
 namespace {
 
-// A full palette is what makes the end of a file a palette; some tools fill it up to a multiple of four
-// bytes.
+// A file has a palette only if it ends in a full one. Some tools pad the palette to a multiple of four bytes.
 constexpr std::int16_t fullCount = fullMIPPaletteCount;
 constexpr std::int64_t fullTrailerSize = sizeof fullCount + fullCount * rgbTripleSize;
 constexpr std::int64_t maximumPadding = 2;
@@ -26,7 +25,7 @@ bool IsTrailerSize(std::int64_t size) {
     return size >= fullTrailerSize && size <= fullTrailerSize + maximumPadding;
 }
 
-// Null when what follows the position is not as long as a palette.
+// Returns null if what follows the position does not have the length of a full palette.
 std::unique_ptr<ColorList> ReadTrailer(InputStream& in, std::uint64_t position) {
     if (!IsTrailerSize(static_cast<std::int64_t>(in.GetLength()) - static_cast<std::int64_t>(position)))
         return nullptr;

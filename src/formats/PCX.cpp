@@ -24,10 +24,10 @@ constexpr std::uint8_t runLengthEncoding = 1;
 constexpr std::uint16_t writtenResolution = 72; // dots per inch
 constexpr std::uint16_t colorPalette = 1;
 
-// As it lies in the file; little-endian.
+// The layout in the file, little-endian.
 struct Header {
     std::uint8_t manufacturer, version, encoding, bitsPerPixel;
-    std::uint16_t left, top, right, bottom; // the last column and row still belong to the picture
+    std::uint16_t left, top, right, bottom; // right and bottom are inclusive
     std::uint16_t horizontalResolution, verticalResolution;
     std::uint8_t firstColors[16 * rgbTripleSize];
     std::uint8_t reserved;
@@ -43,7 +43,7 @@ struct Header {
 };
 static_assert(sizeof(Header) == 128);
 
-// Two set bits at the top of a byte make it a run: the lower bits count how often the next byte repeats.
+// A byte whose two highest bits are set starts a run: its other bits count how often the next byte repeats.
 constexpr unsigned runMark = 0xC0;
 constexpr unsigned maximumRun = 0x3F;
 
@@ -60,7 +60,7 @@ struct Trailer {
 };
 static_assert(sizeof(Trailer) == 769);
 
-// Whether the fields make sense, also those of kinds that cannot be read.
+// Whether the fields make sense, even for kinds of pictures that cannot be read.
 bool IsPcx(const Header& header) {
     return header.encoding <= runLengthEncoding && header.bitsPerPixel > 0 && header.planes > 0 &&
            header.Width() > 0 && header.Height() > 0 &&
@@ -68,7 +68,7 @@ bool IsPcx(const Header& header) {
                static_cast<std::uint64_t>(header.Width()) * header.bitsPerPixel;
 }
 
-// Empty for a kind that can be read.
+// Returns why the picture cannot be read; empty if it can.
 std::string RefusalOf(const Header& header) {
     if (header.encoding != runLengthEncoding) return "Uncompressed PCX pictures are not supported.";
     const int depth = header.bitsPerPixel * header.planes;
@@ -79,7 +79,7 @@ std::string RefusalOf(const Header& header) {
     return {};
 }
 
-// In this order, because the first fault decides the message.
+// The order matters, because the first fault determines the message.
 void CheckHeader(const InputStream& in, const Header& header) {
     if (header.manufacturer != expectedManufacturer) in.Fail(StreamError::badClass);
     if (header.version != expectedVersion) in.Fail(StreamError::badSchema);
@@ -88,7 +88,8 @@ void CheckHeader(const InputStream& in, const Header& header) {
     if (!refusal.empty()) in.Fail(StreamError::badIndex, refusal);
 }
 
-// A row takes at least so many bytes, however well it is coded: two for a run, one for a single byte.
+// Throws endOfFile for a file that is too short however well it is compressed. A run takes two bytes, a
+// single byte one.
 void CheckLength(const InputStream& in, const Header& header) {
     const std::uint64_t rowBytes =
         2 * (header.LineSize() / maximumRun) + std::min<std::size_t>(header.LineSize() % maximumRun, 2);
@@ -96,7 +97,7 @@ void CheckLength(const InputStream& in, const Header& header) {
         in.Fail(StreamError::endOfFile);
 }
 
-// Leaves the stream where the rows begin.
+// Returns the palette at the end of the file, or `fallback` if there is none. Keeps the stream's position.
 ColorList ReadPalette(InputStream& in, const ColorList& fallback) {
     const std::uint64_t rows = in.GetPosition();
     Trailer trailer{};
@@ -113,7 +114,7 @@ void ReadLine(ByteReader& reader, const InputStream& in, std::span<std::uint8_t>
     std::uint8_t* const end = place + line.size();
     while (place != end) {
         const std::span<const std::uint8_t> bytes = reader.Peek(2);
-        // The stream ends, or does so within a run.
+        // The stream has ended, perhaps within a run.
         if (bytes.empty() || (bytes.size() == 1 && IsRun(bytes[0]))) in.Fail(StreamError::endOfFile);
         std::size_t used = 0;
         while (place != end && used < bytes.size()) {
@@ -123,7 +124,7 @@ void ReadLine(ByteReader& reader, const InputStream& in, std::span<std::uint8_t>
                 ++used;
                 continue;
             }
-            if (used + 1 == bytes.size()) break; // its value comes with the next bytes
+            if (used + 1 == bytes.size()) break; // the next Peek returns its value
             const std::ptrdiff_t count = byte & maximumRun;
             if (count > end - place) in.Fail(StreamError::badIndex);
             if (count == 1) // a single pixel of a high index, the most frequent run
@@ -136,7 +137,7 @@ void ReadLine(ByteReader& reader, const InputStream& in, std::span<std::uint8_t>
     }
 }
 
-// The end of a file is a palette only when it is a full one.
+// Throws badIndex unless there are 256 colors, because the format has only full palettes.
 void CheckColors(const OutputStream& out, const ColorList& colors) {
     if (colors.GetCount() == paletteSize) return;
     out.Fail(StreamError::badIndex, "A PCX file needs a palette of 256 colors, and this picture's has " +
@@ -159,7 +160,7 @@ Header HeaderOf(const Texture& texture, const ColorList& colors) {
     return header;
 }
 
-// Codes each index by itself: a run of one where it would look like the mark of a run.
+// Writes each index separately, as a run of one if it would otherwise look like the start of a run.
 void PutLine(std::vector<std::uint8_t>& bytes, std::span<const std::uint8_t> indices) {
     for (const std::uint8_t index : indices) {
         if (IsRun(index)) bytes.push_back(runMark | 1);
@@ -210,7 +211,7 @@ void ReadPCX(InputStream& in, Texture& texture, const ColorList* palette) {
 }
 
 void WritePCX(OutputStream& out, const Texture& texture, const ColorList* palette) {
-    constexpr int maximumWidth = 65534; // rows have an even number of bytes, stored in 16 bits
+    constexpr int maximumWidth = 65534; // a row's number of bytes is even and stored in 16 bits
     const ColorList& colors = PaletteOf(texture, palette);
     if (texture.GetWidth() < 1 || texture.GetWidth() > maximumWidth || texture.GetHeight() < 1)
         out.Fail(StreamError::badIndex);

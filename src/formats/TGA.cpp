@@ -28,10 +28,10 @@ constexpr std::uint8_t columnsFromRight = 0x10; // in the descriptor
 constexpr std::uint8_t rowsFromTop = 0x20;
 constexpr std::uint8_t eightAlphaBits = 8;
 
-// As it lies in the file; little-endian, without gaps.
+// The layout in the file, little-endian, without gaps.
 struct [[gnu::packed]] Header {
     std::uint8_t identifierLength; // bytes between the header and the color map
-    std::uint8_t colorMapType;     // 0 none, 1 one
+    std::uint8_t colorMapType;     // 0: none, 1: one
     std::uint8_t imageType;
     std::uint16_t colorMapFirst, colorMapLength; // entries
     std::uint8_t colorMapEntryBits;
@@ -40,7 +40,7 @@ struct [[gnu::packed]] Header {
     std::uint8_t depth; // bits a pixel
     std::uint8_t descriptor;
 
-    // From the end of the header to the first pixel.
+    // Returns the number of bytes between the header and the first pixel.
     std::int64_t SkippedBytes() const {
         const int entryBytes = std::max((colorMapEntryBits + 7) / 8, 1);
         return identifierLength + std::int64_t{colorMapType} * colorMapLength * entryBytes;
@@ -76,8 +76,8 @@ std::uint64_t PictureBytes(const Header& header, std::uint64_t pixelBytes) {
     return pixelBytes * header.width * header.height;
 }
 
-// Whether the fields make sense, also those of kinds that cannot be read. A picture without pixels costs its
-// writer nothing, so it may not claim much.
+// Whether the fields make sense, even for kinds of pictures that cannot be read. A file without pixels is
+// tiny whatever size it claims, so the size is limited.
 bool IsTarga(const Header& header) {
     constexpr std::uint64_t maximumEmptyPicture = std::uint64_t{16} << 20;
     if (header.width == 0 || header.height == 0 || header.colorMapType > 1) return false;
@@ -87,7 +87,7 @@ bool IsTarga(const Header& header) {
            std::ranges::find(trueColorDepths, header.depth) != std::end(trueColorDepths);
 }
 
-// Empty for a kind that can be read.
+// Returns why the picture cannot be read; empty if it can.
 std::string RefusalOf(const Header& header) {
     switch (header.imageType) {
     case noPicture:
@@ -125,7 +125,7 @@ void ReadPixels(InputStream& in, const Header& header, Image& picture) {
         if (header.depth == 24)
             ExpandBgr(rows.Next(), row);
         else
-            in.Read(row); // as they are
+            in.Read(row); // the bytes of a Color
         if (header.descriptor & columnsFromRight) std::ranges::reverse(row);
     }
 }

@@ -12,12 +12,12 @@ using namespace gametexture;
 
 namespace {
 
-// As it lies in the file; little-endian.
+// The layout in the file, little-endian.
 struct Header {
-    char name[32]; // ended by a NUL when shorter
+    char name[32]; // NUL-terminated unless full
     std::uint32_t width, height;
     std::uint32_t offsets[levelCount]; // of the levels, from the start of the file
-    char nextFrameName[32];            // as the name
+    char nextFrameName[32];            // like the name
     std::uint32_t surfaceFlags, contents, value;
 };
 static_assert(sizeof(Header) == 100);

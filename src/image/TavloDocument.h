@@ -19,7 +19,7 @@ struct Quake2Names {
     bool operator==(const Quake2Names&) const = default;
 };
 
-// The hint object of the views' update when a stroke changes a single texel.
+// Tells views that a stroke has changed a single texel.
 class TexelChange final : public CObject {
 public:
     TexelChange(int column, int row) : x(column), y(row) {}

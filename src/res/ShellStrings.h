@@ -42,7 +42,7 @@ enum ShellStringId : unsigned {
     IDS_NO_MEMORY_TO_PAINT = 2401
 };
 
-// These strings, the framework's, and one for each command: the prompt, then the tool tip.
+// Returns these strings, the framework's, and one for each command: its prompt, then its tool tip.
 std::span<const StringRow> ShellStrings();
 
 } // namespace keltavlo

@@ -17,7 +17,7 @@ namespace keltavlo {
 
 namespace {
 
-// What a thread made of a file.
+// The result of a thread's work on a file.
 struct Made {
     std::optional<StagedFile> staged;
     std::vector<std::string> notes;
@@ -46,7 +46,7 @@ public:
     }
 
 private:
-    // Many disks do not tell capitals apart. Equal names stay: the second output is refused in its turn.
+    // Many disks ignore case in names. Equal names stay, and the second output is refused later.
     void RenameClashes() {
         std::vector<std::string> targets;
         for (const BatchFile& file : files) targets.push_back(file.target);
@@ -56,9 +56,8 @@ private:
             if (file.target.empty() || !seen.insert(file.target).second) continue;
             std::string target = names.Take(file.target);
             if (target != file.target)
-                report.Note("Another output is called \"" + ToDisplayPath(file.target) +
-                            "\", without regard to case; this one becomes \"" + ToDisplayPath(target) +
-                            "\".");
+                report.Note("Another output has the same name as \"" + ToDisplayPath(file.target) +
+                            "\", ignoring case; this one becomes \"" + ToDisplayPath(target) + "\".");
             file.target = std::move(target);
         }
     }
@@ -99,7 +98,7 @@ private:
     // Runs in the calling thread, in the order of the files.
     bool Take(const BatchFile& file, Made made) {
         const bool wasMade = made.staged || made.isTaken || !made.failure.empty() || file.target.empty();
-        if (!wasMade) return false; // a signal came
+        if (!wasMade) return false; // after a signal
         report.ShowProgress(file.source.name);
         if (file.target.empty())
             report.AddSkipped("Skipped \"" + ToDisplayPath(file.source.name) + "\": not a picture.");
@@ -126,7 +125,7 @@ private:
     OutputPlace& outputs;
     const MakeOutput& makeOutput;
     RunReport report;
-    std::mutex archives; // of all open archives, which threads read one after the other
+    std::mutex archives; // for all open archives, because only one thread may read them at a time
 };
 
 } // namespace

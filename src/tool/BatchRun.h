@@ -11,11 +11,11 @@ class CFile;
 class OutputPlace;
 struct ToolArguments;
 
-// One file of a run and where it goes.
+// A file of a run and the path of its output.
 struct BatchFile {
     TreeFile source;
     std::string target;        // full path; empty for a file that is skipped because it is no picture
-    TextureFields fields = {}; // of a picture, from the metadata of its folder
+    TextureFields fields = {}; // of a picture, from its folder's metadata
 };
 
 // What happens to the files of a run: "convert" and "converted".
@@ -24,12 +24,12 @@ struct BatchVerb {
     const char* past;
 };
 
-// Makes the output of a file. Runs in any thread; throws what is to be reported.
+// Makes the output of a file. Runs in any thread. Throws what should be reported.
 using MakeOutput = std::function<ConvertedFile(CFile& source, const BatchFile& file)>;
 
-// Spreads the files over threads and writes their outputs. Notes, failures and outputs are the same for any
-// number of threads, in the order of the files. Throws InterruptedError after a signal; the outputs finished
-// by then stay.
+// Spreads the files over threads and writes their outputs. Notes, failures and outputs come in the order of
+// the files, whatever the number of threads. After a signal, throws InterruptedError and keeps the outputs
+// that were finished.
 void RunBatch(Tool& tool, const ToolArguments& arguments, BatchVerb verb, std::vector<BatchFile> files,
               OutputPlace& outputs, const MakeOutput& makeOutput);
 

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::size_t optionColumn = 24, lineLength = 80;
 
-// Breaks the text between words, so that no line is longer than the limit unless a word is.
+// Breaks the text between words, so that no line is longer than the limit unless a single word is.
 std::string Wrap(std::string text, std::size_t limit) {
     std::size_t begin = 0;
     while (text.size() - begin > limit) {
@@ -24,8 +24,8 @@ std::string Wrap(std::string text, std::size_t limit) {
     return text;
 }
 
-// Lays out help as the commands' rows describe them: paths are not options to the parser, which would split
-// a path such as "[a,b]" into a list.
+// Lists the paths as the command's row describes them. The parser does not know them as options, because it
+// would split a path such as "[a,b]" into a list.
 class HelpFormatter final : public CLI::Formatter {
 public:
     explicit HelpFormatter(std::string synopsisOfApp) : synopsis(std::move(synopsisOfApp)) {
@@ -45,13 +45,13 @@ private:
     std::string synopsis;
 };
 
-// The parser with all commands; parsing fills `arguments`.
+// A parser for all commands. Parsing fills `arguments`.
 class Parser {
 public:
     explicit Parser(ToolArguments& arguments) {
         SetUp(app, "COMMAND ...");
         app.set_version_flag("--version", "keltavlo-tool " KELTAVLO_VERSION "\n", "Show the version.");
-        app.require_subcommand(0, 1); // a path may be called like a command
+        app.require_subcommand(0, 1); // a path may have the name of a command
         app.footer("Paths may lead into archives as if these were folders; see keltavlo-tool(1).");
         for (const ToolCommand& row : Commands()) {
             CLI::App* command = app.add_subcommand(row.name, row.help);
@@ -61,9 +61,9 @@ public:
         }
     }
 
-    // The chosen command; null without one.
+    // Returns the chosen command, or null if there is none.
     const CLI::App* Parse(std::vector<std::string> words) {
-        std::reverse(words.begin(), words.end()); // as the library takes them
+        std::reverse(words.begin(), words.end()); // the order that the library expects
         app.parse(std::move(words));
         const auto chosen = app.get_subcommands();
         if (chosen.empty() && app.remaining_size() > 0) throw UsageError(DescribeStranger());
@@ -81,7 +81,7 @@ public:
         return texts;
     }
 
-    // The sentence for a failure of the library, whose text begins with the option.
+    // Returns a sentence about a failure in the library, whose own text starts with the option.
     std::string Describe(const CLI::ParseError& failure) const {
         const std::string text = failure.what(), name = text.substr(0, text.find_first_of(": "));
         for (const CLI::App* command : app.get_subcommands())
@@ -127,7 +127,7 @@ void TakePaths(std::vector<std::string> paths, const ToolCommand& row, ToolArgum
     arguments.inputs = std::move(paths);
 }
 
-// The paths behind "--", which are taken out of the words.
+// Removes the paths after "--" from the words and returns them.
 std::vector<std::string> TakeMarkedPaths(std::vector<std::string>& words) {
     const auto mark = std::find(words.begin(), words.end(), "--");
     if (mark == words.end()) return {};

@@ -6,20 +6,20 @@ namespace keltavlo {
 
 struct ToolCommand;
 
-// A command line that was understood: a command with its arguments, or a text to show in its place.
+// The result of parsing a command line: a command with its arguments, or a text to print instead.
 struct CommandLine {
     const ToolCommand* command = nullptr; // null if there is a text
     ToolArguments arguments;
     std::string text; // the help or the version
 };
 
-// Options may appear anywhere behind the command; behind "--" everything is a path. Throws UsageError.
+// Accepts options anywhere after the command; everything after "--" is a path. Throws UsageError.
 CommandLine ParseCommandLine(const std::vector<std::string>& words);
 
 // An option as the help describes it.
 struct OptionText {
     std::vector<std::string> names; // with their dashes, the short one first
-    std::string value; // the choices with "|" between them, or a word in capitals; empty for none
+    std::string value; // the choices separated by "|", or a word in capitals; empty if there is none
     std::string help;
 };
 

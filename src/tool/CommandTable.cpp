@@ -38,7 +38,7 @@ void AddExtractOptions(CLI::App& command, ToolArguments& arguments) {
 
 void AddPackingOptions(CLI::App& command, ToolArguments& arguments) {
     AddPackOptions(command, arguments);
-    AddFormatOption(command, arguments, "The format that pictures in a PAK are converted to.");
+    AddFormatOption(command, arguments, "The format to convert pictures in a PAK to.");
     AddPaletteOptions(command, arguments);
     AddRunOptions(command, arguments);
 }
@@ -54,9 +54,9 @@ constexpr ToolCommand commands[] = {
      "skins; for a studio model (.mdl), its textures.",
      anyNumber, false, AddJsonOption, ShowInfo},
     {"sheet", "PATH OUT.png", "Draw a contact sheet of the textures in an archive.",
-     "Draws every picture in an archive or a folder with its name and its size in texels, 48 to a page. A "
-     "picture of more than 128 texels is shown smaller, by a whole factor; a checkerboard shows through "
-     "transparent texels. The first page is OUT.png, the next one OUT-2.png and so on.",
+     "Draws every picture in an archive or a folder with its name and its size in texels, 48 to a page. "
+     "Pictures that are wider or higher than 128 texels are reduced by a whole factor. A checkerboard shows "
+     "through transparent texels. The first page is OUT.png, the next one OUT-2.png and so on.",
      1, true, AddSheetOptions, MakeSheet},
     {"convert", "IN... OUT", "Convert pictures to another format.",
      "If IN is one picture, the extension of OUT selects the format, or OUT is a folder. If there are "
@@ -70,19 +70,19 @@ constexpr ToolCommand commands[] = {
      "Writes one file of an archive, or all its files in their folders, below OUTDIR; if OUTDIR is -, writes "
      "one file to the standard output. Archives inside an archive or a folder become folders, except maps. "
      "For a model (.mdl), on the disk or in an archive, writes each texture as a numbered Targa file: "
-     "model_1.tga and so on. Names that lead out of OUTDIR are refused. Names that differ in case only, and "
+     "model_1.tga and so on. Names that lead out of OUTDIR are refused. Names that differ only in case, and "
      "a file and a folder of the same name, get numbers, and a note says so. If several files have the same "
      "name, only the first is written.",
      anyNumber, true, AddExtractOptions, Extract},
     {"pack", "FOLDER|LIST... OUT", "Write a PAK or WAD archive.",
      "The extension of OUT, .pak or .wad, selects the kind of archive. A FOLDER, which may be an archive, is "
-     "packed with all its folders, in the order of names. A LIST is a text file with a path on each line, "
-     "relative to the folder of the list; lines that begin with # are left out. In a pack, files go in as "
-     "they are; --to converts the pictures among them. In a WAD, each picture becomes a texture, and each "
+     "packed with all its folders, sorted by name. A LIST is a text file with a path on each line, "
+     "relative to the folder of the list; lines that begin with # are skipped. Files in a pack stay as "
+     "they are, except that --to converts the pictures. In a WAD, each picture becomes a texture, and each "
      ".lmp file a palette. Textures in a WAD2 have Quake's palette unless --palette names another one; those "
-     "in a WAD3 each have their own. The names of textures are those of the files, without folders, where "
-     "_xHH means the character of the hexadecimal code HH; extract writes such names. If anything does not "
-     "fit, the command reports all of it and writes nothing.",
+     "in a WAD3 each have their own. The names of textures are those of the files, without folders; _xHH "
+     "in them means the character with the hexadecimal code HH. The command extract writes such names. If "
+     "anything does not fit, the command reports all of it and writes nothing.",
      anyNumber, true, AddPackingOptions, Pack},
 };
 

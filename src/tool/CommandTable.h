@@ -12,7 +12,7 @@ namespace keltavlo {
 class Tool;
 struct ToolArguments;
 
-// One command of the tool.
+// A command of the tool.
 struct ToolCommand {
     const char* name;
     const char* paths;         // as the usage shows them

@@ -29,7 +29,7 @@ bool IsFolder(const std::string& path) {
     return CFile::GetStatus(path, status) && status.IsDirectory();
 }
 
-// Converts what the arguments name.
+// Converts the inputs of the arguments.
 class Conversion {
 public:
     Conversion(Tool& reportingTool, const ToolArguments& toolArguments)
@@ -106,7 +106,7 @@ private:
         return ConvertPicture(source, file.source.name, file.target, palettes, options);
     }
 
-    // A single picture from or to a standard stream.
+    // Converts a single picture from or to a standard stream.
     void ConvertStream() {
         const std::string& input = arguments.inputs.front();
         if (arguments.inputs.size() > 1) throw UsageError("The standard streams take one picture at a time.");
@@ -143,7 +143,7 @@ private:
             if (!arguments.quiet) tool.Note("\"" + ToDisplayPath(file.target) + "\" " + note);
     }
 
-    // The extension of the format that reads the bytes. CException if none does.
+    // Returns the extension of the format that can read the bytes. Throws CException if none can.
     std::string GuessFormat(CMemFile& bytes) const {
         // Formats with a signature come first; a Targa file may begin with anything.
         for (const char* extension : {".png", ".jpg", ".bmp", ".pcx", ".wal", ".mip", ".tga"}) {
@@ -153,7 +153,7 @@ private:
                 static_cast<void>(ReadPicture(bytes, extension, palettes, arguments.palette));
                 bytes.Seek(0, CFile::From::begin);
                 return extension;
-            } catch (const CException&) { // another format, then
+            } catch (const CException&) { // try the next format
             }
         }
         throw CException("The standard input is not a picture of a known format.");

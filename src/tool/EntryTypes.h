@@ -6,17 +6,17 @@
 
 namespace keltavlo {
 
-// What people call a type, such as "Quake II Texture Files (*.wal)", or "unknown".
+// The name of a type for the user, such as "Quake II Texture Files (*.wal)", or "unknown".
 struct EntryType {
     std::string name;
     bool isFolder = false;
     bool isArchive = false;
 };
 
-// The types that files would open as. Remembers them by extension, for long lists.
+// Finds the types that files would open as. Remembers them by extension, because lists can be long.
 class EntryTypes {
 public:
-    // References stay valid as long as this object.
+    // The returned reference is valid as long as this object.
     const EntryType& Find(const std::string& path);
     const EntryType& Folder() const { return folder; }
 

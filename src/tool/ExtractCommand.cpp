@@ -57,7 +57,7 @@ private:
         if (!isModel || !status.onDisk) Add(FindFile(tool, FullPath(path)));
     }
 
-    // A map stays whole, because its textures are only part of it.
+    // Maps stay whole, because their textures are only a part of them.
     void AddTree(const std::string& tree) {
         const NestedArchives nested =
             arguments.enterArchives ? NestedArchives::enteredWithoutMaps : NestedArchives::asFiles;
@@ -69,7 +69,7 @@ private:
         files.push_back({std::move(source), std::move(target)});
     }
 
-    // Writes each texture in the model, numbered: the file does not say what to call them.
+    // Writes each texture in the model. Numbers them, because the file contains no names.
     void ExtractTextures(const TreeFile& model) {
         const std::string stem = folder + "/" + std::string(BaseNameOf(model.name)) + "_";
         const std::optional<std::vector<ModelSkin>> skins = ReadModelFile(tool, model);

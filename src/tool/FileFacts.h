@@ -7,28 +7,28 @@
 
 namespace keltavlo {
 
-// What the tool knows of a file: facts in their order, each with a label for people and a key for programs.
+// What the tool knows about a file: facts in order, each with a label for the user and a key for programs.
 class FileFacts {
 public:
     FileFacts();
     ~FileFacts();
 
-    // The path of the file, shown so that it can be typed.
+    // Adds the path of the file, escaped so that the user can type it.
     void AddPath(const std::string& path);
-    // Texts have any bytes; they are shown with escapes. An empty text is no fact.
+    // Adds a text, which may have any bytes and is shown with escapes. Ignores an empty text.
     void Add(const std::string& label, const char* key, const std::string& text);
     void Add(const std::string& label, const char* key, std::size_t number);
     void AddColors(std::size_t count);
-    // The size of a picture in texels.
+    // Adds the size of a picture in texels.
     void AddSize(int width, int height);
-    // Flags of a texture with the labels of the set bits; 0 is no fact.
+    // Adds the flags of a texture with the labels of the set bits. Ignores 0.
     void AddFlags(const char* key, std::uint32_t flags, const std::string& labels);
-    // A text in a list of texts, each on a line of its own for people.
+    // Appends a text to a list. Each is printed on its own line.
     void AppendText(const std::string& label, const char* key, const std::string& text);
-    // The size of a picture in a list of pictures.
+    // Appends the size of a picture to a list.
     void AppendSize(const std::string& label, const char* key, int width, int height);
 
-    // One line for each fact.
+    // Prints one line for each fact.
     void Print(std::ostream& out) const;
     const nlohmann::ordered_json& ToJson() const { return *json; }
 

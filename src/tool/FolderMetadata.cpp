@@ -40,7 +40,7 @@ void GatheredMetadata::Add(CFile& source, const std::string& sourceName, const s
         const auto fields = FieldsOf(ReadPicture(source, sourceName, palettes, {}), sourceName);
         const std::scoped_lock guard(lock);
         byFolder[ParentOf(target)].Set(std::string(FileNameOf(target)), fields);
-    } catch (const CException&) { // whoever needs the picture reports it
+    } catch (const CException&) { // reported where the picture is needed
     }
     source.Seek(0, CFile::From::begin);
 }

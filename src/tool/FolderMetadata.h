@@ -16,8 +16,8 @@ class StoredMetadata {
 public:
     explicit StoredMetadata(Tool& reportingTool) : tool(reportingTool) {}
 
-    // What the metadata in the folder of a file say about it; nothing without them. Reports metadata that
-    // cannot be read, once for a folder.
+    // Returns the fields that the metadata in a file's folder contain for it, or empty ones. Reports metadata
+    // that cannot be read, once per folder.
     TextureFields Find(const std::string& path);
 
 private:
@@ -30,11 +30,11 @@ private:
 // The metadata of the folders that a run writes.
 class GatheredMetadata {
 public:
-    // Notes what a picture carries, for the output of that path. May run in any thread; the file's position
-    // is its start afterwards. Damaged pictures carry nothing.
+    // Records the fields of a picture for the output with that path. Ignores damaged pictures. Runs in any
+    // thread. Leaves the file at its start.
     void Add(CFile& source, const std::string& sourceName, const std::string& target,
              const PaletteSet& palettes);
-    // Writes one file in each folder.
+    // Writes a file into each folder.
     void Write(OutputPlace& outputs);
 
 private:

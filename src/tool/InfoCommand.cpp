@@ -73,13 +73,13 @@ void AddDocument(FileFacts& facts, const CDocument& document) {
     if (const auto* model = dynamic_cast<const MD2Document*>(&document)) AddModel(facts, *model);
 }
 
-// Whether only the tool reads the picture format: the application has no document type for it.
+// Whether only the tool reads the picture format, so that the application has no document type for it.
 bool IsToolPicture(const std::string& path) {
     const PictureFormat* format = FindPictureFormat(path);
     return format && format->codec.documentClass.empty();
 }
 
-// False after a failure, which is reported.
+// Returns false after reporting a failure.
 bool AddContents(Tool& tool, const std::string& path, FileFacts& facts) {
     if (EqualNoCase(ExtensionOf(path), ".mdl")) {
         const auto skins = ReadModelFile(tool, FindFile(tool, path));

@@ -17,12 +17,12 @@ namespace {
 using nlohmann::ordered_json;
 
 struct ListedEntry {
-    std::string name; // below the folder that is listed, escaped
+    std::string name; // below the listed folder, escaped
     const EntryType* type;
     std::uint64_t size; // bytes; 0 for a folder
 };
 
-// Archives can contain themselves, so a list of them could grow without end.
+// Limits a listing, because archives can contain themselves.
 constexpr std::size_t maximumCount = 1'000'000;
 
 // Gathers the entries of one folder of an archive.
@@ -74,7 +74,7 @@ private:
     EntryTypes types;
 };
 
-// The blanks that bring the text to the width.
+// Returns how many blanks pad the text to the width.
 std::size_t Blanks(const std::string& text, std::size_t width) {
     return width - std::min(width, text.size());
 }
@@ -101,14 +101,14 @@ ordered_json JsonOf(const std::string& path, const std::vector<ListedEntry>& ent
     return {{"path", EscapePath(path)}, {"entries", std::move(list)}};
 }
 
-// Says why a path cannot be listed, unless the archive's reader has said so.
+// Reports why a path cannot be listed, unless the archive's reader has done so.
 void ReportNoFolder(Tool& tool, const std::string& path) {
     EntryStatus status;
     tool.GetApplication().GetFileSystem().GetStatus(path, status);
     if (!status.exists)
         FailToFind(tool, path);
     else if (!status.browsable)
-        tool.Fail("\"" + EscapePath(path) + "\" is not an archive or a folder in one.");
+        tool.Fail("\"" + EscapePath(path) + "\" is not an archive or a folder inside one.");
 }
 
 } // namespace

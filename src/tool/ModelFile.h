@@ -10,8 +10,8 @@ namespace keltavlo {
 class Tool;
 struct TreeFile;
 
-// The textures in the model (".mdl") of that path, which may lead into an archive. Nothing, after reporting
-// why, if it cannot be read.
+// Reads the textures in a model (".mdl"), which may be in an archive. If it cannot be read, reports why and
+// returns nothing.
 std::optional<std::vector<ModelSkin>> ReadModelFile(Tool& tool, const TreeFile& model);
 
 } // namespace keltavlo

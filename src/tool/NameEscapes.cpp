@@ -24,7 +24,7 @@ void AppendEscape(std::string& out, char byte) {
     out += digits[code % 16];
 }
 
-// The byte that an escape at the start of the text names, or -1.
+// Returns the byte of an escape at the start of the text, or -1.
 int ReadEscape(std::string_view text) {
     if (text.size() < escapeLength || text.front() != '%') return -1;
     unsigned char code = 0;
@@ -47,7 +47,7 @@ bool IsVisible(char32_t code) {
     }
 }
 
-// The bytes of the visible character that the text begins with; 0 when it begins with none.
+// Returns the number of bytes of the visible character at the start of the text, or 0 if there is none.
 std::size_t VisibleLength(std::string_view text) {
     const auto lead = static_cast<unsigned char>(text.front());
     if (lead < 0x80) return lead >= 0x20 && lead != 0x7F ? 1 : 0;
@@ -63,7 +63,7 @@ bool IsPlain(std::string_view text) {
     return std::ranges::all_of(text, [](char c) { return c >= 0x20 && c < 0x7F && c != '%'; });
 }
 
-// Escapes what is not visible, and the bytes that `mustEscape` accepts by their place.
+// Escapes characters that are not visible, and the bytes at the positions that `mustEscape` accepts.
 template <class Predicate>
 std::string Escape(std::string_view text, Predicate mustEscape) {
     std::string out;

@@ -5,22 +5,22 @@
 
 namespace keltavlo {
 
-// Names of entries have any bytes. What a terminal would not show as one visible character is written "%XX"
-// for each byte: control characters, bytes that are not UTF-8, formatting characters, blanks at the ends, the
-// names "." and "..", and a "%" that two hexadecimal digits follow.
+// Escapes the name of an entry, which may have any bytes. Writes as "%XX" each byte that a terminal would not
+// show as part of a visible character: control characters, bytes that are not UTF-8, formatting characters,
+// blanks at the ends, the names "." and "..", and a "%" before two hexadecimal digits.
 std::string EscapeName(std::string_view name);
 
-// EscapeName for each name of a path.
+// Escapes each name of a path.
 std::string EscapePath(std::string_view path);
 
-// A text for people: only what a terminal would interpret or not show is escaped.
+// Escapes only what a terminal would interpret or not show.
 std::string EscapeText(std::string_view text);
 
-// The bytes that EscapeName was given. Escapes of "/", "\", ":" and NUL, which no name contains, stay.
+// Reverses EscapeName. Keeps escapes of "/", "\", ":" and NUL, because no name contains these.
 std::string UnescapeName(std::string_view shown);
 
-// A full path whose names may be escaped where they lead into an archive. A path of the disk that exists is
-// taken as it is; what follows the part that exists is unescaped.
+// Returns a full path and unescapes names inside archives. The part of the path that exists on the disk stays
+// as it is.
 std::string UnescapePath(const std::string& path);
 
 } // namespace keltavlo

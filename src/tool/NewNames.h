@@ -6,13 +6,13 @@
 
 namespace keltavlo {
 
-// Names for new files in one place, where names that differ only in case may clash.
+// Finds names for new files in one place, where names that differ only in case may clash.
 class NewNames {
 public:
-    // All names that are going to be asked for.
+    // `names` are all names that Take will be called with.
     explicit NewNames(std::span<const std::string> names);
 
-    // The name itself if no earlier one was equal without regard to case, otherwise one with a number:
+    // Returns the name itself. If an earlier name was equal, ignoring case, returns one with a number:
     // "a.wal", "A_2.wal".
     std::string Take(const std::string& name);
 

@@ -16,7 +16,7 @@ std::optional<std::pair<std::uint64_t, std::uint64_t>> IdentityOf(const std::str
     return std::pair(std::uint64_t{info.st_dev}, std::uint64_t{info.st_ino});
 }
 
-// As the disk has it: the paths of trees have both kinds of separators.
+// Returns the path with the disk's separators; paths of trees contain both kinds.
 std::string DiskPath(const std::string& path) {
     return FullPath(path);
 }

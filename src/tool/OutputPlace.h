@@ -12,35 +12,36 @@ namespace keltavlo {
 
 class Tool;
 
-// The files that one run of the tool writes. They get their names together, whole, when enough of them wait
-// and in Finish. It refuses to overwrite what the run reads or has written, whatever name or link leads
-// there. Failures are reported to the tool.
+// Writes the files of one run. They are published whole and in batches, the last of them by Finish. Refuses
+// to overwrite what the run reads or has written, whatever name or link leads there. Reports all failures to
+// the tool.
 class OutputPlace {
 public:
-    // With `force`, other existing files are overwritten.
+    // With `force`, overwrites other existing files.
     OutputPlace(Tool& reportingTool, bool force);
 
-    // Names a file that the run reads; of an entry, the archive on the disk counts. Call it for all of them
+    // Protects a file that the run reads; for an entry, the archive on the disk. Call it for all of them
     // before the first output.
     void AddInput(const std::string& path);
-    // Refuses outputs that links lead out of the folder. Call it before the first output.
+    // Refuses outputs if links lead out of the folder. Call it before the first output.
     void KeepInside(const std::string& folder) { folders.KeepInside(folder); }
 
-    // Takes the bytes for the file of that path, and makes the folders that lead to it. False, after
-    // reporting why, if the file must not or cannot be written.
+    // Accepts the bytes of the file at that path and creates the folders that lead to it. If the file must
+    // not or cannot be written, reports why and returns false.
     bool Write(const std::string& path, std::span<const std::byte> bytes);
-    // Publishes all outputs that still wait and makes them durable. Without it they vanish. False if an
-    // output that was accepted could not be published.
+    // Publishes all outputs that still wait and makes them durable; without this call they vanish. Returns
+    // false if an accepted output could not be published.
     bool Finish();
-    // Outputs that were accepted but could not be published.
+    // Returns how many accepted outputs could not be published.
     std::size_t GetLostCount() const { return lostCount; }
 
-    // Write in two steps, of which the first may run in any thread. At most so many files may wait for
-    // Accept.
+    // These are Write in two steps. The first may run in any thread. At most `GetStagedLimit()` files may
+    // wait for the second.
     std::size_t GetStagedLimit() const { return std::max<std::size_t>(1, batch.GetCapacity() / 2); }
     StagedFile Stage(const std::string& path, std::span<const std::byte> bytes);
     bool Accept(const std::string& path, StagedFile file);
-    // Whether a file that must stay has the path, so that making its bytes is useless. May run in any thread.
+    // Whether the path belongs to a file that must not be overwritten, so that its bytes need not be made.
+    // May run in any thread.
     bool IsTaken(const std::string& path);
     // Reports a path that is taken.
     void RefuseTaken(const std::string& path);
@@ -58,7 +59,7 @@ private:
     std::set<std::string> targets; // outputs that were accepted
     std::size_t lostCount = 0;
     OutputFolders folders;
-    TemporaryNames names; // outlives what waits in the batch
+    TemporaryNames names; // outlives the files that wait in the batch
     OutputBatch batch;
 };
 

@@ -37,14 +37,14 @@ ArchiveKind KindOf(const ToolArguments& arguments) {
     return ArchiveKind::pak;
 }
 
-// What a thread made of a file.
+// The result of a thread's work on a file.
 struct MadeItem {
     ArchiveItem item;
     std::vector<std::string> notes;
     std::string failure; // a sentence; empty if there is none
 };
 
-// One run of the command. Everything that can go wrong is found, and reported, before the archive is written.
+// A run of the command. Finds and reports everything that can go wrong before it writes the archive.
 class PackRun {
 public:
     PackRun(Tool& reportingTool, const ToolArguments& toolArguments)
@@ -70,7 +70,7 @@ public:
 private:
     bool IsEdit() const { return arguments.append || arguments.replace || arguments.remove; }
 
-    // False, after reporting why, if the archive that is to change cannot be read.
+    // If the archive to change cannot be read, reports why and returns false.
     bool ReadTarget() {
         const ArchiveKind kind = contents.kind;
         try {
@@ -80,7 +80,8 @@ private:
             return false;
         }
         if (IsWAD(contents.kind) != IsWAD(kind))
-            tool.Fail("\"" + ToDisplayPath(target) + "\" is not the kind of archive that its name says.");
+            tool.Fail("\"" + ToDisplayPath(target) +
+                      "\" is not the kind of archive that its extension says.");
         else if (contents.kind == ArchiveKind::wad3 && arguments.wad2)
             tool.Fail("\"" + ToDisplayPath(target) + "\" is a WAD3, but --wad2 was given.");
         return !tool.HasFailed();
@@ -122,7 +123,7 @@ private:
         FailAll(RemoveItems(contents, names));
     }
 
-    // The names in a list, whose files may be gone, or those of the files in a folder.
+    // Returns the names in a list, even of files that are gone, or the names of the files in a folder.
     std::vector<std::string> NamesOf(const std::string& input) {
         CFileStatus status;
         const std::string path = FullPath(input);
@@ -152,7 +153,7 @@ private:
         return items;
     }
 
-    // Runs in any thread. Pictures are encoded at once, to see whether they fit; other files are only opened.
+    // Runs in any thread. Encodes pictures at once, to see whether they fit; only opens other files.
     MadeItem Make(const PlannedEntry& entry, const LumpEncoder& encoder) {
         MadeItem made{{entry.name, entry.type, {}}, {}, {}};
         try {
@@ -191,7 +192,7 @@ private:
     ArchiveContents contents;
     OutputPlace outputs;
     bool failed = false;
-    std::mutex archives; // of all open archives, which threads read one after the other
+    std::mutex archives; // for all open archives, because only one thread may read them at a time
 };
 
 } // namespace

@@ -50,7 +50,7 @@ void RunReport::Finish() {
     verb.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(verb.front())));
     const std::size_t left = total - std::min(total, done + skipped + failed);
     tool.Note(verb + " " + std::to_string(done) + ", skipped " + std::to_string(skipped) + ", failed " +
-              std::to_string(failed) + (left > 0 ? ", not begun " + std::to_string(left) : "") + ".");
+              std::to_string(failed) + (left > 0 ? ", not started " + std::to_string(left) : "") + ".");
 }
 
 } // namespace keltavlo

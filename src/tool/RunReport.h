@@ -8,24 +8,25 @@ namespace keltavlo {
 class Tool;
 struct ToolArguments;
 
-// What a run over many files tells: notes, failures, how far it is on a terminal, and a line that sums up.
+// Reports on a run over many files: notes, failures, progress on a terminal, and a summary.
 class RunReport {
 public:
-    // `verb` is what happens to files, in the past: "converted". `totalCount` files will be worked on.
+    // `verb` is what happens to files, in the past tense: "converted". The run has `totalCount` files.
     RunReport(Tool& reportingTool, const ToolArguments& arguments, std::string verb, std::size_t totalCount);
 
-    // Each file ends in one of these.
+    // Call one of these for each file.
     void AddDone(const std::string& from, const std::string& to);
     void AddSkipped(const std::string& sentence);
-    void AddFailed() { ++failed; } // the tool was told why
+    void AddFailed() { ++failed; } // after reporting why
 
-    // Something that was done otherwise than asked; not with --quiet.
+    // Reports something that was done in another way than asked, unless --quiet is given.
     void Note(const std::string& sentence);
-    // The file that is worked on. The terminal's line changes at most ten times a second.
+    // Shows the current file on the terminal, at most ten times a second.
     void ShowProgress(const std::string& name);
-    // Of the files done, so many could not be published after all; the tool was told why.
+    // Counts `count` files as failed instead of done, because they could not be published. The reason has
+    // been reported.
     void AddLost(std::size_t count);
-    // Sums up; not with --quiet.
+    // Prints the summary, unless --quiet is given.
     void Finish();
 
 private:

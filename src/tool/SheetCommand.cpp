@@ -67,7 +67,7 @@ private:
         }
     }
 
-    // The first page has the name of the output; the others are numbered.
+    // The first page has the name of the output; the others get numbers.
     std::string PathOfPage(std::size_t number) const {
         std::string path = FullPath(arguments.output);
         if (number == 1) return path;

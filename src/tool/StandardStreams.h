@@ -14,8 +14,7 @@ inline bool IsStandardStream(std::string_view path) {
     return path == "-";
 }
 
-// Copies the standard input to the file, whose position is its start afterwards. CFileException if that
-// fails.
+// Copies the standard input to the file and moves to its start. Throws CFileException on failure.
 void ReadStandardInput(CFile& file);
 void WriteStandardOutput(std::ostream& output, std::span<const std::byte> bytes);
 

@@ -11,18 +11,19 @@ namespace keltavlo {
 
 class Texture;
 
-// The file "textures.json" of a folder: what the games store beside the pixels of its textures, for formats
-// that store only pixels.
+// The file "textures.json" of a folder. It contains what the games store beside the pixels of its textures,
+// because the other files contain only pixels.
 class TextureMetadata {
 public:
     static constexpr const char* fileName = "textures.json";
 
-    // Throws CException, with a sentence, for bytes that are no such file.
+    // Throws CException, with a sentence, if the bytes are no such file.
     static TextureMetadata Parse(std::span<const std::byte> bytes);
     std::vector<std::byte> Write() const;
 
     void Set(const std::string& name, TextureFields fields) { textures[name] = std::move(fields); }
-    // The fields of a file name, else of the first name that differs in its extension only; null for others.
+    // Returns the fields of a file name, otherwise of the first name that differs only in its extension; null
+    // if there is none.
     const TextureFields* Find(const std::string& name) const;
     bool IsEmpty() const { return textures.empty(); }
 
@@ -30,15 +31,15 @@ private:
     std::map<std::string, TextureFields> textures; // by file name
 };
 
-// Whether a file has the name of metadata, which commands read and do not convert or pack.
+// Whether a file has the name of a metadata file. Commands read it, and do not convert or pack it.
 bool IsMetadataName(const std::string& path);
 
 // Whether the format of a file name stores fields beside the pixels.
 bool HasFields(const std::string& name);
-// What a texture of such a format carries: all fields of a WAL file, the name of a MIP file.
+// Returns what a texture of such a format contains: all fields of a WAL file, the name of a MIP file.
 TextureFields FieldsOf(const Texture& texture, const std::string& name);
 
-// The fields of `set`, and those of `stored` that it leaves open.
+// Returns the fields of `set`; where it has none, those of `stored`.
 TextureFields Merge(const TextureFields& set, const TextureFields& stored);
 
 } // namespace keltavlo

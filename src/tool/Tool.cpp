@@ -16,7 +16,7 @@ namespace keltavlo {
 Tool::Tool(std::ostream& outputStream, std::ostream& errorStream, bool showProgress)
     : output(outputStream), errors(errorStream), isTerminal(showProgress),
       application([this](const std::string& text) {
-          failed = true; // also when there is no memory to say so
+          failed = true; // even if there is no memory for the text
           Fail(text);
       }) {
     RegisterArchiveTypes(application);
@@ -54,7 +54,7 @@ void Tool::FailSaving(const std::string& path, const std::exception& failure) {
     Fail(DescribeFailure(Direction::saving, path, failure));
 }
 
-// The application's messages have several lines.
+// The application's messages can have several lines.
 void Tool::Note(const std::string& sentence) {
     std::string line = ToUtf8(sentence);
     std::replace(line.begin(), line.end(), '\n', ' ');

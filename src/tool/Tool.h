@@ -9,14 +9,15 @@
 
 namespace keltavlo {
 
-// The command-line companion: a thin face over the documents. Texts are UTF-8; results go to `output`,
+// The command-line tool, which uses the program's documents. Texts are UTF-8. Prints results to `output` and
 // failures, one sentence each, to `errors`.
 class Tool : private ArchiveNotes {
 public:
-    // `showProgress` writes the file at work over and over on one line of `errors`, for a terminal.
+    // With `showProgress`, shows the current file on the last line of `errors`, which must be a terminal.
     Tool(std::ostream& outputStream, std::ostream& errorStream, bool showProgress);
 
-    // 0 only when all went well; 2 when the arguments cannot be understood.
+    // Returns the exit code: 0 if everything succeeded, 2 if the arguments cannot be understood, 128 plus the
+    // number of a signal that ended the run, otherwise 1.
     int Run(const std::vector<std::string>& arguments);
 
     HeadlessApplication& GetApplication() { return application; }
@@ -26,9 +27,9 @@ public:
     bool HasFailed() const { return failed; }
     // Reports that the file could not be saved.
     void FailSaving(const std::string& path, const std::exception& failure);
-    // Names something that was done otherwise than asked, or left out.
+    // Reports something that was skipped or done in another way than asked.
     void Note(const std::string& sentence);
-    // The file that is worked on; an empty name clears the line.
+    // Shows the current file; an empty name clears the line.
     void ShowProgress(const std::string& name);
 
 private:

@@ -9,10 +9,10 @@
 
 namespace keltavlo {
 
-// What the command line asks a command to do. Each command reads the fields of its own options.
+// The arguments of a command. Each command reads the fields of its own options.
 struct ToolArguments {
     std::vector<std::string> inputs;
-    std::string output; // of commands that write
+    std::string output; // for commands that write
     std::string format; // with its dot; empty without --to
     unsigned jobs = 0;  // 0 for one on each core
     bool quiet = false;
@@ -20,7 +20,7 @@ struct ToolArguments {
     bool force = false;
     bool recursive = false;
     bool json = false;
-    bool enterArchives = true; // archives in a tree count as folders
+    bool enterArchives = true; // treat archives in a tree as folders
     bool metadata = false;
     bool wad2 = false;
     bool append = false;
@@ -30,7 +30,7 @@ struct ToolArguments {
     TextureFields set;
 };
 
-// The command line cannot be understood; the text says why.
+// The command line cannot be understood. The text says why.
 class UsageError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;

@@ -5,7 +5,7 @@ namespace keltavlo {
 class Tool;
 struct ToolArguments;
 
-// The commands; each reports its failures to the tool.
+// The commands. They report failures to the tool.
 void List(Tool& tool, const ToolArguments& arguments);
 void ShowInfo(Tool& tool, const ToolArguments& arguments);
 void Convert(Tool& tool, const ToolArguments& arguments);

@@ -32,7 +32,7 @@ std::vector<NamedPalette> OutputPalettes() {
     return palettes;
 }
 
-// Adds an option that takes one of the names or the path of a file.
+// Adds an option whose value is one of the names or the path of a file.
 void AddPaletteOption(CLI::App& command, PaletteOptions& palette, const std::vector<NamedPalette>& named,
                       const std::string& help) {
     std::string choices;
@@ -89,7 +89,7 @@ void AddFormatOption(CLI::App& command, ToolArguments& arguments, const char* he
 
 void AddSourcePaletteOption(CLI::App& command, ToolArguments& arguments) {
     AddPaletteOption(command, arguments.palette, GamePalettes(),
-                     "The palette of textures that carry none. The default is that of the format's game.");
+                     "The palette of textures that contain none. The default is that of the format's game.");
 }
 
 void AddPaletteOptions(CLI::App& command, ToolArguments& arguments) {
@@ -97,7 +97,7 @@ void AddPaletteOptions(CLI::App& command, ToolArguments& arguments) {
     AddPaletteOption(command, palette, OutputPalettes(),
                      "The palette of paletted outputs: that of a game, one made for each picture (own), or "
                      "that of a file, which may be a palette or a picture. The default is that of the "
-                     "picture, if the format can store it, else that of the format's game.");
+                     "picture, if the format can store it, otherwise that of the format's game.");
     AddFlag(command, "--dither", palette.dither, "Dither colors that the palette lacks.");
     AddFlag(command, "--protect-fullbright", palette.protectFullbright,
             "Keep texels out of the palette indices 224 to 255, which Quake draws at full brightness, unless "
@@ -123,7 +123,7 @@ void AddRunOptions(CLI::App& command, ToolArguments& arguments) {
     command
         .add_option_function<std::string>(
             "-j,--jobs", [&arguments](const std::string& text) { arguments.jobs = ParseJobs(text); },
-            "The number of files to work on at a time; 0, the default, for one on each core.")
+            "The number of files to work on at a time; 0, the default, means one per core.")
         ->type_name("NUMBER");
     AddFlag(command, "-q,--quiet", arguments.quiet, "Report failures only.");
     AddFlag(command, "-v,--verbose", arguments.verbose, "Name every file that is written.");
@@ -142,13 +142,13 @@ void AddMetadataOption(CLI::App& command, ToolArguments& arguments) {
 }
 
 void AddPackOptions(CLI::App& command, ToolArguments& arguments) {
-    AddFlag(command, "--wad2", arguments.wad2, "Write a WAD2 of Quake, not a WAD3 of Half-Life.");
-    AddFlag(command, "--append", arguments.append, "Add the files to an archive that exists.");
+    AddFlag(command, "--wad2", arguments.wad2, "Write a WAD2 for Quake instead of a WAD3 for Half-Life.");
+    AddFlag(command, "--append", arguments.append, "Add the files to an existing archive.");
     AddFlag(command, "--replace", arguments.replace,
-            "Replace the entries of the files' names in an archive.");
+            "Replace the entries with the files' names in an existing archive.");
     AddFlag(
         command, "--delete", arguments.remove,
-        "Delete the entries of the files' names from an archive; a LIST may name files that do not exist.");
+        "Delete the entries with the files' names from an archive; a LIST may name files that do not exist.");
 }
 
 } // namespace keltavlo

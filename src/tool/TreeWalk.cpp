@@ -21,7 +21,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A component that stays where it is put: no way up, no separator, nothing hidden behind a NUL.
+// Whether the component keeps a path inside its folder: no way up, no separator, nothing after a NUL.
 bool StaysInside(const std::string& component) {
     return !component.empty() && component != "." && component != ".." &&
            component.find_first_of(std::string_view("/\\\0", 3)) == std::string::npos;
@@ -35,7 +35,7 @@ std::vector<std::string> NamesOnDisk(const std::string& folder) {
     return names;
 }
 
-// The name of a file of the disk for an entry.
+// Returns the name of the file on the disk for an entry.
 std::string FileNameOfEntry(const FolderDocument& archive, const Entry& entry) {
     return archive.HasLumps() ? FileNameOfLump(entry.GetName()) : entry.GetName();
 }
@@ -57,7 +57,7 @@ public:
     void Walk(const std::string& path, const std::string& prefix, const EntryStatus& status) {
         if (status.onDisk && !status.browsable) return WalkDisk(path, prefix);
         const ArchiveFolder place = tool.GetApplication().GetFileSystem().FindFolder(path);
-        if (!place.folder) return; // the application has said why
+        if (!place.folder) return; // the application has reported why
         outputs.AddInput(place.archive->GetPathName());
         WalkArchive(place, path, prefix);
     }
@@ -120,8 +120,7 @@ private:
         }
     }
 
-    // Paths lead to the first of the names that are equal without regard to case, so only that can be
-    // entered.
+    // Of names that are equal, ignoring case, only the first can be entered, because paths lead to that one.
     void AddEntry(const ArchiveFolder& place, Entry& entry, const std::string& path, const std::string& name,
                   bool isFirst) {
         if (isFirst && IsEntered(name)) {
@@ -142,14 +141,14 @@ private:
     }
 
     void NoteNewName(const std::string& name, const std::string& newName) {
-        tool.Note("Another entry is called \"" + name + "\", without regard to case; this one becomes \"" +
+        tool.Note("Another entry has the same name as \"" + name + "\", ignoring case; this one becomes \"" +
                   newName + "\".");
     }
 
     Tool& tool;
     NestedArchives nested;
     OutputPlace& outputs;
-    std::vector<std::string> way; // real paths of the disk's folders that the walk is in
+    std::vector<std::string> way; // real paths of the folders on the disk from the tree to here
 };
 
 } // namespace

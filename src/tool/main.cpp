@@ -17,7 +17,7 @@ int main(int argc, char** argv) try {
     RemoveAbandonedSaves();
     const QCoreApplication core(argc, argv);
     Tool tool(std::cout, std::cerr, isatty(STDERR_FILENO) != 0);
-    return tool.Run({argv + 1, argv + argc}); // the arguments' bytes, whatever their encoding
+    return tool.Run({argv + 1, argv + argc}); // the arguments may have any encoding
 } catch (const std::bad_alloc& failure) {
     std::fprintf(stderr, "keltavlo-tool: %s\n", SentenceOf(failure));
     return 1;

@@ -1,5 +1,5 @@
 // Damaged files are read or refused with a sentence, and only pictures are saved.
-#include "resources/streams/StreamError.h" // before the sentences, some of which are called like its values
+#include "resources/streams/StreamError.h" // first, because some sentences below have the names of its values
 #include "support/TestApplication.h"
 #include "support/readers/ReadingStream.h"
 
@@ -17,7 +17,7 @@ class MutatedFiles : public testing::TestWithParam<Reader> {};
 
 class RefusedFiles : public WorkshopTest {
 protected:
-    // The readers have an application of their own, which must not come in front of the test's.
+    // The readers have their own application, which must not be created after the test's.
     static void SetUpTestSuite() { NeedApplication(); }
 
     static Bytes GoodFile(const std::string& type) { return FindReader(type).makeSeed(); }
@@ -35,8 +35,8 @@ std::vector<std::uint32_t> ReadNumbers(const QString& text) {
 
 } // namespace
 
-// Whatever is done to a file, its reader gives a result or one of the program's own exceptions, and the same
-// through a buffer as without one.
+// However a file is damaged, its reader returns a result or throws one of the program's own exceptions. A
+// buffer makes no difference.
 TEST_P(MutatedFiles, AreReadOrRefused) {
     const Reader& reader = GetParam();
     const std::vector<Bytes> seeds = reader.MakeSeeds();

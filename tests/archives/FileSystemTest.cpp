@@ -102,7 +102,7 @@ TEST_F(FileSystemTest, AChangedArchiveIsReadAgain) {
     EXPECT_EQ(TextOf(pack + "/inner.pak/deep/letter.txt"), "rebuilt");
     EXPECT_EQ(Open<WALDocument>(picture), &document) << "open pictures stay";
     EXPECT_EQ(CauseOf<CFileException>([&] { kept->Write("x", 1); }), CFileException::generic);
-    for (const char* partial : {"PACK", ""}) { // as while it is being written
+    for (const char* partial : {"PACK", ""}) { // as if it were still being written
         messages.clear();
         Put("pak0.pak", ToBytes(partial));
         EXPECT_TRUE(NamesIn(pack).empty());

@@ -74,8 +74,8 @@ TEST_F(BMPTest, Writes32BitsFromTheBottomUp) {
 TEST_F(BMPTest, ReadsEveryDepth) {
     EXPECT_THAT(Pixels(bits), ElementsAre(0xFF112233, 0xFF445566));
     EXPECT_THAT(Pixels(plain), ElementsAre(0xFF040506, 0xFF010203));
-    Put(plain, height, -2);   // from the top
-    Put(plain, imageSize, 1); // says nothing about rows that are not compressed
+    Put(plain, height, -2);   // rows from the top
+    Put(plain, imageSize, 1); // ignored, because the rows are not compressed
     EXPECT_THAT(Pixels(plain), ElementsAre(0xFF010203, 0xFF040506));
     Bytes table = Words({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16});
     EXPECT_THAT(Pixels(MakeBmp({40, 3, 1, 4}, table, FromNumbers({0x0F, 0x70, 0, 0}))),
@@ -112,11 +112,11 @@ TEST_F(BMPTest, FieldsThatAShortHeaderLacksAreZero) {
     for (std::uint32_t size = 15; size < 40; ++size)
         EXPECT_THAT(Pixels(MakeBmp({size, 1, 2, 32}, {}, Words({1, 2}))),
                     ElementsAre(0xFF000002, 0xFF000001));
-    for (const std::uint32_t size : {13U, 14U}) // without the bits
+    for (const std::uint32_t size : {13U, 14U}) // shorter than the bit count
         EXPECT_EQ(bmp.ReadFailure(MakeBmp({size, 1, 2, 32}, {}, Words({1, 2}))), CArchiveException::badIndex);
 }
 
-// They have 16-bit sides and colors of three bytes; missing fields at the end are 1.
+// Such headers have 16-bit sides and colors of three bytes. Missing fields at the end count as 1.
 TEST_F(BMPTest, ReadsHeadersOfAtMost12Bytes) {
     const Bytes file = FromNumbers({'B', 'M', 0, 0, 0, 0, 0, 0, 0, 0, 32, 0, 0, 0, 12,   0, 0, 0,
                                     2,   0,   1, 0, 1, 0, 1, 0, 1, 2, 3,  4, 5, 6, 0x40, 0, 0, 0});

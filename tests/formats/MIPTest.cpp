@@ -6,7 +6,7 @@ constexpr std::size_t offsetsOffset = 24, endOfLevels = 40 + 64 * 64 * 85 / 64;
 
 class MIPTest : public testing::Test {
 protected:
-    // The file of the texture followed by zeros.
+    // Returns the file of the texture followed by zeros.
     Bytes FileWithTail(std::size_t tail) const {
         Bytes bytes = mip.Write(texture);
         bytes.resize(endOfLevels + tail);

@@ -33,7 +33,7 @@ TEST_F(TGATest, WritesAlphaOnlyWhereThereIsSome) {
     picture.SetPixel(2, 1, 0xFE778899);
     bytes = tga.Write(picture);
     EXPECT_THAT(Numbers(bytes, 16, 2), testing::ElementsAre(32, 8));
-    bytes[17] = {}; // the descriptor knows of no alpha
+    bytes[17] = {}; // the descriptor claims no alpha bits
     EXPECT_TRUE(SamePixels(tga.Read(bytes), picture));
 }
 

@@ -28,7 +28,7 @@ protected:
     ConvertedPicture converted;
 };
 
-// Nothing outside the run that a stroke reports may look different.
+// Checks that nothing changes outside the run that a stroke reports.
 TEST_P(ConvertedPictureTest, StrokesConvertOnlyWhatTheyMust) {
     for (int stroke = 0; stroke < 500; ++stroke) {
         if (stroke % 100 == 0) {

@@ -1,4 +1,4 @@
-// Every allocation of an edit fails once, and from then on: the edit is made whole or not at all.
+// Each allocation of an edit fails, once or from then on. The edit is made whole or not at all.
 #include "image/ConvertedPicture.h"
 #include "image/ImageDocuments.h"
 #include "image/TextureEdits.h"
@@ -34,7 +34,7 @@ std::string DescribeNow(TavloDocument& document) {
     return text;
 }
 
-// The document, and then every state that its history leads to.
+// Returns the document, then every state in its history.
 std::string Describe(TavloDocument& document) {
     std::string text = DescribeNow(document);
     UndoHistory& history = document.GetHistory();
@@ -43,7 +43,7 @@ std::string Describe(TavloDocument& document) {
     return text + DescribeNow(document);
 }
 
-// Takes memory at each update.
+// Allocates memory at each update.
 struct View final : DocumentView {
     void OnUpdate(DocumentView*, std::intptr_t, CObject*) override {
         told = true;
@@ -78,7 +78,7 @@ protected:
         });
         const bool toldLastView = views.back().told;
         const Outcome outcome{Describe(document), failed, toldLastView, hit};
-        for (View& view : views) document.RemoveView(view); // which ends the document
+        for (View& view : views) document.RemoveView(view); // closes the document
         return outcome;
     }
 };
@@ -105,7 +105,7 @@ TEST_P(EditFaults, AnEditIsMadeWholeOrNotAtAll) {
 INSTANTIATE_TEST_SUITE_P(Edits, EditFaults, testing::ValuesIn(edits),
                          [](const auto& edit) { return std::string(edit.param.name); });
 
-// A view gets no half converted picture and no tables of another palette.
+// No view gets a half-converted picture or the tables of another palette.
 TEST(ConvertedPictureFaults, LeaveNothingBehind) {
     const Image picture = RandomTexture(7, 5);
     const ColorList list{0xFF000000, 0xFF80FF00, 0xFFFFFFFF}, other{0xFF102030, 0xFFFFFF00};

@@ -11,7 +11,7 @@
 
 namespace keltavlo {
 
-// Every read, write, flush, rename and allocation of an open and of a save fails once, and from then on.
+// Each read, write, flush, rename and allocation of an open and of a save fails, once or from then on.
 // Processes are killed, and places cannot be written.
 
 namespace fs = std::filesystem;
@@ -70,7 +70,7 @@ protected:
         return SamePixels(left, right) && left.quake2 == right.quake2 && !left.palette == !right.palette &&
                (!left.palette || *left.palette == *right.palette);
     }
-    // Saves a new document over a file of these bytes; without bytes there is no file.
+    // Saves a new document over a file with these bytes, or over no file if there are none.
     Attempt Save(int side, const Bytes& old, Step step, unsigned first, bool lasting) {
         fs::remove(target);
         if (!old.empty()) WriteFile(target, old);
@@ -79,7 +79,7 @@ protected:
         const Attempt attempt = Try(step, first, lasting, [&] { return document.OnSaveDocument(target); });
         EXPECT_EQ(document.IsModified(), !attempt.succeeded);
         EXPECT_TRUE(!attempt.ranOutOfMemory || first == 1) << "a save that has begun tells of its failure";
-        // A size that was made to fit stays, as a change that can be undone.
+        // A picture that was fitted stays fitted, which can be undone.
         if (document.GetHistory().CanUndo()) document.GetHistory().Undo();
         EXPECT_TRUE(Same(document.GetTexture(), before));
         document.OnCloseDocument();
@@ -146,7 +146,7 @@ TEST_F(SaveFaults, AKilledSaveLeavesTheOldFileOrTheNew) {
         std::ranges::fill(document->GetTexture().Pixels(), 0xFF000000 | number % 16 * 0x0F0F0F);
         return document->OnSaveDocument(path);
     };
-    // Programs that start meanwhile remove the leftovers of killed ones and of no others.
+    // Programs that start meanwhile remove only what killed programs left behind.
     std::optional<ChildProcess> starting(std::in_place, [] {
         for (;;) RemoveAbandonedSaves();
         return 0;
@@ -180,7 +180,7 @@ TEST_F(SaveFaults, PlacesThatCannotBeWrittenStayAsTheyWere) {
     for (const auto& [path, mode] :
          {std::pair(PathTo(""), 0755), {readOnly, 0444}, {writable, 0666}, {locked, 0555}})
         chmod(path.c_str(), static_cast<mode_t>(mode));
-    ChildProcess child([&] { // root is allowed everything, so this acts as somebody else
+    ChildProcess child([&] { // as another user, because root may do everything
         int failures = geteuid() == 0 && setuid(65534) != 0;
         for (const std::string& path : {readOnly, locked + "/new.wal", PathTo("removed/new.wal"), locked}) {
             document->SetModifiedFlag();

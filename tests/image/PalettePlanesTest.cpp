@@ -54,7 +54,7 @@ TEST_F(PalettePlanesTest, ATableFillsItsCellsAndLeavesTheOthersToTheFace) {
     EXPECT_EQ(Seen(plane, 8 * 16, 12 * 16), look.face); // entry 200
     EXPECT_EQ(Seen(plane, 7 * 16, 12 * 16), look.shadow);
     EXPECT_EQ(Seen(plane, 7 * 16 + 1, 12 * 16 + 1), 0xFF0000C7); // a thin edge
-    EXPECT_EQ(Seen(plane, 16 + 1, 16 + 1), look.darkShadow);     // the full one of the current color
+    EXPECT_EQ(Seen(plane, 16 + 1, 16 + 1), look.darkShadow);     // the full edge of the current color
     EXPECT_EQ(Seen(plane, 31 - 1, 31 - 1), look.light);
     EXPECT_EQ(Seen(plane, 16 + 2, 16 + 2), current);
     EXPECT_EQ(planes.HitTest(strip1, 0, 0), current);

@@ -21,7 +21,7 @@ struct CountingView : DocumentView {
     int updates = 0;
 };
 
-// The sides, names and numbers, and whether the last texel is gray.
+// Returns the sides, names and numbers, and whether the last texel is gray.
 std::string Describe(const Texture& texture) {
     std::ostringstream text;
     text << texture.GetWidth() << 'x' << texture.GetHeight() << ',' << texture.quakeName;
@@ -73,7 +73,7 @@ TEST_F(TavloDocumentTest, TheNameDecidesTheFormat) {
 
 TEST_F(TavloDocumentTest, AFileThatNobodyMayWriteIsSavedUnderANameThatIsAskedFor) {
     const std::string path = Put("a.wal", MakeWal(8, 8));
-    chmod(path.c_str(), 0444); // which does not stop root
+    chmod(path.c_str(), 0444); // does not stop root
     auto* document = Open<WALDocument>(path);
     EXPECT_FALSE(document->DoFileSave());
     application.fileName = PathTo("b.wal");
@@ -144,7 +144,7 @@ TEST_F(TavloDocumentTest, EveryChangeMarksTheDocumentAndIsTakenBack) {
         edit.make(document);
         EXPECT_EQ(document.IsModified(), edit.name == "Paste")
             << "what changes nothing is no change: " << edit.name;
-        document.RemoveView(view); // the last view: the document goes with it
+        document.RemoveView(view); // the last view closes the document
         EXPECT_TRUE(
             DocTemplateRegistry::Get().FindTemplate(WALDocument::runtimeClass)->GetDocuments().empty());
     }

@@ -26,7 +26,7 @@ protected:
 
 TEST_F(MD2DocumentTest, ReadsEveryPartAlsoInAPack) {
     Bytes bytes = Small().Build();
-    PutU32(bytes, Md2Builder::frameSize, 1); // of no importance
+    PutU32(bytes, Md2Builder::frameSize, 1); // not used by the reader
     const PackBuilder pack{{"models/m.md2", bytes}};
     auto* model = Open<MD2Document>(Put("pak0.pak", pack.Build()) + "/models/M.MD2");
     ASSERT_NE(model, nullptr);
@@ -50,7 +50,7 @@ TEST_F(MD2DocumentTest, ReadsEveryPartAlsoInAPack) {
 
 TEST_F(MD2DocumentTest, PartsMayBeMissingOrAsLargeAsTheGameAllows) {
     Bytes bytes = Md2Builder().Build();
-    std::fill_n(bytes.begin() + Md2Builder::skinOffset, 16, std::byte{0xFF}); // where the parts lie
+    std::fill_n(bytes.begin() + Md2Builder::skinOffset, 16, std::byte{0xFF}); // the offsets of the parts
     EXPECT_EQ(OpenModel(bytes), "");
     Md2Builder poses = Small();
     poses.frames = 0;

@@ -8,7 +8,7 @@ namespace keltavlo {
 
 class TextureBufferTest : public WorkshopTest {
 protected:
-    // A document of the type, with a picture of one color.
+    // Opens a document of the type, with a picture of one color.
     CDocument& OpenPicture(const std::string& name, Color color) {
         auto& document = *Open<TavloDocument>(Put(name, MakeWal(32, 16)));
         std::ranges::fill(document.GetTexture().Pixels(), color);

@@ -9,7 +9,7 @@ namespace keltavlo {
 
 constexpr CommandId placeholder = 7, first = 100, limit = 110;
 
-// A menu of one popup: ids and texts.
+// A menu that is a single popup: ids and texts.
 struct FakeMenu : MenuItems {
     using Item = std::pair<CommandId, std::string>;
 
@@ -26,7 +26,7 @@ struct FakeMenu : MenuItems {
     }
     void SetItemPrompt(CommandId, const std::string&) override {}
 
-    // What the run shows.
+    // Returns what the run shows.
     std::string Run() const {
         std::string run;
         for (std::size_t i = 1; i + 1 < items.size(); ++i) run += "[" + items[i].second + "]";

@@ -9,8 +9,7 @@ namespace keltavlo {
 // Steps that can fail. A large allocation takes 64 KiB or more.
 enum class Step { read, write, shortWrite, flush, rename, allocation, largeAllocation };
 
-// Makes a step of this thread fail the `first`-th time and, if lasting, each later time, while this object
-// lives.
+// While it lives, makes a step of this thread fail the `first`-th time and, if lasting, each later time.
 class Fault {
 public:
     Fault(Step failingStep, unsigned firstTime, bool lasts)

@@ -11,7 +11,7 @@ namespace keltavlo {
 // Provides an empty folder for each test.
 class FolderTest : public testing::Test {
 protected:
-    // A path in the folder.
+    // Returns a path in the folder.
     std::string PathTo(const std::string& name) const { return folder.path().toStdString() + "/" + name; }
     // Writes the file and returns its path.
     std::string Put(const std::string& name, const Bytes& bytes) const {

@@ -55,7 +55,7 @@ protected:
         const std::vector<std::string> taken = std::exchange(messages, {});
         return taken.empty() ? std::string() : taken.front();
     }
-    // The names in a folder or archive.
+    // Returns the names in a folder or archive.
     std::vector<std::string> NamesIn(const std::string& path) {
         FolderListing listing;
         application.GetFileSystem().ListFolder(path, listing);
@@ -75,7 +75,7 @@ protected:
     }
 
     std::vector<std::string> messages;
-    int messageCount = 0; // those included that memory was too small to keep
+    int messageCount = 0; // including those that could not be stored for lack of memory
     int fileCount = 0;
     HeadlessApplication application{[this](const std::string& text) {
         ++messageCount;

@@ -16,13 +16,13 @@ TEST_F(ToolFaults, SaysWhenMemoryRunsOut) {
     pack.Add("floor.wal", MakeWal(64, 32));
     const std::vector<std::string> command{"convert", "--force", Put("a.pak", pack.Build()) + "/floor.wal",
                                            PathTo("new.tga")};
-    // The library that parses the arguments ends the program when it gets no memory: faults begin behind it.
+    // Faults begin after parsing, because the parser's library ends the program if it gets no memory.
     const Fault counter(Step::allocation, std::numeric_limits<unsigned>::max(), false);
     static_cast<void>(ParseCommandLine(command));
     bool hit = allocationsCanFail;
     for (unsigned first = counter.GetCount() + 1; hit && !HasFailure(); ++first) {
         SCOPED_TRACE(first);
-        std::ostringstream output, errors(std::string(1000, ' ')); // which takes no more memory
+        std::ostringstream output, errors(std::string(1000, ' ')); // large enough to need no more memory
         Tool tool(output, errors, false);
         const Fault fault(Step::allocation, first, false);
         const int code = tool.Run(command);

@@ -26,7 +26,7 @@ protected:
         builder.Add("models/player.mdl", MdlBuilder{{{4, 2}, {0, 1}, {16, 16}}}.Build());
         Put("a.pak", builder.Build());
     }
-    // The exit code; what was written is in `out` and `err`.
+    // Returns the exit code. The texts are in `out` and `err`.
     int Run(const std::vector<std::string>& arguments) {
         std::ostringstream output, errors;
         const int code = Tool(output, errors, false).Run(arguments);
@@ -95,7 +95,7 @@ TEST_F(ToolTest, FindsEveryNameThatItLists) {
     for (int code = 1; code < 256; ++code)
         if (code != '/' && code != '\\' && code != ':') names.emplace_back(1, static_cast<char>(code));
     WadBuilder wad;
-    const auto sizeOf = [](const std::string& name) { // capitals lead to the same lump as small letters
+    const auto sizeOf = [](const std::string& name) { // names ignore case
         return name.size() * 300 +
                static_cast<std::size_t>(std::tolower(static_cast<unsigned char>(name.back())));
     };

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""batch_test.py TOOL [--rounds N]: runs over many files, ended at random moments, on full disks and in several threads."""
+"""batch_test.py TOOL [--rounds N]: runs over many files, killed at random, on full disks and in several threads."""
 import argparse
 import collections
 import os
@@ -93,7 +93,7 @@ def check_streams():
 
 
 def check_full_disk():
-    """A disk that fills up, or a limit in its place, is reported, and no file is cut short."""
+    """A full disk, or a limit on file sizes instead, is reported, and no file is cut short."""
     whole = {name.split("/")[-1]: len(data) for name, data in new.items()}
     script = 'mount -t tmpfs -o size=1m none "$1" || exit 9; "$0" extract large.pak "$1/out"; echo code $?; ' \
              'find "$1" -type f -printf "%f %s\\n"'
@@ -113,14 +113,14 @@ def check_full_disk():
 
 
 def check_endings(rounds):
-    """Runs that are killed or interrupted leave each output whole or absent, over old files old or new."""
+    """A run that is killed or interrupted leaves each output whole or absent, and each overwritten file old or new."""
     target = HERE / "ended"
     old = {name: b"old" * 1000 for name in new}
     start = time.monotonic()
     run("convert", "large.pak", target, "--to", "wal")
     longest = time.monotonic() - start
     ends = collections.Counter()
-    # Without /proc, files cannot stay unnamed until they are whole.
+    # Without /proc, an unnamed file cannot get a name, so the tool uses temporary files.
     hide = ["unshare", "--map-root-user", "--mount", "sh", "-c", 'mount -t tmpfs none /proc && exec "$0" "$@"']
     # The sanitizers need /proc themselves.
     can_hide = subprocess.run([*hide, TOOL, "list", "large.pak"], cwd=HERE, capture_output=True).returncode == 0
@@ -137,11 +137,11 @@ def check_endings(rounds):
         time.sleep(RANDOM.uniform(0, longest))
         child.send_signal(sent)
         code = child.wait()
-        # Before the handlers are in place, and for SIGKILL, the signal itself ends the program.
+        # SIGKILL, or a signal that comes before its handler is installed, ends the program at once.
         assert code in (0, -sent, 128 + sent if sent != signal.SIGKILL else 0), (sent, code)
         ends[code] += 1
         if (overwrites or hidden) and code < 0:
-            run("list", "large.pak")  # the next run removes what a killed one could not
+            run("list", "large.pak")  # removes what a killed run left behind
         target.mkdir(exist_ok=True)
         found = contents(target)
         assert all(name in new for name in found), (sent, set(found) - set(new))

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""cli_test.py TOOL MANUALS: uses the tool's command line as a shell, a terminal and a program that reads JSON do."""
+"""cli_test.py TOOL MANUALS: uses the tool as a shell, a terminal and a program that reads JSON would."""
 import json
 import pathlib
 import struct
@@ -29,7 +29,7 @@ def pak(files):
 
 
 def complete(*words):
-    """What bash offers for the last word."""
+    """Returns what bash offers for the last word."""
     script = (f'source "{MANUALS}/keltavlo-tool.bash"; COMP_WORDS=("$@"); COMP_CWORD=$(($# - 1));'
               '_keltavlo_tool; printf "%s\\n" "${COMPREPLY[@]}"')
     done = subprocess.run(["bash", "-c", script, "bash", "keltavlo-tool", *words], capture_output=True, text=True)

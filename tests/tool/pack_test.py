@@ -105,7 +105,7 @@ def distance(a, b):
 
 
 def check_pixels(kind, made, textures, palette=None):
-    """Checks each texture against its picture: exact if the colors suffice, else nearest or nearly so."""
+    """Compares each texture with its picture: exact if the palette has all colors, otherwise nearly nearest."""
     errors, exact = [], 0
     for name, picture in made.values():
         size, got = textures[name]

@@ -19,7 +19,7 @@ PASSES = [(0, 0, 8, 8), (4, 0, 8, 8), (0, 4, 4, 8), (2, 0, 4, 4), (0, 2, 2, 4), 
 
 
 def convert(data, source, target, *options):
-    """Returns the bytes of the converted file, or what the tool said."""
+    """Returns the bytes of the converted file, or the tool's message."""
     source, target = (pathlib.Path(FOLDER.name, name) for name in (source, target))
     source.write_bytes(data)
     target.unlink(missing_ok=True)
@@ -141,7 +141,7 @@ def distance(one, other):
 
 
 def check_indices():
-    """Indices survive a trip through the other paletted formats; those of another palette become the nearest."""
+    """Indices survive a trip through the other paletted formats. With another palette, they become the nearest."""
     own = random.randbytes(768)
     for size, palette, way in itertools.product(((8, 8), (256, 248)), (b"", own), ("png", "pcx")):
         level = random.randbytes(size[0] * size[1])
@@ -161,7 +161,7 @@ def check_indices():
 
 
 def check_cutouts():
-    """Index 255 is for texels of an alpha below 128 and for no others, in the mip levels for most of a block."""
+    """Index 255 marks only texels with an alpha below 128 and, in mip levels, blocks that are mostly transparent."""
     colors = [tuple(random.randrange(256) for _ in "rgba") for _ in range(32 * 16)]
     own = ("--palette", "own")
     for options in ((), ("--dither",), own, own + ("--dither",), ("--protect-fullbright",)):
@@ -180,7 +180,7 @@ def check_cutouts():
 
 
 def check_own_palette():
-    """A palette of the picture's own has every color of a picture of few."""
+    """A palette made for a picture with few colors contains all of them."""
     colors = [color[:3] + (random.choice((0, 100, 255)),) for color in palette_of("wal")]
     for target, options in itertools.product(("x.pcx", "x.png"), ((), ("--dither",))):
         found = pixels(convert(to_picture(colors, 16), "a.png", target, "--palette", "own", *options))
@@ -209,7 +209,7 @@ def check_sizes():
 
 
 def check_samples():
-    """The textures of the sample pack go through PNG pictures unharmed."""
+    """The textures of the sample pack survive conversion to PNG and back."""
     pack = TOOL.parent / "samples/sample.pak"
     wals, pngs, back = (pathlib.Path(FOLDER.name, name) for name in ("wals", "pngs", "back"))
     for command in (("extract", pack, wals), ("convert", pack, pngs, "--to", "png", "--metadata"),

@@ -27,10 +27,10 @@ private:
     int value;
 };
 
-// Writes all of the bytes at the position of the descriptor; CFileException with the path if that fails.
+// Writes all bytes at the descriptor's position. Throws CFileException with the path on failure.
 void WriteAll(int descriptor, std::span<const std::byte> bytes, const std::string& path);
 
-// An ordinary file on disk, read and written where it lies.
+// An ordinary file on disk, read and written in place.
 class DiskFile final : public CFile {
 public:
     // Opens an existing ordinary file. Throws CFileException on failure.
@@ -49,7 +49,7 @@ public:
     bool IsUnchanged() const override;
 
 private:
-    // Identifies a file and the state it is in.
+    // Identifies a file and its state.
     struct Fingerprint {
         std::uint64_t device = 0, inode = 0, size = 0;
         std::int64_t seconds = 0, nanoseconds = 0; // of the last change of the contents

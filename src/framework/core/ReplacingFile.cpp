@@ -20,14 +20,14 @@ namespace {
     throw CFileException::FromErrno(errno, path);
 }
 
-// The file behind links, or the path itself when nothing is there yet.
+// Follows links. Returns the path itself if nothing is there yet.
 std::string BehindLinks(const std::string& path) {
     char resolved[PATH_MAX];
     return realpath(path.c_str(), resolved) ? resolved : path;
 }
 
-// Overwrites the file where it lies. The room is reserved before the first old byte goes; when writing fails
-// all the same, the old bytes are put back.
+// Overwrites the file itself. Reserves the room before the first old byte goes, and puts the old bytes back
+// if writing fails nevertheless.
 void WriteInPlace(const std::string& target, std::span<const std::byte> bytes) {
     DiskFile oldFile(target, CFile::modeRead);
     const std::vector<std::byte> old = ReadAll(oldFile);

@@ -29,13 +29,13 @@ bool WasRemoved(const Descriptor& file) {
     return fstat(file.Get(), &status) == 0 && status.st_nlink == 0;
 }
 
-// An empty record, which stays locked while it is open.
+// Creates an empty record that stays locked while it is open.
 Descriptor MakeRecord(const std::string& record) {
     for (;;) {
         Descriptor file(open(record.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_APPEND | O_CLOEXEC, 0600));
         if (!file.IsOpen()) return file;
         flock(file.Get(), LOCK_EX);
-        // Another program that starts meanwhile takes a record that is not locked yet for an abandoned one.
+        // Before the lock, a program that starts takes the record for an abandoned one and removes it.
         if (!WasRemoved(file)) return file;
     }
 }
@@ -77,8 +77,8 @@ SaveRecord::~SaveRecord() {
 }
 
 void SaveRecord::Add(const std::string& temporary) {
-    // A path that could not be written whole lists nothing, and the save goes on without it. One call, so
-    // that paths from several threads do not mix.
+    // A path that cannot be written whole is not listed, and the save continues. A single call, so that paths
+    // from several threads do not mix.
     if (file.IsOpen()) static_cast<void>(write(file.Get(), temporary.c_str(), temporary.size() + 1) < 0);
 }
 
@@ -88,7 +88,7 @@ void RemoveAbandonedSaves() {
         const Descriptor record(open(entry.path().c_str(), O_RDONLY | O_CLOEXEC));
         if (!record.IsOpen() || flock(record.Get(), LOCK_EX | LOCK_NB) != 0) continue;
         RemoveListed(record);
-        // While the lock is held, so that a save that has just made the record sees that it is gone.
+        // Removed under the lock, so that a save that has just created the record sees that it is gone.
         unlink(entry.path().c_str());
     }
 }

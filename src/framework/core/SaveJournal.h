@@ -16,7 +16,7 @@ std::string UniqueSaveName();
 // the save still runs.
 class SaveRecord {
 public:
-    // `name` differs from that of every other record. Without effect if the journal cannot be written.
+    // `name` differs from that of every other record. Has no effect if the journal cannot be written.
     explicit SaveRecord(const std::string& name);
     ~SaveRecord();
 
@@ -31,8 +31,7 @@ private:
     Descriptor file; // open while there is a record
 };
 
-// Removes the temporary files that killed saves of this user left; running saves keep theirs. Call once at
-// start.
+// Removes the temporary files that killed saves of this user left behind. Call this once at the start.
 void RemoveAbandonedSaves();
 
 } // namespace keltavlo

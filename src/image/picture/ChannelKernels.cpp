@@ -109,8 +109,7 @@ struct PieceIndices {
 template <std::size_t channelCount>
 [[gnu::target("avx2")]] std::size_t ShuffleChannels(const ChannelPlanes& channels,
                                                     std::span<const Color> input, std::span<Color> output) {
-    // The loops over vectors are unrolled, so that the vectors stay in registers at every
-    // level of optimization.
+    // The loops over vectors are unrolled, so that the vectors stay in registers at any optimization level.
     const std::size_t count = input.size() / shuffledPixels * shuffledPixels;
     for (std::size_t i = 0; i < count; i += shuffledPixels) {
         const auto* source = reinterpret_cast<const __m256i*>(input.data() + i);

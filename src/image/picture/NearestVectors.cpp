@@ -31,7 +31,7 @@ template <typename Lanes>
 // The differences of eight colors from another one, 16 bits per channel.
 struct Differences {
     __m256i blueRed;
-    // Alternates with zeros.
+    // Every second value is zero.
     __m256i green;
 
     [[gnu::target("avx2")]] Differences(const NearestCandidates& candidates, Color color) {

@@ -25,11 +25,11 @@ Texture& Texture::operator=(Texture&& other) noexcept = default;
 Texture::~Texture() = default;
 
 Texture& Texture::operator=(const Texture& other) {
-    // By way of a copy: a failed allocation leaves this texture as it was.
+    // Copies first, so that a failed allocation leaves this texture as it was.
     return *this = Texture(other);
 }
 
-// Never takes a second copy of the old pixels, which may be many.
+// Does not copy the old pixels, because there may be many.
 Texture Texture::Resized(int newWidth, int newHeight) const {
     Texture copy(0, 0);
     copy.palette = CopyOf(palette);

@@ -26,10 +26,10 @@ public:
     Texture& operator=(Texture&& other) noexcept;
     ~Texture() override;
 
-    // A copy with the picture and its indices cropped or their edges repeated, as Image::Resize does it. It
-    // has no indices of half sizes.
+    // Returns a copy with the picture and its indices cropped or their edges repeated, as Image::Resize does
+    // it. The copy has no indices of half sizes.
     Texture Resized(int newWidth, int newHeight) const;
-    // Replaces the palette by a copy of the list.
+    // Replaces the palette with a copy of the list.
     void SetPalette(const ColorList& list);
 
     // The picture's own palette, or none for a true-color picture.
@@ -38,14 +38,13 @@ public:
     std::string quakeName;
     Quake2Properties quake2;
 
-    // The palette indices of the picture and, behind them, of as many of its half sizes as a maker has
-    // provided. Callers that want indices assign an empty list before reading: only then do the readers of
-    // paletted formats fill level 0. Writers of paletted formats store the levels as they are and find the
-    // indices of the others. The caller keeps them in step with the pixels and below the color count of the
-    // palette that is written.
+    // The palette indices of the picture, then of as many of its half sizes as are known. A caller that wants
+    // indices assigns an empty list before reading; only then do the readers of paletted formats fill the
+    // first level. Writers of paletted formats store these levels and search for the indices of the others.
+    // The caller must keep the indices in step with the pixels and below the written palette's color count.
     std::optional<std::vector<IndexPlane>> indices;
 
-    // The indices of a mip level; empty when there are none.
+    // Returns the indices of a mip level; empty if there are none.
     std::span<const std::uint8_t> IndicesOfLevel(std::size_t level) const {
         if (!indices || level >= indices->size()) return {};
         return (*indices)[level];

@@ -16,7 +16,8 @@ namespace {
 
 using SharedFile = std::shared_ptr<CFile>;
 
-// The bytes of an entry, cut or filled with zeros to its size as the readers of archives have it.
+// Returns a function that reads the bytes of an entry, cut or filled with zeros to `size` as by the readers
+// of archives.
 auto ReadLater(const SharedFile& file, std::uint64_t offset, std::uint64_t stored, std::uint64_t size) {
     return [=] {
         if (offset + stored > file->GetLength() || size > file->GetLength())
@@ -54,7 +55,8 @@ ArchiveContents ReadWAD(const SharedFile& file) {
     return contents;
 }
 
-// The places of the items by folded name; of several of one name, the first one, which readers find.
+// Returns the positions of the items by folded name. If several have the same name, the first counts, because
+// readers find that one.
 std::unordered_map<std::string, std::size_t> IndexOf(const ArchiveContents& contents) {
     std::unordered_map<std::string, std::size_t> index;
     for (std::size_t i = 0; i < contents.items.size(); ++i)

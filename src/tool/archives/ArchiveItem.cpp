@@ -9,7 +9,7 @@ namespace keltavlo {
 ItemPlace WriteItem(OutputStream& out, const ArchiveItem& item) {
     const std::vector<std::byte> bytes = item.read();
     const std::uint64_t offset = out.GetPosition();
-    // The games keep places in signed numbers.
+    // The games store offsets as signed numbers.
     if (offset + bytes.size() > std::numeric_limits<std::int32_t>::max())
         out.FailUnnamed(StreamError::badIndex, "The archive would be larger than 2 GiB.");
     out.Write(bytes.data(), bytes.size());

@@ -11,7 +11,7 @@ constexpr bool IsWAD(ArchiveKind kind) {
     return kind != ArchiveKind::pak;
 }
 
-// Of a kind of WAD.
+// Returns the identification of a kind of WAD.
 constexpr std::string_view IdentificationOf(ArchiveKind kind) {
     return kind == ArchiveKind::wad2 ? wad2Identification : wad3Identification;
 }

@@ -6,8 +6,7 @@
 
 namespace keltavlo {
 
-// Receives a sentence for the user about each archive of which something is left out. Without one, nobody is
-// told.
+// Receives a sentence for the user when part of an archive is skipped. Without a receiver it is lost.
 class ArchiveNotes : public Service<ArchiveNotes> {
 public:
     virtual void NoteArchive(const std::string& sentence) = 0;

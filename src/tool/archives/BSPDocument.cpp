@@ -28,7 +28,7 @@ constexpr std::size_t textureLump = 2;
 // The lump begins with the number of textures and the offset of each from the start of the lump.
 constexpr std::int32_t noTexture = -1;
 
-// Half-Life's maps store a palette behind each texture.
+// In Half-Life's maps, a palette follows each texture.
 constexpr std::uint64_t paletteSize = sizeof fullMIPPaletteCount + fullMIPPaletteCount * rgbTripleSize;
 
 class BSPEntry final : public StoredEntry {
@@ -99,7 +99,7 @@ void BSPDocument::ReadContents(InputStream& in) {
         }
         const std::uint64_t length =
             texture.GetEndOfLevels() + (header.version == halfLifeVersion ? paletteSize : 0);
-        // Textures that share bytes would make a small file as large as anyone likes.
+        // Otherwise textures that share bytes could make a small file arbitrarily large.
         if (length > left || position + length > in.GetLength()) in.Fail(StreamError::badIndex);
         left -= length;
         const std::string name = gametexture::GetName(texture.name);

@@ -13,18 +13,19 @@ namespace {
 constexpr char identification[] = {'I', 'D', 'P', 'O'};
 constexpr std::int32_t supportedVersion = 6;
 
-// As it lies in the file; little-endian. The skins follow.
+// The layout in the file, little-endian. The skins follow.
 struct Header {
     char identification[4];
     std::int32_t version;
     float geometry[10];
     std::int32_t skinCount;
     std::int32_t skinWidth, skinHeight; // pixels
-    std::int32_t unused[6];             // of the geometry
+    std::int32_t unused[6];             // describes the geometry
 };
 static_assert(sizeof(Header) == 84);
 
-// A number before each skin. A group is a count, as many times in seconds, and as many pictures.
+// The number before each skin. A group starts with its count, followed by that many times in seconds, then
+// that many pictures.
 enum SkinType : std::int32_t { single = 0, group = 1 };
 
 // Reads the skins that follow the header.

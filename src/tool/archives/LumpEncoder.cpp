@@ -15,7 +15,7 @@ namespace keltavlo {
 namespace {
 
 constexpr std::size_t paletteSize = sizeof fullMIPPaletteCount + fullMIPPaletteCount * rgbTripleSize;
-constexpr std::size_t paddingSize = 2; // behind the palette, in the files of Half-Life
+constexpr std::size_t paddingSize = 2; // after the palette, in Half-Life's files
 
 MIPHeader HeaderOf(std::span<const std::byte> lump) {
     MIPHeader header;
@@ -30,7 +30,7 @@ bool HasFittingSides(const MIPHeader& header) {
     return isFitting(header.width) && isFitting(header.height);
 }
 
-// Whether the levels follow the header, one after the other, as the games expect.
+// Whether the levels follow the header and one another, as the games expect.
 bool HasUsualPlaces(const MIPHeader& header) {
     const auto offsets = gametexture::LevelOffsets(sizeof header, static_cast<int>(header.width),
                                                    static_cast<int>(header.height));
@@ -55,7 +55,7 @@ ConvertedFile LumpEncoder::Encode(std::span<std::byte> bytes, const PlannedEntry
     return lump;
 }
 
-// Gives the lump the name that its archive's directory has, and its padding.
+// Gives the lump its name in the archive's directory, and its padding.
 void LumpEncoder::FinishLump(std::vector<std::byte>& lump, const std::string& name) const {
     MIPHeader header = HeaderOf(lump);
     std::ranges::fill(header.name, '\0');

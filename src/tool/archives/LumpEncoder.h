@@ -9,14 +9,14 @@ namespace keltavlo {
 
 struct PlannedEntry;
 
-// Makes the bytes of the pictures in an archive. Safe to call from several threads.
+// Encodes the pictures of an archive. Safe to call from several threads.
 class LumpEncoder {
 public:
-    // In a WAD2, pictures get the game's palette unless the options name another one; in a WAD3 each gets its
-    // own. The palettes must outlive the encoder.
+    // In a WAD2, pictures get the game's palette unless the options name another one; in a WAD3, each gets
+    // its own. The palettes must outlive the encoder.
     LumpEncoder(ArchiveKind archiveKind, const PaletteSet& paletteSet, PaletteOptions paletteOptions);
 
-    // Converts a picture file to the entry's format. A texture that is of the archive's kind already keeps
+    // Converts a picture file to the entry's format. A texture that already has the archive's format keeps
     // its bytes, except for its name. Throws CException, with a sentence, for a picture that cannot be read
     // or has sides that the games do not allow.
     ConvertedFile Encode(std::span<std::byte> file, const PlannedEntry& entry) const;

@@ -17,7 +17,7 @@ std::optional<unsigned> DigitOf(char c) {
     return {};
 }
 
-// The character that an escape at the start of the text means; nothing for another text.
+// Returns the character of an escape at the start of the text, if there is one.
 std::optional<char> EscapedAt(std::string_view text) {
     if (text.size() < escapeLength || !text.starts_with("_x")) return {};
     const auto high = DigitOf(text[2]), low = DigitOf(text[3]);

@@ -6,9 +6,9 @@
 
 namespace keltavlo {
 
-// A texture in the file of a model.
+// A texture in a model file.
 struct ModelSkin {
-    // "1" for the first one. If the second one is a group of pictures, "2_1" for the first of these.
+    // "1" for the first texture. If the second one is a group of pictures, "2_1" for the first of these.
     std::string number;
     Image picture;
 };

@@ -7,9 +7,8 @@ namespace keltavlo {
 class OutputStream;
 struct ArchiveItem;
 
-// Writes a pack: the header, the items' bytes in their order, the directory. The same items give the same
-// bytes. The names fit into the directory, and the items are no more than it can have. Fails as WriteItem
-// does.
+// Writes a pack: the header, the items' bytes in order, the directory. The same items give the same bytes.
+// The directory must have room for all items and their names. Throws like WriteItem.
 void WritePAK(OutputStream& out, std::span<const ArchiveItem> items);
 
 } // namespace keltavlo

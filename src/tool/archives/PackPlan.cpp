@@ -9,7 +9,7 @@ namespace keltavlo {
 
 namespace {
 
-constexpr std::size_t longestPath = sizeof PAKRecord::name - 1; // the games expect a NUL
+constexpr std::size_t longestPath = sizeof PAKRecord::name - 1; // bytes; the games expect a NUL
 constexpr std::size_t longestLumpName = sizeof WADRecord::name - 1;
 constexpr std::string_view lumpFormat = ".mip";
 constexpr std::string_view paletteExtension = ".lmp";
@@ -46,7 +46,7 @@ void PackPlan::Add(const PackSource& source) {
     PlannedEntry entry = NameEntry(source);
     std::string reason = ReasonAgainst(entry);
     if (reason.empty()) {
-        // The readers of archives ignore case.
+        // Readers of archives ignore case.
         const auto [place, isNew] = sources.emplace(FoldCase(entry.name), source.name);
         if (!isNew) reason = "\"" + place->second + "\" has the same name in the archive.";
     }

@@ -12,38 +12,38 @@ namespace keltavlo {
 class Entry;
 class FolderDocument;
 
-// A file that is to be packed.
+// A file to pack.
 struct PackSource {
     std::string path;
     std::string name;                  // its path below the packed folder, with "/"
-    FolderDocument* archive = nullptr; // of a file in an archive
+    FolderDocument* archive = nullptr; // null on the disk
     Entry* entry = nullptr;            // in the archive
-    TextureFields fields = {};         // of a picture, from the metadata of its folder
+    TextureFields fields = {};         // of a picture, from its folder's metadata
 };
 
-// The entry that a file becomes.
+// The entry to make from a file.
 struct PlannedEntry {
     PackSource source;
     std::string name;           // in a pack a path, in a WAD the name of the lump
     LumpType type = LumpType{}; // in a WAD
-    std::string format; // that a picture is converted to, with its dot; empty if the file goes in as it is
+    std::string format;         // for a picture, with its dot; empty to keep the file as it is
 };
 
-// The name of the entry for a file, or for a name as archives are listed: in a WAD, the file name without the
-// extension of a picture or palette and without escapes.
+// Returns the name of the entry for a file or for a listed name: in a WAD, the file name without escapes and
+// without the extension of a picture or palette.
 std::string EntryNameOf(ArchiveKind kind, const std::string& fileName);
 
-// Names the entries of an archive that is to be written, and finds what does not fit before anything is done.
+// Names the entries of an archive to be written, and finds what does not fit before anything is written.
 class PackPlan {
 public:
-    // `format` is the one that pictures in a pack are converted to, with its dot; empty for none.
+    // `format` is the one to convert pictures in a pack to, with its dot; empty to keep theirs.
     explicit PackPlan(ArchiveKind archiveKind, std::string format = {});
 
-    // Adds a file, or a complaint.
+    // Adds a file, or a complaint about it.
     void Add(const PackSource& source);
 
     const std::vector<PlannedEntry>& GetEntries() const { return entries; }
-    // Sentences for the user, each of which names a file.
+    // Returns sentences for the user, each of which names a file.
     const std::vector<std::string>& GetComplaints() const { return complaints; }
 
 private:
@@ -54,7 +54,7 @@ private:
     std::string pictureFormat;
     std::vector<PlannedEntry> entries;
     std::vector<std::string> complaints;
-    std::unordered_map<std::string, std::string> sources; // the names of the files by folded entry name
+    std::unordered_map<std::string, std::string> sources; // file names by folded entry name
 };
 
 } // namespace keltavlo

@@ -7,7 +7,7 @@ namespace keltavlo {
 
 namespace {
 
-// The games read numbers in place.
+// The games read numbers in place, so these must be aligned.
 void AlignToNumbers(OutputStream& out) {
     constexpr std::byte zeros[sizeof(std::uint32_t)]{};
     const std::uint64_t surplus = out.GetPosition() % sizeof zeros;

@@ -11,7 +11,7 @@ namespace keltavlo {
 
 namespace {
 
-// More than any system takes; each folder of a name takes memory.
+// Longer than any system's paths. Each folder in a name costs memory, so both are limited.
 constexpr std::size_t longestName = 4095; // bytes
 constexpr std::ptrdiff_t mostFolders = 32;
 
@@ -30,7 +30,7 @@ public:
         status.attributes = CFileStatus::readOnlyAttribute;
     }
 
-    // accessDenied when the flags ask for writing.
+    // Fails with accessDenied if the flags ask for writing.
     std::unique_ptr<CFile> OpenEntry(unsigned flags, CFileException* failure,
                                      FolderDocument& owner) override {
         return FileOrNull(failure, [&] {
@@ -68,7 +68,7 @@ void ZIPDocument::ReadContents(InputStream& in) {
     std::uint64_t left = in.GetLength();
     for (std::size_t i = 0; i < reader->GetCount(); ++i) {
         const ZipMember member = reader->GetMember(i);
-        // Entries that share bytes would make a small file as large as anyone likes.
+        // Otherwise entries that share bytes could make a small file arbitrarily large.
         if (member.storedSize > left || !IsAllowedName(member.name)) in.Fail(StreamError::badIndex);
         left -= member.storedSize;
         if (!IsFolderName(member.name)) AddNamedEntry(member.name, std::make_unique<ZIPEntry>(i, member));

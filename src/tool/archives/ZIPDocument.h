@@ -15,12 +15,12 @@ public:
     ZIPDocument();
     ~ZIPDocument() override;
 
-    // Fails as ZipReader does; badIndex for names of more than 4,095 bytes or in more than 32 folders, and
-    // for entries that together are larger than the file. Folders without files are left out.
+    // Throws like ZipReader; also badIndex for names of more than 4,095 bytes or in more than 32 folders, and
+    // for entries that together are larger than the file. Skips folders without files.
     void ReadContents(InputStream& in) override;
-    void WriteContents(OutputStream& out) override; // readOnly
+    void WriteContents(OutputStream& out) override; // throws readOnly
 
-    // As ZipReader::ReadMember; CFileException also when the archive was changed since it was opened.
+    // Works like ZipReader::ReadMember. Throws CFileException also for an archive that changed while open.
     std::vector<std::byte> ReadMember(std::size_t index);
 
 protected:
@@ -30,7 +30,7 @@ private:
     std::unique_ptr<ZipReader> reader;
 };
 
-// The same of Quake III Arena (".pk3").
+// The same archive for Quake III Arena (".pk3").
 class PK3Document final : public Dynamic<"PK3Document", PK3Document, ZIPDocument> {};
 
 } // namespace keltavlo

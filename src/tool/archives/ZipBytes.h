@@ -8,8 +8,8 @@
 
 namespace keltavlo {
 
-// The bytes of a ZIP file for libzip, so that the file may lie in another archive. libzip is written in C, so
-// no exception may pass through it: the first one of the file is kept for RethrowFailure.
+// The bytes of a ZIP file for libzip, so that the file may be in another archive. libzip is written in C, so
+// no exception may pass through it: the file's first one is kept for RethrowFailure.
 class ZipBytes {
 public:
     explicit ZipBytes(std::unique_ptr<CFile> zipFile);
@@ -17,8 +17,8 @@ public:
     ZipBytes(const ZipBytes&) = delete;
     ZipBytes& operator=(const ZipBytes&) = delete;
 
-    // Opens the bytes as an archive; null on failure, with the reason in the error. The archive must be
-    // discarded before this object goes.
+    // Opens the bytes as an archive. On failure, returns null and stores the reason in `openError`. The
+    // archive must be discarded before this object is destroyed.
     zip_t* OpenArchive(zip_error_t& openError);
     // Throws what the file threw since the last call, if anything.
     void RethrowFailure();

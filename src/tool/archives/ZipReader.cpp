@@ -6,11 +6,10 @@ namespace keltavlo {
 
 namespace {
 
-// Deflating shrinks zeros to a thousandth. No texture needs as much, and a small file must not fill the
-// memory.
+// Zeros can shrink to a thousandth. Textures do not, and a small file must not fill the memory.
 constexpr std::uint64_t freeSize = std::uint64_t{16} << 20; // bytes
 constexpr std::uint64_t largestRatio = 128;
-constexpr std::uint64_t deflateRatio = 1032; // the most that the method can do
+constexpr std::uint64_t deflateRatio = 1032; // the method's maximum
 
 [[noreturn]] void Refuse(const ZipMember& member, const char* sentence) {
     throw CFileException(CFileException::generic, member.name, sentence);
@@ -34,7 +33,7 @@ struct CloseMember {
     void operator()(zip_file_t* file) const { zip_fclose(file); }
 };
 
-// Fills the bytes, then reads on to the end, where libzip compares the checksum.
+// Fills the bytes, then reads to the end, where libzip checks the checksum.
 bool ReadWhole(zip_file_t* file, std::vector<std::byte>& bytes) {
     std::byte surplus;
     const auto length = static_cast<zip_int64_t>(bytes.size());

@@ -9,16 +9,16 @@ namespace keltavlo {
 
 class InputStream;
 
-// What the directory of a ZIP file tells of an entry. The numbers are the file's and may be anything.
+// An entry in the directory of a ZIP file. The numbers are unchecked.
 struct ZipMember {
-    std::string name;             // as the file spells it
+    std::string name;             // as spelled in the file
     std::uint64_t size = 0;       // bytes
-    std::uint64_t storedSize = 0; // bytes that it takes in the file
+    std::uint64_t storedSize = 0; // bytes in the file
     std::uint16_t method = 0;
     bool isEncrypted = false;
 };
 
-// Reads the entries of a ZIP file: stored and deflated ones.
+// Reads the stored and deflated entries of a ZIP file.
 class ZipReader {
 public:
     // Reads the directory. Calls Fail(badClass) for a file that is not a ZIP archive, badIndex for a damaged
@@ -30,9 +30,8 @@ public:
 
     std::size_t GetCount() const;
     ZipMember GetMember(std::size_t index) const;
-    // The bytes of an entry. CFileException with a sentence for an entry that is encrypted, compressed by
-    // another method, damaged, or of a size that its stored bytes do not back: more than 16 MiB and 128 times
-    // as many.
+    // Returns the bytes of an entry. Throws CFileException, with a sentence, for an entry that is encrypted,
+    // compressed by another method, damaged, or larger than 16 MiB plus 128 times its stored bytes.
     std::vector<std::byte> ReadMember(std::size_t index);
 
 private:

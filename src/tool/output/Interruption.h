@@ -6,10 +6,10 @@
 
 namespace keltavlo {
 
-// While one exists, the first signal that asks the program to end (SIGINT, SIGTERM, SIGHUP) is only noted, so
-// that a run can end between two files; a second one of its kind ends the program at once. Signals that the
-// program was started to ignore stay ignored. Writing beyond the limit of a file's size fails instead of
-// ending the program.
+// While one exists, the first signal that asks the program to end (SIGINT, SIGTERM, SIGHUP) is only recorded,
+// so that a run can end between two files. A second signal of the same kind ends the program at once. Signals
+// that were ignored when the program started stay ignored. Writing beyond the limit of a file's size fails
+// instead of ending the program.
 class Interruption {
 public:
     Interruption();
@@ -17,7 +17,7 @@ public:
     Interruption(const Interruption&) = delete;
     Interruption& operator=(const Interruption&) = delete;
 
-    // The signal that was noted last; 0 for none. Safe to call from any thread.
+    // Returns the last recorded signal, or 0. Safe to call from any thread.
     static int GetSignal();
 
 private:
@@ -29,7 +29,7 @@ private:
 class InterruptedError : public std::runtime_error {
 public:
     explicit InterruptedError(int number);
-    // 128 and the signal's number, as shells have it.
+    // Returns 128 plus the signal's number, as shells do.
     int GetExitCode() const { return exitCode; }
 
 private:

@@ -13,13 +13,13 @@
 
 namespace keltavlo {
 
-// The number of threads for `jobs`, where 0 means one on each core.
+// Returns the number of threads for `jobs`, where 0 means one per core.
 unsigned ThreadCount(unsigned jobs);
 
-// Spreads work over threads and takes its results in order: `work` runs for the numbers from 0 to `count` - 1
-// in up to `threadCount` threads, `take` in the calling thread for each result, in the order of the numbers.
-// At most `window` results wait at a time. When `take` returns false, no further work begins. With a single
-// thread everything runs in the calling one. Throws what `work` or `take` throws, after all threads ended.
+// Spreads work over threads and takes the results in order. Calls `work` for the numbers from 0 to `count` -
+// 1 in up to `threadCount` threads, and `take` for each result, in order, in the calling thread. At most
+// `window` results wait at a time. If `take` returns false, no further work begins. With a single thread,
+// everything runs in the calling one. Throws what `work` or `take` throws, after all threads have ended.
 template <class Result>
 class OrderedWork {
 public:
@@ -36,13 +36,13 @@ public:
             return;
         }
         std::vector<std::jthread> threads;
-        const Ending ending{*this}; // before the threads are joined
+        const Ending ending{*this}; // destroyed before the threads are joined
         for (unsigned i = 0; i < threadCount && i < count; ++i) threads.emplace_back([this] { WorkOn(); });
         for (std::size_t i = 0; i < count && take(i, Await(i));) ++i;
     }
 
 private:
-    // Lets the threads end, whatever happens.
+    // Ends the threads even if an exception is thrown.
     struct Ending {
         OrderedWork& owner;
         ~Ending() {
@@ -92,11 +92,11 @@ private:
 
     const std::size_t count, window;
     const Work work;
-    std::mutex mutex; // of all below
+    std::mutex mutex; // for all members below
     std::condition_variable changed;
-    std::vector<Slot> results; // of number i at i % window
-    std::size_t next = 0;      // number that no thread has begun
-    std::size_t taken = 0;     // results taken
+    std::vector<Slot> results; // the result of number i is at i % window
+    std::size_t next = 0;      // first number that no thread has begun
+    std::size_t taken = 0;     // number of results taken
     bool ended = false;
 };
 

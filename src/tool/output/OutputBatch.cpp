@@ -14,10 +14,10 @@ namespace keltavlo {
 
 namespace {
 
-constexpr std::uint64_t maximumBytes = 256 << 20; // that wait for a sync
+constexpr std::uint64_t maximumBytes = 256 << 20; // that may wait for a sync
 constexpr rlim_t maximumOutputs = 4096;
 
-// Half of the files that the process may open, at most.
+// Raises the limit of open files. Returns the number of outputs that may wait: half the limit at most.
 std::size_t RaiseCapacity() {
     rlimit limit{};
     if (getrlimit(RLIMIT_NOFILE, &limit) != 0) return 1;
@@ -29,7 +29,7 @@ std::size_t RaiseCapacity() {
     return std::clamp<rlim_t>(limit.rlim_cur / 2, 1, maximumOutputs);
 }
 
-// Of an open file. 0, or the error number.
+// Flushes the file system of an open file. Returns 0 or the error number.
 int SyncFileSystem(const Descriptor& file) {
     return syncfs(file.Get()) == 0 ? 0 : errno;
 }

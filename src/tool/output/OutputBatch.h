@@ -7,23 +7,23 @@
 
 namespace keltavlo {
 
-// Outputs that become durable together. Their bytes are written out by one sync of each file system before
-// the first of them gets its name, and the names by another at the end. So after a crash of the system, too,
-// each output is whole or absent, and a file that is overwritten is the old or the new one. An output on its
-// own is synced alone.
+// Makes outputs durable together. One sync of each file system writes their bytes before the first of them
+// gets its name, and another writes the names at the end. So even after a crash of the system, each output is
+// whole or absent, and an overwritten file is the old or the new one. A single output is synced alone.
 class OutputBatch {
 public:
     // Receives the path and the exception of each output that could not be published.
     using ReportFailure = std::function<void(const std::string&, const std::exception&)>;
 
-    // Raises the process's limit of open files, because waiting outputs are open files.
+    // Raises the process's limit of open files, because outputs that wait are open files.
     explicit OutputBatch(ReportFailure reportFailure);
 
-    // Takes an output over; `shownPath` is for a report. Publishes what waits when that gets too much.
+    // Takes over an output; `shownPath` is for error reports. Publishes the waiting outputs when they become
+    // too many at once.
     void Add(StagedFile file, bool overwrite, std::string shownPath);
-    // The number of outputs that may wait.
+    // Returns the number of outputs that may wait.
     std::size_t GetCapacity() const { return capacity; }
-    // Publishes what waits and makes all names durable.
+    // Publishes the waiting outputs and makes all names durable.
     void Finish();
 
 private:

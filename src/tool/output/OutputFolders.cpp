@@ -43,7 +43,7 @@ std::string OutputFolders::Resolve(const std::string& path) {
     if (path.size() >= PATH_MAX) throw CFileException::FromErrno(ENAMETOOLONG, path);
     const std::string folder = ResolveFolder(ParentOf(path));
     std::string target = folder + (folder.ends_with('/') ? "" : "/") + std::string(FileNameOf(path));
-    if (!IsLink(target) || !Exists(target)) return target; // a link to nothing is overwritten itself
+    if (!IsLink(target) || !Exists(target)) return target; // a dangling link is itself overwritten
     target = RealPath(target);
     CheckInside(target, path);
     return target;
@@ -69,7 +69,7 @@ std::string OutputFolders::MakeFolder(const std::string& folder) {
     return resolved[folder] = made;
 }
 
-// One step at a time: nothing may be made behind a link that leads out.
+// Creates one folder at a time, so that none is created behind a link that leads out.
 std::string OutputFolders::MakeBelow(const std::string& folder) {
     const std::string parent = MakeFolder(ParentOf(folder));
     const std::string path = parent + (parent.ends_with('/') ? "" : "/") + std::string(FileNameOf(folder));

@@ -6,15 +6,14 @@
 
 namespace keltavlo {
 
-// The folders of a run's outputs: makes them, and finds where they really lie. Safe to call from several
-// threads.
+// Creates the folders of a run's outputs, and resolves their paths. Safe to call from several threads.
 class OutputFolders {
 public:
-    // Refuses from now on what leads out of the folder, through links too.
+    // From now on, refuses paths that lead out of the folder, even through links.
     void KeepInside(const std::string& folder);
 
-    // The path to write for a full path: its folder is made and links are followed, one in the place of the
-    // file included. CFileException if that fails, or if the path would lead out of the output folder.
+    // Returns the path to write for a full path. Creates its folder and follows links, even one in the place
+    // of the file. Throws CFileException if that fails or the path leads out of the output folder.
     std::string Resolve(const std::string& path);
 
 private:
@@ -23,9 +22,9 @@ private:
     std::string MakeBelow(const std::string& folder);
     void CheckInside(const std::string& resolved, const std::string& path) const;
 
-    std::mutex mutex;                            // of all below
-    std::string root;                            // full, empty for none
-    std::string resolvedRoot;                    // empty until it was made
+    std::mutex mutex;                            // for all members below
+    std::string root;                            // full path; empty if there is none
+    std::string resolvedRoot;                    // empty until the folder exists
     std::map<std::string, std::string> resolved; // folders
 };
 

@@ -20,12 +20,12 @@ namespace {
     throw CFileException::FromErrno(errno, path);
 }
 
-// The path through which an open file without a name can be linked.
+// Returns the path by which an open file without a name can be linked.
 std::string LinkPath(const Descriptor& file) {
     return "/proc/self/fd/" + std::to_string(file.Get());
 }
 
-// What open() answers where a file system, or a system without /proc, has no unnamed files.
+// Whether this error of open() means that the file system, or a system without /proc, has no unnamed files.
 bool MeansNoUnnamedFiles(int error) {
     return error == EOPNOTSUPP || error == EISDIR || error == ENOENT || error == EINVAL;
 }
@@ -50,7 +50,7 @@ StagedFile::StagedFile(std::string targetPath, std::span<const std::byte> bytes,
             WriteAll(descriptor.Get(), bytes, target);
         else
             held.assign(bytes.begin(), bytes.end());
-    } catch (...) { // the destructor does not run
+    } catch (...) { // because the destructor does not run
         if (!temporary.empty()) unlink(temporary.c_str());
         throw;
     }
@@ -86,17 +86,18 @@ void StagedFile::Open(TemporaryNames& names) {
 void StagedFile::Publish(bool overwrite) {
     if (descriptor.IsOpen() && GiveNewName()) return;
     if (descriptor.IsOpen() && errno != EEXIST) ThrowErrno(target);
-    if (!overwrite) throw CFileException(CFileException::accessDenied, target, "A file of that name exists.");
+    if (!overwrite)
+        throw CFileException(CFileException::accessDenied, target, "A file with that name already exists.");
     Replace();
 }
 
-// False with errno set if that fails; EEXIST if the target exists.
+// Returns false and sets errno on failure; EEXIST if the target exists.
 bool StagedFile::GiveNewName() {
     if (temporary.empty())
         return linkat(AT_FDCWD, LinkPath(descriptor).c_str(), AT_FDCWD, target.c_str(), AT_SYMLINK_FOLLOW) ==
                0;
     int result = renameat2(AT_FDCWD, temporary.c_str(), AT_FDCWD, target.c_str(), RENAME_NOREPLACE);
-    if (result != 0 && (errno == EINVAL || errno == ENOSYS)) { // a file system without that flag
+    if (result != 0 && (errno == EINVAL || errno == ENOSYS)) { // the file system does not know the flag
         errno = EEXIST;
         if (IsMissing(target)) result = rename(temporary.c_str(), target.c_str());
     }
@@ -105,7 +106,7 @@ bool StagedFile::GiveNewName() {
 }
 
 void StagedFile::Replace() {
-    ReplacingFile file(target); // refuses what must not be overwritten
+    ReplacingFile file(target); // throws if the target must not be overwritten
     struct stat old {};
     const bool existed = stat(target.c_str(), &old) == 0;
     if (!descriptor.IsOpen() || (existed && (old.st_nlink > 1 || !FolderIsWritable(target)))) {

@@ -8,25 +8,24 @@ namespace keltavlo {
 
 class TemporaryNames;
 
-// The whole bytes of an output that does not have its name yet. They lie in an unnamed file of the target's
-// folder, so nothing of them stays if the process is killed. Where the file system has no unnamed files, a
-// temporary file takes their place; where the folder cannot be written but the target can, the bytes wait in
-// memory.
+// All bytes of an output that does not have its name yet. They are in an unnamed file in the target's folder,
+// so nothing is left if the process is killed. If the file system has no unnamed files, they are in a
+// temporary file; if the folder cannot be written but the target can, in memory.
 class StagedFile {
 public:
-    // `target` is a full native path. CFileException if the bytes cannot be written.
+    // `target` is a full native path. Throws CFileException if the bytes cannot be written.
     StagedFile(std::string target, std::span<const std::byte> bytes, TemporaryNames& names);
     StagedFile(StagedFile&& other) noexcept;
     StagedFile& operator=(StagedFile&&) = delete;
-    ~StagedFile(); // removes what was not published
+    ~StagedFile(); // removes the file unless it was published
 
     const std::string& GetTarget() const { return target; }
     std::uint64_t GetSize() const { return size; } // bytes
-    // Of the file that holds the bytes; not open if they wait in memory.
+    // Returns the file that contains the bytes; not open if they wait in memory.
     const Descriptor& GetDescriptor() const { return descriptor; }
 
-    // Gives the bytes their name in one step. Overwrites an existing file only with `overwrite`: keeps its
-    // permissions, and writes into it if it has further names. CFileException if that fails.
+    // Gives the bytes their name in one step. With `overwrite`, replaces an existing file: keeps its
+    // permissions, and writes into it if it has further names. Throws CFileException on failure.
     void Publish(bool overwrite);
 
 private:

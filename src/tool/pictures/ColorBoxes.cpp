@@ -9,7 +9,7 @@ namespace keltavlo {
 
 namespace {
 
-// Of blue, green, red and alpha, as in ColorDistance.
+// For blue, green, red and alpha, as in ColorDistance.
 constexpr ColorSums::Channels weights{1, 1, 1, 3};
 
 double Channel(Color color, std::size_t channel) {

@@ -16,10 +16,10 @@ struct CountedColor {
     std::uint32_t count;
 };
 
-// The colors of the pixels, each once.
+// Returns the distinct colors of the pixels.
 std::vector<CountedColor> CountColors(std::span<const Color> pixels);
 
-// The sums of a set of pixels from which its mean and its spread follow.
+// Sums over a set of pixels that give its mean and spread.
 class ColorSums {
 public:
     static constexpr std::size_t channelCount = 4;
@@ -29,11 +29,11 @@ public:
     ColorSums Without(const ColorSums& other) const;
 
     double Count() const { return count; }
-    // The mean, each channel rounded. There must be a pixel.
+    // Returns the mean, each channel rounded. There must be a pixel.
     Color Mean() const;
-    // The sum of the distances (ColorDistance) from the mean.
+    // Returns the sum of the distances (ColorDistance) from the mean.
     double Spread() const;
-    // The channel in which the pixels differ most.
+    // Returns the channel in which the pixels differ most.
     std::size_t WidestChannel() const;
 
 private:
@@ -43,8 +43,8 @@ private:
     Channels sums{}, squares{};
 };
 
-// Cuts the colors into at most `boxCount` boxes, always the one of the greatest spread, where the spread of
-// both parts is least, and returns the boxes' means. Reorders the colors.
+// Divides the colors into at most `boxCount` boxes and returns the boxes' means. Always cuts the box with the
+// greatest spread, where the spread of its parts is least. Reorders the colors.
 std::vector<Color> CutIntoBoxes(std::span<CountedColor> colors, std::size_t boxCount);
 
 } // namespace keltavlo

@@ -12,7 +12,7 @@ namespace keltavlo {
 
 namespace {
 
-// The numbers of the `count` items of the greatest rank, that first.
+// Returns the indices of the `count` items with the highest rank, the highest first.
 template <class Rank>
 std::vector<std::size_t> Highest(std::size_t itemCount, std::size_t count, Rank rank) {
     std::vector<std::size_t> order(itemCount);
@@ -37,7 +37,7 @@ ColorClusters::ColorClusters(std::span<const CountedColor> pictureColors) : entr
     nearest.resize(colors.size());
 }
 
-// Lloyd's algorithm, until a step gains less than a two-thousandth.
+// Lloyd's algorithm. Stops when a step gains less than a two-thousandth.
 double ColorClusters::Refine(std::vector<Color>& centers) {
     constexpr double worthwhile = 0.9995;
     double error = Assign(centers);
@@ -57,7 +57,7 @@ double ColorClusters::Refine(std::vector<Color>& centers) {
 
 void ColorClusters::Relocate(std::vector<Color>& centers, std::size_t count) const {
     const std::vector<ColorSums> sums = SumUp(centers.size());
-    // What the center's colors would add to the error at the next center, roughly.
+    // Roughly what a center's colors would add to the error if they used the next center instead.
     const std::vector<std::size_t> needless = Highest(
         centers.size(), count, [&](std::size_t k) { return -sums[k].Count() * DistanceToOther(centers, k); });
     const std::vector<std::size_t> farthest = FarthestColors(centers, count);
@@ -79,7 +79,7 @@ std::vector<ColorSums> ColorClusters::SumUp(std::size_t centerCount) const {
     return sums;
 }
 
-// A center that no color is nearest to goes where the error is greatest.
+// Moves a center that is nearest to no color to where the error is greatest.
 void ColorClusters::MoveToMeans(std::vector<Color>& centers) const {
     const std::vector<ColorSums> sums = SumUp(centers.size());
     const auto idle = static_cast<std::size_t>(std::ranges::count(sums, 0.0, &ColorSums::Count));

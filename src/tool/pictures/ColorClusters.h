@@ -4,16 +4,16 @@
 
 namespace keltavlo {
 
-// The colors of a picture, divided among the centers that they are nearest to.
+// The colors of a picture, each assigned to the nearest of several centers.
 class ColorClusters {
 public:
     explicit ColorClusters(std::span<const CountedColor> pictureColors);
 
-    // Replaces up to 256 centers by ones of a smaller error, the sum of the distances (ColorDistance) of all
-    // pixels from their centers. Returns that error.
+    // Moves up to 256 centers so that the error is smaller: the sum of all pixels' distances (ColorDistance)
+    // from their centers. Returns the error.
     double Refine(std::vector<Color>& centers);
-    // Moves that many of the centers that are needed least to the colors that are farthest from theirs. For
-    // centers that Refine has just returned.
+    // Moves the `count` centers that are needed least to the colors that are farthest from theirs. Call it
+    // only with centers that Refine has just returned.
     void Relocate(std::vector<Color>& centers, std::size_t count) const;
 
 private:

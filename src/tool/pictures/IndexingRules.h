@@ -5,21 +5,21 @@
 
 namespace keltavlo {
 
-// The last index of a full palette; textures whose names begin with "{" are transparent where they have it.
+// The last index of a full palette. It is transparent in textures whose names begin with "{".
 inline constexpr std::uint8_t cutoutIndex = 255;
-// Texels of a lower alpha are transparent in such a texture.
+// Texels with a lower alpha are transparent in such a texture.
 inline constexpr std::uint32_t cutoutAlpha = 128;
 // Quake draws this index and the following ones at full brightness.
 inline constexpr std::size_t firstFullbright = 224;
 
-// Which indices texels may get.
+// Restricts the indices that texels may get.
 struct IndexingRules {
     bool dither = false;
     bool protectFullbright = false; // as in PaletteOptions
-    // Texels of an alpha below cutoutAlpha get cutoutIndex, and no others do. The palette has 256 colors.
+    // Gives cutoutIndex to texels with an alpha below cutoutAlpha and to no others. The palette is full.
     bool isCutout = false;
 
-    // How many of a palette's first colors are left to texels that are mapped by color.
+    // Returns how many of a palette's first colors are available to texels that are mapped by color.
     std::size_t UsableColors(std::size_t count) const {
         const std::size_t limit = protectFullbright ? firstFullbright : isCutout ? cutoutIndex : count;
         return count < limit ? count : limit;

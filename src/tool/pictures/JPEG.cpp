@@ -14,11 +14,11 @@ namespace {
 
 constexpr std::uint8_t signature[] = {0xFF, 0xD8, 0xFF};
 constexpr std::uint64_t coefficientSize = 2;
-// Each scan of a progressive picture goes over all of its pixels, however few bytes it has.
+// Limits the scans of a progressive picture, because each goes over all pixels, however few bytes it has.
 constexpr int maximumScans = 500;
 
-// How the library reports failures: it jumps out of them. Each step below runs in Succeeds, and its frames
-// have nothing to destroy.
+// The library reports a failure by jumping out of it. Each step below runs in Succeeds, and its frames have
+// nothing to destroy.
 struct ErrorManager : jpeg_error_mgr {
     std::jmp_buf place;
 };
@@ -27,7 +27,7 @@ struct ErrorManager : jpeg_error_mgr {
     std::longjmp(static_cast<ErrorManager*>(common->err)->place, 1);
 }
 
-// What the library calls a warning is a picture that lacks a part, with a few exceptions.
+// Treats almost every warning as a failure, because part of the picture is missing then.
 void OnMessage(j_common_ptr common, int level) {
     const int code = common->err->msg_code;
     if (level < 0 && code != JWRN_EXTRANEOUS_DATA && code != JWRN_JFIF_MAJOR && code != JWRN_ADOBE_XFORM)

@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::uint64_t freeMemory = std::uint64_t{16} << 20;
 constexpr std::uint64_t memoryPerByte = 128;
-constexpr std::uint64_t decoderMemory = std::uint64_t{1} << 19; // what the decoders take beside the picture
+constexpr std::uint64_t decoderMemory = std::uint64_t{1} << 19; // used by the decoders beside the picture
 
 } // namespace
 

@@ -8,8 +8,8 @@ namespace keltavlo {
 
 namespace {
 
-// Refining ends in a valley; relocated centers often lead into a deeper one. Fewer are relocated when that
-// gains less than a thousandth.
+// Refining finds a local minimum; relocating some centers often leads to a lower one. Relocates fewer when a
+// round gains less than a thousandth.
 void Refine(std::vector<Color>& centers, std::span<const CountedColor> colors) {
     constexpr double worthwhile = 0.999;
     ColorClusters clusters(colors);

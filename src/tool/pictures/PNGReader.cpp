@@ -16,7 +16,7 @@ namespace {
 constexpr std::size_t signatureSize = 8;
 constexpr png_uint_32 maximumSide = 65535;
 
-// The library's state. Its functions jump out of a failure; each step below runs in Succeeds, and its frames
+// The library's state. The library jumps out of failures, so each step below runs in Succeeds, and its frames
 // have nothing to destroy.
 struct Decoder {
     explicit Decoder(std::span<const std::uint8_t> file) : unread(file) {
@@ -57,7 +57,7 @@ struct Decoder {
 
 void ReadHeader(Decoder& decoder) {
     png_set_user_limits(decoder.png, maximumSide, maximumSide);
-    // Skips texts, profiles and the like, which can be as large as their writer likes.
+    // Skips texts, profiles and the like, because they can have any size.
     png_set_keep_unknown_chunks(decoder.png, PNG_HANDLE_CHUNK_NEVER, nullptr, -1);
     png_read_info(decoder.png, decoder.info);
 }
@@ -72,7 +72,7 @@ void RequestIndices(Decoder& decoder) {
     png_read_update_info(decoder.png, decoder.info);
 }
 
-// As they lie in memory: blue, green, red, alpha.
+// Requests the bytes of a Color: blue, green, red, alpha.
 void RequestColors(Decoder& decoder) {
     const bool hasAlpha = (png_get_color_type(decoder.png, decoder.info) & PNG_COLOR_MASK_ALPHA) != 0 ||
                           png_get_valid(decoder.png, decoder.info, PNG_INFO_tRNS) != 0;
@@ -111,7 +111,7 @@ void Run(InputStream& in, Decoder& decoder, void (*step)(Decoder&)) {
     in.Fail(StreamError::badIndex, "The PNG picture is damaged.");
 }
 
-// Reads all rows into `memory`, which has `rowBytes` bytes for each.
+// Reads all rows into `memory`, which has `rowBytes` bytes per row.
 void ReadInto(InputStream& in, Decoder& decoder, png_bytep memory, std::size_t rowBytes, std::size_t height) {
     std::vector<png_bytep> rows(height);
     for (std::size_t y = 0; y < height; ++y) rows[y] = memory + y * rowBytes;

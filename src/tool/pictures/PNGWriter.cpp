@@ -16,8 +16,8 @@ namespace {
 
 constexpr int bitDepth = 8;
 
-// The library's state and the file so far. A step runs in Succeeds, and its frames have nothing to destroy,
-// because the library jumps out of a failure, which can only be a lack of memory.
+// The library's state and the file so far. The library jumps out of a failure, which can only be a lack of
+// memory, so each step runs in Succeeds, and its frames have nothing to destroy.
 struct Encoder {
     explicit Encoder(const Texture& picture) : texture(picture) {
         png = png_create_write_struct(PNG_LIBPNG_VER_STRING, this, OnError, OnWarning);
@@ -64,7 +64,7 @@ struct Encoder {
     png_structp png = nullptr;
     png_infop info = nullptr;
     std::vector<std::uint8_t> file;
-    std::vector<std::uint8_t> row; // of opaque colors
+    std::vector<std::uint8_t> row; // for opaque colors
 };
 
 bool IsPaletted(const Texture& texture) {
@@ -79,7 +79,7 @@ void WritePalette(Encoder& encoder) {
     std::array<png_color, PNG_MAX_PALETTE_LENGTH> entries{};
     std::array<png_byte, PNG_MAX_PALETTE_LENGTH> alphas{};
     const std::span<const Color> colors = std::as_const(*encoder.texture.palette).Colors();
-    int alphaCount = 0; // up to the last entry that is not opaque
+    int alphaCount = 0; // ends with the last entry that is not opaque
     for (std::size_t i = 0; i < colors.size(); ++i) {
         entries[i] = {static_cast<png_byte>(Red(colors[i])), static_cast<png_byte>(Green(colors[i])),
                       static_cast<png_byte>(Blue(colors[i]))};

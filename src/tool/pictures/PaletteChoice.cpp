@@ -15,7 +15,7 @@ namespace keltavlo {
 namespace {
 
 constexpr std::size_t fullCount = 256;
-// What transparent texels look like in programs that do not know about them.
+// The color of transparent texels in programs that do not know about them.
 constexpr Color cutoutColor = Compose(0, 0, 255);
 
 const ColorList* PaletteOfGame(const PaletteSet& palettes, DefaultPalette game) {
@@ -30,7 +30,7 @@ const ColorList* PaletteOfGame(const PaletteSet& palettes, DefaultPalette game) 
     return nullptr;
 }
 
-// Null for the sources that name none.
+// Returns null for sources that name no palette.
 const ColorList* NamedPalette(const PaletteSet& palettes, PaletteSource source) {
     switch (source) {
     case PaletteSource::quake:
@@ -53,7 +53,7 @@ bool HaveSameColors(const ColorList& left, const ColorList& right) {
                               [](Color a, Color b) { return ((a ^ b) & ~alphaMask) == 0; });
 }
 
-// As files of the games carry palettes: full and opaque.
+// Returns the palette as files of the games store it: full and opaque.
 ColorList FullPalette(const ColorList& palette) {
     std::vector<Color> colors(palette.Colors().begin(), palette.Colors().end());
     colors.resize(fullCount);
@@ -61,7 +61,7 @@ ColorList FullPalette(const ColorList& palette) {
     return ColorList(std::move(colors));
 }
 
-// Of opaque colors: the alpha of a texel only decides whether it is cut out.
+// Makes a palette of opaque colors, because a texel's alpha only decides whether it is cut out.
 ColorList OwnOpaquePalette(const Image& picture, const IndexingRules& rules) {
     std::vector<Color> pixels;
     for (const Color pixel : picture.Pixels())
@@ -75,7 +75,7 @@ ColorList OwnOpaquePalette(const Image& picture, const IndexingRules& rules) {
 
 ColorList OwnPalette(const Image& picture, const PictureFormat& to, const IndexingRules& rules) {
     if (to.paletteUse == PaletteUse::game)
-        throw CException("A file of this format cannot carry a palette of its own.");
+        throw CException("A file of this format cannot contain a palette of its own.");
     if (to.IsAlwaysPaletted() || rules.isCutout) return OwnOpaquePalette(picture, rules);
     return MakeOwnPalette(picture.Pixels(), rules.UsableColors(fullCount));
 }

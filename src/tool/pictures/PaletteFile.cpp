@@ -22,24 +22,23 @@ constexpr std::string_view textMark = "JASC-PAL";
 }
 
 ColorList PaletteOfPicture(CFile& file, const PictureFormat& format, std::string_view name) {
-    // Stands in for the palette of a file without one.
+    // Replaces the palette of a file that has none.
     static const ColorList noPalette(maximumCount);
     const SourcePicture picture = ReadSource(file, format, name, &noPalette);
     if (!picture.carriesPalette || *picture.texture.palette == noPalette)
-        Refuse(file, "The picture carries no palette.");
+        Refuse(file, "The picture contains no palette.");
     ColorList palette;
     for (const Color color : picture.texture.palette->Colors()) palette.Append(color | alphaMask);
     return palette;
 }
 
-// After the mark, the version, the number of colors, and a line of red, green and blue for each.
+// The text has a mark, a version, the number of colors, and a line with red, green and blue for each.
 ColorList PaletteOfText(CFile& file, const std::string& text) {
     std::istringstream in(text.substr(textMark.size()));
     std::string version;
     std::size_t count = 0;
     in >> version >> count;
-    if (!in || count == 0 || count > maximumCount)
-        Refuse(file, "The palette has no or more than 256 colors.");
+    if (!in || count == 0 || count > maximumCount) Refuse(file, "The palette does not have 1 to 256 colors.");
     ColorList palette;
     for (std::size_t i = 0; i < count; ++i) {
         std::uint32_t red = 0, green = 0, blue = 0;
@@ -59,7 +58,7 @@ ColorList ReadPaletteFile(CFile& file, std::string_view name) {
     const std::string text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
     if (text.starts_with(textMark)) return PaletteOfText(file, text);
     if (bytes.size() < lumpSize || bytes.size() > lumpSize + maximumTrailer)
-        Refuse(file, "The file is not a palette: it has neither 768 bytes nor a known form.");
+        Refuse(file, "The file is not a palette: it is neither 768 bytes long nor of a known format.");
     return ColorsFromTriples({reinterpret_cast<const std::uint8_t*>(bytes.data()), lumpSize});
 }
 

@@ -4,10 +4,10 @@
 
 namespace keltavlo {
 
-// The palettes that conversions choose from. Load them once; any number of threads may read them.
+// The palettes to choose from in conversions. Load them once; any number of threads may read them.
 struct PaletteSet {
     ColorList quake, quake2, hexen2; // 256 colors each
-    ColorList file;                  // of PaletteOptions::file; empty without one
+    ColorList file;                  // from PaletteOptions::file; empty if there is none
 };
 
 } // namespace keltavlo

@@ -50,7 +50,7 @@ bool HasTransparentTexels(const Image& picture) {
 IndexingRules RulesOf(const Image& picture, const PictureFormat& to, bool hasCutoutName,
                       const PaletteOptions& options) {
     IndexingRules rules{options.dither, options.protectFullbright, hasCutoutName};
-    // Where a palette of a game is asked for, its last color is the only one that can be transparent.
+    // If the options name the palette of a game, only its last color can be transparent.
     if (to.paletteUse == PaletteUse::optional)
         rules.isCutout = options.source != PaletteSource::automatic && HasTransparentTexels(picture) &&
                          (hasCutoutName || options.source != PaletteSource::own);

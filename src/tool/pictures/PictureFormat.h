@@ -8,18 +8,18 @@
 
 namespace keltavlo {
 
-// What a file of a format does with palettes.
+// What files of a format do with palettes.
 enum class PaletteUse {
     none,      // stores colors
-    game,      // stores indices of its game's palette
-    gameOrOwn, // the same, or of a palette that it carries
+    game,      // stores indices in its game's palette
+    gameOrOwn, // stores indices in its game's palette or in its own, which it stores too
     own,       // stores indices and their palette
     optional   // stores colors, or indices and their palette
 };
 
-// A picture format of the tool. Those that the windowed program lacks have no document class.
+// A picture format of the tool. Formats that the windowed program lacks have no document class.
 struct PictureFormat {
-    Codec codec; // `write` is null for a format that is only read
+    Codec codec; // `write` is null for a format that can only be read
     PaletteUse paletteUse;
 
     bool IsAlwaysPaletted() const {
@@ -29,10 +29,11 @@ struct PictureFormat {
 
 std::span<const PictureFormat> PictureFormats();
 
-// The format of a file name's extension, or of an extension with its dot; null for any other name.
+// Returns the format for a file name's extension, or for an extension with its dot; null for any other name.
 const PictureFormat* FindPictureFormat(std::string_view fileName);
 
-// The names of the formats that can be written, with a text before each: "wal, mip, pcx, tga, bmp or png".
+// Lists the names of the formats that can be written, each after the text `before`: "wal, mip, pcx, tga, bmp
+// or png".
 std::string ListWritableFormats(std::string_view before = {});
 
 } // namespace keltavlo

@@ -20,12 +20,12 @@ ColorList Part(const ColorList& list, std::size_t first, std::size_t end) {
                                         colors.begin() + static_cast<std::ptrdiff_t>(end)));
 }
 
-// An opaque entry matches its color, whatever alpha a texel has.
+// An opaque entry matches its color whatever alpha the texel has.
 bool IsSameColor(Color source, Color entry) {
     return source == entry || (Alpha(entry) == opaqueAlpha && ((source ^ entry) & ~alphaMask) == 0);
 }
 
-// Maps colors to the indices of one palette by the rules.
+// Maps colors to the indices of a palette by the rules.
 class Indexer {
 public:
     Indexer(const ColorList& targetPalette, const IndexingRules& useRules)
@@ -64,7 +64,7 @@ public:
             if (Alpha(pixels[i]) < cutoutAlpha) plane[i] = cutoutIndex;
     }
 
-    // The indices of a mip level of which the picture's are known.
+    // Returns the indices of a mip level from those of the picture.
     IndexPlane FromBlocks(const Texture& texture, const IndexPlane& picture, int level) {
         IndexPlane plane;
         for (int y = 0; y < texture.GetHeight() >> level; ++y)
@@ -81,7 +81,7 @@ private:
             search.Diffuse(picture.Pixels(), static_cast<std::size_t>(picture.GetWidth()));
     }
 
-    // The color of a transparent texel means nothing, so its error is not carried on.
+    // Does not spread the error of transparent texels, because their color means nothing.
     void DitherSolid(std::span<Color> row) {
         const auto isSolid = [](Color pixel) { return Alpha(pixel) >= cutoutAlpha; };
         for (auto place = row.begin(); place != row.end();) {

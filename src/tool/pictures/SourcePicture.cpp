@@ -17,7 +17,8 @@ bool IsCutout(const Texture& texture, std::string_view name) {
     return IsCutoutName(name) || IsCutoutName(texture.quakeName) || IsCutoutName(texture.quake2.name);
 }
 
-// A palette with a transparent color says itself which texels are transparent.
+// Returns false if a color of the palette is transparent, because then the palette itself determines which
+// texels are transparent.
 bool CanBeCut(const ColorList& palette) {
     return palette.GetCount() > cutoutIndex &&
            std::ranges::all_of(palette.Colors(), [](Color color) { return Alpha(color) == opaqueAlpha; });

@@ -9,15 +9,15 @@ namespace keltavlo {
 class CFile;
 struct PictureFormat;
 
-// A picture as a file stores it. If it has indices, it has the palette that they refer to, too.
+// A picture as a file stores it. If it has indices, it also has the palette that they refer to.
 struct SourcePicture {
     Texture texture;
-    bool carriesPalette; // the file does; the palette may also be that of the game
+    bool carriesPalette; // the palette is from the file, not the game's
 };
 
-// Reads the file from its position. `palette` is for files that carry none; null only for formats that need
-// none. Texels of index 255 become transparent when the name, or the one in the file, begins with "{". Throws
-// what the codec throws.
+// Reads the file from its position. `palette` is for files that contain none, and null only for formats that
+// need none. Texels of index 255 become transparent if the name, or the one in the file, begins with "{".
+// Throws what the codec throws.
 SourcePicture ReadSource(CFile& file, const PictureFormat& format, std::string_view name,
                          const ColorList* palette);
 

@@ -6,8 +6,7 @@
 
 namespace keltavlo {
 
-// What the game formats store beside a picture, as far as it is to be set; the rest stays as the source has
-// it.
+// What the game formats store beside a picture. Fields without a value stay as they are in the source.
 struct TextureFields {
     std::optional<std::uint32_t> surface, contents, value; // of a WAL texture
     std::optional<std::string> next;                       // the next frame of a WAL texture

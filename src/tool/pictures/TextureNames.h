@@ -12,9 +12,9 @@ class Texture;
 // Whether index 255 is transparent in textures of that name or path: the file name begins with "{".
 bool IsCutoutName(std::string_view path);
 
-// Gives the texture the names that it lacks, of the path below the folder of textures, and then the fields
-// that are set. A Quake II name is that path without its first folder "textures"; a Quake name is the file
-// name. Adds a note, as in ConvertedFile, for a name that `format` ("wal" or "mip") will cut.
+// Fills in missing names from the texture's path below the folder of textures, then sets the given fields. A
+// Quake II name is the path without its first folder "textures"; a Quake name is the file name. Adds a note,
+// as in ConvertedFile, for a name that `format` ("wal" or "mip") will cut.
 void NameTexture(Texture& texture, std::string_view texturePath, const TextureFields& fields,
                  std::string_view format, std::vector<std::string>& notes);
 

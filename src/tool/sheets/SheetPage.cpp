@@ -26,7 +26,7 @@ std::uint32_t Mix(std::uint64_t sum, std::uint32_t below, std::uint64_t alpha, s
     return static_cast<std::uint32_t>((sum + below * (full - alpha)) / full);
 }
 
-// The average of a block of texels in front of a color.
+// Returns the average color of a block of texels in front of a background.
 Color AverageOver(const Image& picture, int left, int top, int side, Color below) {
     const int right = std::min(left + side, picture.GetWidth());
     const int bottom = std::min(top + side, picture.GetHeight());
@@ -57,7 +57,8 @@ void DrawSmall(Image& page, int left, int top, const Image& picture) {
                           AverageOver(picture, x * factor, y * factor, factor, CheckAt(x, y)));
 }
 
-// Lines of at most `lineLength` characters; a name that is too long for all lines loses its beginning.
+// Breaks a name into lines of at most `lineLength` characters. A name that is too long for all lines loses
+// its beginning.
 std::vector<std::string> LinesOf(const std::string& name) {
     constexpr std::size_t limit = lineLength * nameLines;
     const std::string text = name.size() <= limit ? name : ".." + name.substr(name.size() - limit + 2);

@@ -1,4 +1,4 @@
-// The program from its start to its end.
+// The program from start to end.
 #include "app/ui/CKelTavloApp.h"
 
 #include "app/ui/CommandLine.h"
@@ -73,7 +73,7 @@ TEST_F(CKelTavloAppTest, OpensFilesThatAreDropped) {
     const std::string path = Put("caf\xE9%.wal", MakeWal(8, 8)); // not UTF-8
     const QUrl page("http://example.invalid/x.wal");
     const QUrl file = QUrl::fromEncoded("file://" + QByteArray::fromStdString(PathTo("caf%E9%25.wal")));
-    // Drops come through the native window, which knows the widget that they are for.
+    // Drops arrive at the native window, which finds their widget.
     const auto drag = [&](const QList<QUrl>& urls) {
         QMimeData files;
         files.setUrls(urls);
@@ -89,7 +89,7 @@ TEST_F(CKelTavloAppTest, OpensFilesThatAreDropped) {
     ASSERT_EQ(program.GetRecentFiles().GetPaths(), std::vector<std::string>{path});
     EXPECT_TRUE(Send(ID_FILE_SAVE));
     EXPECT_EQ(std::distance(fs::directory_iterator(PathTo("")), {}), 2) << "the settings, and the same file";
-    EXPECT_TRUE(fs::remove(path)); // the toolkit could not
+    EXPECT_TRUE(fs::remove(path)); // Qt cannot remove it
 }
 
 TEST_F(MainFrameTest, AltFOpensTheFileMenuEveryTime) {
@@ -115,7 +115,7 @@ TEST_F(MainFrameTest, WithoutADocumentNoControlHasTheKeys) {
     EXPECT_FALSE(controlHasThem());
 }
 
-// A pane beside another one shows the same rows from its first moment.
+// A pane beside another one shows the same rows from the start.
 TEST_F(MainFrameTest, PanesOfARowScrollTogether) {
     Start();
     program.OpenDocumentFile(Put("a.wal", MakeWal(64, 64)));

@@ -24,7 +24,7 @@ QString IdOf(const QWidget& control) {
     return {};
 }
 
-// Empty for a widget without texts.
+// Returns nothing for a widget without texts.
 QString Describe(QWidget& widget) {
     QAccessibleInterface* face = QAccessible::queryAccessibleInterface(&widget);
     if (!face || face->role() == QAccessible::ScrollBar) return {};
@@ -81,7 +81,7 @@ struct DialogsTest : TavloViewFixture {
             EXPECT_FALSE(hasText && IsPlain(label->grab().toImage())) << label->text().toStdString();
         }
     }
-    // Opens the dialog of the command, calls the function with it and closes it.
+    // Opens the command's dialog, passes it to the function and closes it.
     void ReadDialog(CommandId id, const std::function<void(QDialog&)>& read) {
         const DialogAnswer answer([&](QDialog& dialog) {
             read(dialog);

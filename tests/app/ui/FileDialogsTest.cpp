@@ -1,4 +1,4 @@
-// The file dialog as the program uses it, with the real documents behind it.
+// The program's file dialog with real documents.
 #include "app/PictureFiles.h"
 #include "app/ui/FileDialogServices.h"
 #include "app/ui/HelpWindow.h"
@@ -13,7 +13,7 @@ using testing::HasSubstr;
 
 struct FileDialogsTest : ProgramFixture {
     FileDialogsTest() {
-        QApplication::setQuitOnLastWindowClosed(false); // there may be another program after this one
+        QApplication::setQuitOnLastWindowClosed(false); // the next test starts another program
         const PackBuilder pack{{"textures/a.wal", MakeWal(8, 8, "a")},
                                {"textures/b.wal", MakeWal(8, 8, "b")},
                                {"textures/large.wal", MakeWal(64, 64, "large")},

@@ -4,7 +4,7 @@ namespace keltavlo {
 
 struct MenuRunsTest : TavloViewFixture {
     QAction* Item(CommandId id) { return GetMainFrame().GetCurrentMenu().FindItem(id); }
-    // The checked items of the popup that contains the command.
+    // Returns the checked items of the popup that contains the command.
     QStringList CheckedAround(CommandId id) {
         GetMainFrame().GetCurrentMenu().UpdateAll();
         QStringList texts;

@@ -13,7 +13,7 @@
 namespace keltavlo {
 
 struct ResourceTablesTest : TavloViewFixture {
-    // The id, and whether, with which texts and with which page the program offers the command for a texture.
+    // Writes the id, whether the program offers the command for a texture, and its texts and help page.
     void WriteCommand(CommandId id) {
         const char* page = HelpPageFor(id);
         tables << id << (StateOf(id).enabled ? "" : " disabled") << " '" << CommandPrompt(id) << "' '"

@@ -72,7 +72,7 @@ def check(program, folder):
 
 
 def end_programs(folder):
-    """Ends what the bus started, which a failed test leaves behind."""
+    """Ends what the bus started and a failed test left behind."""
     for process in pathlib.Path("/proc").glob("[0-9]*"):
         try:
             if f"XDG_RUNTIME_DIR={folder}\0".encode() in (process / "environ").read_bytes():

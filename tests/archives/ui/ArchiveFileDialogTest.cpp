@@ -47,11 +47,11 @@ struct ArchiveFileDialogTest : WorkshopTest {
         })) << name.toStdString();
         return area.center();
     }
-    // In the standard list.
+    // Selects a name in the standard list.
     void Select(const QString& name) {
         QTest::mouseClick(upper.viewport(), Qt::LeftButton, {}, PlaceOf(upper, name));
     }
-    // In the list of the archive.
+    // Clicks a name in the archive's list.
     void Click(const QString& name) {
         QTest::mouseClick(View().viewport(), Qt::LeftButton, {}, PlaceOf(View(), name));
     }
@@ -189,7 +189,7 @@ TEST_F(ArchiveFileDialogTest, IsUsedWithTheKeyboardAlone) {
     QTest::keyClicks(&view, "tex");
     QTest::keyClick(&view, Qt::Key_Return);
     EXPECT_EQ(Column(), QStringList({"e1", "Wall.wal"}));
-    QTest::qWait(QApplication::keyboardInputInterval() + 1); // else it goes on with the word
+    QTest::qWait(QApplication::keyboardInputInterval() + 1); // so that the list starts a new search
     QTest::keyClicks(&view, "w");
     EXPECT_EQ(NameBox(), "Wall.wal");
     QTest::keyClick(&view, Qt::Key_Return);
@@ -340,7 +340,7 @@ double ThreadSeconds() {
 }
 
 TEST_F(ArchiveFileDialogTest, AFolderOfManyFilesKeepsTheWindowAlive) {
-    constexpr int files = 3000; // with the toolkit's own icons they take 600 ms at rest
+    constexpr int files = 3000; // with Qt's own icons they take 600 ms on an idle machine
     for (int i = 0; i < files; ++i) Put(std::to_string(i) + ".wal", {});
     double lastTick = ThreadSeconds(), longestPause = 0;
     QTimer tick;

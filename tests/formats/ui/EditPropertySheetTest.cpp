@@ -7,7 +7,7 @@ namespace keltavlo {
 
 namespace {
 
-// Uses the sheet as a user at the keyboard does.
+// Uses the sheet by the keyboard.
 struct Sheet {
     // The third page contains a sheet of its own, whose pages have the numbers 2, 3 and 4 here.
     void ShowPage(int index) const {
@@ -155,7 +155,7 @@ TEST_F(EditPropertySheetTest, RefusesValuesOutsideTheirRangesAndStays) {
 TEST_F(EditPropertySheetTest, StepsStayWithinTheRanges) {
     GetTexture().SetSize(1023, 2000);
     const std::tuple<unsigned, unsigned, QString, Qt::Key, QString> steps[] = {
-        // an empty text leaves what is there
+        // an empty text changes nothing
         {IDC_WIDTH, IDC_WIDTH_SPIN, "", Qt::Key_Up, "1024"},
         {IDC_WIDTH, IDC_WIDTH_SPIN, "", Qt::Key_Up, "1024"},
         {IDC_WIDTH, IDC_WIDTH_SPIN, "1", Qt::Key_Down, "1"},

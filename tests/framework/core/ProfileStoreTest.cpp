@@ -124,7 +124,7 @@ TEST(WindowPlacementTest, IsElevenWords) {
     EXPECT_FALSE(WindowPlacement::FromBytes(bytes));
 }
 
-// The tests of the bars read damaged ones.
+// Damaged states are covered by the tests of the bars.
 TEST(SealedStateTest, OpensOnlyItsVersionWithoutMore) {
     Bytes sealed = SealState(7, "some state");
     EXPECT_EQ(UnsealState(7, sealed), "some state");

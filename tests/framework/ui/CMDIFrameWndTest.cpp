@@ -73,7 +73,7 @@ TEST_F(CMDIFrameWndTest, AcceleratorsAskForTheStateWhenTheyFire) {
     pressCtrl(Qt::Key_D);
     EXPECT_THAT(Log(), ElementsAre("document"));
     document.blocked = false;
-    // The item's text contains the same keys; they must stay unambiguous. Qt closes a child by Ctrl+W.
+    // The item's text contains the same keys, which must stay unambiguous. In Qt, Ctrl+W closes a child.
     mainFrame.GetCurrentMenu().UpdateAll();
     EXPECT_EQ(mainFrame.GetCurrentMenu().FindItem(documentCommand)->text(), "&Renamed\tCtrl+D");
     pressCtrl(Qt::Key_D);
@@ -160,7 +160,7 @@ TEST_F(CMDIFrameWndTest, NumbersTheWindowsOfADocument) {
     TestDocument& document = NewDocument();
     document.SetTitle("a&b\tc[*]");
     CMDIChildWnd& first = FrameOf(document);
-    // Qt shows a doubled mark once, and replaces a single one by the sign of changes.
+    // Qt shows a doubled mark once, and replaces a single one with the sign of changes.
     EXPECT_EQ(first.windowTitle(), "a&b\tc[*][*][*]");
     ASSERT_TRUE(Send(ID_WINDOW_NEW));
     CMDIChildWnd& second = *mainFrame.MDIGetActive();
@@ -173,7 +173,7 @@ TEST_F(CMDIFrameWndTest, NumbersTheWindowsOfADocument) {
         for (const QWidget* window : std::initializer_list<const QWidget*>{&first, &second, &mainFrame})
             EXPECT_EQ(window->isWindowModified(), modified) << window->windowTitle().toStdString();
     }
-    EXPECT_FALSE(first.close()); // the window goes by itself, later
+    EXPECT_FALSE(first.close()); // the window closes later
     EXPECT_EQ(second.windowTitle(), "d[*]");
     EXPECT_THAT(document.GetViews(), ElementsAre(second.GetActiveView()));
     EXPECT_THAT(mainFrame.GetChildren(), ElementsAre(&second));

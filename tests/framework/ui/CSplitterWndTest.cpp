@@ -19,7 +19,7 @@ struct CSplitterWndTest : WindowFixture {
         QTest::mouseMove(&handle, start + way);
         QTest::mouseRelease(&handle, Qt::LeftButton, {}, start + way);
     }
-    // The visible handle of the direction, which is a box or a line.
+    // Returns the visible handle of the direction, which is a box or a line.
     QWidget& Handle(CSplitterWnd::Direction direction) const {
         const Qt::CursorShape shape = direction == rows ? Qt::SplitVCursor : Qt::SplitHCursor;
         for (QWidget* widget : splitter.findChildren<QWidget*>())
@@ -46,7 +46,7 @@ TEST_F(CSplitterWndTest, BoxesAndLinesAreDragged) {
     Drag(Handle(rows), {0, -40});
     EXPECT_EQ(splitter.GetSplit(rows), 80);
     const CView* lower = splitter.GetPane(1, 0);
-    Drag(Handle(rows), {0, -200}); // the upper panes go
+    Drag(Handle(rows), {0, -200}); // removes the upper panes
     EXPECT_EQ(splitter.GetCount(rows), 1);
     EXPECT_EQ(splitter.GetPane(0, 0), lower);
     EXPECT_EQ(document.GetViews().size(), 2U);

@@ -28,7 +28,7 @@ struct ControlBarsTest : WindowFixture {
     QToolButton& Button(int row) {
         return dynamic_cast<QToolButton&>(*tools.widgetForAction(tools.actions().at(row)));
     }
-    // Everything that the state contains, as the user sees it.
+    // Returns everything that the state contains, as the user sees it.
     std::string Layout() const {
         return Format("%d %d%s%s%s%s", mainFrame.toolBarArea(&tools), mainFrame.dockWidgetArea(&panel),
                       tools.IsVisible() ? " tools" : "", panel.IsVisible() ? " panel" : "",

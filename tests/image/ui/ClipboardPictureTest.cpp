@@ -8,7 +8,7 @@ namespace keltavlo {
 
 namespace {
 
-// Data of a slow program; counts the questions.
+// Data from a slow program. Counts how often it is asked.
 class ForeignData : public QMimeData {
 public:
     ForeignData(QStringList offered, QByteArray content, int milliseconds)
@@ -107,7 +107,7 @@ TEST_F(ClipboardPictureTest, DamagedDataLeavesTheDocumentAsItWas) {
     QImage image(64, 64, QImage::Format_RGB32);
     image.fill(Qt::red);
     const QByteArray png = Encode(image, "PNG");
-    constexpr qsizetype headerOffset = 16, headerSize = 17; // its check sum included
+    constexpr qsizetype headerOffset = 16, headerSize = 17; // including its checksum
     const std::pair<const char*, QByteArray> cases[] = {
         {"image/bmp", {}},
         {"image/bmp", "no bitmap"},

@@ -6,7 +6,7 @@
 namespace keltavlo {
 
 struct PaletteBarTest : ProgramFixture {
-    // Through the window, as the windowing system sends it.
+    // Clicks through the window, as the windowing system does.
     void Click(PalettePlanes::Part part, const QPoint& point) {
         QTest::mouseClick(GetMainFrame().windowHandle(), Qt::LeftButton, {}, InWindow(part, point));
     }
@@ -17,7 +17,7 @@ struct PaletteBarTest : ProgramFixture {
         QTest::mouseMove(GetMainFrame().windowHandle(), InWindow(part, point));
         return GetMainFrame().GetStatusBar().GetPaneText(3);
     }
-    // By the keyboard, with the list closed.
+    // Chooses by the keyboard while the list is closed.
     void Choose(int index) {
         chooser->setFocus();
         QTest::keyClick(chooser, Qt::Key_Home);

@@ -77,7 +77,7 @@ TEST_F(TavloViewBrushTest, OnlyTheLeftButtonPaintsAndOnlyWithABrush) {
     EXPECT_NE(TexelAt(3, 3), red);
     EXPECT_FALSE(document->IsModified());
     Press({3, 3});
-    Drag({6, 6}, Qt::NoButton); // the button came up where nobody saw it
+    Drag({6, 6}, Qt::NoButton); // the button was released outside
     EXPECT_TRUE(document->IsModified());
     EXPECT_NE(TexelAt(6, 6), red);
 }

@@ -17,8 +17,8 @@ using Shade = std::function<QRgb(const QVector3D&)>;
 constexpr QRgb gray = qRgb(0x80, 0x80, 0x80);
 const QVector3D scale{0.25F, 0.5F, 0.25F}, translate{-30, 40, -30};
 
-// In vertices before they are scaled, with places in the texture: one before the other, the nearer tilted and
-// with a texture that is laid side by side; a third is turned away before both.
+// The quads of the model, in unscaled vertices and texture coordinates. The second one is tilted in front of
+// the first and repeats the texture. The third one is in front of both but faces away.
 const std::vector<RayCaster::Quad> scene = {
     {{{{0, 120, 0}, {0, 200, 0}},
       {{240, 120, 0}, {240, 200, 0}},
@@ -31,7 +31,7 @@ const std::vector<RayCaster::Quad> scene = {
     {{{{0, 10, 0}, {}}, {{0, 10, 240}, {}}, {{240, 10, 240}, {}}, {{240, 10, 0}, {}}}},
 };
 
-// The file of the scene behind triangles that cannot be drawn.
+// Builds a model of the scene, drawn after triangles that cannot be drawn.
 Bytes BuildScene() {
     const auto at = [](int i) -> const RayCaster::Corner& {
         return scene[static_cast<std::size_t>(i) / 4][static_cast<std::size_t>(i) % 4];
@@ -58,7 +58,7 @@ Color TexelColor(int x, int y) {
     return 0xFF000000 | static_cast<Color>(x) << 16 | static_cast<Color>(y) << 8 | 0x40;
 }
 
-// A picture whose edge runs on until it has that side, and that is laid side by side.
+// The colors of a texture whose edges are repeated up to the side; the result is tiled.
 auto TextureShade(int width, int height, int side) {
     return [=](const QVector3D& place) {
         const auto texel = [=](float at, int count) {
@@ -73,7 +73,7 @@ auto PlainShade(QRgb color) {
 }
 
 struct MD2ViewTest : ProgramFixture {
-    // An open texture, every texel in a color of its own.
+    // Opens a texture that has a different color in every texel.
     TavloDocument& OpenTexture(const std::string& name, int width, int height) {
         auto* document = Open<TavloDocument>(Put(name, MakeWal(8, 8)));
         document->GetTexture().SetSize(width, height);

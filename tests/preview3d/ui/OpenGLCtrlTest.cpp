@@ -74,7 +74,7 @@ class GreedyCtrl final : public OpenGLCtrl {
 
 } // namespace
 
-// Replaces the system's own.
+// Replaces the system's function.
 extern "C" EGLSurface eglCreatePbufferSurface(EGLDisplay display, EGLConfig config,
                                               const EGLint* attributes) {
     using Create = EGLSurface (*)(EGLDisplay, EGLConfig, const EGLint*);

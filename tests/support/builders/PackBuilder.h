@@ -13,9 +13,9 @@ namespace keltavlo {
 using Bytes = std::vector<std::byte>;
 
 Bytes ToBytes(std::string_view text);
-// The numbers as consecutive little-endian u32s.
+// Returns the numbers as consecutive little-endian u32s.
 Bytes Words(std::initializer_list<std::uint32_t> numbers);
-// The first `length` bytes.
+// Returns the first `length` bytes.
 Bytes CutTo(const Bytes& bytes, std::size_t length);
 // Overwrites or appends a little-endian u32.
 void PutU32(Bytes& bytes, std::size_t offset, std::uint32_t value);

@@ -18,7 +18,7 @@ void CheckRecoding(const Codec& codec, const Texture& texture) {
     try {
         file = EncodeTexture(codec, texture, &palette);
     } catch (const CException&) {
-        return; // formats cannot write everything that they read
+        return; // some formats cannot write everything that they can read
     }
     try {
         Bytes copy = file;

@@ -181,7 +181,7 @@ std::vector<HeaderField> TaggedFields() {
     return Fields(4, {8, 12, 16, 20, 24, 28});
 }
 
-// The fields of a picture format; none for a format that is not listed.
+// Returns the fields of a picture format; none for a format that is not listed.
 std::vector<HeaderField> PictureFields(std::string_view format) {
     if (format == "wal") return Fields(4, {32, 36, 40, 44, 48, 52, 88, 92, 96});
     if (format == "mip") return Fields(4, {16, 20, 24, 28, 32, 36});
@@ -191,7 +191,7 @@ std::vector<HeaderField> PictureFields(std::string_view format) {
     return {};
 }
 
-// Reads into a document of the format, as opening a file does, and writes what was read.
+// Reads into a document of the format, as opening a file does, and writes what it read.
 Reader PictureReader(const Codec& codec) {
     const std::string name(codec.name);
     return {name,
@@ -224,7 +224,7 @@ Outcome ReadCompressed(decltype(Codec::read) read, ByteSpan bytes, Buffering buf
     });
 }
 
-// With its checksums repaired, because hardly a mutation gets past them.
+// Repairs the checksums first, because hardly any mutation gets past them.
 Outcome ReadRepairedPng(ByteSpan bytes, Buffering buffering) {
     return ReadCompressed(ReadPNG, RepairChecksums({bytes.begin(), bytes.end()}), buffering);
 }

@@ -22,7 +22,7 @@ public:
     ~WindowAnswer() { EXPECT_EQ(asked, answers.size()) << "dialogs or menus"; }
 
 private:
-    // Each look has its own timer, because an answer may open the next window and return after it.
+    // Every look has its own timer, because an answer may open the next window and return after that.
     void LookLater() {
         QTimer::singleShot(10, &watcher, [this] { Look(); });
     }
@@ -98,14 +98,14 @@ inline void EnterName(const QDialog& dialog, const QString& name, QDialogButtonB
     Press(dialog, button);
 }
 
-// The button with that text or, without a text, with that name.
+// Returns the button with that text or, without a text, with that name.
 inline QAbstractButton& FindButton(const QWidget& window, const QString& name) {
     for (auto* button : window.findChildren<QAbstractButton*>())
         if (button->text() == name || button->accessibleName() == name) return *button;
     throw std::runtime_error("no such button");
 }
 
-// The texts of the menu's items, without the marks of their mnemonics; a separator is empty.
+// Returns the texts of the menu's items without the marks of their mnemonics; a separator is empty.
 inline QStringList ItemTexts(const QMenu& menu) {
     QStringList texts;
     for (const QAction* action : menu.actions()) texts += action->text().remove('&');

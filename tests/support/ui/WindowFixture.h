@@ -38,7 +38,7 @@ inline constexpr MenuRow documentRows[] = {{"&File", 0, documentItems}, {"&Windo
 inline constexpr unsigned paneSamples[] = {shownType, shownType};
 inline constexpr AcceleratorRow accelerators[] = {{"Ctrl+D", documentCommand}, {"Ctrl+W", mainCommand}};
 
-// The events in their order.
+// Returns the events in order.
 inline std::vector<std::string>& Log() {
     static std::vector<std::string> log;
     return log;

@@ -1,7 +1,7 @@
 #include "tool/archives/ArchiveTypes.h"
 
 #include "image/ImageDocuments.h"
-#include "resources/streams/StreamError.h" // before the sentences, some of which are called like its values
+#include "resources/streams/StreamError.h" // first, because some sentences below have the names of its values
 #include "support/TestApplication.h"
 #include "support/readers/ReadingStream.h"
 #include "tool/archives/ArchiveNotes.h"
@@ -28,7 +28,7 @@ protected:
     static void SetUpTestSuite() { NeedApplication(); }
     ArchiveTypesTest() { RegisterArchiveTypes(application); }
 
-    // What opening an entry of the file says when a number of the seed is another one.
+    // Returns the message about opening an entry after a number in the seed was changed.
     std::string Damaged(const std::string& type, std::size_t offset, std::uint32_t value, std::size_t width,
                         const std::string& entry) {
         Bytes bytes = FindReader(type).makeSeed();
@@ -81,13 +81,13 @@ TEST_F(ArchiveTypesTest, RefuseDamageInTheirOwnWords) {
              {"zip", 158, 9 * 1032, 4, "/c", "checksum"},
              {"zip", 158, (16 << 20) + 10 * 128, 4, "/c", "far larger"},
              {"zip", 105, 5, 4, "/a/b.txt", "too short for its size"},
-             {"zip", 154, 200, 4, "/c", badIndex}, // with the other one, more than the file
+             {"zip", 154, 200, 4, "/c", badIndex}, // together with the other entry, larger than the file
              {"zip", 181, 0, 4, "/c", badFormat},
              {"bsp", 0, 0x50534249, 4, "/wall.mip", "contains no textures"},
              {"bsp", 0, 31, 4, "/wall.mip", "version 29 or 30"},
              {"bsp", 124, 0xFFFFFFFF, 4, "/wall.mip", badIndex}, // the number of textures
              {"bsp", 128, 2000, 4, "/wall.mip", badIndex},
-             {"bsp", 164, 0xFFFFFFF0, 4, "/wall.mip", badIndex}, // the place of a level
+             {"bsp", 164, 0xFFFFFFF0, 4, "/wall.mip", badIndex}, // the offset of a level
              {"bsp", 132, 16, 4, "/wall.mip", badIndex},         // the same texture twice
              {"bsp", 20, 5000, 4, "/wall.mip", tooShort},
          })

@@ -68,7 +68,7 @@ TEST(PackPlan, NamesWhatDoesNotFit) {
     }
 }
 
-// What the reader of WAD files shows of odd lumps is what stays when the archive is written again.
+// An archive that is written again contains odd lumps as its reader shows them.
 TEST(PackPlan, RewritingKeepsLumpsOfEveryType) {
     WadBuilder builder("WAD2");
     builder.Add("sixteen_letters_", 66, ToBytes("picture"));

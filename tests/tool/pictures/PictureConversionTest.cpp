@@ -67,7 +67,7 @@ TEST(PictureConversion, RefusesInWords) {
     for (const auto& [bytes, from, to, sentence] :
          {std::tuple(png, "x.png", "x.jpg", "must end in .wal, .mip, .pcx, .tga, .bmp or .png."),
           {png, "x.txt", "x.tga", "not a picture"},
-          {png, "x.png", "x.wal", "cannot carry"},
+          {png, "x.png", "x.wal", "cannot contain"},
           {RepairChecksums(bomb), "x.png", "x.tga", "compressed too highly"},
           {bomb, "x.png", "x.tga", "damaged"},
           {MakeJpeg(4, false), "x.jpg", "x.tga", "printing colors"},
@@ -87,8 +87,8 @@ TEST(PaletteFile, IsReadInEveryForm) {
           {MakePng(4, 3, true), "x.png", "16"},
           {lump, "x.png", "expected format"},
           {CutTo(lump, 767), "palette.lmp", "neither"},
-          {MakePng(8, 2, false), "x.png", "carries no palette"},
-          {MakeWal(8, 8), "x.wal", "carries no palette"},
+          {MakePng(8, 2, false), "x.png", "contains no palette"},
+          {MakeWal(8, 8), "x.wal", "contains no palette"},
           {ToBytes("JASC-PAL\n0100\n2\n1 2 3\n256 0 7"), "x.pal", "not a color"},
           {ToBytes("JASC-PAL\n0100\n257\n"), "x.pal", "256 colors"}}) {
         Bytes copy = bytes;
