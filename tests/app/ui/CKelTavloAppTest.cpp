@@ -92,14 +92,15 @@ TEST_F(CKelTavloAppTest, OpensFilesThatAreDropped) {
     EXPECT_TRUE(fs::remove(path)); // Qt cannot remove it
 }
 
-TEST_F(MainFrameTest, AltFOpensTheFileMenuEveryTime) {
+TEST_F(MainFrameTest, MnemonicsOpenTheirMenusEveryTime) {
     Start();
     QApplication::setActiveWindow(&GetMainFrame());
-    for (int i = 0; i < 3; ++i) {
-        QTest::keyClick(&GetMainFrame(), Qt::Key_F, Qt::AltModifier);
+    for (const auto& [key, title] :
+         {std::pair{Qt::Key_F, "&File"}, {Qt::Key_F, "&File"}, {Qt::Key_H, "&Help"}}) {
+        QTest::keyClick(&GetMainFrame(), key, Qt::AltModifier);
         const auto* popup = qobject_cast<QMenu*>(QApplication::activePopupWidget());
         ASSERT_TRUE(popup);
-        EXPECT_EQ(popup->title(), "&File");
+        EXPECT_EQ(popup->title(), title);
         QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
         QTest::keyClick(GetMainFrame().menuBar(), Qt::Key_Escape);
     }
