@@ -21,6 +21,8 @@ public:
 
     // Takes an output over; `shownPath` is for a report. Publishes what waits when that gets too much.
     void Add(StagedFile file, bool overwrite, std::string shownPath);
+    // Publishes what waits if that is worth a sync. Call it while other threads make the next outputs.
+    void UsePause();
     // The number of outputs that may wait.
     std::size_t GetCapacity() const { return capacity; }
     // Publishes what waits and makes all names durable.
