@@ -25,9 +25,9 @@ std::vector<std::string> AllComponents(const std::string& path) {
     return std::move(parts.directories);
 }
 
-// Whether FullPath has nothing to change. Long lists ask for full paths again and again.
+// Whether a native path is full already. Long lists ask for full paths again and again.
 bool IsFull(std::string_view path) {
-    if (path.size() < 2 || path.front() != '/' || path.find('\\') != std::string_view::npos) return false;
+    if (path.size() < 2 || path.front() != '/') return false;
     while (!path.empty()) {
         path.remove_prefix(1); // the separator
         const std::string_view component = path.substr(0, path.find('/'));
@@ -125,9 +125,10 @@ std::string ToDisplayPath(std::string_view path) {
 
 std::string FullPath(std::string_view path) {
     if (path.empty()) return {};
-    if (IsFull(path)) return std::string(path);
+    std::string native = ToNativePath(path);
+    if (IsFull(native)) return native;
     std::error_code unreachable; // without a current directory the path stays as it is
-    const std::filesystem::path full = std::filesystem::absolute(ToNativePath(path), unreachable);
+    const std::filesystem::path full = std::filesystem::absolute(native, unreachable);
     std::string text = full.lexically_normal().string();
     if (text.size() > 1 && text.back() == '/') text.pop_back();
     return text;
