@@ -32,7 +32,8 @@ public:
         : count(workCount), window(std::max<std::size_t>(1, std::min(workCount, windowSize))),
           work(std::move(workFunction)), results(window) {}
 
-    void Run(unsigned threadCount, const Take& take, const Pause& pause = [] {}) {
+    void Run(
+        unsigned threadCount, const Take& take, const Pause& pause = [] {}) {
         if (threadCount <= 1 || count <= 1) {
             for (std::size_t i = 0; i < count && take(i, work(i));) ++i;
             return;
