@@ -19,8 +19,8 @@ unsigned ThreadCount(unsigned jobs);
 // Spreads work over threads and takes the results in order. Calls `work` for the numbers from 0 to `count` -
 // 1 in up to `threadCount` threads, and `take` for each result, in order, in the calling thread. At most
 // `window` results wait at a time. If `take` returns false, no further work begins. With a single thread,
-// everything runs in the calling one; otherwise, `pause` runs there each time that it would wait for the next
-// result. Throws what a function throws, after all threads have ended.
+// everything runs in the calling one; otherwise, `pause`, if given, runs there each time that it would wait
+// for the next result. Throws what a function throws, after all threads have ended.
 template <class Result>
 class OrderedWork {
 public:
@@ -32,8 +32,7 @@ public:
         : count(workCount), window(std::max<std::size_t>(1, std::min(workCount, windowSize))),
           work(std::move(workFunction)), results(window) {}
 
-    void Run(
-        unsigned threadCount, const Take& take, const Pause& pause = [] {}) {
+    void Run(unsigned threadCount, const Take& take, const Pause& pause = nullptr) {
         if (threadCount <= 1 || count <= 1) {
             for (std::size_t i = 0; i < count && take(i, work(i));) ++i;
             return;
@@ -85,7 +84,7 @@ private:
         std::unique_lock lock(mutex);
         Slot& slot = results[i % window];
         const auto isThere = [&] { return slot.result || slot.failure; };
-        if (!isThere()) {
+        if (pause && !isThere()) {
             lock.unlock();
             pause();
             lock.lock();
