@@ -26,6 +26,7 @@ public:
         }
     }
     SaveAnswer AskToSave(const std::string&) override { return saveAnswer; }
+    ChangeAnswer AskAboutChange(const ChangedFile&) override { return changeAnswer; }
     std::optional<std::string> PromptFileName(const FileNameQuestion&) override { return fileName; }
     const CDocTemplate* PromptNewType() override { return newType; }
     void BeginWaitCursor() override {}
@@ -36,6 +37,7 @@ public:
 
     // The answers to questions.
     SaveAnswer saveAnswer = SaveAnswer::discard;
+    ChangeAnswer changeAnswer = ChangeAnswer::keep;
     std::optional<std::string> fileName;
     const CDocTemplate* newType = nullptr;
 

@@ -149,6 +149,10 @@ void TavloDocument::SetModifiedAndUpdate(bool updateViews) {
     if (updateViews) UpdateAllViews(nullptr);
 }
 
+void TavloDocument::TakeContents(CDocument& loaded) {
+    ReplaceTexture(IDS_ACTION_RELOAD, std::move(dynamic_cast<TavloDocument&>(loaded).texture));
+}
+
 void TavloDocument::SelectBuiltInPalette(unsigned id) {
     SetCurrentPalette(
         dynamic_cast<PaletteDocument*>(DocTemplateRegistry::Get().OpenDocument(GetBuiltInPath(id))));

@@ -84,6 +84,9 @@ public:
 protected:
     const CommandMap& GetCommandMap() const override;
     void SelectBuiltInPalette(unsigned id);
+    // As an undoable change.
+    void TakeContents(CDocument& loaded) override;
+    bool CanUndoReload() const override { return true; }
 
 private:
     void AddBuiltInReferences();

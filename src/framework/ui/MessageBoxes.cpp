@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPushButton>
 
 namespace keltavlo {
 
@@ -22,6 +23,13 @@ Button Ask(QMessageBox::Icon icon, const std::string& text, QMessageBox::Standar
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(standard);
     return static_cast<Button>(box.exec());
+}
+
+std::string ReloadQuestion(const ChangedFile& file) {
+    const unsigned question = file.isSaving ? AFX_IDS_SAVE_OVER_CHANGE : AFX_IDS_FILE_CHANGED;
+    const std::string text = FormatString(question, file.path.c_str());
+    if (!file.isModified) return text;
+    return text + LoadString(file.canUndo ? AFX_IDS_RELOAD_UNDO : AFX_IDS_RELOAD_REPLACES);
 }
 
 } // namespace
@@ -52,6 +60,26 @@ SaveAnswer AskSaveChanges(const std::string& name) {
     default:
         return SaveAnswer::cancel;
     }
+}
+
+// Enter and Escape choose what loses nothing: to keep the document, or not to save it.
+ChangeAnswer AskReload(const ChangedFile& file) {
+    const NormalCursor arrow;
+    QMessageBox box(QMessageBox::Warning, ToQString(LoadString(AFX_IDS_APP_TITLE)),
+                    ToQString(ReloadQuestion(file)), QMessageBox::NoButton, GetDialogOwner());
+    box.setTextFormat(Qt::PlainText);
+    const auto add = [&](unsigned textId, QMessageBox::ButtonRole role) {
+        return box.addButton(ToQString(LoadString(textId)), role);
+    };
+    const QAbstractButton* reload = add(AFX_IDS_RELOAD_BUTTON, QMessageBox::ActionRole);
+    QPushButton* keep = file.isSaving ? add(AFX_IDS_OVERWRITE_BUTTON, QMessageBox::DestructiveRole)
+                                      : add(AFX_IDS_KEEP_BUTTON, QMessageBox::RejectRole);
+    QPushButton* harmless = file.isSaving ? box.addButton(QMessageBox::Cancel) : keep;
+    box.setDefaultButton(harmless);
+    box.setEscapeButton(harmless);
+    box.exec();
+    if (box.clickedButton() == reload) return ChangeAnswer::reload;
+    return box.clickedButton() == keep ? ChangeAnswer::keep : ChangeAnswer::cancel;
 }
 
 } // namespace keltavlo
