@@ -4,6 +4,7 @@
 #include "formats/GameTexture.h"
 #include "framework/core/MenuItems.h"
 #include "framework/core/StringTable.h"
+#include "image/picture/TextureState.h"
 #include "res/CommandIds.h"
 #include "res/StringIds.h"
 #include "resources/Brush.h"
@@ -120,6 +121,14 @@ void TavloDocument::WriteContents(OutputStream& out) {
     const Codec& codec = CodecOf(DocTemplateRegistry::Get().GetDocumentClassOfName(name));
     if (codec.hasGameSizes) ReformatForSave();
     codec.write(out, texture, DefaultPaletteOf(codec));
+}
+
+void TavloDocument::WriteState(OutputStream& out) {
+    WriteTextureState(out, texture);
+}
+
+void TavloDocument::ReadState(InputStream& in) {
+    ReadTextureState(in, texture);
 }
 
 void TavloDocument::SetQuake2Names(Quake2Names names) {

@@ -41,6 +41,9 @@ public:
     // Fails with badIndex if the name's type is not a picture format.
     void ReadContents(InputStream& in) override;
     void WriteContents(OutputStream& out) override;
+    // These lose nothing, unlike a picture format.
+    void WriteState(OutputStream& out) override;
+    void ReadState(InputStream& in) override;
 
     Texture& GetTexture() { return texture; }
     const Texture& GetTexture() const { return texture; }

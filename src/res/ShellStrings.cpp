@@ -32,6 +32,14 @@ constexpr StringRow rows[] = {
     {AFX_IDS_RELOAD_BUTTON, "&Reload"},
     {AFX_IDS_KEEP_BUTTON, "&Keep"},
     {AFX_IDS_OVERWRITE_BUTTON, "&Overwrite"},
+    {AFX_IDS_RESCUED,
+     "%s\nKelTavlo ended before this document was saved. Do you want to open it with its changes?"},
+    {AFX_IDS_RESCUED_NEW, "%s (a new document)\n"
+                          "KelTavlo ended before this document was saved. Do you want to open it?"},
+    {AFX_IDS_OPEN_BUTTON, "&Open"},
+    {AFX_IDS_DISCARD_BUTTON, "&Discard"},
+    {AFX_IDS_LATER_BUTTON, "Ask &Later"},
+    {AFX_IDS_CANCEL_BUTTON, "Cancel"},
     {AFX_IDS_PATH_MISSING, "%s\nThis folder does not exist."},
 
     // Labels and patterns of the file dialogs. Every row includes archives, because they count as folders.

@@ -112,6 +112,12 @@ bool CDocument::SaveModified() {
     }
 }
 
+void CDocument::ContinueAs(const std::string& path, const std::optional<FileStamp>& fileStamp) {
+    if (!path.empty()) SetPathName(path);
+    stamp = fileStamp;
+    SetModifiedFlag();
+}
+
 void CDocument::CheckFile() {
     const std::optional<FileState> state = FileState::Find(pathName);
     if (!stamp || !state || state == stamp->state || state == askedAbout) return;

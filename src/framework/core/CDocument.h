@@ -52,6 +52,10 @@ public:
     // Asks whether to reload the document if another program has changed its file. Asks once per change. Call
     // it when the user turns to the document and no dialog is open.
     void CheckFile();
+    // The state of the document's file when it was last read or written. Null for a new document.
+    const std::optional<FileStamp>& GetStamp() const { return stamp; }
+    // Makes the document a modified one of that path, which may be empty, and with that stamp.
+    void ContinueAs(const std::string& path, const std::optional<FileStamp>& fileStamp);
     // Opens a file with `flags` from CFile::OpenFlags. Returns null on failure and fills `*failure` unless
     // that is null.
     virtual std::unique_ptr<CFile> GetFile(const std::string& path, unsigned flags, CFileException* failure);

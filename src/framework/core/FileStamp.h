@@ -16,6 +16,7 @@ struct FileState {
     std::uint64_t device = 0, inode = 0, size = 0;
     std::int64_t seconds = 0, nanoseconds = 0; // of the last change of the contents
 
+    FileState() = default;
     explicit FileState(const struct stat& info);
     // Returns the state of the file that the path leads to, or of the archive that it leads into. Returns
     // null if there is no such file.

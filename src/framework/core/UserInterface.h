@@ -20,6 +20,8 @@ struct ChangedFile {
     bool isSaving;    // the document is about to be saved
 };
 
+enum class RescueAnswer { open, discard, later };
+
 enum class ChangeAnswer { reload, keep, cancel };
 
 // What a file dialog shows at first.
@@ -43,6 +45,9 @@ public:
     // Asks whether to reload the document or to keep it, which means to overwrite the file when saving. Only
     // a save can be cancelled.
     virtual ChangeAnswer AskAboutChange(const ChangedFile& file) = 0;
+    // Asks what to do with a document that a program left unsaved when it ended. `name` is the path or, of a
+    // new document, the title.
+    virtual RescueAnswer AskAboutRescued(const std::string& name, bool isNew) = 0;
     // Returns the path chosen, or null if the user cancelled.
     virtual std::optional<std::string> PromptFileName(const FileNameQuestion& question) = 0;
     // Asks which document type a new document should have. Returns null if the user cancelled.

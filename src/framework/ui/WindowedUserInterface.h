@@ -13,6 +13,7 @@ public:
     void ReportMemoryShortage() noexcept override { memoryWarning.Raise(); }
     SaveAnswer AskToSave(const std::string& name) override;
     ChangeAnswer AskAboutChange(const ChangedFile& file) override;
+    RescueAnswer AskAboutRescued(const std::string& name, bool isNew) override;
     const CDocTemplate* PromptNewType() override;
     void BeginWaitCursor() override;
     void EndWaitCursor() override;
