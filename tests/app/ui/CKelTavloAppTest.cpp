@@ -8,6 +8,7 @@
 #include "framework/ui/ChildFrame.h"
 #include "framework/ui/PlaceWindow.h"
 #include "framework/ui/SplitTracker.h"
+#include "image/TavloDocument.h"
 #include "image/ui/InfiniteScrollView.h"
 #include "support/ui/ProgramFixture.h"
 
@@ -66,6 +67,45 @@ TEST_F(CKelTavloAppTest, OffersTheTypesFilterFirst) {
     EXPECT_EQ(filters.front().label, "Quake II Texture Files (*.wal)");
     EXPECT_EQ(filters.front().patterns, "*.wal");
     EXPECT_EQ(filters.back().label, "All Files (*.*)");
+}
+
+TEST_F(CKelTavloAppTest, AsksAboutAChangedFileWhenItsWindowIsActivated) {
+    Start();
+    auto& first = *Open<TavloDocument>(Put("first.wal", MakeWal(16, 8)));
+    auto& second = *Open<TavloDocument>(Put("second.wal", MakeWal(16, 8)));
+    Put("first.wal", MakeWal(32, 8));
+    Put("second.wal", MakeWal(32, 8));
+    QEventLoop loop;
+    const auto ask = [&](const char* words, const QString& button) {
+        const DialogAnswer answer([&](QDialog& dialog) {
+            EXPECT_TRUE(dynamic_cast<QMessageBox&>(dialog).text().contains(words)) << words;
+            FindButton(dialog, button).click();
+            loop.quit();
+        });
+        QApplication::setActiveWindow(nullptr);
+        QApplication::setActiveWindow(&GetMainFrame());
+        loop.exec();
+    };
+    second.SetModifiedFlag();
+    ask("Edit > Undo brings them back", "&Reload");
+    EXPECT_EQ(second.GetTexture().GetWidth(), 32);
+    first.GetFrame()->ActivateFrame();
+    ask("first.wal", "&Keep");
+    EXPECT_EQ(first.GetTexture().GetWidth(), 16);
+    Put("second.wal", MakeWal(64, 8));
+    second.GetFrame()->ActivateFrame();
+    {
+        QDialog open; // the question waits until the dialog is closed
+        QTimer::singleShot(200, &open, &QDialog::reject);
+        open.exec();
+    }
+    EXPECT_EQ(second.GetTexture().GetWidth(), 32);
+    ask("second.wal", "&Reload");
+    EXPECT_EQ(second.GetTexture().GetWidth(), 64);
+    Put("second.wal", MakeWal(8, 8));
+    const DialogAnswer cancel([](QDialog& dialog) { FindButton(dialog, "&Overwrite"), dialog.reject(); });
+    EXPECT_TRUE(Send(ID_FILE_SAVE));
+    EXPECT_EQ(ReadFile(PathTo("second.wal")), MakeWal(8, 8));
 }
 
 TEST_F(CKelTavloAppTest, OpensFilesThatAreDropped) {
