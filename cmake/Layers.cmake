@@ -13,7 +13,7 @@ function(add_layer folder uses)
     list(FILTER sources EXCLUDE REGEX "/main[.]cpp$") # part of its program
     file(GLOB headers CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/src/${folder}/*.h")
     add_library(${target} STATIC ${sources} ${headers})
-    target_link_libraries(${target} PRIVATE project_options)
+    target_link_libraries(${target} PRIVATE project_options hardening)
     target_include_directories(${target} PUBLIC "${CMAKE_SOURCE_DIR}/src")
     target_link_libraries(${target} PUBLIC Qt6::Core)
     if(folder MATCHES "(^|/)ui$")

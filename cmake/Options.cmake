@@ -6,6 +6,14 @@ target_compile_options(project_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wcast-qual -Wformat
     -Wformat-security -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough
     $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>) # g++ 12 reports impossible overlaps in std::string
+# What makes faults of the programs that users run harder to exploit. Release builds only: fortified functions need
+# optimization, and the sanitizers check more.
+add_library(hardening INTERFACE)
+if(CMAKE_BUILD_TYPE STREQUAL "Release")
+    target_compile_options(hardening INTERFACE
+        -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3 -fstack-protector-strong -fstack-clash-protection)
+    target_link_options(hardening INTERFACE -pie LINKER:-z,relro,-z,now)
+endif()
 if(KELTAVLO_SANITIZE)
     # Global, so that all libraries agree on the layout of containers.
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
