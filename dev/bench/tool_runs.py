@@ -66,7 +66,10 @@ def wall_time(command):
 
 
 def report(tool):
-    """Prints a table of median wall times of interleaved runs, each into a new folder."""
+    """Prints a table of median wall times of interleaved runs, each into a new folder.
+
+    Each run starts on a synced file system: otherwise a durable run would also write what the one before it left.
+    """
     # On a disk, not in memory, and in a new folder, because many deleted files would slow down the creation of others.
     folder = tempfile.TemporaryDirectory(dir="/var/tmp")
     box = pathlib.Path(folder.name)
@@ -90,6 +93,7 @@ def report(tool):
         for index, (title, command) in enumerate(runs.items()):
             out = box / f"out{number}-{index}"
             out.mkdir()
+            subprocess.run(["sync", "-f", out], check=True)
             times[title].append(wall_time(command(out)))
     print("| run | median | fastest |\n|---|---|---|")
     for title, taken in times.items():

@@ -26,6 +26,8 @@ public:
         }
     }
     SaveAnswer AskToSave(const std::string&) override { return saveAnswer; }
+    ChangeAnswer AskAboutChange(const ChangedFile&) override { return changeAnswer; }
+    RescueAnswer AskAboutRescued(const std::string&, bool) override { return rescueAnswer; }
     std::optional<std::string> PromptFileName(const FileNameQuestion&) override { return fileName; }
     const CDocTemplate* PromptNewType() override { return newType; }
     void BeginWaitCursor() override {}
@@ -36,6 +38,8 @@ public:
 
     // The answers to questions.
     SaveAnswer saveAnswer = SaveAnswer::discard;
+    ChangeAnswer changeAnswer = ChangeAnswer::keep;
+    RescueAnswer rescueAnswer = RescueAnswer::later;
     std::optional<std::string> fileName;
     const CDocTemplate* newType = nullptr;
 

@@ -44,7 +44,7 @@ std::shared_ptr<EntryBytes> StoredEntry::Load(FolderDocument& owner) {
     const Extent extent = GetExtent();
     CFile& file = owner.GetSource(extent.offset, extent.stored);
     // The file must be at least `length` bytes long, so that a claim of gigabytes of zeros allocates nothing.
-    static_cast<void>(owner.GetSource(0, extent.length));
+    if (extent.length > extent.stored) static_cast<void>(owner.GetSource(0, extent.length));
     auto bytes = std::make_shared<EntryBytes>(RoundedUp(extent.length));
     file.Seek(static_cast<std::int64_t>(extent.offset), CFile::From::begin);
     if (file.Read(bytes->data(), extent.stored) != extent.stored)

@@ -4,6 +4,7 @@
 #include "formats/GameTexture.h"
 #include "framework/core/MenuItems.h"
 #include "framework/core/StringTable.h"
+#include "image/picture/TextureState.h"
 #include "res/CommandIds.h"
 #include "res/StringIds.h"
 #include "resources/Brush.h"
@@ -122,6 +123,14 @@ void TavloDocument::WriteContents(OutputStream& out) {
     codec.write(out, texture, DefaultPaletteOf(codec));
 }
 
+void TavloDocument::WriteState(OutputStream& out) {
+    WriteTextureState(out, texture);
+}
+
+void TavloDocument::ReadState(InputStream& in) {
+    ReadTextureState(in, texture);
+}
+
 void TavloDocument::SetQuake2Names(Quake2Names names) {
     texture.quake2.name = std::move(names.name);
     texture.quake2.nextFrameName = std::move(names.nextFrameName);
@@ -147,6 +156,10 @@ void TavloDocument::SetTexel(unsigned x, unsigned y, Color color) {
 void TavloDocument::SetModifiedAndUpdate(bool updateViews) {
     SetModifiedFlag();
     if (updateViews) UpdateAllViews(nullptr);
+}
+
+void TavloDocument::TakeContents(CDocument& loaded) {
+    ReplaceTexture(IDS_ACTION_RELOAD, std::move(dynamic_cast<TavloDocument&>(loaded).texture));
 }
 
 void TavloDocument::SelectBuiltInPalette(unsigned id) {

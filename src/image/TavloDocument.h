@@ -41,6 +41,9 @@ public:
     // Fails with badIndex if the name's type is not a picture format.
     void ReadContents(InputStream& in) override;
     void WriteContents(OutputStream& out) override;
+    // These lose nothing, unlike a picture format.
+    void WriteState(OutputStream& out) override;
+    void ReadState(InputStream& in) override;
 
     Texture& GetTexture() { return texture; }
     const Texture& GetTexture() const { return texture; }
@@ -84,6 +87,9 @@ public:
 protected:
     const CommandMap& GetCommandMap() const override;
     void SelectBuiltInPalette(unsigned id);
+    // As an undoable change.
+    void TakeContents(CDocument& loaded) override;
+    bool CanUndoReload() const override { return true; }
 
 private:
     void AddBuiltInReferences();

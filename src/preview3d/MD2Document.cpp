@@ -121,6 +121,15 @@ bool MD2Document::IsDrawable(const Triangle& triangle) const {
     return allBelow(triangle.vertices, vertexCount) && allBelow(triangle.texCoords, texCoords.size());
 }
 
+void MD2Document::TakeContents(CDocument& loaded) {
+    auto& model = dynamic_cast<MD2Document&>(loaded);
+    skins.swap(model.skins);
+    texCoords.swap(model.texCoords);
+    triangles.swap(model.triangles);
+    frameData.swap(model.frameData);
+    frames.swap(model.frames);
+}
+
 void MD2Document::DeleteContents() {
     frames.clear();
     frameData.reset();

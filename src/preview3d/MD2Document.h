@@ -49,6 +49,7 @@ public:
 
 protected:
     void DeleteContents() override;
+    void TakeContents(CDocument& loaded) override;
 
 private:
     void ReadFrames(InputStream& in, std::size_t count, std::size_t vertexCount);

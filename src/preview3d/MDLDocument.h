@@ -20,6 +20,13 @@ public:
     const std::vector<std::byte>& GetFileData() const { return fileData; }
     const std::vector<Image>& GetTextures() const { return textures; }
 
+protected:
+    void TakeContents(CDocument& loaded) override {
+        auto& model = dynamic_cast<MDLDocument&>(loaded);
+        fileData.swap(model.fileData);
+        textures.swap(model.textures);
+    }
+
 private:
     std::vector<std::byte> fileData;
     std::vector<Image> textures;

@@ -23,6 +23,7 @@ constexpr StringRow rows[] = {
     {IDS_ACTION_QUAKE2_VALUE, "Quake II Value"},
     {IDS_ACTION_NEAREST, "Nearest Color"},
     {IDS_ACTION_DITHER, "Error Diffusion Dithering"},
+    {IDS_ACTION_RELOAD, "Reload"},
     {IDS_PARENTHESES, "(%s)"},
     {IDS_NONE, "None"},
     {IDS_WORKING, "Working..."},

@@ -24,6 +24,22 @@ constexpr StringRow rows[] = {
     {AFX_IDP_PARSE_INT_RANGE, "Enter a whole number between %d and %d."},
     {AFX_IDP_PARSE_STRING_SIZE, "Enter no more than %u characters. Non-ASCII letters count as several."},
     {AFX_IDS_SAVE_IN, "Save in:"},
+    {AFX_IDS_FILE_CHANGED, "%s\nAnother program has changed this file. Do you want to reload it?"},
+    {AFX_IDS_SAVE_OVER_CHANGE,
+     "%s\nAnother program has changed this file. Saving would overwrite its changes."},
+    {AFX_IDS_RELOAD_REPLACES, "\n\nReloading discards your unsaved changes."},
+    {AFX_IDS_RELOAD_UNDO, "\n\nReloading replaces your unsaved changes. Edit > Undo brings them back."},
+    {AFX_IDS_RELOAD_BUTTON, "&Reload"},
+    {AFX_IDS_KEEP_BUTTON, "&Keep"},
+    {AFX_IDS_OVERWRITE_BUTTON, "&Overwrite"},
+    {AFX_IDS_RESCUED,
+     "%s\nKelTavlo ended before this document was saved. Do you want to open it with its changes?"},
+    {AFX_IDS_RESCUED_NEW, "%s (a new document)\n"
+                          "KelTavlo ended before this document was saved. Do you want to open it?"},
+    {AFX_IDS_OPEN_BUTTON, "&Open"},
+    {AFX_IDS_DISCARD_BUTTON, "&Discard"},
+    {AFX_IDS_LATER_BUTTON, "Ask &Later"},
+    {AFX_IDS_CANCEL_BUTTON, "Cancel"},
     {AFX_IDS_PATH_MISSING, "%s\nThis folder does not exist."},
 
     // Labels and patterns of the file dialogs. Every row includes archives, because they count as folders.

@@ -97,7 +97,8 @@ void BaseDocument::SetTitle(const std::string& newTitle) {
 bool BaseDocument::DoFileSave() {
     CFileStatus status;
     const bool canBeWritten = CFile::GetStatus(GetPathName(), status) && !status.IsReadOnly();
-    return canBeWritten ? Save(GetPathName()) : DoFileSaveAs();
+    if (!canBeWritten) return DoFileSaveAs();
+    return MayOverwriteFile() && Save(GetPathName());
 }
 
 bool BaseDocument::DoFileSaveAs() {

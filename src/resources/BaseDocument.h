@@ -15,6 +15,10 @@ public:
     virtual void WriteContents(OutputStream& out);
     // Replaces the contents by those of the stream. This version throws badClass.
     virtual void ReadContents(InputStream& in);
+    // Write and read the document as it is in memory, for files that only this program reads. These versions
+    // use the file format.
+    virtual void WriteState(OutputStream& out) { WriteContents(out); }
+    virtual void ReadState(InputStream& in) { ReadContents(in); }
     // Called when one of the document's views becomes the active one or stops being it. Either document may
     // be null.
     virtual void OnActivateDocument(bool activate, BaseDocument* activated, BaseDocument* deactivated);

@@ -15,6 +15,9 @@ public:
     }
 
 protected:
+    // They have no window in which the user could turn to them, and archives may be large.
+    bool KeepsStamp() const override { return false; }
+
     std::string fixedTitle; // if not empty, shown instead of the file name
 };
 

@@ -37,7 +37,9 @@ public:
         RenameClashes();
         OrderedWork<Made> work(files.size(), outputs.GetStagedLimit(),
                                [this](std::size_t i) { return Make(files[i]); });
-        work.Run(threadCount, [this](std::size_t i, Made made) { return Take(files[i], std::move(made)); });
+        work.Run(
+            threadCount, [this](std::size_t i, Made made) { return Take(files[i], std::move(made)); },
+            [this] { outputs.UsePause(); });
         outputs.Finish();
         report.AddLost(outputs.GetLostCount());
         tool.ShowProgress({});

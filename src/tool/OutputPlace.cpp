@@ -3,7 +3,6 @@
 #include "framework/core/Path.h"
 #include "tool/Tool.h"
 
-#include <optional>
 #include <sys/stat.h>
 
 namespace keltavlo {
@@ -73,26 +72,28 @@ bool OutputPlace::IsTaken(const std::string& path) {
 }
 
 void OutputPlace::RefuseTaken(const std::string& path) {
-    const std::string reason = ReasonAgainst(folders.Resolve(DiskPath(path)));
+    const std::string target = folders.Resolve(DiskPath(path));
+    const std::string reason = ReasonAgainst(target, IdentityOf(target));
     tool.Fail("\"" + ToDisplayPath(path) + "\" " +
               (reason.empty() ? "was removed during this run." : reason));
 }
 
 bool OutputPlace::MayWrite(const std::string& path, const std::string& target) {
-    const std::string reason = ReasonAgainst(target);
+    const std::optional<Identity> identity = IdentityOf(target);
+    const std::string reason = ReasonAgainst(target, identity);
     if (!reason.empty()) {
         tool.Fail("\"" + ToDisplayPath(path) + "\" " + reason);
         return false;
     }
     targets.insert(target);
-    if (const auto identity = IdentityOf(target)) overwritten.insert(*identity);
+    if (identity) overwritten.insert(*identity);
     return true;
 }
 
-std::string OutputPlace::ReasonAgainst(const std::string& target) const {
+std::string OutputPlace::ReasonAgainst(const std::string& target,
+                                       const std::optional<Identity>& identity) const {
     constexpr const char* written = "was written in this run and cannot be overwritten.";
     if (targets.contains(target)) return written;
-    const auto identity = IdentityOf(target);
     if (!identity) return {};
     if (inputs.contains(*identity)) return "is read in this run and cannot be overwritten.";
     if (overwritten.contains(*identity)) return written;

@@ -5,6 +5,7 @@
 #include "tool/output/TemporaryNames.h"
 
 #include <algorithm>
+#include <optional>
 #include <set>
 #include <utility>
 
@@ -40,6 +41,8 @@ public:
     std::size_t GetStagedLimit() const { return std::max<std::size_t>(1, batch.GetCapacity() / 2); }
     StagedFile Stage(const std::string& path, std::span<const std::byte> bytes);
     bool Accept(const std::string& path, StagedFile file);
+    // Publishes some of the outputs early. Call it while other threads make the next ones.
+    void UsePause() { batch.UsePause(); }
     // Whether the path belongs to a file that must not be overwritten, so that its bytes need not be made.
     // May run in any thread.
     bool IsTaken(const std::string& path);
@@ -50,7 +53,8 @@ private:
     using Identity = std::pair<std::uint64_t, std::uint64_t>; // device, inode
 
     bool MayWrite(const std::string& path, const std::string& target);
-    std::string ReasonAgainst(const std::string& target) const;
+    // The identity is that of the file at the target, if there is one.
+    std::string ReasonAgainst(const std::string& target, const std::optional<Identity>& identity) const;
 
     Tool& tool;
     bool overwrites;

@@ -5,6 +5,7 @@
 #include "framework/core/FileFailure.h"
 #include "framework/core/Path.h"
 #include "framework/core/Text.h"
+#include "tool/EntryTypes.h"
 #include "tool/NameEscapes.h"
 #include "tool/NewNames.h"
 #include "tool/OutputPlace.h"
@@ -111,11 +112,12 @@ private:
             } else {
                 const std::string newName = newNames.Take(name);
                 if (newName != name) NoteNewName(prefix + name, prefix + newName);
-                const std::string childPath = JoinPath(path, place.folder->GetListedName(child));
                 if (folder)
-                    WalkArchive({place.archive, folder}, childPath, prefix + newName + "/");
+                    WalkArchive({place.archive, folder}, JoinPath(path, place.folder->GetListedName(child)),
+                                prefix + newName + "/");
                 else
-                    AddEntry(place, child, childPath, prefix + newName, newName == name);
+                    AddEntry(place, child, JoinPath(path, child.GetName()), prefix + newName,
+                             newName == name);
             }
         }
     }
@@ -131,8 +133,8 @@ private:
         found.push_back({path, name, place.archive, &entry});
     }
 
-    bool IsEntered(const std::string& name) const {
-        if (nested == NestedArchives::asFiles || !FileSystem::IsArchiveName(name)) return false;
+    bool IsEntered(const std::string& name) {
+        if (nested == NestedArchives::asFiles || !types.Find(name).isArchive) return false;
         return nested == NestedArchives::entered || !EqualNoCase(ExtensionOf(name), ".bsp");
     }
 
@@ -148,6 +150,7 @@ private:
     Tool& tool;
     NestedArchives nested;
     OutputPlace& outputs;
+    EntryTypes types;
     std::vector<std::string> way; // real paths of the folders on the disk from the tree to here
 };
 

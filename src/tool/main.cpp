@@ -3,8 +3,6 @@
 #include "framework/core/SaveJournal.h"
 #include "tool/Tool.h"
 
-#include <QCoreApplication>
-
 #include <cstdio>
 #include <iostream>
 #include <new>
@@ -15,7 +13,6 @@ using namespace keltavlo;
 int main(int argc, char** argv) try {
     KeepMemoryReserve();
     RemoveAbandonedSaves();
-    const QCoreApplication core(argc, argv);
     Tool tool(std::cout, std::cerr, isatty(STDERR_FILENO) != 0);
     return tool.Run({argv + 1, argv + argc}); // the arguments may have any encoding
 } catch (const std::bad_alloc& failure) {

@@ -21,14 +21,15 @@ struct CountingView : DocumentView {
     int updates = 0;
 };
 
-// Returns the sides, names and numbers, and whether the last texel is gray.
+// Returns the sides, names and numbers, whether the last texel is gray, and whether there is a palette.
 std::string Describe(const Texture& texture) {
     std::ostringstream text;
     text << texture.GetWidth() << 'x' << texture.GetHeight() << ',' << texture.quakeName;
     for (const std::string& name : {texture.quake2.name, texture.quake2.nextFrameName}) text << ',' << name;
     for (const auto number : {texture.quake2.surfaceFlags, texture.quake2.contents, texture.quake2.value})
         text << ',' << number;
-    text << ((texture.GetPixelWrapped(15, 7) & 0xFFFFFF) % 0x10101 == 0 ? " gray" : "");
+    text << ((texture.GetPixelWrapped(15, 7) & 0xFFFFFF) % 0x10101 == 0 ? " gray" : "")
+         << (texture.palette ? " own" : "");
     return text.str();
 }
 
@@ -104,23 +105,25 @@ TEST_F(TavloDocumentTest, EveryChangeMarksTheDocumentAndIsTakenBack) {
         bool ofPicture = false;
     };
     const Edit edits[] = {
-        {"Resize", [](auto& document) { ResizePicture(document, 3, 5); }, "3x5,,test,,0,0,0 gray", true},
+        {"Resize", [](auto& document) { ResizePicture(document, 3, 5); }, "3x5,,test,,0,0,0 gray own", true},
         {"Paste", [](auto& document) { PastePicture(document, Image(3, 2)); }, "3x2,,,,0,0,0 gray", true},
-        {"Quake Name", [](auto& document) { ChangeQuakeName(document, "a"); }, "16x8,a,test,,0,0,0"},
+        {"Quake Name", [](auto& document) { ChangeQuakeName(document, "a"); }, "16x8,a,test,,0,0,0 own"},
         {"Quake II Name",
          [](auto& document) {
              ChangeQuake2Names(document, {"a", "b"});
          },
-         "16x8,,a,b,0,0,0"},
-        {"Quake II Surface", [](auto& document) { ChangeSurfaceFlags(document, 7); }, "16x8,,test,,7,0,0"},
-        {"Quake II Contents", [](auto& document) { ChangeContents(document, 7); }, "16x8,,test,,0,7,0"},
-        {"Quake II Value", [](auto& document) { ChangeValue(document, 7); }, "16x8,,test,,0,0,7"},
-        {"Nearest Color", Send<ID_FORMAT_NEAREST>, "16x8,,test,,0,0,0 gray", true},
-        {"Error Diffusion Dithering", Send<ID_FORMAT_DITHER>, "16x8,,test,,0,0,0 gray", true},
+         "16x8,,a,b,0,0,0 own"},
+        {"Quake II Surface", [](auto& document) { ChangeSurfaceFlags(document, 7); },
+         "16x8,,test,,7,0,0 own"},
+        {"Quake II Contents", [](auto& document) { ChangeContents(document, 7); }, "16x8,,test,,0,7,0 own"},
+        {"Quake II Value", [](auto& document) { ChangeValue(document, 7); }, "16x8,,test,,0,0,7 own"},
+        {"Nearest Color", Send<ID_FORMAT_NEAREST>, "16x8,,test,,0,0,0 gray own", true},
+        {"Error Diffusion Dithering", Send<ID_FORMAT_DITHER>, "16x8,,test,,0,0,0 gray own", true},
     };
     for (const Edit& edit : edits) {
         auto& document = *Open<WALDocument>(Put(edit.name + ".wal", MakeWal(16, 8)));
         document.SetCurrentPalette(OpenBuiltIn<PaletteDocument>(grayScaleColors));
+        document.GetTexture().SetPalette(ColorList(2));
         CountingView view;
         document.AddView(view);
         const auto check = [&](const std::string& expected) {
@@ -135,7 +138,7 @@ TEST_F(TavloDocumentTest, EveryChangeMarksTheDocumentAndIsTakenBack) {
         EXPECT_EQ(StateOf(document, ID_EDIT_UNDO).text, "&Undo " + edit.name + "\tCtrl+Z");
         EXPECT_EQ(StateOf(document, ID_EDIT_REDO).text, "Can't &Redo\tCtrl+Y");
         document.GetHistory().Undo();
-        check("16x8,,test,,0,0,0");
+        check("16x8,,test,,0,0,0 own");
         EXPECT_FALSE(StateOf(document, ID_EDIT_UNDO).enabled);
         EXPECT_EQ(StateOf(document, ID_EDIT_UNDO).text, "Can't &Undo\tCtrl+Z");
         EXPECT_EQ(StateOf(document, ID_EDIT_REDO).text, "&Redo " + edit.name + "\tCtrl+Y");

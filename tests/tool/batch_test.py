@@ -17,7 +17,7 @@ BOX = tempfile.TemporaryDirectory()
 HERE = pathlib.Path(BOX.name)
 ENVIRONMENT = os.environ | {"XDG_DATA_HOME": f"{BOX.name}/data", "LC_ALL": "C"}
 RANDOM = random.Random(5)
-COUNT = 300
+COUNT = 540  # enough that a run publishes more than once
 
 
 def run(*arguments, code=0, **options):

@@ -186,6 +186,13 @@ def edit():
     (HERE / "one/c").write_text("last")
     (HERE / "two/a/B.TXT").write_text("second")
     (HERE / "two/new").write_text("new")
+    for folder in "left", "right":
+        (HERE / folder).mkdir()
+        Image.new("RGB", (16, 16), folder == "left" and "red" or "blue").save(HERE / folder / f"{folder}.png")
+    run("pack", "left", "e.wad")
+    assert "--wad2" in run("pack", "--append", "--wad2", "right", "e.wad", code=1)
+    run("pack", "--append", "right", "e.wad")
+    assert list(read_wad(HERE / "e.wad")[1]) == ["left", "right"]
     run("pack", "one", "e.pak")
     for option in "--append", "--replace":
         before = (HERE / "e.pak").read_bytes()

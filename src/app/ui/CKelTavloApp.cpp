@@ -70,7 +70,12 @@ bool CKelTavloApp::InitInstance(const std::vector<std::string>& paths) {
     CreateMainFrame();
     mainFrame->ShowAsLeft();
     desktop.Register(); // the program also runs without it
-    return CarryOut(paths);
+    return BeginWork(paths);
+}
+
+bool CKelTavloApp::BeginWork(const std::vector<std::string>& paths) {
+    const bool hasRescued = rescue.OfferAbandoned();
+    return (hasRescued && paths.empty()) || CarryOut(paths) || hasRescued;
 }
 
 bool CKelTavloApp::InitService() {
@@ -91,7 +96,10 @@ void CKelTavloApp::OnDesktopRequest(const std::vector<std::string>& paths) {
     mainFrame->setWindowState(mainFrame->windowState() & ~Qt::WindowMinimized);
     mainFrame->raise();
     mainFrame->activateWindow();
-    if (isFirst || !paths.empty()) CarryOut(paths);
+    if (isFirst)
+        BeginWork(paths);
+    else if (!paths.empty())
+        CarryOut(paths);
 }
 
 // Cancelling the choice of a new document is not a failure.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Rescue.h"
 #include "app/Workshop.h"
 #include "app/ui/DesktopService.h"
 #include "archives/ui/FileDialogMemory.h"
@@ -23,7 +24,8 @@ public:
     explicit CKelTavloApp(ProfileStore settings);
     ~CKelTavloApp() override;
 
-    // Shows the main window, then opens the files or, if there are none, asks for a new document. Returns
+    // Shows the main window and offers the documents that an earlier program left unsaved. Then opens the
+    // files or, if nothing is open, asks for a new document. Returns
     // false, after telling the user why, if no file could be opened; the program then ends.
     bool InitInstance(const std::vector<std::string>& paths);
     // Waits for requests on the session bus and opens the window with the first one. Returns false if there
@@ -54,6 +56,7 @@ private:
     void RegisterWindowClasses();
     void CreateMainFrame();
     void OnDesktopRequest(const std::vector<std::string>& paths);
+    bool BeginWork(const std::vector<std::string>& paths);
     bool TryOpen(const std::string& path);
     bool CarryOut(const std::vector<std::string>& paths);
     void OnCommandNew() { OnFileNew(); }
@@ -68,6 +71,7 @@ private:
     void ShowHelp(const char* page);
 
     Workshop workshop;
+    Rescue rescue;
     CClipboard clipboard;
     FileDialogMemory dialogMemory;
     std::unique_ptr<MainFrame> mainFrame;

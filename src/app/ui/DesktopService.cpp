@@ -2,11 +2,9 @@
 
 #include "framework/ui/LocalPath.h"
 
-#include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QThread>
 #include <QUrl>
 
 #include <utility>
@@ -45,22 +43,9 @@ std::vector<std::string> PathsOf(const QStringList& addresses) {
     return paths;
 }
 
-// Returns whether no dialog is open.
-bool IsOutermostLoop() {
-    return QThread::currentThread()->loopLevel() <= 1;
-}
-
 } // namespace
 
-DesktopService::DesktopService(Request request) : carryOut(std::move(request)) {
-    // The loop is about to block, so no work is being done. A queued call runs next, outside this signal.
-    if (auto* dispatcher = QAbstractEventDispatcher::instance())
-        connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, this, [this] {
-            if (!waiting.empty() && IsOutermostLoop())
-                QMetaObject::invokeMethod(
-                    this, [this] { CarryOut(); }, Qt::QueuedConnection);
-        });
-}
+DesktopService::DesktopService(Request request) : carryOut(std::move(request)) {}
 
 DesktopService::~DesktopService() {
     if (isRegistered) QDBusConnection::sessionBus().unregisterService(serviceName);
@@ -98,12 +83,12 @@ bool DesktopService::handleMessage(const QDBusMessage& message, const QDBusConne
     StayWithoutBus();
     waiting.push_back(opens ? PathsOf(message.arguments().constFirst().toStringList())
                             : std::vector<std::string>());
+    idleCall.Request();
     bus.send(message.createReply());
     return true;
 }
 
 void DesktopService::CarryOut() {
-    if (!IsOutermostLoop()) return;
     for (const auto& paths : std::exchange(waiting, {})) carryOut(paths);
 }
 

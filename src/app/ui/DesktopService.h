@@ -1,5 +1,7 @@
 #pragma once
 
+#include "framework/ui/IdleCall.h"
+
 #include <QDBusVirtualObject>
 
 #include <functional>
@@ -35,6 +37,7 @@ private:
 
     Request carryOut;
     std::vector<std::vector<std::string>> waiting;
+    IdleCall idleCall{[this] { CarryOut(); }};
     bool isRegistered = false;
     bool endsWithBus = false;
 };

@@ -1,5 +1,6 @@
 #include "app/ui/CKelTavloApp.h"
 #include "app/ui/CommandLine.h"
+#include "app/ui/SuddenEnd.h"
 #include "framework/core/Exceptions.h"
 #include "framework/core/MemoryReserve.h"
 #include "framework/ui/GuardedApplication.h"
@@ -17,12 +18,17 @@ namespace {
 
 QtMessageHandler toolkitHandler = nullptr;
 
+void PassOn(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (type == QtFatalMsg) SuddenEnd::RescueDocuments(); // Qt ends the program
+    toolkitHandler(type, context, text);
+}
+
 // Without a display, Qt reports why and aborts. This handler ends the program with the first reason instead.
 void HandleMessage(QtMsgType type, const QMessageLogContext& context, const QString& text) {
     static QString reason;
     const bool isReason = std::string_view(context.category).starts_with("qt.qpa");
     if (!QCoreApplication::startingUp() || (type != QtFatalMsg && !isReason))
-        return toolkitHandler(type, context, text);
+        return PassOn(type, context, text);
     if (reason.isEmpty()) reason = text.trimmed();
     if (type != QtFatalMsg) return;
     std::fprintf(stderr, "keltavlo: No window can be opened (%s); keltavlo-tool needs no display.\n",
@@ -47,6 +53,16 @@ int AnswerOnConsole(const CommandLine& line, int argc, char** argv) {
     return line.help || line.version ? 0 : 1;
 }
 
+// Catches failures here, while the documents still exist.
+int Run(CKelTavloApp& program, const CommandLine& line) try {
+    const bool isReady = line.service ? program.InitService() : program.InitInstance(line.paths);
+    return isReady ? QCoreApplication::exec() : 1;
+} catch (const std::bad_alloc& failure) { // no event was being handled
+    SuddenEnd::RescueDocuments();
+    std::fprintf(stderr, "keltavlo: %s\n", SentenceOf(failure));
+    _exit(1);
+}
+
 // The desktop uses the name of the desktop file to find the program's name and icon.
 void NameWindows() {
     QGuiApplication::setDesktopFileName(QStringLiteral("org.example.keltavlo"));
@@ -67,9 +83,9 @@ int main(int argc, char** argv) try {
     const GuardedApplication windows(argc, argv);
     NameWindows();
     CKelTavloApp program(ProfileStore("KelTavlo", "KelTavlo"));
-    const bool isReady = line.service ? program.InitService() : program.InitInstance(line.paths);
-    return isReady ? QCoreApplication::exec() : 1;
-} catch (const std::bad_alloc& failure) { // no event was being handled
+    const SuddenEnd suddenEnd;
+    return Run(program, line);
+} catch (const std::bad_alloc& failure) { // before there were documents
     std::fprintf(stderr, "keltavlo: %s\n", SentenceOf(failure));
     return 1;
 }

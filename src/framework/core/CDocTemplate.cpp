@@ -39,10 +39,14 @@ CDocTemplate::Confidence CDocTemplate::MatchDocType(const std::string& path, CDo
 }
 
 CDocument* CDocTemplate::OpenDocumentFile(const std::string& path) {
+    return OpenFilled([&](CDocument& document) { return FillDocument(document, path); });
+}
+
+CDocument* CDocTemplate::OpenFilled(const std::function<bool(CDocument&)>& fill) {
     CDocument& document = CreateNewDocument();
     try {
         DocumentFrame* frame = CreateNewFrame(document);
-        if (FillDocument(document, path)) {
+        if (fill(document)) {
             if (frame) frame->InitialUpdate(true);
             return &document;
         }

@@ -2,6 +2,8 @@
 
 #include "framework/core/CDocument.h"
 
+#include <functional>
+
 namespace keltavlo {
 
 // Returns the extension that selects a path's document type: ".exe" for the file of the running program,
@@ -52,6 +54,8 @@ public:
     // Reads the file into a new document and gives it a frame if there are windows. An empty path makes a
     // new, untitled document. Returns null, after telling the user why, if that failed or was refused.
     virtual CDocument* OpenDocumentFile(const std::string& path);
+    // Gives a new document a frame and passes it to `fill`. Returns null if that returns false.
+    CDocument* OpenFilled(const std::function<bool(CDocument&)>& fill);
     // Opens another frame on an open document. Returns null if there are no windows.
     DocumentFrame* CreateNewFrame(CDocument& document) const;
     void CloseAllDocuments();

@@ -54,14 +54,11 @@ bool CDocument::OnNewDocument() {
 
 bool CDocument::OnOpenDocument(const std::string& path) {
     try {
-        const std::unique_ptr<CFile> file = FileOrThrow([&](CFileException* failure) {
-            return GetFile(path, CFile::modeRead | CFile::shareDenyWrite, failure);
-        });
+        const std::optional<FileState> state = FileState::Find(path);
+        const std::unique_ptr<CFile> file = OpenForReading(path);
         DeleteContents();
-        if (file->GetLength() > 0) {
-            CArchive archive(*file, CArchive::load);
-            Serialize(archive);
-        }
+        if (file->GetLength() > 0) Load(*file);
+        if (KeepsStamp()) stamp = {state, DigestOf(*file)};
         SetModifiedFlag(false);
         return true;
     } catch (const std::exception& failure) {
@@ -80,7 +77,9 @@ bool CDocument::OnSaveDocument(const std::string& path) {
         CArchive archive(*file, CArchive::store);
         Serialize(archive);
         archive.Flush();
+        const std::uint64_t digest = KeepsStamp() ? DigestOf(*file) : 0;
         file->Close();
+        if (KeepsStamp()) stamp = {FileState::Find(path), digest};
         SetModifiedFlag(false);
         return true;
     } catch (const std::exception& failure) {
@@ -110,6 +109,78 @@ bool CDocument::SaveModified() {
         return true;
     default:
         return false;
+    }
+}
+
+void CDocument::ContinueAs(const std::string& path, const std::optional<FileStamp>& fileStamp) {
+    if (!path.empty()) SetPathName(path);
+    stamp = fileStamp;
+    SetModifiedFlag();
+}
+
+void CDocument::CheckFile() {
+    const std::optional<FileState> state = FileState::Find(pathName);
+    if (!stamp || !state || state == stamp->state || state == askedAbout) return;
+    askedAbout = state;
+    try {
+        const std::optional<FileStamp> change = FindOutsideChange();
+        if (!change) return;
+        if (UserInterface::Get().AskAboutChange(DescribeChange(false)) == ChangeAnswer::reload)
+            return Reload();
+        stamp = change;
+    } catch (const CException&) { // a file that cannot be read cannot be offered
+    }
+}
+
+bool CDocument::MayOverwriteFile() {
+    try {
+        if (!FindOutsideChange()) return true;
+    } catch (const CException&) { // it cannot be compared, so the user must decide
+    }
+    const ChangeAnswer answer = UserInterface::Get().AskAboutChange(DescribeChange(true));
+    if (answer == ChangeAnswer::reload) Reload();
+    return answer == ChangeAnswer::keep;
+}
+
+std::optional<FileStamp> CDocument::FindOutsideChange() {
+    const std::optional<FileState> state = FileState::Find(pathName);
+    if (!stamp || !state || state == stamp->state) return std::nullopt;
+    const FileStamp current{state, DigestOf(*OpenForReading(pathName))};
+    if (current.digest != stamp->digest) return current;
+    stamp = current;
+    return std::nullopt;
+}
+
+ChangedFile CDocument::DescribeChange(bool saving) const {
+    return {ToDisplayPath(pathName), modified, CanUndoReload(), saving};
+}
+
+std::unique_ptr<CFile> CDocument::OpenForReading(const std::string& path) {
+    return FileOrThrow([&](CFileException* failure) {
+        return GetFile(path, CFile::modeRead | CFile::shareDenyWrite, failure);
+    });
+}
+
+void CDocument::Load(CFile& file) {
+    CArchive archive(file, CArchive::load);
+    Serialize(archive);
+}
+
+void CDocument::Reload() {
+    try {
+        const CWaitCursor wait;
+        const std::optional<FileState> state = FileState::Find(pathName);
+        const std::unique_ptr<CFile> file = OpenForReading(pathName);
+        const std::unique_ptr<CObject> object = GetRuntimeClass().create();
+        auto& loaded = dynamic_cast<CDocument&>(*object);
+        loaded.Load(*file);
+        const FileStamp read{state, DigestOf(*file)};
+        TakeContents(loaded);
+        stamp = read;
+        SetModifiedFlag(false);
+        UpdateAllViews(nullptr);
+    } catch (const std::exception& failure) {
+        Report(Direction::opening, pathName, failure);
     }
 }
 

@@ -3,6 +3,7 @@
 #include "framework/core/CArchive.h"
 #include "framework/core/CCmdTarget.h"
 #include "framework/core/DocumentView.h"
+#include "framework/core/FileStamp.h"
 #include "framework/core/Service.h"
 
 #include <memory>
@@ -13,6 +14,7 @@ namespace keltavlo {
 
 class CDocTemplate;
 class CDocument;
+struct ChangedFile;
 
 // What documents need from the application.
 class DocumentHost : public Service<DocumentHost> {
@@ -47,6 +49,13 @@ public:
     virtual bool SaveModified();
     // Saves under the document's path, or asks for a name. Returns false if cancelled or failed.
     virtual bool DoFileSave() = 0;
+    // Asks whether to reload the document if another program has changed its file. Asks once per change. Call
+    // it when the user turns to the document and no dialog is open.
+    void CheckFile();
+    // The state of the document's file when it was last read or written. Null for a new document.
+    const std::optional<FileStamp>& GetStamp() const { return stamp; }
+    // Makes the document a modified one of that path, which may be empty, and with that stamp.
+    void ContinueAs(const std::string& path, const std::optional<FileStamp>& fileStamp);
     // Opens a file with `flags` from CFile::OpenFlags. Returns null on failure and fills `*failure` unless
     // that is null.
     virtual std::unique_ptr<CFile> GetFile(const std::string& path, unsigned flags, CFileException* failure);
@@ -65,14 +74,34 @@ protected:
     virtual void Serialize(CArchive& archive) = 0;
     // Empties the document before it is filled again.
     virtual void DeleteContents() {}
+    // Whether the document remembers what its file contained, so that it can find out about changes.
+    virtual bool KeepsStamp() const { return true; }
+    // Takes over the contents of `loaded`, a document of the same class, for a reload. If memory runs out,
+    // the document stays unchanged.
+    virtual void TakeContents(CDocument&) {}
+    // Whether TakeContents can be undone.
+    virtual bool CanUndoReload() const { return false; }
+    // Asks before the document is saved over a file that another program has changed. Returns false if it
+    // must not be saved.
+    bool MayOverwriteFile();
 
 private:
     friend class CDocTemplate;
+
+    // Returns the current stamp of the file if another program has changed its contents, and null if not or
+    // if the file is gone. Throws if the file cannot be read.
+    std::optional<FileStamp> FindOutsideChange();
+    std::unique_ptr<CFile> OpenForReading(const std::string& path);
+    ChangedFile DescribeChange(bool saving) const;
+    void Load(CFile& file);
+    void Reload();
 
     std::string title;
     std::string pathName;
     bool modified = false;
     bool closing = false;
+    std::optional<FileStamp> stamp;      // of the file when it was last read or written
+    std::optional<FileState> askedAbout; // the state of the changed file that CheckFile last found
     CDocTemplate* docTemplate = nullptr;
     std::vector<DocumentView*> views;
 };

@@ -40,7 +40,7 @@ DiskFile::DiskFile(const std::string& path, unsigned flags) : filePath(FullPath(
     if (fstat(descriptor.Get(), &info) != 0) ThrowErrno();
     if (!S_ISREG(info.st_mode))
         throw CFileException(CFileException::invalidFile, CFileException::noOsError, filePath);
-    fingerprint = FingerprintOf(info);
+    state.emplace(info);
 }
 
 std::size_t DiskFile::Read(void* buffer, std::size_t count) {
@@ -92,17 +92,12 @@ void DiskFile::Close() {
 std::unique_ptr<CFile> DiskFile::Duplicate() const {
     Descriptor copy(fcntl(descriptor.Get(), F_DUPFD_CLOEXEC, 0));
     if (!copy.IsOpen()) ThrowErrno();
-    return std::unique_ptr<CFile>(new DiskFile(std::move(copy), filePath, fingerprint));
+    return std::unique_ptr<CFile>(new DiskFile(std::move(copy), filePath, *state));
 }
 
 bool DiskFile::IsUnchanged() const {
     struct stat info {};
-    return stat(filePath.c_str(), &info) == 0 && FingerprintOf(info) == fingerprint;
-}
-
-DiskFile::Fingerprint DiskFile::FingerprintOf(const struct stat& info) {
-    return {info.st_dev, info.st_ino, static_cast<std::uint64_t>(info.st_size), info.st_mtim.tv_sec,
-            info.st_mtim.tv_nsec};
+    return stat(filePath.c_str(), &info) == 0 && FileState(info) == state;
 }
 
 void DiskFile::ThrowErrno() const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/core/CFile.h"
+#include "framework/core/FileStamp.h"
 
 #include <span>
 #include <utility>
@@ -49,22 +50,14 @@ public:
     bool IsUnchanged() const override;
 
 private:
-    // Identifies a file and its state.
-    struct Fingerprint {
-        std::uint64_t device = 0, inode = 0, size = 0;
-        std::int64_t seconds = 0, nanoseconds = 0; // of the last change of the contents
-        bool operator==(const Fingerprint&) const = default;
-    };
-    static Fingerprint FingerprintOf(const struct stat& info);
-
-    DiskFile(Descriptor file, std::string path, const Fingerprint& state)
-        : descriptor(std::move(file)), filePath(std::move(path)), fingerprint(state) {}
+    DiskFile(Descriptor file, std::string path, const FileState& openedState)
+        : descriptor(std::move(file)), filePath(std::move(path)), state(openedState) {}
     [[noreturn]] void ThrowErrno() const;
 
     Descriptor descriptor;
-    std::string filePath;       // full
-    Fingerprint fingerprint;    // when it was opened
-    std::uint64_t position = 0; // not the descriptor's, so that duplicates do not disturb each other
+    std::string filePath;           // full
+    std::optional<FileState> state; // when it was opened
+    std::uint64_t position = 0;     // not the descriptor's, so that duplicates do not disturb each other
 };
 
 } // namespace keltavlo

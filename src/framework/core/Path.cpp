@@ -25,6 +25,18 @@ std::vector<std::string> AllComponents(const std::string& path) {
     return std::move(parts.directories);
 }
 
+// Whether a native path is full already. Long lists ask for full paths again and again.
+bool IsFull(std::string_view path) {
+    if (path.size() < 2 || path.front() != '/') return false;
+    while (!path.empty()) {
+        path.remove_prefix(1); // the separator
+        const std::string_view component = path.substr(0, path.find('/'));
+        if (component.empty() || component == "." || component == "..") return false;
+        path.remove_prefix(component.size());
+    }
+    return true;
+}
+
 } // namespace
 
 bool IsSeparator(char c) {
@@ -46,8 +58,12 @@ PathParts SplitPath(std::string_view path) {
     return parts;
 }
 
+// A loop, because the standard search for one of several characters is slow, and lists have thousands of
+// names.
 std::string_view FileNameOf(std::string_view path) {
-    return path.substr(path.find_last_of("/\\:") + 1);
+    std::size_t begin = path.size();
+    while (begin > 0 && path[begin - 1] != ':' && !IsSeparator(path[begin - 1])) --begin;
+    return path.substr(begin);
 }
 
 std::string_view ExtensionOf(std::string_view path) {
@@ -109,8 +125,10 @@ std::string ToDisplayPath(std::string_view path) {
 
 std::string FullPath(std::string_view path) {
     if (path.empty()) return {};
+    std::string native = ToNativePath(path);
+    if (IsFull(native)) return native;
     std::error_code unreachable; // without a current directory the path stays as it is
-    const std::filesystem::path full = std::filesystem::absolute(ToNativePath(path), unreachable);
+    const std::filesystem::path full = std::filesystem::absolute(native, unreachable);
     std::string text = full.lexically_normal().string();
     if (text.size() > 1 && text.back() == '/') text.pop_back();
     return text;

@@ -12,6 +12,18 @@ class FrameFactory;
 
 enum class SaveAnswer { save, discard, cancel };
 
+// A document's file that another program has changed.
+struct ChangedFile {
+    std::string path; // as the user sees it
+    bool isModified;  // the document has changes of its own
+    bool canUndo;     // Undo takes a reload back
+    bool isSaving;    // the document is about to be saved
+};
+
+enum class RescueAnswer { open, discard, later };
+
+enum class ChangeAnswer { reload, keep, cancel };
+
 // What a file dialog shows at first.
 struct FileNameQuestion {
     std::string proposal; // the name shown at first: a path, a name or nothing
@@ -30,6 +42,12 @@ public:
     virtual void ReportMemoryShortage() noexcept = 0;
     // Asks "Save changes to NAME?".
     virtual SaveAnswer AskToSave(const std::string& name) = 0;
+    // Asks whether to reload the document or to keep it, which means to overwrite the file when saving. Only
+    // a save can be cancelled.
+    virtual ChangeAnswer AskAboutChange(const ChangedFile& file) = 0;
+    // Asks what to do with a document that a program left unsaved when it ended. `name` is the path or, of a
+    // new document, the title.
+    virtual RescueAnswer AskAboutRescued(const std::string& name, bool isNew) = 0;
     // Returns the path chosen, or null if the user cancelled.
     virtual std::optional<std::string> PromptFileName(const FileNameQuestion& question) = 0;
     // Asks which document type a new document should have. Returns null if the user cancelled.

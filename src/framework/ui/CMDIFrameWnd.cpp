@@ -158,7 +158,14 @@ void CMDIFrameWnd::SetActiveChild(CMDIChildWnd* child) {
     menus.Show(type ? type->GetRow().menuId : ownMenuId);
     OnUpdateFrameTitle();
     if (!child) clientArea->setFocus();
+    fileCheck.Request();
     ChangeActiveView(child ? child->GetActiveView() : nullptr, deactivated);
+}
+
+// The activation of a window that is in the background waits until the user turns to it.
+void CMDIFrameWnd::CheckActiveFile() {
+    CDocument* document = activeChild && isActiveWindow() ? activeChild->GetActiveDocument() : nullptr;
+    if (document) document->CheckFile();
 }
 
 void CMDIFrameWnd::ChangeActiveView(CView* activated, CView* deactivated) {
@@ -237,6 +244,7 @@ void CMDIFrameWnd::OnUpdateViewControlBar(CCmdUI& state) {
 // Qt adds a maximized child's title to the current title and removes it again later.
 bool CMDIFrameWnd::event(QEvent* event) {
     if (event->type() == QEvent::WindowTitleChange) OnUpdateFrameTitle();
+    if (event->type() == QEvent::WindowActivate) fileCheck.Request();
     if (event->type() != QEvent::StatusTip) return QMainWindow::event(event);
     statusBarWindow->ShowPrompt(static_cast<QStatusTipEvent*>(event)->tip());
     return true;

@@ -3,6 +3,7 @@
 #include "framework/ui/CMDIChildWnd.h"
 #include "framework/ui/DockedBars.h"
 #include "framework/ui/FrameMenus.h"
+#include "framework/ui/IdleCall.h"
 
 #include <QMainWindow>
 
@@ -62,6 +63,7 @@ private:
     void AddKeys(const char* keys, Action action);
     void AddChildKeys();
     void OnChildActivated();
+    void CheckActiveFile();
     void SetActiveChild(CMDIChildWnd* child);
     std::unique_ptr<CMenu> MakeMenu(unsigned menuId);
 
@@ -79,6 +81,7 @@ private:
     CStatusBar* statusBarWindow;
     DockedBars bars{*this};
     CMDIChildWnd* activeChild = nullptr;
+    IdleCall fileCheck{[this] { CheckActiveFile(); }};
     unsigned ownMenuId = 0;
     FrameMenus menus{*this, [this](unsigned menuId) { return MakeMenu(menuId); }};
 };

@@ -89,8 +89,7 @@ void CPropertySheet::AddPage(CPropertyPage& page) {
 
 void CPropertySheet::RemovePage(CPropertyPage& page) {
     const QSignalBlocker quiet(tabs);
-    tabs->removeTab(tabs->indexOf(&page));
-    page.setParent(nullptr);
+    page.setParent(nullptr); // removes its tab, too
     page.sheet = nullptr;
     std::erase(pages, &page);
     if (activePage == &page) activePage = nullptr;

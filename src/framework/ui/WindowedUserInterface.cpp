@@ -64,6 +64,14 @@ SaveAnswer WindowedUserInterface::AskToSave(const std::string& name) {
     return AskSaveChanges(name);
 }
 
+ChangeAnswer WindowedUserInterface::AskAboutChange(const ChangedFile& file) {
+    return AskReload(file);
+}
+
+RescueAnswer WindowedUserInterface::AskAboutRescued(const std::string& name, bool isNew) {
+    return AskToOpenRescued(name, isNew);
+}
+
 // Skips types without a name for new documents. If only one type is left, returns it without asking.
 const CDocTemplate* WindowedUserInterface::PromptNewType() {
     std::vector<const CDocTemplate*> types;

@@ -12,6 +12,8 @@ public:
     void ShowMessage(const std::string& text) override;
     void ReportMemoryShortage() noexcept override { memoryWarning.Raise(); }
     SaveAnswer AskToSave(const std::string& name) override;
+    ChangeAnswer AskAboutChange(const ChangedFile& file) override;
+    RescueAnswer AskAboutRescued(const std::string& name, bool isNew) override;
     const CDocTemplate* PromptNewType() override;
     void BeginWaitCursor() override;
     void EndWaitCursor() override;

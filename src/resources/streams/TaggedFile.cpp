@@ -1,7 +1,7 @@
 #include "resources/streams/TaggedFile.h"
 
 #include "framework/core/Text.h"
-#include "resources/streams/InputStream.h"
+#include "resources/streams/OutputStream.h"
 
 #include <QString>
 
@@ -32,6 +32,12 @@ std::uint32_t ReadTaggedHeader(InputStream& in, std::uint32_t expectedType) {
     if (!std::equal(std::begin(magic), std::end(magic), tagged::magic) || type != expectedType)
         in.FailUnnamed(StreamError::badClass);
     return chunkCount;
+}
+
+void WriteTaggedHeader(OutputStream& out, std::uint32_t type, std::uint32_t chunkCount) {
+    out.Write(tagged::magic, sizeof tagged::magic);
+    out.Write(type);
+    out.Write(chunkCount);
 }
 
 void ReadAnsiTitle(InputStream& in, std::string& title) {

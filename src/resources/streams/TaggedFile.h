@@ -7,6 +7,7 @@
 namespace keltavlo {
 
 class InputStream;
+class OutputStream;
 
 // The program's own tagged format: a 16-byte header (8 bytes of magic, a u32 type tag, a u32
 // chunk count), then the chunks. Each chunk is a u32 tag and a payload whose layout depends
@@ -31,6 +32,7 @@ constexpr std::uint8_t magic[8] = {'K', 'E', 'L', 0xE5, 0xD0, 'T', 'A', 'V'};
 
 // Returns the chunk count. Throws badClass for an unexpected magic or type.
 std::uint32_t ReadTaggedHeader(InputStream& in, std::uint32_t expectedType);
+void WriteTaggedHeader(OutputStream& out, std::uint32_t type, std::uint32_t chunkCount);
 // Read the payload of a title chunk: the text before its first NUL.
 void ReadAnsiTitle(InputStream& in, std::string& title);
 void ReadWideTitle(InputStream& in, std::string& title);

@@ -19,18 +19,20 @@ unsigned ThreadCount(unsigned jobs);
 // Spreads work over threads and takes the results in order. Calls `work` for the numbers from 0 to `count` -
 // 1 in up to `threadCount` threads, and `take` for each result, in order, in the calling thread. At most
 // `window` results wait at a time. If `take` returns false, no further work begins. With a single thread,
-// everything runs in the calling one. Throws what `work` or `take` throws, after all threads have ended.
+// everything runs in the calling one; otherwise, `pause`, if given, runs there each time that it would wait
+// for the next result. Throws what a function throws, after all threads have ended.
 template <class Result>
 class OrderedWork {
 public:
     using Work = std::function<Result(std::size_t)>;
     using Take = std::function<bool(std::size_t, Result)>;
+    using Pause = std::function<void()>;
 
     OrderedWork(std::size_t workCount, std::size_t windowSize, Work workFunction)
         : count(workCount), window(std::max<std::size_t>(1, std::min(workCount, windowSize))),
           work(std::move(workFunction)), results(window) {}
 
-    void Run(unsigned threadCount, const Take& take) {
+    void Run(unsigned threadCount, const Take& take, const Pause& pause = nullptr) {
         if (threadCount <= 1 || count <= 1) {
             for (std::size_t i = 0; i < count && take(i, work(i));) ++i;
             return;
@@ -38,7 +40,7 @@ public:
         std::vector<std::jthread> threads;
         const Ending ending{*this}; // destroyed before the threads are joined
         for (unsigned i = 0; i < threadCount && i < count; ++i) threads.emplace_back([this] { WorkOn(); });
-        for (std::size_t i = 0; i < count && take(i, Await(i));) ++i;
+        for (std::size_t i = 0; i < count && take(i, Await(i, pause));) ++i;
     }
 
 private:
@@ -78,10 +80,16 @@ private:
         }
     }
 
-    Result Await(std::size_t i) {
+    Result Await(std::size_t i, const Pause& pause) {
         std::unique_lock lock(mutex);
         Slot& slot = results[i % window];
-        changed.wait(lock, [&] { return slot.result || slot.failure; });
+        const auto isThere = [&] { return slot.result || slot.failure; };
+        if (pause && !isThere()) {
+            lock.unlock();
+            pause();
+            lock.lock();
+        }
+        changed.wait(lock, isThere);
         if (slot.failure) std::rethrow_exception(slot.failure);
         Result result(std::move(*slot.result));
         slot.result.reset();

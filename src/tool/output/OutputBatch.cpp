@@ -16,6 +16,9 @@ namespace {
 
 constexpr std::uint64_t maximumBytes = 256 << 20; // that may wait for a sync
 constexpr rlim_t maximumOutputs = 4096;
+// That are worth a sync in a pause.
+constexpr std::uint64_t enoughBytes = 8 << 20;
+constexpr std::size_t enoughOutputs = 512;
 
 // Raises the limit of open files. Returns the number of outputs that may wait: half the limit at most.
 std::size_t RaiseCapacity() {
@@ -49,6 +52,10 @@ void OutputBatch::Add(StagedFile file, bool overwrite, std::string shownPath) {
     waitingBytes += file.GetSize();
     waiting.push_back({std::move(file), overwrite, std::move(shownPath), info.st_dev});
     if (waiting.size() >= capacity || waitingBytes >= maximumBytes) Publish();
+}
+
+void OutputBatch::UsePause() {
+    if (waiting.size() >= enoughOutputs || waitingBytes >= enoughBytes) Publish();
 }
 
 void OutputBatch::Finish() {

@@ -21,6 +21,8 @@ public:
     // Takes over an output; `shownPath` is for error reports. Publishes the waiting outputs when they become
     // too many at once.
     void Add(StagedFile file, bool overwrite, std::string shownPath);
+    // Publishes what waits if that is worth a sync. Call it while other threads make the next outputs.
+    void UsePause();
     // Returns the number of outputs that may wait.
     std::size_t GetCapacity() const { return capacity; }
     // Publishes the waiting outputs and makes all names durable.

@@ -8,6 +8,7 @@
 #include "framework/ui/ChildFrame.h"
 #include "framework/ui/PlaceWindow.h"
 #include "framework/ui/SplitTracker.h"
+#include "image/TavloDocument.h"
 #include "image/ui/InfiniteScrollView.h"
 #include "support/ui/ProgramFixture.h"
 
@@ -68,6 +69,45 @@ TEST_F(CKelTavloAppTest, OffersTheTypesFilterFirst) {
     EXPECT_EQ(filters.back().label, "All Files (*.*)");
 }
 
+TEST_F(CKelTavloAppTest, AsksAboutAChangedFileWhenItsWindowIsActivated) {
+    Start();
+    auto& first = *Open<TavloDocument>(Put("first.wal", MakeWal(16, 8)));
+    auto& second = *Open<TavloDocument>(Put("second.wal", MakeWal(16, 8)));
+    Put("first.wal", MakeWal(32, 8));
+    Put("second.wal", MakeWal(32, 8));
+    QEventLoop loop;
+    const auto ask = [&](const char* words, const QString& button) {
+        const DialogAnswer answer([&](QDialog& dialog) {
+            EXPECT_TRUE(dynamic_cast<QMessageBox&>(dialog).text().contains(words)) << words;
+            FindButton(dialog, button).click();
+            loop.quit();
+        });
+        QApplication::setActiveWindow(nullptr);
+        QApplication::setActiveWindow(&GetMainFrame());
+        loop.exec();
+    };
+    second.SetModifiedFlag();
+    ask("Edit > Undo brings them back", "&Reload");
+    EXPECT_EQ(second.GetTexture().GetWidth(), 32);
+    first.GetFrame()->ActivateFrame();
+    ask("first.wal", "&Keep");
+    EXPECT_EQ(first.GetTexture().GetWidth(), 16);
+    Put("second.wal", MakeWal(64, 8));
+    second.GetFrame()->ActivateFrame();
+    {
+        QDialog open; // the question waits until the dialog is closed
+        QTimer::singleShot(200, &open, &QDialog::reject);
+        open.exec();
+    }
+    EXPECT_EQ(second.GetTexture().GetWidth(), 32);
+    ask("second.wal", "&Reload");
+    EXPECT_EQ(second.GetTexture().GetWidth(), 64);
+    Put("second.wal", MakeWal(8, 8));
+    const DialogAnswer cancel([](QDialog& dialog) { FindButton(dialog, "&Overwrite"), dialog.reject(); });
+    EXPECT_TRUE(Send(ID_FILE_SAVE));
+    EXPECT_EQ(ReadFile(PathTo("second.wal")), MakeWal(8, 8));
+}
+
 TEST_F(CKelTavloAppTest, OpensFilesThatAreDropped) {
     Start();
     const std::string path = Put("caf\xE9%.wal", MakeWal(8, 8)); // not UTF-8
@@ -92,14 +132,15 @@ TEST_F(CKelTavloAppTest, OpensFilesThatAreDropped) {
     EXPECT_TRUE(fs::remove(path)); // Qt cannot remove it
 }
 
-TEST_F(MainFrameTest, AltFOpensTheFileMenuEveryTime) {
+TEST_F(MainFrameTest, MnemonicsOpenTheirMenusEveryTime) {
     Start();
     QApplication::setActiveWindow(&GetMainFrame());
-    for (int i = 0; i < 3; ++i) {
-        QTest::keyClick(&GetMainFrame(), Qt::Key_F, Qt::AltModifier);
+    for (const auto& [key, title] :
+         {std::pair{Qt::Key_F, "&File"}, {Qt::Key_F, "&File"}, {Qt::Key_H, "&Help"}}) {
+        QTest::keyClick(&GetMainFrame(), key, Qt::AltModifier);
         const auto* popup = qobject_cast<QMenu*>(QApplication::activePopupWidget());
         ASSERT_TRUE(popup);
-        EXPECT_EQ(popup->title(), "&File");
+        EXPECT_EQ(popup->title(), title);
         QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
         QTest::keyClick(GetMainFrame().menuBar(), Qt::Key_Escape);
     }

@@ -121,10 +121,17 @@ TEST_F(FileDialogsTest, StartsAsTheLastOneEnded) {
                 ASSERT_TRUE(list && list->model()->rowCount() == 4);
                 list->setCurrentIndex(list->model()->index(3, 0));
                 Press(dialog, QDialogButtonBox::Open);
+            },
+            [&](QDialog& dialog) { // beside the archive, with the proposed name
+                EXPECT_EQ(dynamic_cast<QFileDialog&>(dialog).directory(), QDir(folder.path()));
+                EXPECT_EQ(dialog.findChild<QLineEdit*>("fileNameEdit")->text(), "bitmap1.bmp");
+                dialog.reject();
             });
         Send(ID_FILE_OPEN);
         Send(ID_FILE_OPEN);
         EXPECT_EQ(program.GetRecentFiles().GetPaths().front(), textures + "large.wal");
+        program.GetTemplates().front()->OpenDocumentFile({});
+        Send(ID_FILE_SAVE_AS);
     }
     CKelTavloApp next(ProfileStore(PathTo("settings.ini")));
     next.InitInstance({textures + "a.wal"});

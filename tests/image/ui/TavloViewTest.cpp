@@ -74,6 +74,9 @@ TEST_F(TavloViewTest, PaintsTheTilingFromTheScrollPosition) {
     view->SetScrollY(30);
     EXPECT_EQ(ColorShownAt(9, 5), GetTexture().GetPixel(5, 31));
     EXPECT_EQ(ColorShownAt(9, 8), GetTexture().GetPixel(5, 0));
+    const QImage shown = view->grab().toImage();
+    const QPoint last = shown.rect().bottomRight();
+    EXPECT_EQ(shown.pixel(last), GetTexture().GetPixel((3 + last.x() / 4) % 64, (30 + last.y() / 4) % 32));
     GetTexture().SetSize(8, 8);
     GetTexture().SetPixel(7, 6, 0x00FF8040); // alpha does not hide colors
     document->UpdateAllViews(nullptr);
