@@ -17,10 +17,11 @@ namespace keltavlo {
 
 namespace {
 
-// The recommended order of reading.
-constexpr const char* pages[] = {"index.html",    "first-steps.html", "formats.html",
-                                 "archives.html", "painting.html",    "flags.html",
-                                 "models.html",   "keys.html",        "disabled.html"};
+// The recommended order of reading. Each page ends with links to its neighbors.
+constexpr const char* pages[] = {"index.html",   "open.html",     "seam.html",     "painting.html",
+                                 "save.html",    "flags.html",    "models.html",   "tool.html",
+                                 "formats.html", "archives.html", "palettes.html", "keys.html",
+                                 "disabled.html"};
 
 QUrl UrlOf(const QString& name) {
     return QUrl(QStringLiteral("qrc:/help/") + name);
@@ -57,7 +58,7 @@ HelpWindow::HelpWindow() : topics(new QListWidget), browser(new QTextBrowser) {
     connect(topics, &QListWidget::currentRowChanged,
             [this](int row) { browser->setSource(UrlOf(QString::fromLatin1(pages[row]))); });
     const int character = fontMetrics().averageCharWidth();
-    const QSize wanted(130 * character, 46 * fontMetrics().height());
+    const QSize wanted(160 * character, 46 * fontMetrics().height());
     constexpr double shareOfScreen = 0.9;
     resize(wanted.boundedTo(screen()->availableSize() * shareOfScreen));
     panes->setSizes({topics->sizeHintForColumn(0) + 3 * character, width()});

@@ -35,23 +35,23 @@ struct ContextHelpTest : TavloViewFixture {
 };
 
 TEST_F(ContextHelpTest, TheNextClickOpensThePageOfWhatItHits) {
-    for (const auto& [id, page] : {std::pair<CommandId, const char*>{ID_FILE_OPEN, "first-steps.html"},
-                                   {ID_APP_EXIT, "first-steps.html"},
+    for (const auto& [id, page] : {std::pair<CommandId, const char*>{ID_FILE_OPEN, "open.html"},
+                                   {ID_APP_EXIT, "save.html"},
                                    {ID_EDIT_PROPERTIES, "flags.html"},
                                    {ID_EDIT_CLEAR, "disabled.html"},
                                    {ID_3D_SOLID, "models.html"},
-                                   {ID_COLOR_TABLE_FIRST, "painting.html"},
+                                   {ID_COLOR_TABLE_FIRST, "palettes.html"},
                                    {ID_HELP_FINDER, "index.html"}}) {
         EXPECT_EQ(PageAfterItem(id), page) << id;
         EXPECT_FALSE(QApplication::activePopupWidget());
     }
     EXPECT_TRUE(GetMainFrame().isVisible() && GetMainFrame().MDIGetActive()) << "nothing is carried out";
     auto& filters = *GetMainFrame().findChild<QToolBar*>("bar59398");
-    EXPECT_EQ(PageAfterClick(*filters.widgetForAction(filters.actions().back())), "painting.html");
-    EXPECT_EQ(PageAfterClick(filters, {1, 1}), "painting.html");
-    EXPECT_EQ(PageAfterClick(*GetMainFrame().findChild<QDockWidget*>("bar59401")->widget()), "painting.html");
+    EXPECT_EQ(PageAfterClick(*filters.widgetForAction(filters.actions().back())), "palettes.html");
+    EXPECT_EQ(PageAfterClick(filters, {1, 1}), "palettes.html");
+    EXPECT_EQ(PageAfterClick(*GetMainFrame().findChild<QDockWidget*>("bar59401")->widget()), "palettes.html");
     EXPECT_EQ(program.GetCurrentColor(), 0U) << "the click picks no color";
-    EXPECT_EQ(PageAfterClick(GetMainFrame().GetStatusBar()), "first-steps.html");
+    EXPECT_EQ(PageAfterClick(GetMainFrame().GetStatusBar()), "seam.html");
     EXPECT_EQ(PageAfterClick(*view), "painting.html") << "the page of the active window";
 }
 
