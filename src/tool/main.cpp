@@ -5,12 +5,25 @@
 
 #include <cstdio>
 #include <iostream>
+#include <malloc.h>
 #include <new>
 #include <unistd.h>
 
 using namespace keltavlo;
 
+namespace {
+
+// Pictures come and go one after the other, and new pages from the system cost as much as converting a small
+// one.
+void KeepFreedMemory() {
+    mallopt(M_MMAP_THRESHOLD, 32 << 20); // the most that a thread's heap takes
+    mallopt(M_TRIM_THRESHOLD, 256 << 20);
+}
+
+} // namespace
+
 int main(int argc, char** argv) try {
+    KeepFreedMemory();
     KeepMemoryReserve();
     RemoveAbandonedSaves();
     Tool tool(std::cout, std::cerr, isatty(STDERR_FILENO) != 0);
