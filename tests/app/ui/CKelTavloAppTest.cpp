@@ -213,8 +213,10 @@ TEST_F(MainFrameTest, StartsAsItWasLeft) {
     EXPECT_EQ(layoutOfNext(), left);
     EXPECT_TRUE(left.starts_with("4 8")) << left;
     EXPECT_TRUE(left.ends_with("no palette maximized 60 70 700 550")) << left;
-    // Damaged settings give defaults.
+    // Settings of another version, and damaged ones, give defaults.
     ProfileStore profile(PathTo("settings.ini"));
+    profile.WriteBinary("Application", "RegistryVersion", {std::byte{1}});
+    EXPECT_EQ(layoutOfNext(), usual);
     profile.WriteBinary("ToolBarState", "State", std::vector<std::byte>(900, std::byte{0xFF}));
     profile.WriteBinary("Main", "WindowPlacement", std::vector<std::byte>(44, std::byte{0xFF}));
     EXPECT_EQ(layoutOfNext(), usual);

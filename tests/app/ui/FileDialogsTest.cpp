@@ -181,7 +181,10 @@ std::string InOneLine(const QStringList& names) {
 // Links to pages and pictures that do not exist would differ from the list of files.
 TEST(HelpWindowTest, PagesLeadToEachOther) {
     HelpWindow help;
+    const QAbstractButton& back = FindButton(help, "&Back");
+    EXPECT_FALSE(back.isEnabled());
     help.ShowPage("models.html");
+    EXPECT_TRUE(back.isEnabled());
     auto* topics = help.findChild<QListWidget*>();
     auto* browser = help.findChild<QTextBrowser*>();
     EXPECT_EQ(topics->currentItem()->text(), "Look at a model");

@@ -42,8 +42,11 @@ struct ModelWindowsTest : ProgramFixture {
         while (document->GetViews().size() < windowCount) Send(ID_WINDOW_NEW);
         const std::vector<DocumentView*> views = document->GetViews();
         for (const CommandId arrangement : {ID_WINDOW_TILE_HORZ, ID_WINDOW_TILE_VERT, ID_WINDOW_CASCADE}) {
+            auto& first = dynamic_cast<QWidget&>(*views.front()->GetFrame());
+            first.showMaximized();
             Send(arrangement);
             QCoreApplication::processEvents();
+            EXPECT_FALSE(first.isMaximized());
         }
         for (std::size_t i = 0; i < views.size(); i += 5) {
             CSplitterWnd& splitter = dynamic_cast<ChildFrame&>(*views[i]->GetFrame()).GetSplitter();
