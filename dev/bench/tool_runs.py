@@ -8,7 +8,7 @@ import sys
 import tempfile
 import time
 
-ROUNDS = 5
+ROUNDS = 15
 PILLOW = """
 import pathlib, sys
 from PIL import Image
