@@ -79,8 +79,8 @@ def test_sheet():
     cells = [first.getpixel((8 + 136 * column + 2, 25 + 2)) for column in range(3)]  # bad.tga, t00.tga, t01.tga
     assert cells[0] == (40, 40, 40) and cells[1][0] == cells[1][1] and cells[2] == (200, 0, 0), cells
     assert len({first.getpixel((8 + 136 + x, 26)) for x in range(16)}) == 2, "a checkerboard"
-    stem = [first.getpixel((x, y))[0] > 200 for y in (156, 160) for x in (8, 12)]
-    assert stem == [True, False, True, True], "the b of bad.tga"
+    stem = [first.getpixel((x, y))[0] > 200 for y in (156, 160) for x in (4, 8, 12)]
+    assert stem == [False, True, False, False, True, True], "the b of bad.tga"
     before = (HERE / "sheet.png").read_bytes()
     run("sheet", "set", "sheet.png", code=1)
     run("sheet", "set", "sheet.jpg", code=2)
