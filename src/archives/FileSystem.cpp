@@ -3,6 +3,7 @@
 #include "archives/FolderDocument.h"
 #include "framework/core/CDocTemplate.h"
 #include "framework/core/FileFailure.h"
+#include "framework/core/FileStamp.h"
 #include "framework/core/ReplacingFile.h"
 #include "resources/DocTemplateRegistry.h"
 
@@ -36,11 +37,10 @@ FolderDocument* OpenFolder(const std::string& path) {
 
 // Returns the archive on the disk that the path leads into, or null.
 FolderDocument* FindDiskArchive(const std::string& path) {
-    CFileStatus status;
     for (std::string folder = path; !folder.empty(); folder = ParentOf(folder)) {
         // The disk takes "x.wad/." for the archive itself; here it is an entry called ".".
-        if (FileNameOf(folder) == "." || !CFile::GetStatus(folder, status) || status.IsDirectory()) continue;
-        return folder == path ? nullptr : OpenFolder(status.fullName);
+        if (FileNameOf(folder) == "." || !FileState::Of(folder)) continue;
+        return folder == path ? nullptr : OpenFolder(FullPath(folder));
     }
     return nullptr;
 }

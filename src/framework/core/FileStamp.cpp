@@ -14,6 +14,12 @@ FileState::FileState(const struct stat& info)
     : device(info.st_dev), inode(info.st_ino), size(static_cast<std::uint64_t>(info.st_size)),
       seconds(info.st_mtim.tv_sec), nanoseconds(info.st_mtim.tv_nsec) {}
 
+std::optional<FileState> FileState::Of(const std::string& path) {
+    struct stat info {};
+    const bool isFile = stat(FullPath(path).c_str(), &info) == 0 && S_ISREG(info.st_mode);
+    return isFile ? std::optional<FileState>(info) : std::nullopt;
+}
+
 std::optional<FileState> FileState::Find(const std::string& path) {
     for (std::string place = path; !place.empty(); place = ParentOf(place)) {
         struct stat info {};

@@ -18,6 +18,8 @@ struct FileState {
 
     FileState() = default;
     explicit FileState(const struct stat& info);
+    // Returns the state of the file at the path, or null if there is no ordinary file.
+    static std::optional<FileState> Of(const std::string& path);
     // Returns the state of the file that the path leads to, or of the archive that it leads into. Returns
     // null if there is no such file.
     static std::optional<FileState> Find(const std::string& path);
