@@ -30,11 +30,10 @@ ReadNumbers(const ProfileStore& profile, const std::string& section, const std::
 }
 
 template <std::size_t count>
-void WriteNumbers(ProfileStore& profile, const std::string& section, const std::string& name,
-                  const std::array<std::uint32_t, count>& numbers) {
+ProfileStore::Bytes ToBytes(const std::array<std::uint32_t, count>& numbers) {
     ProfileStore::Bytes bytes(sizeof numbers);
     std::memcpy(bytes.data(), numbers.data(), sizeof numbers);
-    profile.WriteBinary(section, name, bytes);
+    return bytes;
 }
 
 std::uint32_t ToUnits(double gamma) {
@@ -46,8 +45,7 @@ std::uint32_t ToUnits(double gamma) {
 void CheckSettingsVersion(ProfileStore& profile) {
     const auto version = ReadNumbers<1>(profile, applicationSection, versionValue);
     if (version && version->front() == layoutVersion) return;
-    profile.DeleteSubKeys();
-    WriteNumbers<1>(profile, applicationSection, versionValue, {layoutVersion});
+    profile.DeleteSubKeys({{applicationSection, {{versionValue, ToBytes<1>({layoutVersion})}}}});
 }
 
 std::optional<GammaValues> ReadGamma(const ProfileStore& profile) {
@@ -59,8 +57,8 @@ std::optional<GammaValues> ReadGamma(const ProfileStore& profile) {
 }
 
 void WriteGamma(ProfileStore& profile, const GammaValues& values) {
-    WriteNumbers<3>(profile, mainSection, gammaValue,
-                    {ToUnits(values.red), ToUnits(values.green), ToUnits(values.blue)});
+    const std::array units{ToUnits(values.red), ToUnits(values.green), ToUnits(values.blue)};
+    profile.WriteBinary(mainSection, gammaValue, ToBytes(units));
 }
 
 std::optional<CustomColors> ReadCustomColors(const ProfileStore& profile, const std::string& section) {
@@ -68,7 +66,7 @@ std::optional<CustomColors> ReadCustomColors(const ProfileStore& profile, const 
 }
 
 void WriteCustomColors(ProfileStore& profile, const std::string& section, const CustomColors& colors) {
-    WriteNumbers(profile, section, colorsValue, colors);
+    profile.WriteBinary(section, colorsValue, ToBytes(colors));
 }
 
 } // namespace keltavlo

@@ -29,6 +29,9 @@
 #include "res/ShellStrings.h"
 #include "resources/DocTemplateRegistry.h"
 
+#include <QGuiApplication>
+#include <QIcon>
+
 namespace keltavlo {
 
 namespace {
@@ -36,6 +39,13 @@ namespace {
 ProfileStore OfThisVersion(ProfileStore settings) {
     CheckSettingsVersion(settings);
     return settings;
+}
+
+void SetWindowIcon() {
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128})
+        icon.addFile(QStringLiteral(":/icons/keltavlo-%1.png").arg(size));
+    QGuiApplication::setWindowIcon(icon);
 }
 
 } // namespace
@@ -68,7 +78,7 @@ void CKelTavloApp::RegisterWindowClasses() {
 
 bool CKelTavloApp::InitInstance(const std::vector<std::string>& paths) {
     CreateMainFrame();
-    mainFrame->ShowAsLeft();
+    ShowMainFrame();
     desktop.Register(); // the program also runs without it
     return BeginWork(paths);
 }
@@ -90,9 +100,15 @@ void CKelTavloApp::CreateMainFrame() {
     GetFrameFactory()->SetMainFrame(mainFrame.get());
 }
 
+// Decodes the icon's pictures while the user already sees the window.
+void CKelTavloApp::ShowMainFrame() {
+    mainFrame->ShowAsLeft();
+    SetWindowIcon();
+}
+
 void CKelTavloApp::OnDesktopRequest(const std::vector<std::string>& paths) {
     const bool isFirst = !mainFrame->isVisible();
-    if (isFirst) mainFrame->ShowAsLeft();
+    if (isFirst) ShowMainFrame();
     mainFrame->setWindowState(mainFrame->windowState() & ~Qt::WindowMinimized);
     mainFrame->raise();
     mainFrame->activateWindow();

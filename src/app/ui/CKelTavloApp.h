@@ -55,6 +55,7 @@ protected:
 private:
     void RegisterWindowClasses();
     void CreateMainFrame();
+    void ShowMainFrame();
     void OnDesktopRequest(const std::vector<std::string>& paths);
     bool BeginWork(const std::vector<std::string>& paths);
     bool TryOpen(const std::string& path);

@@ -5,7 +5,7 @@
 #include "framework/core/MemoryReserve.h"
 #include "framework/ui/GuardedApplication.h"
 
-#include <QIcon>
+#include <QGuiApplication>
 
 #include <cstdio>
 #include <new>
@@ -63,15 +63,6 @@ int Run(CKelTavloApp& program, const CommandLine& line) try {
     _exit(1);
 }
 
-// The desktop uses the name of the desktop file to find the program's name and icon.
-void NameWindows() {
-    QGuiApplication::setDesktopFileName(QStringLiteral("org.example.keltavlo"));
-    QIcon icon;
-    for (const int size : {16, 24, 32, 48, 64, 128})
-        icon.addFile(QStringLiteral(":/icons/keltavlo-%1.png").arg(size));
-    QGuiApplication::setWindowIcon(icon);
-}
-
 } // namespace
 
 int main(int argc, char** argv) try {
@@ -81,7 +72,8 @@ int main(int argc, char** argv) try {
     if (line.help || line.version || !line.error.empty()) return AnswerOnConsole(line, argc, argv);
     toolkitHandler = qInstallMessageHandler(&HandleMessage);
     const GuardedApplication windows(argc, argv);
-    NameWindows();
+    // The desktop uses the name of the desktop file to find the program's name and icon.
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.example.keltavlo"));
     CKelTavloApp program(ProfileStore("KelTavlo", "KelTavlo"));
     const SuddenEnd suddenEnd;
     return Run(program, line);

@@ -132,9 +132,9 @@ bool ProfileStore::EditSection(const std::string& section, const std::function<v
     });
 }
 
-bool ProfileStore::DeleteSubKeys() {
-    return Change([](Sections& all) {
-        all.clear();
+bool ProfileStore::DeleteSubKeys(const Sections& rest) {
+    return Change([&](Sections& all) {
+        all = rest;
         return true;
     });
 }

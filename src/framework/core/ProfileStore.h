@@ -36,8 +36,8 @@ public:
     Section GetSection(const std::string& section) const;
     // Passes the section's values to `edit` and stores the result. Returns false if it is lost.
     bool EditSection(const std::string& section, const std::function<void(Section&)>& edit);
-    // Deletes every section with everything in it.
-    bool DeleteSubKeys();
+    // Deletes every section with everything in it and stores `rest` instead. Returns false if that is lost.
+    bool DeleteSubKeys(const Sections& rest);
 
 private:
     Sections Load() const;

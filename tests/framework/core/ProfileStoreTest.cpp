@@ -31,7 +31,7 @@ TEST_F(ProfileStoreTest, KeepsValuesForTheNextRun) {
     EXPECT_EQ(ProfileStore(path).ReadBinary("Main", "Value"), three);
     EXPECT_EQ(store.GetProfileBinary("Main", "Value", 3), three);
     for (const std::size_t other : {2U, 4U}) EXPECT_FALSE(store.GetProfileBinary("Main", "Value", other));
-    EXPECT_TRUE(store.DeleteSubKeys());
+    EXPECT_TRUE(store.DeleteSubKeys({}));
     EXPECT_FALSE(store.ReadBinary("Main", "Value"));
 }
 
