@@ -1,7 +1,7 @@
 #include "formats/PCX.h"
 
-#include "formats/ByteReader.h"
 #include "formats/GameTexture.h"
+#include "formats/PCXRows.h"
 #include "image/picture/ColorList.h"
 #include "image/picture/NearestSearch.h"
 #include "image/picture/StoredPixels.h"
@@ -15,6 +15,7 @@
 namespace keltavlo {
 
 using namespace gametexture;
+using namespace pcx;
 
 namespace {
 
@@ -42,14 +43,6 @@ struct Header {
     int Height() const { return bottom - top + 1; }
 };
 static_assert(sizeof(Header) == 128);
-
-// A byte whose two highest bits are set starts a run: its other bits count how often the next byte repeats.
-constexpr unsigned runMark = 0xC0;
-constexpr unsigned maximumRun = 0x3F;
-
-constexpr bool IsRun(unsigned byte) {
-    return (byte & runMark) == runMark;
-}
 
 // The end of a file with a palette.
 constexpr std::uint8_t paletteMark = 12;
@@ -107,34 +100,6 @@ ColorList ReadPalette(InputStream& in, const ColorList& fallback) {
         in.Seek(rows);
     }
     return trailer.mark == paletteMark ? ColorsFromTriples(trailer.colors) : fallback;
-}
-
-void ReadLine(ByteReader& reader, const InputStream& in, std::span<std::uint8_t> line) {
-    std::uint8_t* place = line.data();
-    std::uint8_t* const end = place + line.size();
-    while (place != end) {
-        const std::span<const std::uint8_t> bytes = reader.Peek(2);
-        // The stream has ended, perhaps within a run.
-        if (bytes.empty() || (bytes.size() == 1 && IsRun(bytes[0]))) in.Fail(StreamError::endOfFile);
-        std::size_t used = 0;
-        while (place != end && used < bytes.size()) {
-            const std::uint8_t byte = bytes[used];
-            if (!IsRun(byte)) {
-                *place++ = byte;
-                ++used;
-                continue;
-            }
-            if (used + 1 == bytes.size()) break; // the next Peek returns its value
-            const std::ptrdiff_t count = byte & maximumRun;
-            if (count > end - place) in.Fail(StreamError::badIndex);
-            if (count == 1) // a single pixel of a high index, the most frequent run
-                *place++ = bytes[used + 1];
-            else
-                place = std::fill_n(place, count, bytes[used + 1]);
-            used += 2;
-        }
-        reader.Take(used);
-    }
 }
 
 // Throws badIndex unless there are 256 colors, because the format has only full palettes.
@@ -196,11 +161,10 @@ void ReadPCX(InputStream& in, Texture& texture, const ColorList* palette) {
     const ColorList palette256 = ReadPalette(in, *palette);
     const std::span<const Color> colors = palette256.Colors();
     texture.SetSizeUncleared(header.Width(), header.Height());
-    std::vector<std::uint8_t> line(header.LineSize());
-    ByteReader bytes(in);
+    PCXRows rows(in, header.LineSize(), static_cast<std::size_t>(header.Height()));
     if (texture.indices) texture.indices->assign(1, {});
     for (int y = 0; y < header.Height(); ++y) {
-        ReadLine(bytes, in, line);
+        const std::span<const std::uint8_t> line = rows.Next();
         const std::span<Color> row = texture.Row(y);
         ExpandIndices(line, colors, row);
         if (texture.indices)

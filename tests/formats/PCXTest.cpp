@@ -1,3 +1,4 @@
+#include "formats/PCXRows.h"
 #include "support/CodecHarness.h"
 
 namespace keltavlo {
@@ -71,6 +72,51 @@ TEST_F(PCXTest, RowsMayBeCodedInTheFewestBytes) {
         bytes.pop_back();
         EXPECT_EQ(pcx.ReadFailure(bytes), CArchiveException::endOfFile) << width;
     }
+}
+
+// The file is longer than the pieces that are read and decoded at a time.
+TEST_F(PCXTest, RunsAndSinglePixelsMayFollowEachOtherInAnyOrder) {
+    constexpr int width = 298, height = 150;
+    std::mt19937 random(1);
+    std::vector<std::size_t> pixels;
+    Bytes bytes = FileOf(width, height, {});
+    while (pixels.size() < std::size_t{width} * height) {
+        const std::size_t left = width - pixels.size() % width;
+        const std::size_t count = std::min<std::size_t>(random() % 9 == 0 ? random() % 64 : 1, left);
+        const auto index = static_cast<std::uint8_t>(random());
+        if (count != 1 || index >= 0xC0) bytes.push_back(static_cast<std::byte>(0xC0 + count));
+        bytes.push_back(std::byte{index});
+        pixels.insert(pixels.end(), count, index);
+    }
+    EXPECT_EQ(Indices(bytes), pixels);
+}
+
+TEST_F(PCXTest, KernelsDecodeSinglePixelsUntilTheLastByte) {
+    using Plane = std::vector<std::uint8_t>;
+    std::mt19937 random(1);
+    for (const PCXKernels* kernels : AvailableKernels<PCXKernels>())
+        for (std::size_t count = 0; count < 150; ++count)
+            for (const Plane& next : {Plane{}, {0xC1}, {0xC2, 0xC1}})
+                for (const std::size_t roomSize : {count / 2, count, count + 40}) {
+                    Plane pixels(count), coded, room(roomSize);
+                    for (std::uint8_t& pixel : pixels) {
+                        pixel = static_cast<std::uint8_t>(random());
+                        if (pixel >= 0xC0 || pixel % 8 == 0) coded.push_back(0xC1);
+                        coded.push_back(pixel);
+                    }
+                    const std::size_t singles = coded.size();
+                    coded.insert(coded.end(), next.begin(), next.end());
+                    coded.shrink_to_fit();
+                    PCXKernels::Rest rest{coded.data(), coded.data() + coded.size(), room.data(),
+                                          room.data() + roomSize};
+                    kernels->decodeSingles(rest);
+                    const std::size_t decoded = std::min(roomSize, count);
+                    ASSERT_EQ(rest.room, room.data() + decoded);
+                    ASSERT_TRUE(std::equal(room.data(), rest.room, pixels.data()));
+                    if (decoded == count) {
+                        ASSERT_EQ(rest.coded, coded.data() + singles);
+                    }
+                }
 }
 
 TEST_F(PCXTest, AFileWithoutAPaletteGetsTheDefaultOne) {

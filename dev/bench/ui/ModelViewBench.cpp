@@ -163,7 +163,7 @@ BENCHMARK(DrawModelBare)->Unit(benchmark::kMicrosecond)->UseRealTime();
 } // namespace
 
 int main(int argumentCount, char** arguments) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argumentCount, arguments);
     benchmark::Initialize(&argumentCount, arguments);
     benchmark::RunSpecifiedBenchmarks();

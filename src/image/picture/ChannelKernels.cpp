@@ -21,7 +21,7 @@ constexpr ChannelKernels lookupKernels{ProcessorFeature::none, nullptr, ApplyByL
 #if defined(__x86_64__)
 
 constexpr std::size_t shuffledPixels = 32;
-constexpr std::size_t permutedPixels = 16;
+constexpr std::size_t permutedPixels = 64;
 
 // Four vectors of pixels, or of single channels.
 struct Vectors {
@@ -156,29 +156,78 @@ void ArrangeForShuffles(ChannelPlanes& channels) {
 
 constexpr ChannelKernels shuffleKernels{ProcessorFeature::avx2, ArrangeForShuffles, ApplyByShuffles};
 
-// Replaces the bytes of one channel. The two byte masks select the bytes for each half of the table.
-[[gnu::target("avx512f,avx512bw,avx512vbmi")]] inline __m512i
-Permute(const ChannelPlanes::Plane& plane, __m512i pixels, __mmask64 lowerHalf, __mmask64 upperHalf) {
-    const __m512i lower = _mm512_mask2_permutex2var_epi8(_mm512_load_si512(&plane[0]), pixels, lowerHalf,
-                                                         _mm512_load_si512(&plane[64]));
-    return _mm512_mask2_permutex2var_epi8(_mm512_load_si512(&plane[128]), lower, upperHalf,
-                                          _mm512_load_si512(&plane[192]));
+// Sixteen pixels each.
+struct WideVectors {
+    __m512i rows[4];
+};
+
+// Exchanges the odd pieces of the first vector, of one or two bytes, with the even pieces of the second.
+template <int pieceBytes>
+[[gnu::target("avx512f,avx512bw,avx512vbmi")]] inline void ExchangePieces(__m512i& first, __m512i& second) {
+    constexpr __mmask64 even = pieceBytes == 1 ? 0x5555555555555555 : 0x3333333333333333;
+    const __m512i neighbors = pieceBytes == 1
+                                  ? _mm512_set4_epi32(0x0E0F0C0D, 0x0A0B0809, 0x06070405, 0x02030001)
+                                  : _mm512_set4_epi32(0x0D0C0F0E, 0x09080B0A, 0x05040706, 0x01000302);
+    const __m512i oldFirst = first;
+    first = _mm512_mask_shuffle_epi8(first, ~even, second, neighbors);
+    second = _mm512_mask_shuffle_epi8(second, even, oldFirst, neighbors);
 }
 
+// Turns 64 pixels into one vector per channel and back: byte k of a pixel in vector i changes places with
+// byte i of the pixel in vector k.
+[[gnu::target("avx512f,avx512bw,avx512vbmi")]] inline void Transpose(WideVectors& vectors) {
+    auto& rows = vectors.rows;
+    ExchangePieces<2>(rows[0], rows[2]);
+    ExchangePieces<2>(rows[1], rows[3]);
+    ExchangePieces<1>(rows[0], rows[1]);
+    ExchangePieces<1>(rows[2], rows[3]);
+}
+
+[[gnu::target("avx512f,avx512bw,avx512vbmi")]] inline __m512i Permute(const ChannelPlanes::Plane& plane,
+                                                                      __m512i values) {
+    const __m512i lower =
+        _mm512_permutex2var_epi8(_mm512_load_si512(&plane[0]), values, _mm512_load_si512(&plane[64]));
+    const __m512i upper =
+        _mm512_permutex2var_epi8(_mm512_load_si512(&plane[128]), values, _mm512_load_si512(&plane[192]));
+    return _mm512_mask_mov_epi8(lower, _mm512_movepi8_mask(values), upper);
+}
+
+// Maps the first channels of 64 pixels and keeps the others.
+template <std::size_t channelCount>
+[[gnu::target("avx512f,avx512bw,avx512vbmi")]] inline void PermuteGroup(const ChannelPlanes& channels,
+                                                                        const Color* input, Color* output) {
+    WideVectors vectors;
+#pragma GCC unroll 4
+    for (std::size_t row = 0; row < 4; ++row)
+        vectors.rows[row] = _mm512_loadu_si512(input + permutedPixels / 4 * row);
+    Transpose(vectors);
+#pragma GCC unroll 4
+    for (std::size_t channel = 0; channel < channelCount; ++channel)
+        vectors.rows[channel] = Permute(channels.planes[channel], vectors.rows[channel]);
+    Transpose(vectors);
+#pragma GCC unroll 4
+    for (std::size_t row = 0; row < 4; ++row)
+        _mm512_storeu_si512(output + permutedPixels / 4 * row, vectors.rows[row]);
+}
+
+template <std::size_t channelCount>
 [[gnu::target("avx512f,avx512bw,avx512vbmi")]] void
-ApplyByPermutes(const ChannelPlanes& channels, std::span<const Color> input, std::span<Color> output) {
+PermuteChannels(const ChannelPlanes& channels, std::span<const Color> input, std::span<Color> output) {
     const std::size_t count = input.size() / permutedPixels * permutedPixels;
-    for (std::size_t i = 0; i < count; i += permutedPixels) {
-        __m512i pixels = _mm512_loadu_si512(input.data() + i);
-        const __mmask64 upperHalf = _mm512_movepi8_mask(pixels);
-        for (std::size_t channel = 0; channel < 4; ++channel) {
-            if (!channels.changes[channel]) continue;
-            const __mmask64 bytes = __mmask64{0x1111111111111111} << channel;
-            pixels = Permute(channels.planes[channel], pixels, bytes & ~upperHalf, bytes & upperHalf);
-        }
-        _mm512_storeu_si512(output.data() + i, pixels);
-    }
-    ApplyByLookups(channels, input.subspan(count), output.subspan(count));
+    for (std::size_t i = 0; i < count; i += permutedPixels)
+        PermuteGroup<channelCount>(channels, input.data() + i, output.data() + i);
+    if (count == input.size()) return;
+    std::array<Color, permutedPixels> rest{};
+    std::ranges::copy(input.subspan(count), rest.begin());
+    PermuteGroup<channelCount>(channels, rest.data(), rest.data());
+    std::copy_n(rest.begin(), input.size() - count, output.begin() + static_cast<std::ptrdiff_t>(count));
+}
+
+void ApplyByPermutes(const ChannelPlanes& channels, std::span<const Color> input, std::span<Color> output) {
+    if (channels.changes[3])
+        PermuteChannels<4>(channels, input, output);
+    else
+        PermuteChannels<3>(channels, input, output);
 }
 
 constexpr ChannelKernels permuteKernels{ProcessorFeature::avx512Vbmi, nullptr, ApplyByPermutes};

@@ -80,7 +80,7 @@ Image Image::ResizedPicture(int newWidth, int newHeight) const {
 }
 
 void Image::MakeHalfSize(Image& output) const {
-    output.SetSize((width + 1) >> 1, (height + 1) >> 1);
+    output.SetSizeUncleared((width + 1) >> 1, (height + 1) >> 1);
     const std::size_t columns = Side(width);
     const std::size_t pairs = Side(height / 2);
     HalveRowPairs({pixels.data(), columns, pairs, columns, output.pixels.data()});

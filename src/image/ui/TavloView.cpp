@@ -44,7 +44,7 @@ void TavloView::OnCreate() {
 }
 
 void TavloView::OnUpdate(DocumentView*, std::intptr_t, CObject* hintObject) {
-    if (!shown) return;
+    if (!shown || endsStroke) return;
     if (const auto* texel = dynamic_cast<const TexelChange*>(hintObject)) return RepaintTexel(*texel);
     converted.Invalidate();
     update();
@@ -97,12 +97,16 @@ void TavloView::PaintArea(const Image& picture, const std::uint32_t* table, cons
     painter.drawImage(area.topLeft(), surface, area);
 }
 
-void TavloView::RepaintTexel(const TexelChange& texel) {
+// If memory runs out, the next paint shows the texel.
+void TavloView::RepaintTexel(const TexelChange& texel) try {
     const QRegion region = FindTexels(converted.UpdateTexel(shown->GetTexture(), texel.x, texel.y));
     if (captured)
         repaint(region);
     else
         update(region);
+} catch (const std::bad_alloc&) {
+    update();
+    throw;
 }
 
 // Returns the area in whole widget units that covers the texels' screen pixels.

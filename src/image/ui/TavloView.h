@@ -24,7 +24,8 @@ public:
 
     void OnCreate() override;
     void OnDestroy() override { shown = nullptr; }
-    // Repaints a changed texel at once in the view that strokes, and with the next events in the others.
+    // Repaints a changed texel at once in the view that strokes, and with the next events in the others. The
+    // end of its own stroke changes nothing.
     void OnUpdate(DocumentView* sender, std::intptr_t hint, CObject* hintObject) override;
     void OnActivateView(bool activate, CView* activated, CView* deactivated) override;
 
@@ -73,6 +74,7 @@ private:
     ConvertedPicture converted;
     QImage surface;           // the last painted screen pixels; kept to reuse the memory
     bool captured = false;    // during a stroke: the view has the mouse until the button is released
+    bool endsStroke = false;  // during the update that ends a stroke, whose texels the view shows already
     unsigned shownCursor = 0; // the brush's number of the current cursor
     int wheelRemainder = 0;   // wheel movement too small for a zoom step so far
     QPoint scrollRemainder{}; // and too small for scrolling by a texel, in 1/120 of a screen pixel

@@ -13,6 +13,7 @@
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScopedValueRollback>
 #include <QWheelEvent>
 
 #include <cmath>
@@ -71,6 +72,7 @@ void TavloView::ApplyBrush(const TexelPoint& texel) {
 
 void TavloView::EndStroke() {
     captured = false;
+    const QScopedValueRollback ending(endsStroke, true);
     if (shown) shown->SetModifiedAndUpdate(true);
 }
 

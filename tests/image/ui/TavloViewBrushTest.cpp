@@ -63,6 +63,9 @@ TEST_F(TavloViewBrushTest, StrokesRepaintWhatTheyChangeInAllViews) {
     Drag({10, 6});
     EXPECT_TRUE(painted.region.isEmpty()) << "the texel has that color already";
     Release({10, 6});
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(painted.region.isEmpty()) << "the steps have shown the whole stroke";
+    EXPECT_TRUE(document->IsModified());
 }
 
 TEST_F(TavloViewBrushTest, OnlyTheLeftButtonPaintsAndOnlyWithABrush) {

@@ -25,4 +25,12 @@ TEST_F(TavloViewFaults, WithoutMemoryAViewSaysSoAndEditsChangeNothing) {
     EXPECT_EQ(ColorShownAt(9, 9), 0xFFFFFFFF);
 }
 
+TEST_F(TavloViewFaults, AStepOfAStrokeThatLacksMemoryIsPaintedAfterwards) {
+    if (!allocationsCanFail) GTEST_SKIP();
+    EventSpy painted(*view);
+    EXPECT_TRUE(RunWithFault(Step::allocation, 1, false, [&] { document->SetTexel(9, 9, 0); }).wasHit);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(painted.region.contains(QPoint(9, 9)));
+}
+
 } // namespace keltavlo
