@@ -11,9 +11,10 @@ namespace keltavlo {
 std::atomic<std::ptrdiff_t> liveAllocations = 0;
 
 bool Fault::Hits(Step step) noexcept {
-    if (!current || current->step != step) return false;
-    ++current->count;
-    return current->lasting ? current->HasHit() : current->count == current->first;
+    Fault* const fault = current;
+    if (!fault || fault->step != step) return false;
+    const unsigned count = ++fault->count;
+    return fault->lasting ? count >= fault->first : count == fault->first;
 }
 
 } // namespace keltavlo
@@ -42,6 +43,9 @@ ssize_t write(int file, const void* bytes, std::size_t count) {
 }
 int fsync(int) { // the disk itself takes time, and no test pulls its plug
     return static_cast<int>(Call(Step::flush, SYS_getpid)) < 0 ? -1 : 0;
+}
+int syncfs(int) noexcept {
+    return fsync(0);
 }
 int rename(const char* from, const char* to) noexcept {
     return static_cast<int>(Call(Step::rename, SYS_rename, from, to));

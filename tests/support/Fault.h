@@ -9,7 +9,7 @@ namespace keltavlo {
 // Steps that can fail. A large allocation takes 64 KiB or more.
 enum class Step { read, write, shortWrite, flush, rename, allocation, largeAllocation };
 
-// While it lives, makes a step of this thread fail the `first`-th time and, if lasting, each later time.
+// While it lives, makes a step fail in any thread the `first`-th time and, if lasting, each later time.
 class Fault {
 public:
     Fault(Step failingStep, unsigned firstTime, bool lasts)
@@ -23,11 +23,11 @@ public:
     unsigned GetCount() const { return count; } // of such steps so far
 
 private:
-    static inline thread_local Fault* current = nullptr;
+    static inline std::atomic<Fault*> current = nullptr;
     Step step;
     unsigned first;
     bool lasting;
-    unsigned count = 0;
+    std::atomic<unsigned> count = 0;
 };
 
 struct FaultOutcome {
