@@ -16,7 +16,7 @@ std::string SizeText(int width, int height) {
 
 } // namespace
 
-FileFacts::FileFacts() : json(std::make_unique<nlohmann::ordered_json>()) {}
+FileFacts::FileFacts() : json(std::make_unique<nlohmann::ordered_json>(nlohmann::ordered_json::object())) {}
 
 FileFacts::~FileFacts() = default;
 
@@ -55,12 +55,19 @@ void FileFacts::AddFlags(const char* key, std::uint32_t flags, const std::string
 
 void FileFacts::AppendText(const std::string& label, const char* key, const std::string& text) {
     AddLine(label, EscapeName(text));
-    (*json)[key].push_back(EscapeName(text));
+    ListOf(key).push_back(EscapeName(text));
 }
 
 void FileFacts::AppendSize(const std::string& label, const char* key, int width, int height) {
     AddLine(label, SizeText(width, height));
-    (*json)[key].push_back({{"width", width}, {"height", height}});
+    ListOf(key).push_back({{"width", width}, {"height", height}});
+}
+
+// A value that becomes a list with its first element crashes in its destructor if memory runs out meanwhile.
+nlohmann::ordered_json& FileFacts::ListOf(const char* key) {
+    nlohmann::ordered_json& list = (*json)[key];
+    if (list.is_null()) list = nlohmann::ordered_json::array();
+    return list;
 }
 
 void FileFacts::Print(std::ostream& out) const {

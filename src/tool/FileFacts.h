@@ -34,6 +34,7 @@ public:
 
 private:
     void AddLine(const std::string& label, const std::string& text);
+    nlohmann::ordered_json& ListOf(const char* key);
 
     std::string lines;
     std::unique_ptr<nlohmann::ordered_json> json;

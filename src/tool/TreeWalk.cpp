@@ -3,6 +3,7 @@
 #include "archives/FolderDocument.h"
 #include "framework/core/DiskFile.h"
 #include "framework/core/FileFailure.h"
+#include "framework/core/FolderNames.h"
 #include "framework/core/Path.h"
 #include "framework/core/Text.h"
 #include "tool/EntryTypes.h"
@@ -29,9 +30,9 @@ bool StaysInside(const std::string& component) {
 }
 
 std::vector<std::string> NamesOnDisk(const std::string& folder) {
-    std::vector<std::string> names;
-    for (const fs::directory_entry& entry : fs::directory_iterator(ToNativePath(folder)))
-        names.push_back(entry.path().filename().string());
+    std::error_code failure;
+    std::vector<std::string> names = NamesInFolder(ToNativePath(folder), failure);
+    if (failure) throw std::system_error(failure);
     std::sort(names.begin(), names.end());
     return names;
 }
@@ -75,7 +76,7 @@ private:
                                  "\": it leads back to a folder above it.");
             way.push_back(real);
             names = NamesOnDisk(folder);
-        } catch (const fs::filesystem_error& failure) {
+        } catch (const std::system_error& failure) {
             return tool.Fail("Cannot read the folder \"" + ToDisplayPath(folder) +
                              "\": " + failure.code().message() + ".");
         }

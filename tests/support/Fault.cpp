@@ -1,8 +1,13 @@
 #include "support/Fault.h"
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <dlfcn.h>
+#include <exception>
+#include <execinfo.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -10,10 +15,16 @@ namespace keltavlo {
 
 std::atomic<std::ptrdiff_t> liveAllocations = 0;
 
+bool Fault::Watches(Step step) noexcept {
+    const Fault* const fault = current;
+    return fault && fault->step == step;
+}
+
 bool Fault::Hits(Step step) noexcept {
-    if (!current || current->step != step) return false;
-    ++current->count;
-    return current->lasting ? current->HasHit() : current->count == current->first;
+    if (!Watches(step)) return false;
+    Fault* const fault = current;
+    const unsigned count = ++fault->count;
+    return fault->lasting ? count >= fault->first : count == fault->first;
 }
 
 } // namespace keltavlo
@@ -43,19 +54,59 @@ ssize_t write(int file, const void* bytes, std::size_t count) {
 int fsync(int) { // the disk itself takes time, and no test pulls its plug
     return static_cast<int>(Call(Step::flush, SYS_getpid)) < 0 ? -1 : 0;
 }
+int syncfs(int) noexcept {
+    return fsync(0);
+}
 int rename(const char* from, const char* to) noexcept {
     return static_cast<int>(Call(Step::rename, SYS_rename, from, to));
 }
 }
 
 #ifndef __SANITIZE_ADDRESS__
-void* operator new(std::size_t size) {
+namespace {
+
+// The library or program around some code.
+dl_find_object LibraryOf(const void* code) {
+    dl_find_object library{};
+    _dl_find_object(const_cast<void*>(code), &library);
+    return library;
+}
+
+bool IsIn(const dl_find_object& library, const void* code) {
+    return code >= library.dlfo_map_start && code < library.dlfo_map_end;
+}
+
+// Whether the code belongs to the program, or to the standard library when the program calls it.
+bool IsOwn(const void* code) {
+    static const dl_find_object program = LibraryOf(reinterpret_cast<const void*>(&LibraryOf)),
+                                standard = LibraryOf(reinterpret_cast<const void*>(&std::terminate));
+    if (!IsIn(standard, code)) return IsIn(program, code);
+    std::array<void*, 32> frames{};
+    backtrace(frames.data(), static_cast<int>(frames.size()));
+    const auto isStandard = [](const void* frame) { return IsIn(standard, frame); };
+    const auto first = std::ranges::find_if(frames, isStandard);
+    const auto caller = std::find_if_not(first, frames.end(), isStandard);
+    return caller != frames.end() && IsIn(program, *caller);
+}
+
+void* Allocate(std::size_t size, const void* caller) {
     constexpr std::size_t large = 64 << 10;
-    const bool fails = Fault::Hits(Step::allocation) || (size >= large && Fault::Hits(Step::largeAllocation));
+    const bool fails =
+        Fault::Hits(Step::allocation) || (size >= large && Fault::Hits(Step::largeAllocation)) ||
+        (Fault::Watches(Step::ownAllocation) && IsOwn(caller) && Fault::Hits(Step::ownAllocation));
     void* memory = fails ? nullptr : std::malloc(size);
     if (!memory) throw std::bad_alloc();
     ++liveAllocations;
     return memory;
+}
+
+} // namespace
+
+void* operator new(std::size_t size) {
+    return Allocate(size, __builtin_return_address(0));
+}
+void* operator new[](std::size_t size) {
+    return Allocate(size, __builtin_return_address(0));
 }
 void operator delete(void* memory) noexcept {
     if (memory) --liveAllocations;

@@ -7,9 +7,10 @@
 namespace keltavlo {
 
 // Steps that can fail. A large allocation takes 64 KiB or more.
-enum class Step { read, write, shortWrite, flush, rename, allocation, largeAllocation };
+// The program's own are those that no other library asks for, except the standard library.
+enum class Step { read, write, shortWrite, flush, rename, allocation, largeAllocation, ownAllocation };
 
-// While it lives, makes a step of this thread fail the `first`-th time and, if lasting, each later time.
+// While it lives, makes a step fail in any thread the `first`-th time and, if lasting, each later time.
 class Fault {
 public:
     Fault(Step failingStep, unsigned firstTime, bool lasts)
@@ -18,16 +19,29 @@ public:
     }
     ~Fault() { current = nullptr; }
 
+    static bool Watches(Step step) noexcept;
     static bool Hits(Step step) noexcept;
     bool HasHit() const { return count >= first; }
     unsigned GetCount() const { return count; } // of such steps so far
 
 private:
-    static inline thread_local Fault* current = nullptr;
+    friend class FaultPause;
+
+    static inline std::atomic<Fault*> current = nullptr;
     Step step;
     unsigned first;
     bool lasting;
-    unsigned count = 0;
+    std::atomic<unsigned> count = 0;
+};
+
+// While it lives, no step fails or is counted.
+class FaultPause {
+public:
+    FaultPause() : paused(Fault::current.exchange(nullptr)) {}
+    ~FaultPause() { Fault::current = paused; }
+
+private:
+    Fault* paused;
 };
 
 struct FaultOutcome {

@@ -50,7 +50,7 @@ FileTypeProvider::FileTypeProvider()
     : fileIcon(icon(File)), folderIcon(icon(Folder)), folderType(TypeNameOfFolder()) {
     for (const CDocTemplate* document : CWinApp::Get().GetTemplates()) {
         const std::string extension = document->GetDocString(CDocTemplate::filterExt);
-        types.insert(ToQString(extension).mid(1).toLower(), TypeNameOfFile("x" + extension));
+        types[ToQString(extension).mid(1).toLower()] = TypeNameOfFile("x" + extension);
     }
 }
 
@@ -60,8 +60,8 @@ QIcon FileTypeProvider::icon(const QFileInfo& file) const {
 
 QString FileTypeProvider::type(const QFileInfo& file) const {
     if (file.isDir()) return folderType;
-    const auto known = types.constFind(file.suffix().toLower());
-    if (known != types.constEnd()) return *known;
+    const auto known = types.find(file.suffix().toLower());
+    if (known != types.end()) return known->second;
     const QMimeDatabase database;
     return database.mimeTypeForFile(file.fileName(), QMimeDatabase::MatchExtension).comment();
 }

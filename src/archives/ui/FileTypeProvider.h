@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QFileIconProvider>
-#include <QHash>
 
+#include <map>
 #include <string>
 
 namespace keltavlo {
@@ -25,7 +25,8 @@ public:
 private:
     QIcon fileIcon, folderIcon;
     QString folderType;
-    QHash<QString, QString> types; // of the program's documents, by lower-case extension
+    // Of the program's documents, by lower-case extension. (QHash ends the program if it gets no memory.)
+    std::map<QString, QString> types;
 };
 
 } // namespace keltavlo

@@ -31,12 +31,20 @@ void TryUpdate(DocumentView& view, DocumentView* sender, std::intptr_t hint, COb
 
 void CDocument::SetTitle(const std::string& newTitle) {
     title = newTitle;
-    if (DocumentFrame* frame = GetFrame()) frame->OnTitleChanged();
+    UpdateFrameTitle();
 }
 
 void CDocument::SetModifiedFlag(bool on) {
-    if (std::exchange(modified, on) == on) return;
-    if (DocumentFrame* frame = GetFrame()) frame->OnTitleChanged();
+    if (std::exchange(modified, on) != on) UpdateFrameTitle();
+}
+
+// The document has changed already, so the rest of the change must follow.
+void CDocument::UpdateFrameTitle() {
+    try {
+        if (DocumentFrame* frame = GetFrame()) frame->OnTitleChanged();
+    } catch (const std::bad_alloc&) {
+        UserInterface::Get().ReportMemoryShortage();
+    }
 }
 
 void CDocument::SetPathName(const std::string& path, bool addToRecentFiles) {
@@ -79,14 +87,23 @@ bool CDocument::OnSaveDocument(const std::string& path) {
         archive.Flush();
         const std::uint64_t digest = KeepsStamp() ? DigestOf(*file) : 0;
         file->Close();
-        if (KeepsStamp()) stamp = {FileState::Find(path), digest};
-        SetModifiedFlag(false);
+        NoteSaved(path, digest);
         return true;
     } catch (const std::exception& failure) {
         if (file) file->Abort();
         Report(Direction::saving, path, failure);
         return false;
     }
+}
+
+// The file is written, so a failure here is none of the save. Without a stamp, the file counts as unchanged.
+void CDocument::NoteSaved(const std::string& path, std::uint64_t digest) {
+    stamp.reset();
+    try {
+        if (KeepsStamp()) stamp = {FileState::Find(path), digest};
+    } catch (const std::bad_alloc&) {
+    }
+    SetModifiedFlag(false);
 }
 
 void CDocument::OnCloseDocument() {

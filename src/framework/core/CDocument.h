@@ -95,6 +95,8 @@ private:
     ChangedFile DescribeChange(bool saving) const;
     void Load(CFile& file);
     void Reload();
+    void NoteSaved(const std::string& path, std::uint64_t digest);
+    void UpdateFrameTitle();
 
     std::string title;
     std::string pathName;

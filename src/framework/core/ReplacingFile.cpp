@@ -87,8 +87,9 @@ void ReplacingFile::Close() {
     if (existed) TakeOverAttributes(temporary.GetDescriptor(), old, target);
     WriteAll(temporary.GetDescriptor(), Bytes(), target);
     if (fsync(temporary.GetDescriptor()) != 0) ThrowErrno(target);
-    temporary.RenameTo(target);
-    FlushFolder(ParentOf(target));
+    const std::string folder = ParentOf(target);
+    temporary.RenameTo(target); // nothing may fail after this
+    FlushFolder(folder);
 }
 
 std::unique_ptr<CFile> OpenDiskFile(const std::string& path, unsigned flags) {

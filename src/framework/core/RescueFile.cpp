@@ -1,5 +1,6 @@
 #include "framework/core/RescueFile.h"
 
+#include "framework/core/FolderNames.h"
 #include "framework/core/ReplacingFile.h"
 #include "framework/core/TemporaryFile.h"
 
@@ -44,14 +45,15 @@ RescueFile::RescueFile(const std::string& folder, std::span<const std::byte> byt
 std::vector<RescueFile> RescueFile::TakeAbandoned(const std::string& folder) {
     std::vector<RescueFile> files;
     std::error_code failed;
-    for (const fs::directory_entry& entry : fs::directory_iterator(folder, failed)) {
-        if (entry.path().extension() != rescueSuffix) continue;
-        Descriptor file(open(entry.path().c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    for (const std::string& name : NamesInFolder(folder, failed)) {
+        if (!name.ends_with(rescueSuffix)) continue;
+        const std::string path = folder + "/" + name;
+        Descriptor file(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
         if (!file.IsOpen() || flock(file.Get(), LOCK_EX | LOCK_NB) != 0) continue;
         struct stat info {};
         // Another program may have removed the file before this one locked it.
         if (fstat(file.Get(), &info) != 0 || !S_ISREG(info.st_mode) || info.st_nlink == 0) continue;
-        files.push_back(RescueFile(entry.path().string(), std::move(file)));
+        files.push_back(RescueFile(path, std::move(file)));
     }
     std::ranges::sort(files, {}, [](const RescueFile& file) { return TimeIn(file.path); });
     return files;

@@ -1,5 +1,6 @@
 #include "framework/core/SaveJournal.h"
 
+#include "framework/core/FolderNames.h"
 #include "framework/core/Text.h"
 
 #include <QStandardPaths>
@@ -84,12 +85,14 @@ void SaveRecord::Add(const std::string& temporary) {
 
 void RemoveAbandonedSaves() {
     std::error_code failed;
-    for (const fs::directory_entry& entry : fs::directory_iterator(JournalFolder(), failed)) {
-        const Descriptor record(open(entry.path().c_str(), O_RDONLY | O_CLOEXEC));
+    const fs::path folder = JournalFolder();
+    for (const std::string& name : NamesInFolder(folder, failed)) {
+        const fs::path path = folder / name;
+        const Descriptor record(open(path.c_str(), O_RDONLY | O_CLOEXEC));
         if (!record.IsOpen() || flock(record.Get(), LOCK_EX | LOCK_NB) != 0) continue;
         RemoveListed(record);
         // Removed under the lock, so that a save that has just created the record sees that it is gone.
-        unlink(entry.path().c_str());
+        unlink(path.c_str());
     }
 }
 

@@ -19,7 +19,11 @@ namespace {
 // The window around a sheet that runs on its own. The sheet is its child only while it runs.
 class SheetDialog : public QDialog {
 public:
-    SheetDialog(CPropertySheet& guest, QWidget* owner) : QDialog(owner), sheet(guest) {
+    SheetDialog(CPropertySheet& guest, QWidget* owner) : QDialog(owner), sheet(guest) {}
+    ~SheetDialog() override { sheet.setParent(nullptr); }
+
+    // Not in the constructor: if that failed, Qt would delete the sheet with the dialog's other children.
+    void SetUp() {
         auto* column = new QVBoxLayout(this);
         column->addWidget(&sheet);
         column->addWidget(&buttons);
@@ -27,8 +31,6 @@ public:
         connect(&buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
         connect(GetApplyButton(), &QPushButton::clicked, this, [this] { sheet.Apply(); });
     }
-    ~SheetDialog() override { sheet.setParent(nullptr); }
-
     QPushButton* GetApplyButton() const { return buttons.button(QDialogButtonBox::Apply); }
     void accept() override {
         if (sheet.Apply()) QDialog::accept();
@@ -98,6 +100,7 @@ void CPropertySheet::RemovePage(CPropertyPage& page) {
 void CPropertySheet::DoModal() {
     const NormalCursor arrow;
     SheetDialog dialog(*this, owner);
+    dialog.SetUp();
     dialog.setWindowTitle(windowTitle());
     applyButton = dialog.GetApplyButton();
     UpdateApplyButton();

@@ -93,10 +93,10 @@ void StagedFile::Open(TemporaryNames& names) {
             ThrowErrno(target);
         }
     }
-    const std::string path = names.Next(target);
+    std::string path = names.Next(target);
     descriptor = Descriptor(open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, mode));
     if (descriptor.IsOpen())
-        temporary = path;
+        temporary = std::move(path); // a copy could fail and leave the file
     else if (errno != EACCES || IsMissing(target))
         ThrowErrno(target);
 }
@@ -132,9 +132,9 @@ void StagedFile::Replace() {
     }
     if (existed) TakeOverAttributes(descriptor.Get(), old, target);
     if (temporary.empty()) {
-        const std::string path = temporaryNames->Next(target);
+        std::string path = temporaryNames->Next(target);
         if (!LinkUnnamed(descriptor, path)) ThrowErrno(target);
-        temporary = path;
+        temporary = std::move(path);
     }
     if (rename(temporary.c_str(), target.c_str()) != 0) ThrowErrno(target);
     temporary.clear();
