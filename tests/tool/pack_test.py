@@ -168,6 +168,10 @@ def main():
     check_pixels("WAD2", made, textures, quake)
     check_trip("wad2.wad", {escaped[name]: texture for name, texture in textures.items()})
 
+    run("pack", "textures", "quake.wad", "--palette", "quake")
+    for _, lump in read_wad(HERE / "quake.wad")[1].values():
+        read_texture(lump)  # a WAD3 contains palettes, whichever they are
+
     files = read_pak(HERE / "wals.pak")
     textures = {}
     for path, wal in files.items():
