@@ -24,6 +24,32 @@ QString IdOf(const QWidget& control) {
     return {};
 }
 
+// Returns how the widget shows its texts and treats what the user does, as far as that differs from the
+// usual.
+QString MannersOf(const QWidget& widget) {
+    QString manners;
+    for (const auto& [name, usual] : {std::pair("alignment", 0x81),
+                                      {"textFormat", 2},
+                                      {"wordWrap", 0},
+                                      {"frameShape", 0},
+                                      {"selectionMode", 1},
+                                      {"editTriggers", 0},
+                                      {"rootIsDecorated", 0},
+                                      {"uniformRowHeights", 1},
+                                      {"textElideMode", 1},
+                                      {"isWrapping", 0},
+                                      {"flow", 0},
+                                      {"pageStep", 10},
+                                      {"tickInterval", 0},
+                                      {"tabChangesFocus", 1},
+                                      {"openLinks", 1},
+                                      {"autoDefault", 0},
+                                      {"default", 0}})
+        if (const QVariant value = widget.property(name); value.isValid() && value.toInt() != usual)
+            manners += QString(" %1=%2").arg(name).arg(value.toInt());
+    return manners;
+}
+
 // Returns nothing for a widget without texts.
 QString Describe(QWidget& widget) {
     QAccessibleInterface* face = QAccessible::queryAccessibleInterface(&widget);
@@ -78,14 +104,19 @@ std::vector<Item> ItemsOf(QWidget& window) {
     for (QWidget* widget : window.findChildren<QWidget*>()) {
         if (!widget->isVisibleTo(&window)) continue;
         const QString text = Describe(*widget);
+        const QString manners = MannersOf(*widget);
         const bool isPart = !qobject_cast<QScrollBar*>(widget) &&
                             (IsInLayout(*widget) || qobject_cast<QSplitter*>(widget->parentWidget()));
         const QRect place = PlaceOf(*widget, window);
         if (!text.isEmpty() && !widget->layout())
-            items.push_back({widget, text, place.center().y(), place.center().x(), place, {}});
+            items.push_back({widget, text + manners, place.center().y(), place.center().x(), place, {}});
         else if (isPart || !text.isEmpty())
-            items.push_back(
-                {widget, text.isEmpty() ? widget->metaObject()->className() : text, belowAll, 0, place, {}});
+            items.push_back({widget,
+                             (text.isEmpty() ? widget->metaObject()->className() : text) + manners,
+                             belowAll,
+                             0,
+                             place,
+                             {}});
     }
     window.window()->resize(window.window()->size() + QSize(growth, growth));
     for (Item& item : items) item.grown = PlaceOf(*item.widget, window);
