@@ -44,7 +44,10 @@ QString MannersOf(const QWidget& widget) {
                                       {"tabChangesFocus", 1},
                                       {"openLinks", 1},
                                       {"autoDefault", 0},
-                                      {"default", 0}})
+                                      {"default", 0},
+                                      {"allowedAreas", 0xF},
+                                      {"features", 7},
+                                      {"sizeGripEnabled", 0}})
         if (const QVariant value = widget.property(name); value.isValid() && value.toInt() != usual)
             manners += QString(" %1=%2").arg(name).arg(value.toInt());
     return manners;
@@ -182,6 +185,9 @@ struct DialogsTest : TavloViewFixture {
             EXPECT_EQ(margins.left(), margins.right()) << window.windowTitle().toStdString();
             EXPECT_EQ(margins.top(), margins.bottom()) << window.windowTitle().toStdString();
         }
+        QCoreApplication::processEvents();
+        for (const QTimer* timer : window.findChildren<QTimer*>())
+            EXPECT_FALSE(timer->isActive() && timer->interval() == 0) << "would keep the processor busy";
         QList<QWidget*> parts = window.findChildren<QWidget*>();
         parts.removeIf([](QWidget* part) { return !part->isVisible() || !IsInLayout(*part); });
         for (const QWidget* part : parts) {
