@@ -47,6 +47,8 @@ QString MannersOf(const QWidget& widget) {
                                       {"default", 0},
                                       {"allowedAreas", 0xF},
                                       {"features", 7},
+                                      {"horizontalScrollBarPolicy", 0},
+                                      {"verticalScrollBarPolicy", 0},
                                       {"sizeGripEnabled", 0}})
         if (const QVariant value = widget.property(name); value.isValid() && value.toInt() != usual)
             manners += QString(" %1=%2").arg(name).arg(value.toInt());
@@ -174,6 +176,7 @@ struct DialogsTest : TavloViewFixture {
         reading += ReadingOf(window) + '\n';
         for (QLabel* label : window.findChildren<QLabel*>()) {
             const bool isEmpty = !label->isVisible() || (label->text().isEmpty() && label->pixmap().isNull());
+            EXPECT_TRUE(label->buddy() || !label->text().contains('&')) << "would be shown";
             EXPECT_TRUE(isEmpty || !IsPlain(label->grab().toImage())) << label->text().toStdString();
         }
         ExpectTidy(window);

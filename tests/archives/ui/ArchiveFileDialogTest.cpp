@@ -236,7 +236,11 @@ TEST_F(ArchiveFileDialogTest, ReadsPreviewsOnlyWhileTheyAreSwitchedOn) {
     QTest::keyClick(dialog.findChild<QCheckBox*>("enablePreview"), Qt::Key_Space);
     Click("textures");
     Click("zebra.txt");
+    QCoreApplication::processEvents();
+    const EventSpy painted(*area);
     Select("plain.wal");
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(painted.region.isEmpty());
     ASSERT_EQ(previewed.size(), 3U);
     EXPECT_EQ(ToNativePath(previewed[0]), PathTo("pak0.pak/apple.wal"));
     EXPECT_EQ(previewed[2], PathTo("plain.wal"));
