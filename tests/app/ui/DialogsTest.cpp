@@ -24,34 +24,21 @@ QString IdOf(const QWidget& control) {
     return {};
 }
 
-// Returns how the widget shows its texts and treats what the user does, as far as that differs from the
-// usual.
+constexpr const char* usualManners =
+    "alignment=129 allowedAreas=15 autoDefault=0 default=0 editTriggers=0 features=7 flow=0 frameShape=0 "
+    "horizontalScrollBarPolicy=0 isWrapping=0 openLinks=1 pageStep=10 rootIsDecorated=0 selectionMode=1 "
+    "sizeGripEnabled=0 tabChangesFocus=1 textElideMode=1 textFormat=2 tickInterval=0 uniformRowHeights=1 "
+    "verticalScrollBarPolicy=0 wordWrap=0";
+
+// Returns how the widget shows its texts and what it does with input, as far as that differs from the usual.
 QString MannersOf(const QWidget& widget) {
     QString manners;
-    for (const auto& [name, usual] : {std::pair("alignment", 0x81),
-                                      {"textFormat", 2},
-                                      {"wordWrap", 0},
-                                      {"frameShape", 0},
-                                      {"selectionMode", 1},
-                                      {"editTriggers", 0},
-                                      {"rootIsDecorated", 0},
-                                      {"uniformRowHeights", 1},
-                                      {"textElideMode", 1},
-                                      {"isWrapping", 0},
-                                      {"flow", 0},
-                                      {"pageStep", 10},
-                                      {"tickInterval", 0},
-                                      {"tabChangesFocus", 1},
-                                      {"openLinks", 1},
-                                      {"autoDefault", 0},
-                                      {"default", 0},
-                                      {"allowedAreas", 0xF},
-                                      {"features", 7},
-                                      {"horizontalScrollBarPolicy", 0},
-                                      {"verticalScrollBarPolicy", 0},
-                                      {"sizeGripEnabled", 0}})
-        if (const QVariant value = widget.property(name); value.isValid() && value.toInt() != usual)
-            manners += QString(" %1=%2").arg(name).arg(value.toInt());
+    for (const QString& usual : QString(usualManners).split(' ')) {
+        const QString name = usual.section('=', 0, 0);
+        const QVariant value = widget.property(qPrintable(name));
+        const QString manner = QString("%1=%2").arg(name).arg(value.toInt());
+        if (value.isValid() && manner != usual) manners += ' ' + manner;
+    }
     return manners;
 }
 
