@@ -26,6 +26,7 @@ QString IdOf(const QWidget& control) {
 
 constexpr const char* usualManners =
     "alignment=129 allowedAreas=15 autoDefault=0 default=0 editTriggers=0 features=7 flow=0 frameShape=0 "
+    "hasSelectedText=0 "
     "horizontalScrollBarPolicy=0 isWrapping=0 openLinks=1 pageStep=10 rootIsDecorated=0 selectionMode=1 "
     "sizeGripEnabled=0 tabChangesFocus=1 textElideMode=1 textFormat=2 tickInterval=0 uniformRowHeights=1 "
     "verticalScrollBarPolicy=0 wordWrap=0";
@@ -59,7 +60,8 @@ QString Describe(QWidget& widget) {
     if (!widget.statusTip().isEmpty()) text += " prompt '" + widget.statusTip() + '\'';
     if (text.isEmpty()) return text;
     const QAccessible::State state = face->state();
-    for (const auto& [holds, name] : {std::pair(bool(state.disabled), " disabled"),
+    for (const auto& [holds, name] : {std::pair(widget.window()->focusWidget() == &widget, " with the focus"),
+                                      {bool(state.disabled), " disabled"},
                                       {bool(state.checked), " checked"},
                                       {bool(state.readOnly), " read-only"},
                                       {bool(state.focusable), " focusable"}})
@@ -239,12 +241,13 @@ TEST_F(DialogsTest, SayWhatTheyAreKnownToSay) {
         });
         FindButton(dialog, "&Gamma Settings...").click();
     });
-    ReadDialog(ID_FILE_OPEN, [&](QDialog& dialog) {
-        dynamic_cast<QFileDialog&>(dialog).setDirectory("/");
-        // The toolkit remembers folders of other dialogs.
-        FindButton(dialog, "Back").setEnabled(false);
-        Read(dialog);
-    });
+    for (const CommandId id : {ID_FILE_OPEN, ID_FILE_SAVE_AS})
+        ReadDialog(id, [&](QDialog& dialog) {
+            dynamic_cast<QFileDialog&>(dialog).setDirectory("/");
+            // The toolkit remembers folders of other dialogs.
+            FindButton(dialog, "Back").setEnabled(false);
+            Read(dialog);
+        });
     Read(*GetMainFrame().findChild<QWidget*>("bar59401"));
     QApplication::clipboard()->clear(); // disables Paste
     GetMainFrame().OnIdle();

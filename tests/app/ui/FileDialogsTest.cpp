@@ -187,6 +187,9 @@ TEST(HelpWindowTest, PagesLeadToEachOther) {
     EXPECT_TRUE(back.isEnabled());
     auto* topics = help.findChild<QListWidget*>();
     auto* browser = help.findChild<QTextBrowser*>();
+    FindButton(help, "&Back").click();
+    EXPECT_EQ(browser->source().fileName(), "index.html");
+    FindButton(help, "&Forward").click();
     EXPECT_EQ(topics->currentItem()->text(), "Look at a model");
     QStringList pages;
     std::set<QString> known;

@@ -69,6 +69,7 @@ TEST_F(TavloViewTest, PaintsTheTilingFromTheScrollPosition) {
             EXPECT_EQ(item.isChecked(), id == chosen) << id;
             EXPECT_TRUE(!item.isChecked() || item.actionGroup()) << id;
         }
+        EXPECT_FALSE(GetMainFrame().GetCurrentMenu().FindItem(ID_VIEW_STATUS_BAR)->actionGroup());
     }
     view->SetScrollX(3);
     view->SetScrollY(30);
