@@ -210,6 +210,8 @@ def edit():
     (HERE / "list").write_text("one/c\n./two/new\n")
     run("pack", "list", "l.pak")
     assert list(read_pak(HERE / "l.pak")) == ["one/c", "two/new"]
+    (HERE / "list").write_text("one/c\nl.pak\n")
+    assert "is read in this run" in run("pack", "list", "l.pak", "--force", code=1)
     (HERE / ("x" * 56)).write_text("")
     (HERE / "list").write_text("x" * 56 + "\n../out\nmissing\n")
     assert all(name in run("pack", "list", "m.pak", code=1) for name in ("x" * 56, "out", "missing"))

@@ -33,7 +33,6 @@ TEST_F(OptionsTest, GammaIsChosenWithLinkedSlidersAndShownAtOnce) {
     RunOptions(QDialogButtonBox::Ok, [](QDialog& sheet) {
         EXPECT_FALSE(IsApplyEnabled(sheet));
         RunGamma(sheet, [](CGammaSettingsDialog& dialog) {
-            EXPECT_EQ(Slider(dialog, IDC_SLIDER_GREEN).value(), 20);
             QCoreApplication::processEvents();
             const EventSpy painted(dialog.GetDlgItem(IDC_SAMPLE_RGB));
             for (int i = 0; i < 10; ++i) QTest::keyClick(&Slider(dialog, IDC_SLIDER_RED), Qt::Key_Right);

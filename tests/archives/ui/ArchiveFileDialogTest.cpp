@@ -106,7 +106,6 @@ struct ArchiveFileDialogTest : WorkshopTest {
 TEST_F(ArchiveFileDialogTest, ListsTheSelectedArchive) {
     Show();
     EXPECT_FALSE(lower.isEnabled());
-    EXPECT_FALSE(Tool("Up One Level").isEnabled());
     Select("pak0.pak");
     EXPECT_EQ(Column(), QStringList({"apple.wal", "inner.pak", "textures", "zebra.txt"}));
     EXPECT_TRUE(lower.isEnabled());
@@ -200,7 +199,6 @@ TEST_F(ArchiveFileDialogTest, IsUsedWithTheKeyboardAlone) {
 
 TEST_F(ArchiveFileDialogTest, SwitchesBetweenListAndDetails) {
     Show("pak0.pak");
-    EXPECT_TRUE(Tool("List").isChecked());
     Click("apple.wal");
     Tool("Details").click();
     EXPECT_TRUE(Tool("Details").isChecked() && !Tool("List").isChecked());
