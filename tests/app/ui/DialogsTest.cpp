@@ -137,7 +137,8 @@ QString Share(const char* name, int before, int after) {
 }
 
 // The visible controls of a window row by row, as a screen reader reads them, with their ids, what is in line
-// with what and what moves or grows when the window grows.
+// with what and what moves or grows when the window grows: [0-2 x4 w4] has the left edge 0 and the right edge
+// 2, and if the window grows, the control moves by half as much and becomes wider by half as much.
 std::string ReadingOf(QWidget& window) {
     const QSize size = window.window()->size();
     window.window()->resize(size + room);
