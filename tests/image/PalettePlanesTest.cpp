@@ -62,7 +62,9 @@ TEST_F(PalettePlanesTest, ATableFillsItsCellsAndLeavesTheOthersToTheFace) {
 
 TEST_F(PalettePlanesTest, RampsRunThroughTheChannels) {
     Show(PalettePlanes::rgba);
-    EXPECT_EQ(planes.HitTest(plane, 30, 40), 0x40281E32U);
+    for (const auto& [x, y, color] :
+         {std::tuple{30, 40, 0x40281E32U}, {0, 0, 0x40000032U}, {255, 0, 0x4000FF32U}, {0, 255, 0x40FF0032U}})
+        EXPECT_EQ(planes.HitTest(plane, x, y), color);
     EXPECT_EQ(planes.HitTest(strip1, 255, 15), 0x40C864FFU);
     EXPECT_EQ(planes.HitTest(strip2, 0, 0), 0x00C86432U);
     EXPECT_EQ(Seen(strip2, 1, 0), look.shadow);

@@ -168,6 +168,10 @@ def main():
     check_pixels("WAD2", made, textures, quake)
     check_trip("wad2.wad", {escaped[name]: texture for name, texture in textures.items()})
 
+    run("pack", "textures", "quake.wad", "--palette", "quake")
+    for _, lump in read_wad(HERE / "quake.wad")[1].values():
+        read_texture(lump)  # a WAD3 contains palettes, whichever they are
+
     files = read_pak(HERE / "wals.pak")
     textures = {}
     for path, wal in files.items():
@@ -206,6 +210,8 @@ def edit():
     (HERE / "list").write_text("one/c\n./two/new\n")
     run("pack", "list", "l.pak")
     assert list(read_pak(HERE / "l.pak")) == ["one/c", "two/new"]
+    (HERE / "list").write_text("one/c\nl.pak\n")
+    assert "is read in this run" in run("pack", "list", "l.pak", "--force", code=1)
     (HERE / ("x" * 56)).write_text("")
     (HERE / "list").write_text("x" * 56 + "\n../out\nmissing\n")
     assert all(name in run("pack", "list", "m.pak", code=1) for name in ("x" * 56, "out", "missing"))

@@ -149,7 +149,6 @@ void CGammaSettingsDialog::OnInitDialog() {
         sliders[i]->setValue(PositionOfGamma(values[i]));
     }
     linkControls->setChecked(true);
-    sliders.front()->setFocus();
 }
 
 void CGammaSettingsDialog::OnScroll(int position) {

@@ -59,7 +59,6 @@ ArchiveListView::ArchiveListView(QWidget* parent)
     list->setResizeMode(QListView::Adjust);
     list->setUniformItemSizes(true);
     details->setRootIsDecorated(false);
-    details->setItemsExpandable(false);
     details->setUniformRowHeights(true);
     SetUp(*list);
     SetUp(*details);

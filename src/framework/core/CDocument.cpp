@@ -55,8 +55,6 @@ void CDocument::SetPathName(const std::string& path, bool addToRecentFiles) {
 
 bool CDocument::OnNewDocument() {
     DeleteContents();
-    SetModifiedFlag(false);
-    pathName.clear();
     return true;
 }
 

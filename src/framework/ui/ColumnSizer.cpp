@@ -18,7 +18,6 @@ ColumnSizer::ColumnSizer(QTreeView& sizedView, Widths widthsFor)
     later.callOnTimeout(this, [this] { Size(); });
     view.viewport()->installEventFilter(this);
     const auto sizeLater = [this] { later.start(); };
-    connect(view.model(), &QAbstractItemModel::rowsInserted, this, sizeLater);
     connect(view.model(), &QAbstractItemModel::layoutChanged, this, sizeLater);
     connect(&header, &QHeaderView::sectionResized, this, [this](int column) {
         const bool stretched = column == view.header()->count() - 1;

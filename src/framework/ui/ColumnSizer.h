@@ -27,7 +27,7 @@ private:
 
     QTreeView& view;
     Widths widths;
-    QTimer later; // delays the sizing, because many changes come at once
+    QTimer later{this}; // delays the sizing, because many changes come at once
     bool sizing = false;
     bool dragged = false;
 };

@@ -12,7 +12,6 @@ void PaintSentence(QWidget& window, unsigned stringId) {
     constexpr int margin = 8;
     QPainter painter(&window);
     painter.fillRect(window.rect(), window.palette().window());
-    painter.setPen(window.palette().windowText().color());
     painter.drawText(window.rect().marginsRemoved({margin, margin, margin, margin}),
                      Qt::AlignCenter | Qt::TextWordWrap, ToQString(LoadString(stringId)));
 }

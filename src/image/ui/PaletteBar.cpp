@@ -39,10 +39,6 @@ QPoint PointOf(const QMouseEvent& mouse) {
     return {qFloor(mouse.position().x()), qFloor(mouse.position().y())};
 }
 
-Color ToColor(const QColor& color) {
-    return color.rgb() | alphaMask;
-}
-
 } // namespace
 
 PaletteBar::PaletteBar(unsigned barId, QWidget* parent)
@@ -91,9 +87,9 @@ void PaletteBar::Renew() {
 
 PalettePlanes::Look PaletteBar::GetLook() const {
     const QPalette& colors = palette();
-    return {ToColor(colors.color(QPalette::Button)), ToColor(colors.color(QPalette::Dark)),
-            ToColor(colors.color(QPalette::Shadow)), ToColor(colors.color(QPalette::Midlight)),
-            ToColor(colors.color(QPalette::Light))};
+    return {colors.color(QPalette::Button).rgb(), colors.color(QPalette::Dark).rgb(),
+            colors.color(QPalette::Shadow).rgb(), colors.color(QPalette::Midlight).rgb(),
+            colors.color(QPalette::Light).rgb()};
 }
 
 void PaletteBar::FillChooser() {

@@ -154,6 +154,11 @@ TEST_F(MainFrameTest, WithoutADocumentNoControlHasTheKeys) {
     EXPECT_FALSE(controlHasThem());
     program.OpenDocumentFile(Put("a.wal", MakeWal(8, 8)))->OnCloseDocument();
     EXPECT_FALSE(controlHasThem());
+    program.OpenDocumentFile(PathTo("a.wal"));
+    GetMainFrame().findChild<QComboBox*>()->setFocus();
+    EXPECT_TRUE(controlHasThem());
+    GetMainFrame().MDIGetActive()->close();
+    EXPECT_FALSE(controlHasThem());
 }
 
 // A pane beside another one shows the same rows from the start.

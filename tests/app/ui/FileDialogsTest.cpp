@@ -62,7 +62,6 @@ TEST_F(FileDialogsTest, TheFileTypeDecidesTheExtension) {
         const DialogAnswer answer([&](QDialog& dialog) {
             auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
             auto* types = dialog.findChild<QComboBox*>("fileTypeCombo");
-            EXPECT_EQ(dynamic_cast<QFileDialog&>(dialog).labelText(QFileDialog::LookIn), "Save in:");
             dialog.findChild<QListView*>("listView")->clearSelection();
             name->setText(typed);
             types->setCurrentIndex(type);
@@ -182,11 +181,13 @@ std::string InOneLine(const QStringList& names) {
 TEST(HelpWindowTest, PagesLeadToEachOther) {
     HelpWindow help;
     const QAbstractButton& back = FindButton(help, "&Back");
-    EXPECT_FALSE(back.isEnabled());
     help.ShowPage("models.html");
     EXPECT_TRUE(back.isEnabled());
     auto* topics = help.findChild<QListWidget*>();
     auto* browser = help.findChild<QTextBrowser*>();
+    FindButton(help, "&Back").click();
+    EXPECT_EQ(browser->source().fileName(), "index.html");
+    FindButton(help, "&Forward").click();
     EXPECT_EQ(topics->currentItem()->text(), "Look at a model");
     QStringList pages;
     std::set<QString> known;

@@ -33,10 +33,13 @@ TEST_F(OptionsTest, GammaIsChosenWithLinkedSlidersAndShownAtOnce) {
     RunOptions(QDialogButtonBox::Ok, [](QDialog& sheet) {
         EXPECT_FALSE(IsApplyEnabled(sheet));
         RunGamma(sheet, [](CGammaSettingsDialog& dialog) {
-            EXPECT_EQ(Slider(dialog, IDC_SLIDER_GREEN).value(), 20);
+            QCoreApplication::processEvents();
+            const EventSpy painted(dialog.GetDlgItem(IDC_SAMPLE_RGB));
             for (int i = 0; i < 10; ++i) QTest::keyClick(&Slider(dialog, IDC_SLIDER_RED), Qt::Key_Right);
             EXPECT_EQ(Slider(dialog, IDC_SLIDER_BLUE).value(), 40);
             EXPECT_EQ(dynamic_cast<QLabel&>(dialog.GetDlgItem(IDC_GAMMA_VALUE)).text(), "2.00");
+            QCoreApplication::processEvents();
+            EXPECT_FALSE(painted.region.isEmpty());
             const QImage sample = dialog.GetDlgItem(IDC_SAMPLE_RGB).grab().toImage();
             for (const QPoint& place : {QPoint(32, 0), QPoint(95, 31)})
                 EXPECT_EQ(sample.pixel(place), 0xFFB5B5B5U) << "128 at gamma 2 is 181";

@@ -13,11 +13,14 @@
 namespace keltavlo {
 
 struct ResourceTablesTest : TavloViewFixture {
-    // Writes the id, whether the program offers the command for a texture, and its texts and help page.
+    // Writes the id, how the program offers the command for a texture, and its texts and help page.
     void WriteCommand(CommandId id) {
         const char* page = HelpPageFor(id);
-        tables << id << (StateOf(id).enabled ? "" : " disabled") << " '" << CommandPrompt(id) << "' '"
-               << CommandToolTip(id) << "' " << (page ? page : "no page") << '\n';
+        const CCmdUI state = StateOf(id);
+        tables << id << (state.enabled ? "" : " disabled") << (state.checked ? " checked" : "")
+               << (state.radio ? " radio" : "") << (state.text ? " says " + *state.text : "") << " '"
+               << CommandPrompt(id) << "' '" << CommandToolTip(id) << "' " << (page ? page : "no page")
+               << '\n';
     }
     void WriteMenu(std::span<const MenuRow> rows, const std::string& indent = "  ") {
         for (const MenuRow& row : rows) {
@@ -45,6 +48,12 @@ TEST_F(ResourceTablesTest, HoldWhatTheyAreKnownToHold) {
     }
     for (const auto& rows : {StandardBarRows(), FilterBarRows()})
         for (const ToolBarRow& row : rows) tables << "tool " << row.id << '\n';
+    document->SetModifiedFlag(false);
+    document->OnCloseDocument();
+    tables << "Enabled without a document:";
+    for (CommandId id = 0; id <= 0xFFFF; ++id)
+        if (StateOf(id).enabled) tables << ' ' << id;
+    tables << '\n';
     std::ostringstream known;
     known << std::ifstream(KNOWN_TABLES).rdbuf();
     EXPECT_EQ(tables.str(), known.str());

@@ -3,6 +3,7 @@
 #include "archives/ui/ArchiveListView.h"
 #include "archives/ui/PreviewPanel.h"
 #include "framework/core/Path.h"
+#include "framework/ui/ColumnSizer.h"
 #include "res/ShellStrings.h"
 #include "support/TestApplication.h"
 #include "support/ui/DialogAnswer.h"
@@ -94,7 +95,7 @@ struct ArchiveFileDialogTest : WorkshopTest {
                                   previewed.push_back(path);
                                   QImage picture(4, 2, QImage::Format_RGB32);
                                   picture.fill(Qt::red);
-                                  return Preview{picture, "4 x 2"};
+                                  return Preview{picture, "4 x 2\n8 bytes"};
                               },
                               [this](const std::string& what) { missing.push_back(what); },
                               [](const std::string&) { return true; }, memory}};
@@ -105,7 +106,6 @@ struct ArchiveFileDialogTest : WorkshopTest {
 TEST_F(ArchiveFileDialogTest, ListsTheSelectedArchive) {
     Show();
     EXPECT_FALSE(lower.isEnabled());
-    EXPECT_FALSE(Tool("Up One Level").isEnabled());
     Select("pak0.pak");
     EXPECT_EQ(Column(), QStringList({"apple.wal", "inner.pak", "textures", "zebra.txt"}));
     EXPECT_TRUE(lower.isEnabled());
@@ -199,7 +199,6 @@ TEST_F(ArchiveFileDialogTest, IsUsedWithTheKeyboardAlone) {
 
 TEST_F(ArchiveFileDialogTest, SwitchesBetweenListAndDetails) {
     Show("pak0.pak");
-    EXPECT_TRUE(Tool("List").isChecked());
     Click("apple.wal");
     Tool("Details").click();
     EXPECT_TRUE(Tool("Details").isChecked() && !Tool("List").isChecked());
@@ -230,15 +229,22 @@ TEST_F(ArchiveFileDialogTest, ReadsPreviewsOnlyWhileTheyAreSwitchedOn) {
     Select("pak0.pak");
     Click("apple.wal");
     EXPECT_TRUE(previewed.empty());
+    auto* area = dialog.findChild<QLabel*>("previewArea");
+    const int height = area->height();
     QTest::keyClick(dialog.findChild<QCheckBox*>("enablePreview"), Qt::Key_Space);
     Click("textures");
     Click("zebra.txt");
+    QCoreApplication::processEvents();
+    const EventSpy painted(*area);
     Select("plain.wal");
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(painted.region.isEmpty());
     ASSERT_EQ(previewed.size(), 3U);
     EXPECT_EQ(ToNativePath(previewed[0]), PathTo("pak0.pak/apple.wal"));
     EXPECT_EQ(previewed[2], PathTo("plain.wal"));
-    EXPECT_EQ(dialog.findChild<QLabel*>("previewText")->text(), "4 x 2");
-    const QImage preview = dialog.findChild<QLabel*>("previewArea")->grab().toImage();
+    EXPECT_EQ(dialog.findChild<QLabel*>("previewText")->text(), "4 x 2\n8 bytes");
+    EXPECT_EQ(area->height(), height) << "as without a text";
+    const QImage preview = area->grab().toImage();
     EXPECT_EQ(preview.pixelColor(preview.rect().center()), QColor(Qt::red));
     EXPECT_NE(preview.pixelColor(preview.width() / 2, 1), QColor(Qt::red)) << "as wide as the area";
 }
@@ -283,7 +289,7 @@ TEST_F(ArchiveFileDialogTest, CutsNoColumnOfTheUpperListWhileThereIsRoom) {
     Put("a rather long name of a texture.wal", {});
     dialog.setViewMode(QFileDialog::Detail);
     Show();
-    const auto& tree = *dialog.findChild<QTreeView*>("treeView");
+    auto& tree = *dialog.findChild<QTreeView*>("treeView");
     const QAbstractItemView& lines = tree;
     PlaceOf(tree, "plain.wal");
     for (const int width : {900, 1200}) {
@@ -294,6 +300,8 @@ TEST_F(ArchiveFileDialogTest, CutsNoColumnOfTheUpperListWhileThereIsRoom) {
             return !tree.horizontalScrollBar()->isVisible();
         }));
     }
+    tree.setColumnHidden(2, true); // as the menu of the titles does
+    EXPECT_EQ(WidthOfContents(tree, 2), 0);
 }
 
 TEST_F(ArchiveFileDialogTest, DetailsOfManyLinesNeedNoScrollingAside) {
@@ -306,6 +314,12 @@ TEST_F(ArchiveFileDialogTest, DetailsOfManyLinesNeedNoScrollingAside) {
         dialog.resize(width, 700);
         EXPECT_TRUE(WaitFor([&] { return !View().horizontalScrollBar()->isVisible(); })) << width;
         EXPECT_TRUE(View().verticalScrollBar()->isVisible());
+        const auto& tree = dynamic_cast<QTreeView&>(View());
+        EXPECT_TRUE(WaitFor([&] { // shares of the width
+            const int all = tree.viewport()->width();
+            return tree.columnWidth(0) == 2 * all / 7 && std::abs(tree.columnWidth(1) - all / 7) < 2 &&
+                   std::abs(tree.columnWidth(2) - tree.columnWidth(3)) < 2;
+        }));
     }
 }
 

@@ -86,6 +86,7 @@ TEST_F(CSplitterWndTest, TheSplitCommandWorksWithKeysAlone) {
     EXPECT_TRUE(Send(ID_WINDOW_SPLIT));
     SplitTracker& tracker = splitter.GetTracker();
     ASSERT_TRUE(tracker.isVisible());
+    EXPECT_EQ(tracker.cursor().shape(), Qt::SizeAllCursor);
     const QImage lines = tracker.grab().toImage();
     const int x = splitter.GetExtent(columns) / 2, y = splitter.GetExtent(rows) / 2;
     for (const int thick : {0, Splitter::lineThickness - 1})
@@ -105,6 +106,12 @@ TEST_F(CSplitterWndTest, TheSplitCommandWorksWithKeysAlone) {
     EXPECT_EQ(document.GetViews().size(), 4U);
     EXPECT_EQ(splitter.GetSplit(rows), splitter.GetExtent(rows) / 2 + 10);
     EXPECT_EQ(splitter.GetSplit(columns), splitter.GetExtent(columns) / 2 + 1);
+    EXPECT_TRUE(frame.GetActiveView()->hasFocus());
+    ASSERT_TRUE(Send(ID_WINDOW_SPLIT)); // the mouse works, too
+    QTest::mouseClick(mainFrame.windowHandle(), Qt::LeftButton, {},
+                      tracker.mapTo(&mainFrame, QPoint(90, 70)));
+    EXPECT_EQ(splitter.GetSplit(rows), 70);
+    EXPECT_EQ(splitter.GetSplit(columns), 90);
 }
 
 TEST_F(CSplitterWndTest, NextPaneGoesRoundRowByRow) {

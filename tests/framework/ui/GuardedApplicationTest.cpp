@@ -1,3 +1,4 @@
+#include "framework/ui/PaintSentence.h"
 #include "support/ui/WindowFixture.h"
 
 #ifdef __SANITIZE_ADDRESS__
@@ -7,6 +8,11 @@
 namespace keltavlo {
 
 namespace {
+
+// A window in dark colors whose picture cannot be painted.
+struct DarkWidget final : QWidget {
+    void paintEvent(QPaintEvent*) override { PaintSentence(*this, documentCommand); }
+};
 
 class HungryWidget final : public QWidget {
 public:
@@ -50,6 +56,22 @@ TEST_F(GuardedApplicationTest, EventsWithoutMemoryAreIgnoredAndToldOfInOneBox) {
     widget.repaint();
     QTest::qWait(50);
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "a view says itself what it cannot paint";
+}
+
+TEST_F(GuardedApplicationTest, ASentenceInPlaceOfAPictureIsReadable) {
+    DarkWidget dark;
+    dark.setPalette(QPalette(Qt::green, Qt::black, {}, {}, {}, {}, Qt::green, {}, Qt::black));
+    const int line = dark.fontMetrics().lineSpacing(), oneLine = 300, oneWord = 65;
+    for (const int width : {oneLine, oneWord}) {
+        dark.resize(width, 100);
+        const QImage picture = dark.grab().toImage().convertToFormat(QImage::Format_RGB32);
+        const QRect ink =
+            QRegion(QBitmap::fromImage(picture.createMaskFromColor(0xFF000000, Qt::MaskInColor)))
+                .boundingRect();
+        EXPECT_EQ(ink.height() > line, width == oneWord) << "words wrap";
+        EXPECT_LT((ink.center() - dark.rect().center()).manhattanLength(), 8) << "pixels from the center";
+        EXPECT_TRUE(dark.rect().adjusted(8, 8, -8, -8).contains(ink));
+    }
 }
 
 } // namespace keltavlo

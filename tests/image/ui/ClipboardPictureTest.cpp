@@ -101,6 +101,7 @@ TEST_F(ClipboardPictureTest, TakesPicturesOfOtherProgramsInManyForms) {
         Send(ID_EDIT_UNDO);
         EXPECT_EQ(GetTexture().GetWidth(), 64);
     }
+    EXPECT_EQ(QImageReader::allocationLimit(), 1024) << "mebibytes, as in files";
 }
 
 TEST_F(ClipboardPictureTest, DamagedDataLeavesTheDocumentAsItWas) {

@@ -3,6 +3,8 @@
 #include "image/ui/PaletteChooser.h"
 #include "support/ui/ProgramFixture.h"
 
+#include <set>
+
 namespace keltavlo {
 
 struct PaletteBarTest : ProgramFixture {
@@ -95,6 +97,24 @@ TEST_F(PaletteBarTest, KeepsACopyOfTheTableThatItShows) {
     Choose(0);
     Choose(PalettePlanes::colorTable);
     EXPECT_EQ(palette->GetPlanes().GetColors().GetCount(), 200U);
+}
+
+TEST_F(PaletteBarTest, EdgesHaveTheColorsOfTheDesktop) {
+    OpenTable("a.kelcolors", 200);
+    chooser->FillChooser();
+    Choose(3);
+    Click(PalettePlanes::plane, {20, 20});
+    QPalette colors = bar->palette();
+    const auto roles = {QPalette::Button, QPalette::Dark, QPalette::Shadow, QPalette::Midlight,
+                        QPalette::Light};
+    for (const QPalette::ColorRole role : roles) colors.setColor(role, QColor(role, 77, 5));
+    bar->setPalette(colors);
+    const QImage shown =
+        bar->findChild<QWidget*>(PaletteBar::partNames[PalettePlanes::plane])->grab().toImage();
+    std::set<QRgb> seen;
+    for (int y = 0; y < shown.height(); ++y)
+        for (int x = 0; x < shown.width(); ++x) seen.insert(shown.pixel(x, y));
+    for (const QPalette::ColorRole role : roles) EXPECT_TRUE(seen.contains(qRgb(role, 77, 5))) << role;
 }
 
 // The chooser's values are valid only until the documents change.

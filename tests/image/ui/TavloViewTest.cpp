@@ -69,6 +69,7 @@ TEST_F(TavloViewTest, PaintsTheTilingFromTheScrollPosition) {
             EXPECT_EQ(item.isChecked(), id == chosen) << id;
             EXPECT_TRUE(!item.isChecked() || item.actionGroup()) << id;
         }
+        EXPECT_FALSE(GetMainFrame().GetCurrentMenu().FindItem(ID_VIEW_STATUS_BAR)->actionGroup());
     }
     view->SetScrollX(3);
     view->SetScrollY(30);
@@ -115,8 +116,26 @@ TEST_F(TavloViewTest, TheWheelZoomsWithCtrlAndScrollsWithout) {
     Wheel(120, Qt::ShiftModifier);
     EXPECT_EQ(view->GetScrollX(), 61);
     EXPECT_EQ(view->GetScrollY(), 3);
+    for (int i = 0; i < 12; ++i) Wheel(-10); // as a touchpad does
+    EXPECT_EQ(view->GetScrollY(), 6);
     Wheel(-10 * 120, Qt::ControlModifier);
     EXPECT_EQ(frame->GetZoom(), 1);
+}
+
+TEST_F(TavloViewTest, PaintsWhatChanges) {
+    document->SetCurrentPalette(Open<PaletteDocument>(Put("bw.kelcolors", Words({black, white}))));
+    const std::function<void()> changes[] = {
+        [&] { Send(ID_FILTER_HALF); },   [&] { Send(ID_FILTER_NEAREST); },
+        [&] { Send(ID_FILTER_DITHER); }, [&] { document->UpdateAllViews(nullptr); },
+        [&] { frame->SetZoom(4); },      [&] { view->SetScrollX(3); },
+        [&] { view->SetScrollY(3); },    [&] { Send(ID_PALETTE_NONE); }};
+    for (std::size_t i = 0; i < std::size(changes); ++i) {
+        QCoreApplication::processEvents();
+        const EventSpy painted(*view);
+        changes[i]();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(painted.region, QRegion(view->rect())) << i;
+    }
 }
 
 TEST_F(TavloViewFilterTest, ShowsThePictureInThePalettesColors) {

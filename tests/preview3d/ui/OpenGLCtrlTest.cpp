@@ -115,6 +115,7 @@ TEST(OpenGLCtrlTest, IsCurrentOnlyWithinItsSteps) {
     NotingCtrl control;
     EXPECT_EQ(control.log.at(0) + ", " + control.log.at(1), "init, resize 120 x 90");
     EXPECT_EQ(control.Take().back(), "draw");
+    EXPECT_NE(DescribeOpenGL(), "");
     EXPECT_FALSE(IsAnyCurrent());
     control.resize(0, 30);
     QPaintEvent nothing{QRegion()};

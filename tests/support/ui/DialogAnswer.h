@@ -88,7 +88,9 @@ inline auto Press(QDialogButtonBox::StandardButton button) {
 // Returns an answer that expects the words in a message box and presses the button.
 inline auto Confirm(const char* words, QDialogButtonBox::StandardButton button) {
     return [=](const QDialog& dialog) {
-        EXPECT_TRUE(dynamic_cast<const QMessageBox&>(dialog).text().contains(words)) << words;
+        const auto& box = dynamic_cast<const QMessageBox&>(dialog);
+        EXPECT_TRUE(box.text().contains(words)) << words;
+        EXPECT_EQ(box.textFormat(), Qt::PlainText) << "names of files may look like markup";
         Press(dialog, button);
     };
 }
