@@ -47,7 +47,7 @@ std::vector<RescueFile> RescueFile::TakeAbandoned(const std::string& folder) {
     std::error_code failed;
     for (const std::string& name : NamesInFolder(folder, failed)) {
         if (!name.ends_with(rescueSuffix)) continue;
-        const std::string path = folder + "/" + name;
+        const std::string path = std::string(folder).append("/").append(name);
         Descriptor file(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
         if (!file.IsOpen() || flock(file.Get(), LOCK_EX | LOCK_NB) != 0) continue;
         struct stat info {};

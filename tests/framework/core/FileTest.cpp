@@ -1,4 +1,5 @@
 #include "framework/core/CMemFile.h"
+#include "framework/core/FolderNames.h"
 #include "framework/core/ReplacingFile.h"
 #include "support/CauseOf.h"
 #include "support/FolderTest.h"
@@ -33,6 +34,16 @@ TEST_F(FileTest, OpensOrdinaryFilesOnly) {
     EXPECT_EQ(OpenFailure(""), CFileException::invalidFile);
     EXPECT_EQ(OpenFailure("missing"), CFileException::fileNotFound);
     EXPECT_EQ(OpenFailure("missing/file", create), CFileException::badPath);
+}
+
+TEST_F(FileTest, NamesInAFolderDependOnNoFailureBefore) {
+    std::error_code failure;
+    EXPECT_EQ(NamesInFolder(PathTo("missing"), failure), std::vector<std::string>());
+    EXPECT_EQ(failure, std::errc::no_such_file_or_directory);
+    Put("name", {});
+    errno = EIO;
+    EXPECT_EQ(NamesInFolder(PathTo(""), failure), std::vector<std::string>{"name"});
+    EXPECT_FALSE(failure);
 }
 
 TEST_F(FileTest, DuplicatesKeepTheirOwnPosition) {
