@@ -30,8 +30,7 @@ struct Attempt : FaultOutcome {
 
 using SaveFaults = WorkshopTest;
 
-class FaultPoints : public WorkshopTest, public testing::WithParamInterface<Codec> {
-protected:
+struct FaultPoints : WorkshopTest, testing::WithParamInterface<Codec> {
     static constexpr unsigned never = 1000000;
 
     // Calls visit(step, first, lasting) for every fault up to `latest`, until it returns false: the fault
