@@ -1,5 +1,4 @@
 #include "image/ConvertedPicture.h"
-
 #include "support/CodecHarness.h"
 #include "support/Fault.h"
 
