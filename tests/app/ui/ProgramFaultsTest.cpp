@@ -105,8 +105,11 @@ struct ProgramFaults : ProgramFixture, testing::WithParamInterface<Action> {
         document->SetCurrentPalette(dynamic_cast<PaletteDocument*>(refer(quakePalette)));
         PastePicture(*document, Image(16, 16));
         document->GetTexture().SetPixel(5, 5, 0xFF123456);
-        ResizePicture(*document, 8, 8);
-        document->GetHistory().Undo();
+        document->GetTexture().quakeName = std::string(40, 'n'); // takes memory of its own
+        if (GetParam().command == ID_EDIT_REDO) {
+            ChangeQuakeName(*document, "");
+            document->GetHistory().Undo();
+        }
         QCoreApplication::processEvents();
     }
     void Act() {
@@ -143,6 +146,7 @@ struct ProgramFaults : ProgramFixture, testing::WithParamInterface<Action> {
             state << document->GetPathName() << document->IsModified() << "\n";
             auto* textured = dynamic_cast<TavloDocument*>(document);
             if (!textured) continue;
+            state << textured->GetTexture().quakeName << "\n";
             for (const Color pixel : textured->GetTexture().Pixels()) state << pixel << " ";
             state << (textured->GetHistory().CanUndo() ? textured->GetHistory().TopUndoName() : "") << "\n";
         }
