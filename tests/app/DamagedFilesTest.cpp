@@ -15,8 +15,7 @@ namespace {
 
 class MutatedFiles : public testing::TestWithParam<Reader> {};
 
-class RefusedFiles : public WorkshopTest {
-protected:
+struct RefusedFiles : WorkshopTest {
     // The readers have their own application, which must not be created after the test's.
     static void SetUpTestSuite() { NeedApplication(); }
 
@@ -85,7 +84,8 @@ TEST_F(RefusedFiles, AreNamedWhenNothingReadsTheirKind) {
 }
 
 TEST_F(RefusedFiles, EndEarly) {
-    for (const std::string type : {"bmp", "mip", "pcx", "tga", "wal", "pak", "wad", "md2", "mdl"}) {
+    for (const std::string type : {"bmp", "mip", "pcx", "tga", "wal", "pak", "wad", "md2", "mdl", "lmp",
+                                   "kelbrush", "kelcolorspace"}) {
         const char* message = type == "mdl" ? badIndex : tooShort;
         const std::size_t notMissed = type == "tga" ? 26 : type == "mip" || type == "wal" ? 21 : 0;
         const Bytes whole = GoodFile(type);

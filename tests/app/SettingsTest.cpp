@@ -5,8 +5,7 @@
 
 namespace keltavlo {
 
-class SettingsTest : public FolderTest {
-protected:
+struct SettingsTest : FolderTest {
     ProfileStore store{PathTo("settings.ini")};
 };
 

@@ -13,8 +13,7 @@ namespace keltavlo {
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-class FileSystemTest : public WorkshopTest {
-protected:
+struct FileSystemTest : WorkshopTest {
     CFileException::Cause OpenFailure(const std::string& path, unsigned flags = CFile::modeRead) {
         CFileException failure;
         EXPECT_EQ(application.GetFileSystem().OpenFile(path, flags, &failure), nullptr);
@@ -83,10 +82,9 @@ TEST_F(FileSystemTest, PathsWorkInEverySpelling) {
 }
 
 TEST_F(FileSystemTest, APackInItselfEndsSomewhere) {
-    Bytes bytes = CutTo(PackBuilder{{"self.pak", {}}}.Build(), PackBuilder::headerSize + 56);
+    const Bytes start = CutTo(PackBuilder{{"self.pak", {}}}.Build(), PackBuilder::headerSize + 56);
     const Bytes wholeFile = Words({0, PackBuilder::headerSize + PackBuilder::recordSize});
-    bytes.insert(bytes.end(), wholeFile.begin(), wholeFile.end());
-    std::string path = Put("self.pak", bytes);
+    std::string path = Put("self.pak", Join({start, wholeFile}));
     for (std::size_t depth = 1; depth < 12; ++depth) {
         path += "/self.pak";
         EXPECT_EQ(StatusOf(path).exists, depth <= 8) << depth;

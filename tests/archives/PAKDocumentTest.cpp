@@ -4,10 +4,7 @@
 
 namespace keltavlo {
 
-using testing::HasSubstr;
-
-class PAKDocumentTest : public WorkshopTest {
-protected:
+struct PAKDocumentTest : WorkshopTest {
     std::string OpenPack(const Bytes& bytes) { return Try<PAKDocument>(bytes, ".pak"); }
     static Bytes Pack(std::size_t records, const std::string& name = "n") {
         PackBuilder pack;
@@ -26,7 +23,7 @@ TEST_F(PAKDocumentTest, TakesAtMost4096RecordsWhichMayOverlap) {
         PutU32(pack, directory + i * 64 + 60, static_cast<std::uint32_t>(pack.size()));
     }
     EXPECT_EQ(OpenPack(pack), "") << "which costs nothing until they are used";
-    EXPECT_THAT(OpenPack(Pack(4097)), HasSubstr(badIndex));
+    EXPECT_THAT(OpenPack(Pack(4097)), testing::HasSubstr(badIndex));
 }
 
 TEST_F(PAKDocumentTest, NamesMayFillTheirField) {

@@ -8,14 +8,10 @@
 
 namespace keltavlo {
 
-struct Look {
-    std::int64_t second;
-    std::int32_t position;
-    std::vector<std::string> shown;
-};
+// The second, the position that is set then, and what that shows.
+using Look = std::tuple<std::int64_t, std::int32_t, std::vector<std::string>>;
 
-class ProgressMeterTest : public testing::Test {
-protected:
+struct ProgressMeterTest : testing::Test {
     ProgressMeterTest() { AddStrings(DocumentStrings()); }
 
     void Expect(std::int32_t minimum, std::int32_t maximum, std::initializer_list<Look> looks) {

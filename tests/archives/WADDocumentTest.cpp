@@ -11,8 +11,7 @@ namespace keltavlo {
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-class WADDocumentTest : public WorkshopTest {
-protected:
+struct WADDocumentTest : WorkshopTest {
     std::string OpenWad(const Bytes& bytes) { return Try<WADDocument>(bytes, ".wad"); }
     static Bytes ThreeLumps(WadBuilder::Directory place = WadBuilder::Directory::last) {
         WadBuilder wad;
@@ -20,10 +19,6 @@ protected:
         wad.Add("words", 65, ToBytes("twelve bytes"), "garbage");
         wad.Add("set/floor\\tile", WadBuilder::wad2TextureType, ToBytes("x"));
         return wad.Build(place);
-    }
-    // The offset of a field of the record in the bytes of ThreeLumps.
-    static std::size_t RecordField(const Bytes& wad, std::size_t record, std::size_t field) {
-        return wad.size() - (3 - record) * WadBuilder::recordSize + field;
     }
 };
 
@@ -60,7 +55,7 @@ TEST_F(WADDocumentTest, BytesAreCutOrFilledToTheSize) {
     Bytes wad = ThreeLumps();
     const auto fileLength = static_cast<std::uint32_t>(wad.size());
     const auto reopened = [&](std::uint32_t size) {
-        PutU32(wad, RecordField(wad, 1, 8), size);
+        PutU32(wad, wad.size() - 2 * WadBuilder::recordSize + 8, size);
         EXPECT_EQ(OpenWad(wad), "");
         return PathTo("file" + std::to_string(fileCount) + ".wad/words");
     };
@@ -84,7 +79,7 @@ TEST_F(WADDocumentTest, ShowsHowFarALongReadIs) {
     EXPECT_THAT(shell.log, ElementsAre("open Reading Directory... 0..3 at 1", "2", "close",
                                        "open Reading Files... 0..3 at 1", "2", "3", "close"));
     Bytes wad = ThreeLumps();
-    PutU32(wad, RecordField(wad, 2, 0), 0xFFFFFFFF);
+    PutU32(wad, wad.size() - WadBuilder::recordSize, 0xFFFFFFFF);
     shell.log.clear();
     EXPECT_THAT(OpenWad(wad), HasSubstr(tooShort));
     EXPECT_EQ(shell.log.back(), "close");

@@ -26,10 +26,8 @@ Bytes MakeBmp(const Header& header, const Bytes& table, const Bytes& rows) {
     Put<std::uint16_t>(bytes, planes, 1);
     Put(bytes, bitCount, header.bitCount);
     bytes.resize(headerSize + header.size);
-    bytes.insert(bytes.end(), table.begin(), table.end());
-    Put(bytes, rowsOffset, static_cast<std::uint32_t>(bytes.size()));
-    bytes.insert(bytes.end(), rows.begin(), rows.end());
-    return bytes;
+    Put(bytes, rowsOffset, static_cast<std::uint32_t>(bytes.size() + table.size()));
+    return Join({bytes, table, rows});
 }
 
 Bytes WithMasks(std::uint32_t size, std::uint16_t bits, const Bytes& masks, const Bytes& rows) {
@@ -40,8 +38,7 @@ Bytes WithMasks(std::uint32_t size, std::uint16_t bits, const Bytes& masks, cons
     return bytes;
 }
 
-class BMPTest : public testing::Test {
-protected:
+struct BMPTest : testing::Test {
     std::vector<Color> Pixels(const Bytes& bytes) const {
         const Texture texture = bmp.Read(bytes);
         return {texture.Pixels().begin(), texture.Pixels().end()};
@@ -112,8 +109,6 @@ TEST_F(BMPTest, FieldsThatAShortHeaderLacksAreZero) {
     for (std::uint32_t size = 15; size < 40; ++size)
         EXPECT_THAT(Pixels(MakeBmp({size, 1, 2, 32}, {}, Words({1, 2}))),
                     ElementsAre(0xFF000002, 0xFF000001));
-    for (const std::uint32_t size : {13U, 14U}) // shorter than the bit count
-        EXPECT_EQ(bmp.ReadFailure(MakeBmp({size, 1, 2, 32}, {}, Words({1, 2}))), CArchiveException::badIndex);
 }
 
 // Such headers have 16-bit sides and colors of three bytes. Missing fields at the end count as 1.
@@ -129,17 +124,6 @@ TEST_F(BMPTest, ReadsHeadersOfAtMost12Bytes) {
     }
     for (const int bad : {0, 2, 16, 32})
         EXPECT_EQ(FailureWith(file, 24, static_cast<std::uint16_t>(bad)), CArchiveException::badIndex) << bad;
-}
-
-TEST_F(BMPTest, NamesTheCompressionThatItCannotRead) {
-    Put<std::uint32_t>(plain, imageSize, 8);
-    const std::pair<std::uint32_t, const char*> refusals[] = {
-        {1, "Run-length"}, {2, "Run-length"}, {4, "JPEG"}, {5, "PNG"}, {6, "compression"}};
-    for (const auto& [value, word] : refusals) {
-        Put(plain, compression, value);
-        EXPECT_THAT([&] { bmp.Read(plain); },
-                    testing::ThrowsMessage<CArchiveException>(testing::HasSubstr(word)));
-    }
 }
 
 } // namespace keltavlo

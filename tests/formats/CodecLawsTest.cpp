@@ -2,8 +2,7 @@
 
 namespace keltavlo {
 
-class CodecLaws : public testing::TestWithParam<Codec> {
-protected:
+struct CodecLaws : testing::TestWithParam<Codec> {
     CodecHarness codec{GetParam()};
 };
 

@@ -4,8 +4,7 @@ namespace keltavlo {
 
 constexpr std::size_t offsetsOffset = 24, endOfLevels = 40 + 64 * 64 * 85 / 64;
 
-class MIPTest : public testing::Test {
-protected:
+struct MIPTest : testing::Test {
     // Returns the file of the texture followed by zeros.
     Bytes FileWithTail(std::size_t tail) const {
         Bytes bytes = mip.Write(texture);

@@ -7,14 +7,10 @@ using testing::ElementsAre;
 
 constexpr std::size_t headerSize = 128, trailerSize = 769;
 
-class PCXTest : public testing::Test {
-protected:
+struct PCXTest : testing::Test {
     // Builds a file without a palette from coded rows.
     Bytes FileOf(std::uint16_t width, std::uint16_t height, std::initializer_list<int> rows) const {
-        Bytes bytes = CutTo(pcx.Write(Texture(width, height)), headerSize);
-        const Bytes coded = FromNumbers(rows);
-        bytes.insert(bytes.end(), coded.begin(), coded.end());
-        return bytes;
+        return Join({CutTo(pcx.Write(Texture(width, height)), headerSize), FromNumbers(rows)});
     }
     // Reads the file's pixels as indices of the default palette.
     std::vector<std::size_t> Indices(const Bytes& bytes) const {
@@ -113,9 +109,7 @@ TEST_F(PCXTest, KernelsDecodeSinglePixelsUntilTheLastByte) {
                     const std::size_t decoded = std::min(roomSize, count);
                     ASSERT_EQ(rest.room, room.data() + decoded);
                     ASSERT_TRUE(std::equal(room.data(), rest.room, pixels.data()));
-                    if (decoded == count) {
-                        ASSERT_EQ(rest.coded, coded.data() + singles);
-                    }
+                    ASSERT_TRUE(decoded < count || rest.coded == coded.data() + singles);
                 }
 }
 

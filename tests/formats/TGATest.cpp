@@ -4,8 +4,7 @@ namespace keltavlo {
 
 constexpr std::size_t headerSize = 18, footerSize = 26;
 
-class TGATest : public testing::Test {
-protected:
+struct TGATest : testing::Test {
     static constexpr Color pixels[] = {0xFF0000FF, 0xFF00FF00, 0xFFFF0000,
                                        0xFF112233, 0xFF445566, 0xFF778899};
 

@@ -4,8 +4,7 @@ namespace keltavlo {
 
 constexpr std::size_t offsetsOffset = 40, nextFrameOffset = 56, flagsOffset = 88;
 
-class WALTest : public testing::Test {
-protected:
+struct WALTest : testing::Test {
     CodecHarness wal{"WALDocument"};
     Texture texture = RandomTexture(64, 64);
 };

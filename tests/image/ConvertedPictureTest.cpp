@@ -6,8 +6,7 @@ namespace keltavlo {
 
 constexpr int width = 7, height = 5;
 
-class ConvertedPictureTest : public testing::TestWithParam<PictureConversion> {
-protected:
+struct ConvertedPictureTest : testing::TestWithParam<PictureConversion> {
     ConvertedPictureTest() {
         for (Color& pixel : picture.Pixels()) pixel = RandomColor();
     }
@@ -15,10 +14,8 @@ protected:
     Color RandomColor() { return static_cast<Color>(random()) | 0xFF000000; }
     Image ConvertAnew() const {
         Image result = picture;
-        if (GetParam() == PictureConversion::nearest)
-            result.ConvertToNearest(list);
-        else
-            result.ConvertByErrorDiffusion(list);
+        const bool nearest = GetParam() == PictureConversion::nearest;
+        (result.*(nearest ? &Image::ConvertToNearest : &Image::ConvertByErrorDiffusion))(list);
         return result;
     }
 

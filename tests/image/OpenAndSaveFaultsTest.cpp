@@ -4,8 +4,6 @@
 #include "support/CodecHarness.h"
 #include "support/Fault.h"
 #include "support/TestApplication.h"
-#include "support/builders/ModelBuilder.h"
-#include "support/builders/WadBuilder.h"
 
 #include <filesystem>
 #include <sys/stat.h>
@@ -32,8 +30,7 @@ struct Attempt : FaultOutcome {
 
 using SaveFaults = WorkshopTest;
 
-class FaultPoints : public WorkshopTest, public testing::WithParamInterface<Codec> {
-protected:
+struct FaultPoints : WorkshopTest, testing::WithParamInterface<Codec> {
     static constexpr unsigned never = 1000000;
 
     // Calls visit(step, first, lasting) for every fault up to `latest`, until it returns false: the fault
@@ -140,36 +137,6 @@ TEST_P(FaultPoints, AnOpenGivesTheWholeDocumentOrNone) {
 
 INSTANTIATE_TEST_SUITE_P(AllFormats, FaultPoints, testing::ValuesIn(Codecs().begin(), Codecs().end()),
                          [](const auto& format) { return std::string(format.param.name); });
-
-// Also palettes, tables, brushes, models and archives. What a document refers to stays open if it was read.
-TEST_F(SaveFaults, EveryTypeOpensOrTellsWhyNot) {
-    WadBuilder wad;
-    wad.Add("wall", WadBuilder::wad3TextureType, MakeMip("wall", 8, 8, true));
-    const Md2Builder model{
-        .skins = {"skin"}, .texCoords = 3, .triangles = {{0, 1, 2, 0, 1, 2}}, .frames = 1, .vertices = 3};
-    std::vector<std::string> paths{Put("a.pak", PackBuilder{{"b/c", {}}}.Build()), Put("d.wad", wad.Build()),
-                                   PathTo("d.wad/wall.mip"), Put("e.md2", model.Build()),
-                                   Put("f.mdl", MdlBuilder{{{2, 2}}}.Build())};
-    for (const BuiltInFile file : {quakePalette, texelBrushFile, rgbaColorSpace, internetSafeColors})
-        paths.push_back(GetBuiltInPath(file));
-    for (const std::string& path : paths) {
-        bool hit = allocationsCanFail;
-        for (unsigned first = 1; hit && !HasFailure(); ++first) {
-            SCOPED_TRACE(path + " from " + std::to_string(first));
-            application.CloseAllDocuments();
-            messageCount = 0;
-            CDocument* document = nullptr;
-            const FaultOutcome outcome =
-                RunWithFault(Step::allocation, first, false, [&] { document = Open<CDocument>(path); });
-            hit = outcome.wasHit;
-            EXPECT_TRUE(document || messageCount > 0 || outcome.ranOutOfMemory);
-            const auto now = application.GetDocuments();
-            EXPECT_FALSE(std::ranges::any_of(
-                now, [&](CDocument* other) { return other != document && other->GetPathName() == path; }));
-            EXPECT_TRUE(Open<CDocument>(path)) << "the next attempt";
-        }
-    }
-}
 
 TEST_F(SaveFaults, AKilledSaveLeavesTheOldFileOrTheNew) {
     const std::string path = Put("killed.wal", MakeWal(64, 64));

@@ -11,8 +11,7 @@ constexpr auto strip2 = PalettePlanes::strip2;
 constexpr PalettePlanes::Look look{0xFFEEEEEE, 0xFF111111, 0xFF222222, 0xFF333333, 0xFF444444};
 constexpr Color current = 0x40C86432; // red 200, green 100, blue 50
 
-class PalettePlanesTest : public testing::Test {
-protected:
+struct PalettePlanesTest : testing::Test {
     void Show(PalettePlanes::Mode mode, const std::uint32_t* table = nullptr) {
         planes.SetMode(mode);
         planes.Rebuild(current);

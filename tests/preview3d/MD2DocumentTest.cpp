@@ -9,8 +9,7 @@ namespace keltavlo {
 
 using testing::ElementsAre;
 
-class MD2DocumentTest : public WorkshopTest {
-protected:
+struct MD2DocumentTest : WorkshopTest {
     std::string OpenModel(const Bytes& bytes) { return Try<MD2Document>(bytes, ".md2"); }
     static Md2Builder Small() {
         return {.skins = {std::string("models/a.pcx\0xy", 15), std::string(64, 'n')},

@@ -7,8 +7,7 @@ namespace keltavlo {
 
 using testing::HasSubstr;
 
-class MDLDocumentTest : public WorkshopTest {
-protected:
+struct MDLDocumentTest : WorkshopTest {
     std::string OpenModel(const Bytes& bytes) { return Try<MDLDocument>(bytes, ".mdl"); }
     // Changes fields of the small model and returns the message.
     std::string OpenWith(std::initializer_list<std::pair<std::size_t, std::uint32_t>> fields) {

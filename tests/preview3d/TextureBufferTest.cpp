@@ -6,8 +6,7 @@
 
 namespace keltavlo {
 
-class TextureBufferTest : public WorkshopTest {
-protected:
+struct TextureBufferTest : WorkshopTest {
     // Opens a document of the type, with a picture of one color.
     CDocument& OpenPicture(const std::string& name, Color color) {
         auto& document = *Open<TavloDocument>(Put(name, MakeWal(32, 16)));

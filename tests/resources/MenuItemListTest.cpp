@@ -45,19 +45,15 @@ struct NumberedList : MenuItemList {
     }
 };
 
-class MenuItemListTest : public WorkshopTest {
-protected:
+struct MenuItemListTest : WorkshopTest {
     NumberedList list;
     FakeMenu menu;
 };
 
 TEST_F(MenuItemListTest, NewItemsComeDirectlyBehindTheFirst) {
-    for (const auto& [count, run] : {std::pair(0U, "[(None)]"),
-                                     {2, "[0][1]"},
-                                     {4, "[0][2][3][1]"},
-                                     {3, "[0][2][1]"},
-                                     {1, "[0]"},
-                                     {0, "[(None)]"}}) {
+    const std::pair<std::size_t, const char*> runs[] = {{0, "[(None)]"},  {2, "[0][1]"}, {4, "[0][2][3][1]"},
+                                                        {3, "[0][2][1]"}, {1, "[0]"},    {0, "[(None)]"}};
+    for (const auto& [count, run] : runs) {
         list.Show(menu, count);
         EXPECT_EQ(menu.Run(), run);
     }

@@ -5,7 +5,6 @@
 namespace keltavlo {
 
 using namespace std::literals;
-using testing::HasSubstr;
 
 using ReferenceDocumentsTest = WorkshopTest;
 
@@ -18,7 +17,6 @@ TEST_F(ReferenceDocumentsTest, PaletteLumps) {
     EXPECT_EQ(palette->GetColor(0), 0xFF123456U);
     EXPECT_THROW(palette->GetColor(256), std::out_of_range);
     EXPECT_TRUE(application.GetRecentFiles().GetPaths().empty());
-    EXPECT_THAT(Try<LMPDocument>(Bytes(767), ".lmp"), HasSubstr(".lmp\".\nThe file ends too early."));
 }
 
 TEST_F(ReferenceDocumentsTest, ColorTables) {
@@ -26,7 +24,7 @@ TEST_F(ReferenceDocumentsTest, ColorTables) {
     ASSERT_NE(document, nullptr);
     EXPECT_EQ(document->GetColor(0), 0x80112233U);
     EXPECT_EQ(Open<ColorTableDocument>(Put("empty.kelcolors", {}))->GetColorCount(), 0U);
-    EXPECT_THAT(Try<ColorTableDocument>(Bytes(6), ".kelcolors"), HasSubstr(".kelcolors"));
+    EXPECT_THAT(Try<ColorTableDocument>(Bytes(6), ".kelcolors"), testing::HasSubstr(".kelcolors"));
 }
 
 TEST_F(ReferenceDocumentsTest, BuiltInColorsFollowTheirRulesOrTheGames) {
@@ -43,15 +41,11 @@ TEST_F(ReferenceDocumentsTest, BuiltInColorsFollowTheirRulesOrTheGames) {
     EXPECT_FALSE(OpenBuiltIn<LMPDocument>(quakePalette)->DoFileSave()) << "it has no disk status";
 }
 
-TEST_F(ReferenceDocumentsTest, BrushAndSpaceFilesThatAreNone) {
+TEST_F(ReferenceDocumentsTest, BrushesHaveTheirCursors) {
     EXPECT_NE(OpenBuiltIn<BrushDocument>(colorPickerFile)->GetCursor(),
               OpenBuiltIn<BrushDocument>(texelBrushFile)->GetCursor());
     const Bytes none = ToBytes("KEL\xE5\xD0TAVBrsh\0\0\0\0"sv);
-    const Bytes third = ToBytes("KEL\xE5\xD0TAVBrsh\1\0\0\0id\0\0\3\0\0\0"sv);
-    const Bytes rgb = ToBytes("KEL\xE5\xD0TAVClSp\1\0\0\0id\0\0RGB "sv);
     EXPECT_EQ(Open<BrushDocument>(Put("none.kelbrush", none))->GetCursor(), BrushDocument::arrowCursor);
-    EXPECT_THAT(Try<BrushDocument>(third, ".kelbrush"), HasSubstr(badVersion));
-    EXPECT_NE(Try<ColorSpaceDocument>(rgb, ".kelcolorspace"), "");
 }
 
 } // namespace keltavlo

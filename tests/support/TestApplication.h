@@ -10,7 +10,6 @@ namespace keltavlo {
 
 // Parts of the messages about files that cannot be opened.
 inline constexpr const char* badFormat = "expected format";
-inline constexpr const char* badVersion = "version";
 inline constexpr const char* badIndex = "does not allow";
 inline constexpr const char* tooShort = "too early";
 

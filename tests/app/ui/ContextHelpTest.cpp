@@ -35,13 +35,12 @@ struct ContextHelpTest : TavloViewFixture {
 };
 
 TEST_F(ContextHelpTest, TheNextClickOpensThePageOfWhatItHits) {
-    for (const auto& [id, page] : {std::pair<CommandId, const char*>{ID_FILE_OPEN, "open.html"},
-                                   {ID_APP_EXIT, "save.html"},
-                                   {ID_EDIT_PROPERTIES, "flags.html"},
-                                   {ID_EDIT_CLEAR, "disabled.html"},
-                                   {ID_3D_SOLID, "models.html"},
-                                   {ID_COLOR_TABLE_FIRST, "palettes.html"},
-                                   {ID_HELP_FINDER, "index.html"}}) {
+    const std::pair<CommandId, const char*> pages[] = {
+        {ID_FILE_OPEN, "open.html"},        {ID_APP_EXIT, "save.html"},
+        {ID_EDIT_PROPERTIES, "flags.html"}, {ID_EDIT_CLEAR, "disabled.html"},
+        {ID_3D_SOLID, "models.html"},       {ID_COLOR_TABLE_FIRST, "palettes.html"},
+        {ID_HELP_FINDER, "index.html"}};
+    for (const auto& [id, page] : pages) {
         EXPECT_EQ(PageAfterItem(id), page) << id;
         EXPECT_FALSE(QApplication::activePopupWidget());
     }

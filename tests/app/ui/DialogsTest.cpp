@@ -26,10 +26,9 @@ QString IdOf(const QWidget& control) {
 
 constexpr const char* usualManners =
     "alignment=129 allowedAreas=15 autoDefault=0 default=0 editTriggers=0 features=7 flow=0 frameShape=0 "
-    "hasSelectedText=0 "
-    "horizontalScrollBarPolicy=0 isWrapping=0 openLinks=1 pageStep=10 rootIsDecorated=0 selectionMode=1 "
-    "sizeGripEnabled=0 tabChangesFocus=1 textElideMode=1 textFormat=2 tickInterval=0 uniformRowHeights=1 "
-    "verticalScrollBarPolicy=0 wordWrap=0";
+    "hasSelectedText=0 horizontalScrollBarPolicy=0 isWrapping=0 openLinks=1 pageStep=10 rootIsDecorated=0 "
+    "selectionMode=1 sizeGripEnabled=0 tabChangesFocus=1 textElideMode=1 textFormat=2 tickInterval=0 "
+    "uniformRowHeights=1 verticalScrollBarPolicy=0 wordWrap=0";
 
 // Returns how the widget shows its texts and what it does with input, as far as that differs from the usual.
 QString MannersOf(const QWidget& widget) {
@@ -99,15 +98,11 @@ std::vector<Item> ItemsOf(QWidget& window) {
         const bool isPart = !qobject_cast<QScrollBar*>(widget) &&
                             (IsInLayout(*widget) || qobject_cast<QSplitter*>(widget->parentWidget()));
         const QRect place = PlaceOf(*widget, window);
-        if (!text.isEmpty() && !widget->layout())
-            items.push_back({widget, text + manners, place.center().y(), place.center().x(), place, {}});
-        else if (isPart || !text.isEmpty())
-            items.push_back({widget,
-                             (text.isEmpty() ? widget->metaObject()->className() : text) + manners,
-                             belowAll,
-                             0,
-                             place,
-                             {}});
+        const bool isInRow = !text.isEmpty() && !widget->layout();
+        const QPoint center = isInRow ? place.center() : QPoint(0, belowAll);
+        const QString name = text.isEmpty() ? widget->metaObject()->className() : text;
+        if (isPart || !text.isEmpty())
+            items.push_back({widget, name + manners, center.y(), center.x(), place, {}});
     }
     window.window()->resize(window.window()->size() + QSize(growth, growth));
     for (Item& item : items) item.grown = PlaceOf(*item.widget, window);

@@ -10,8 +10,6 @@
 
 namespace keltavlo {
 
-using testing::HasSubstr;
-
 struct FileDialogsTest : ProgramFixture {
     FileDialogsTest() {
         QApplication::setQuitOnLastWindowClosed(false); // the next test starts another program
@@ -89,7 +87,8 @@ TEST_F(FileDialogsTest, TheFileTypeDecidesTheExtension) {
 
 TEST_F(FileDialogsTest, AsksBeforeAnUnknownExtensionMakesABitmap) {
     const auto standard = [](QDialog& dialog) {
-        EXPECT_THAT(dynamic_cast<QMessageBox&>(dialog).text().toStdString(), HasSubstr("Bitmap Image"));
+        EXPECT_THAT(dynamic_cast<QMessageBox&>(dialog).text().toStdString(),
+                    testing::HasSubstr("Bitmap Image"));
         dynamic_cast<QMessageBox&>(dialog).defaultButton()->click();
     };
     const DialogAnswer answers(

@@ -1,3 +1,4 @@
+#include "app/ui/FileDialogServices.h"
 #include "app/ui/HelpPages.h"
 #include "framework/core/StringTable.h"
 #include "res/DocumentStrings.h"
@@ -48,6 +49,10 @@ TEST_F(ResourceTablesTest, HoldWhatTheyAreKnownToHold) {
     }
     for (const auto& rows : {StandardBarRows(), FilterBarRows()})
         for (const ToolBarRow& row : rows) tables << "tool " << row.id << '\n';
+    for (const auto& question :
+         {FileNameQuestion(), {.proposal = {}, .open = false, .type = program.GetTemplates()[4]}})
+        for (const FileFilter& filter : BuildFileFilters(question))
+            tables << (question.open ? "open " : "save ") << filter.label << " = " << filter.patterns << '\n';
     document->SetModifiedFlag(false);
     document->OnCloseDocument();
     tables << "Enabled without a document:";

@@ -12,8 +12,6 @@
 
 namespace keltavlo {
 
-namespace {
-
 // A dialog that shows a folder with two packs, a damaged pack and a picture.
 struct ArchiveFileDialogTest : WorkshopTest {
     ArchiveFileDialogTest() {
@@ -104,9 +102,7 @@ struct ArchiveFileDialogTest : WorkshopTest {
 };
 
 TEST_F(ArchiveFileDialogTest, ListsTheSelectedArchive) {
-    Show();
-    EXPECT_FALSE(lower.isEnabled());
-    Select("pak0.pak");
+    Show("pak0.pak");
     EXPECT_EQ(Column(), QStringList({"apple.wal", "inner.pak", "textures", "zebra.txt"}));
     EXPECT_TRUE(lower.isEnabled());
     EXPECT_EQ(Column(1), QStringList({"2KB", "0KB", "", "0KB"})) << "folders have no size";
@@ -195,18 +191,6 @@ TEST_F(ArchiveFileDialogTest, IsUsedWithTheKeyboardAlone) {
     QTest::keyClick(&view, Qt::Key_Return);
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_EQ(InnerPath(), PathTo("pak0.pak/textures/Wall.wal"));
-}
-
-TEST_F(ArchiveFileDialogTest, SwitchesBetweenListAndDetails) {
-    Show("pak0.pak");
-    Click("apple.wal");
-    Tool("Details").click();
-    EXPECT_TRUE(Tool("Details").isChecked() && !Tool("List").isChecked());
-    EXPECT_TRUE(dynamic_cast<QTreeView*>(&View()));
-    EXPECT_EQ(View().currentIndex().row(), 0);
-    Tool("Up One Level").click();
-    EXPECT_EQ(missing, std::vector<std::string>{"Up One Level"});
-    EXPECT_EQ(Column().size(), 4U);
 }
 
 TEST_F(ArchiveFileDialogTest, ReadsABadArchiveOnceForEachActOfTheUser) {
@@ -309,7 +293,12 @@ TEST_F(ArchiveFileDialogTest, DetailsOfManyLinesNeedNoScrollingAside) {
     for (int i = 0; i < 200; ++i) pack.Add("file" + std::to_string(i), {});
     Put("many.pak", pack.Build());
     Show("many.pak");
+    Click("file1");
     Tool("Details").click();
+    EXPECT_TRUE(Tool("Details").isChecked() && !Tool("List").isChecked());
+    EXPECT_EQ(View().currentIndex().row(), 1);
+    Tool("Up One Level").click();
+    EXPECT_EQ(missing, std::vector<std::string>{"Up One Level"});
     for (const int width : {1200, 800}) {
         dialog.resize(width, 700);
         EXPECT_TRUE(WaitFor([&] { return !View().horizontalScrollBar()->isVisible(); })) << width;
@@ -346,20 +335,18 @@ TEST(ArchiveListViewTest, CutsNoNameInTheList) {
         }
 }
 
-// Processor time, because other programs do not affect it.
-double ThreadSeconds() {
-    timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) + 1e-9 * static_cast<double>(time.tv_nsec);
-}
-
 TEST_F(ArchiveFileDialogTest, AFolderOfManyFilesKeepsTheWindowAlive) {
     constexpr int files = 3000; // with Qt's own icons they take 600 ms on an idle machine
     for (int i = 0; i < files; ++i) Put(std::to_string(i) + ".wal", {});
-    double lastTick = ThreadSeconds(), longestPause = 0;
+    const auto processorSeconds = [] { // because other programs do not affect it
+        timespec time{};
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+        return static_cast<double>(time.tv_sec) + 1e-9 * static_cast<double>(time.tv_nsec);
+    };
+    double lastTick = processorSeconds(), longestPause = 0;
     QTimer tick;
     tick.callOnTimeout([&] {
-        const double now = ThreadSeconds();
+        const double now = processorSeconds();
         longestPause = std::max(longestPause, now - std::exchange(lastTick, now));
     });
     tick.start(5);
@@ -367,7 +354,5 @@ TEST_F(ArchiveFileDialogTest, AFolderOfManyFilesKeepsTheWindowAlive) {
     EXPECT_TRUE(WaitFor([&] { return upper.model()->rowCount(upper.rootIndex()) >= files; }));
     EXPECT_LT(longestPause, 0.15) << "seconds";
 }
-
-} // namespace
 
 } // namespace keltavlo

@@ -5,8 +5,6 @@
 
 namespace keltavlo {
 
-namespace {
-
 // Uses the sheet by the keyboard.
 struct Sheet {
     // The third page contains a sheet of its own, whose pages have the numbers 2, 3 and 4 here.
@@ -52,8 +50,6 @@ struct EditPropertySheetTest : TavloViewFixture {
 };
 
 using Names = std::vector<std::string>;
-
-} // namespace
 
 TEST_F(EditPropertySheetTest, ConfirmingUnchangedValuesChangesNothingHoweverUnusualTheyAre) {
     GetTexture().SetSize(2000, 1);

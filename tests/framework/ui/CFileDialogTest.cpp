@@ -54,14 +54,13 @@ TEST_F(CFileDialogTest, ProposesANameInItsFolderOrTheWayThroughAnArchive) {
     }
 }
 
-// The label does not show the patterns. A separator at the end adds no empty pattern.
-TEST_F(CFileDialogTest, ShowsLabelsAndFiltersByPatterns) {
+// A separator at the end adds no empty pattern.
+TEST_F(CFileDialogTest, FiltersByPatterns) {
     for (const char* name : {"a.wal", "b.tga", "c.x", "noise"}) Put(name, {});
     CFileDialog dialog(nullptr, {}, {{"Targa (*.x)", "*tga;*.pak;"}, {"All Files (*.*)", "*.*"}});
     dialog.setDirectory(folder.path());
     dialog.show();
     auto* types = dialog.findChild<QComboBox*>("fileTypeCombo");
-    EXPECT_EQ(types->itemText(0), "Targa (*.x)");
     const auto* list = dialog.findChild<QListView*>("listView");
     const auto holds = [&](int count) {
         return WaitFor([&] { return list->model()->rowCount(list->rootIndex()) == count; });

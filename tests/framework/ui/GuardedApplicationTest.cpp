@@ -14,11 +14,8 @@ struct DarkWidget final : QWidget {
     void paintEvent(QPaintEvent*) override { PaintSentence(*this, documentCommand); }
 };
 
-class HungryWidget final : public QWidget {
-public:
+struct HungryWidget final : QWidget {
     QEvent::Type failing = QEvent::None;
-
-protected:
     bool event(QEvent* event) override {
         if (event->type() == failing) throw std::bad_alloc();
         return QWidget::event(event);

@@ -30,19 +30,17 @@ TEST(IdleCallTest, WaitsUntilTheUserHasFinished) {
     QDialog dialog;
     const auto press = [&] { QTest::mousePress(window.windowHandle(), Qt::LeftButton); };
     const auto release = [&] { QTest::mouseRelease(window.windowHandle(), Qt::LeftButton); };
-    struct Work {
-        std::function<void()> begin, end;
-    };
-    const Work works[] = {{[&] { menu.popup({}); }, [&] { menu.close(); }},
-                          {[&] { dialog.open(); }, [&] { dialog.close(); }},
-                          {press, release}};
-    for (const Work& work : works) {
+    using Action = std::function<void()>;
+    const std::pair<Action, Action> works[] = {{[&] { menu.popup({}); }, [&] { menu.close(); }},
+                                               {[&] { dialog.open(); }, [&] { dialog.close(); }},
+                                               {press, release}};
+    for (const auto& [begin, end] : works) {
         calls = 0;
-        work.begin();
+        begin();
         call.Request();
         RunEventLoop();
         EXPECT_EQ(calls, 0);
-        work.end();
+        end();
         RunEventLoop([&] {
             RunEventLoop();
             EXPECT_EQ(calls, 0) << "in a nested loop";

@@ -25,14 +25,6 @@ TEST(DibSectionTest, RefusesWhatItCannotHoldAndStaysAsItWas) {
     EXPECT_THROW(Image(0, 2).RenderTo(bitmap, IdentityTransform{}), BitmapError);
 }
 
-TEST(DibSectionTest, TablesOfColorsBeginAsGrays) {
-    for (const int bitCount : {1, 4, 8}) {
-        DibSection bitmap(1, 1, bitCount);
-        bitmap.SetPixel(0, 0, 0xFFFFFFFF);
-        EXPECT_EQ(bitmap.GetPixel(0, 0), 0xFFFFFFFF) << bitCount;
-    }
-}
-
 // Without a file header the rows follow the whole table, with the entries that no index can reach.
 TEST(DibSectionTest, SkipsTheRestOfTheTable) {
     for (const std::uint16_t bitCount : {std::uint16_t{1}, std::uint16_t{32}}) {

@@ -9,8 +9,7 @@ namespace keltavlo {
 namespace {
 
 // Data from a slow program. Counts how often it is asked.
-class ForeignData : public QMimeData {
-public:
+struct ForeignData : QMimeData {
     ForeignData(QStringList offered, QByteArray content, int milliseconds)
         : forms(std::move(offered)), bytes(std::move(content)), delay(milliseconds) {}
 
@@ -19,15 +18,12 @@ public:
         ++questions;
         return forms;
     }
-
-protected:
     QVariant retrieveData(const QString&, QMetaType) const override {
         ++questions;
         QTest::qSleep(delay);
         return bytes;
     }
 
-private:
     QStringList forms;
     QByteArray bytes;
     int delay;

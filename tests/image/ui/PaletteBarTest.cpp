@@ -54,18 +54,6 @@ TEST_F(PaletteBarTest, ThePointerIsOverThePixelThatItPicks) {
     EXPECT_EQ(program.GetCurrentColor(), 0x00281EFFU);
 }
 
-// A process cannot change its scale.
-TEST_F(PaletteBarTest, ThePixelsAreTheSameAtTwiceTheScale) {
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("QT_SCALE_FACTOR", "2");
-    process.setProcessEnvironment(environment);
-    process.start(QCoreApplication::applicationFilePath(),
-                  {"--gtest_filter=PaletteBarTest.ThePointerIsOverThePixelThatItPicks"});
-    EXPECT_TRUE(process.waitForFinished());
-    EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardOutput().toStdString();
-}
-
 TEST_F(PaletteBarTest, ListsWhatIsOpenWhenItIsShownAndDropsDown) {
     for (const auto& [index, text] : {std::pair{0, "(None)"}, {1, "(Color Table)"}, {2, "RGBA"}})
         EXPECT_EQ(chooser->itemText(index), text);

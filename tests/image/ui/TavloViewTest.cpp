@@ -43,15 +43,11 @@ TEST_F(TavloViewTest, ScrollingGoesRound) {
     EXPECT_EQ(view->GetScrollX(), 40);
     view->SetScrollY(-33);
     EXPECT_EQ(view->GetScrollBar(Qt::Vertical).value(), 31);
-    for (const auto& [key, x, y] : {std::tuple{Qt::Key_Right, 41, 31},
-                                    {Qt::Key_Down, 41, 0},
-                                    {Qt::Key_PageUp, 41, 16},
-                                    {Qt::Key_PageDown, 41, 0},
-                                    {Qt::Key_Up, 41, 31},
-                                    {Qt::Key_Left, 40, 31},
-                                    {Qt::Key_Home, 0, 0},
-                                    {Qt::Key_Left, 63, 0},
-                                    {Qt::Key_End, 0, 0}}) {
+    const std::tuple<Qt::Key, int, int> steps[] = {
+        {Qt::Key_Right, 41, 31},   {Qt::Key_Down, 41, 0}, {Qt::Key_PageUp, 41, 16},
+        {Qt::Key_PageDown, 41, 0}, {Qt::Key_Up, 41, 31},  {Qt::Key_Left, 40, 31},
+        {Qt::Key_Home, 0, 0},      {Qt::Key_Left, 63, 0}, {Qt::Key_End, 0, 0}};
+    for (const auto& [key, x, y] : steps) {
         QTest::keyClick(view, key);
         EXPECT_EQ(std::pair(view->GetScrollX(), view->GetScrollY()), std::pair(x, y)) << key;
     }

@@ -15,7 +15,6 @@
 namespace keltavlo {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace {
 
@@ -26,8 +25,7 @@ bool IsAnyCurrent() {
 }
 
 // A control on a widget of its own that records its steps.
-class NotingCtrl final : public OpenGLCtrl {
-public:
+struct NotingCtrl final : OpenGLCtrl {
     explicit NotingCtrl(QRect area = {0, 0, 120, 90}) {
         host.resize(200, 200);
         OpenGLCtrl::Create(area, host);
@@ -46,7 +44,6 @@ public:
     bool resizeWhileDrawing = false;
     bool hungry = false;
 
-protected:
     void InitGL() override {
         Note("init");
         OpenGLCtrl::InitGL();
@@ -63,26 +60,12 @@ protected:
         EXPECT_EQ(glGetError(), GLenum{GL_NO_ERROR});
     }
     void ReleaseResources() override { Note("release"); }
-
-private:
     void Note(const std::string& step) { log.push_back(IsAnyCurrent() ? step : step + ", not current"); }
 };
 
 class GreedyCtrl final : public OpenGLCtrl {
     void AdjustPixelFormat(PixelFormat& format) override { format.colorBits = 4096; }
 };
-
-} // namespace
-
-// Replaces the system's function.
-extern "C" EGLSurface eglCreatePbufferSurface(EGLDisplay display, EGLConfig config,
-                                              const EGLint* attributes) {
-    using Create = EGLSurface (*)(EGLDisplay, EGLConfig, const EGLint*);
-    static const auto create = reinterpret_cast<Create>(dlsym(RTLD_NEXT, "eglCreatePbufferSurface"));
-    return surfacesFail ? EGL_NO_SURFACE : create(display, config, attributes);
-}
-
-namespace {
 
 // Expects the cube that the control draws. Each corner's color is its place; three sides are visible.
 void ExpectCube(OpenGLCtrl& control) {
@@ -99,6 +82,14 @@ void ExpectCube(OpenGLCtrl& control) {
 }
 
 } // namespace
+
+// Replaces the system's function.
+extern "C" EGLSurface eglCreatePbufferSurface(EGLDisplay display, EGLConfig config,
+                                              const EGLint* attributes) {
+    using Create = EGLSurface (*)(EGLDisplay, EGLConfig, const EGLint*);
+    static const auto create = reinterpret_cast<Create>(dlsym(RTLD_NEXT, "eglCreatePbufferSurface"));
+    return surfacesFail ? EGL_NO_SURFACE : create(display, config, attributes);
+}
 
 TEST(OpenGLCtrlTest, DrawsACube) {
     NotingCtrl control;
@@ -120,7 +111,7 @@ TEST(OpenGLCtrlTest, IsCurrentOnlyWithinItsSteps) {
     control.resize(0, 30);
     QPaintEvent nothing{QRegion()};
     QCoreApplication::sendEvent(&control, &nothing);
-    EXPECT_THAT(control.Take(), IsEmpty()) << "a control without an area keeps what it has";
+    EXPECT_THAT(control.Take(), testing::IsEmpty()) << "a control without an area keeps what it has";
     control.MakeCurrent();
     control.MakeCurrent();
     control.ReleaseCurrent();

@@ -23,10 +23,6 @@ TaggedContents ReadBrush(Bytes bytes) {
     return contents;
 }
 
-int BrushFailure(const Bytes& bytes) {
-    return CauseOf<CArchiveException>([&] { ReadBrush(bytes); });
-}
-
 } // namespace
 
 TEST(Stream, EveryCodeHasItsCauseInBothForms) {
@@ -50,20 +46,6 @@ TEST(TaggedFile, ReadsChunksInAnyOrder) {
     EXPECT_EQ(contents.title, "\xC3\xBCz") << "a later title replaces an earlier one";
     EXPECT_EQ(ReadBrush(Tagged("Brsh", 0, "")).title, "");
     EXPECT_EQ(ReadBrush(Tagged("Brsh", 1, "UITA\2\0\0\0ab"sv)).title, "ab");
-}
-
-TEST(TaggedFile, RefusesWhatItIsNot) {
-    EXPECT_EQ(BrushFailure(Tagged("ClSp", 0, "")), CArchiveException::badClass);
-    for (std::size_t i = 0; i < 8; ++i) {
-        Bytes bytes = Tagged("Brsh", 0, "");
-        bytes[i] ^= std::byte{1};
-        EXPECT_EQ(BrushFailure(bytes), CArchiveException::badClass) << i;
-    }
-    EXPECT_EQ(BrushFailure(Tagged("Brsh", 1, "Nope")), CArchiveException::badIndex);
-    EXPECT_EQ(BrushFailure(Tagged("Brsh", 1, "UITA\xFF\xFF\xFF\xFF")), CArchiveException::endOfFile);
-    const Bytes whole = Tagged("Brsh", 1, "id\0\0\1\0\0\0"sv);
-    for (std::size_t length = 1; length < whole.size(); ++length)
-        EXPECT_EQ(BrushFailure(CutTo(whole, length)), CArchiveException::endOfFile);
 }
 
 } // namespace keltavlo

@@ -11,13 +11,6 @@ namespace keltavlo {
 
 namespace {
 
-std::uint32_t GetBigEndian(const Bytes& bytes, std::size_t offset) {
-    std::uint32_t value = 0;
-    for (std::size_t i = 0; i < 4; ++i)
-        value = value << 8 | std::to_integer<std::uint32_t>(bytes[offset + i]);
-    return value;
-}
-
 void Append(png_structp png, png_bytep bytes, std::size_t count) {
     auto& file = *static_cast<Bytes*>(png_get_io_ptr(png));
     file.insert(file.end(), reinterpret_cast<std::byte*>(bytes), reinterpret_cast<std::byte*>(bytes) + count);
@@ -58,12 +51,11 @@ Bytes MakePng(int depth, int colorType, bool interlaced) {
 Bytes RepairChecksums(Bytes png) {
     constexpr std::size_t signature = 8, frame = 12; // of a chunk: length, type and checksum
     for (std::size_t start = signature; start + frame <= png.size();) {
-        const std::size_t length = GetBigEndian(png, start);
+        auto* chunk = reinterpret_cast<png_bytep>(png.data() + start);
+        const std::size_t length = png_get_uint_32(chunk);
         if (length > png.size() - start - frame) break;
-        const auto* type = reinterpret_cast<const Bytef*>(png.data() + start + 4);
-        const uLong checksum = crc32(0, type, static_cast<uInt>(length + 4));
-        for (std::size_t i = 0; i < 4; ++i)
-            png[start + 8 + length + i] = static_cast<std::byte>(checksum >> (24 - 8 * i));
+        const uLong checksum = crc32(0, chunk + 4, static_cast<uInt>(length + 4));
+        png_save_uint_32(chunk + 8 + length, static_cast<png_uint_32>(checksum));
         start += length + frame;
     }
     return png;

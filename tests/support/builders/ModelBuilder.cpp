@@ -12,16 +12,6 @@ void PutU16(Bytes& bytes, std::uint32_t value) {
     bytes.push_back(static_cast<std::byte>(value >> 8));
 }
 
-void PutFloat(Bytes& bytes, float value) {
-    PutU32(bytes, bytes.size(), std::bit_cast<std::uint32_t>(value));
-}
-
-void PutField(Bytes& bytes, const std::string& text, std::size_t size) {
-    Bytes field = ToBytes(text);
-    field.resize(size);
-    bytes.insert(bytes.end(), field.begin(), field.end());
-}
-
 void PutSection(Bytes& bytes, std::size_t countField, std::size_t count, std::size_t offsetField) {
     PutU32(bytes, countField, static_cast<std::uint32_t>(count));
     PutU32(bytes, offsetField, static_cast<std::uint32_t>(bytes.size()));
@@ -30,8 +20,8 @@ void PutSection(Bytes& bytes, std::size_t countField, std::size_t count, std::si
 } // namespace
 
 void Md2Builder::PutFrame(Bytes& bytes, std::uint32_t number) const {
-    for (const float value : scale) PutFloat(bytes, value);
-    for (const float value : translate) PutFloat(bytes, value);
+    for (const auto& three : {scale, translate})
+        for (const float value : three) PutU32(bytes, bytes.size(), std::bit_cast<std::uint32_t>(value));
     PutField(bytes, "frame" + std::to_string(number), 16);
     for (std::uint32_t i = 0; i < vertices; ++i) {
         for (const int value : vertexAt(static_cast<int>(number), static_cast<int>(i)))

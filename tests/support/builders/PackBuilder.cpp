@@ -8,11 +8,7 @@
 
 namespace keltavlo {
 
-namespace {
-
 constexpr std::size_t nameSize = 56;
-
-} // namespace
 
 Bytes ToBytes(std::string_view text) {
     const auto* first = reinterpret_cast<const std::byte*>(text.data());
@@ -25,6 +21,12 @@ Bytes Words(std::initializer_list<std::uint32_t> numbers) {
     return bytes;
 }
 
+Bytes Join(std::initializer_list<Bytes> parts) {
+    Bytes whole;
+    for (const Bytes& part : parts) whole.insert(whole.end(), part.begin(), part.end());
+    return whole;
+}
+
 Bytes CutTo(const Bytes& bytes, std::size_t length) {
     return {bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(length)};
 }
@@ -32,6 +34,12 @@ Bytes CutTo(const Bytes& bytes, std::size_t length) {
 void PutU32(Bytes& bytes, std::size_t offset, std::uint32_t value) {
     bytes.resize(std::max(bytes.size(), offset + sizeof value));
     std::memcpy(bytes.data() + offset, &value, sizeof value);
+}
+
+void PutField(Bytes& bytes, std::string_view text, std::size_t size) {
+    const std::size_t end = bytes.size() + size;
+    for (const char character : text) bytes.push_back(static_cast<std::byte>(character));
+    bytes.resize(end);
 }
 
 void WriteFile(const std::string& path, const Bytes& bytes) {
@@ -48,25 +56,22 @@ Bytes ReadFile(const std::string& path) {
 }
 
 void PackBuilder::Add(std::string_view name, const Bytes& bytes) {
-    files.push_back({std::string(name.substr(0, nameSize)), bytes});
+    files.emplace_back(name.substr(0, nameSize), bytes);
 }
 
 Bytes PackBuilder::Build() const {
     Bytes pack = ToBytes("PACK");
     pack.resize(headerSize);
     Bytes directory;
-    for (const File& file : files) {
-        const std::size_t record = directory.size();
-        directory.resize(record + nameSize);
-        std::memcpy(directory.data() + record, file.name.data(), file.name.size());
+    for (const auto& [name, bytes] : files) {
+        PutField(directory, name, nameSize);
         PutU32(directory, directory.size(), static_cast<std::uint32_t>(pack.size()));
-        PutU32(directory, directory.size(), static_cast<std::uint32_t>(file.bytes.size()));
-        pack.insert(pack.end(), file.bytes.begin(), file.bytes.end());
+        PutU32(directory, directory.size(), static_cast<std::uint32_t>(bytes.size()));
+        pack.insert(pack.end(), bytes.begin(), bytes.end());
     }
     PutU32(pack, 4, static_cast<std::uint32_t>(pack.size()));
     PutU32(pack, 8, static_cast<std::uint32_t>(directory.size()));
-    pack.insert(pack.end(), directory.begin(), directory.end());
-    return pack;
+    return Join({pack, directory});
 }
 
 } // namespace keltavlo

@@ -15,10 +15,13 @@ using Bytes = std::vector<std::byte>;
 Bytes ToBytes(std::string_view text);
 // Returns the numbers as consecutive little-endian u32s.
 Bytes Words(std::initializer_list<std::uint32_t> numbers);
+Bytes Join(std::initializer_list<Bytes> parts);
 // Returns the first `length` bytes.
 Bytes CutTo(const Bytes& bytes, std::size_t length);
 // Overwrites or appends a little-endian u32.
 void PutU32(Bytes& bytes, std::size_t offset, std::uint32_t value);
+// Appends a field of `size` bytes: the text, then NULs.
+void PutField(Bytes& bytes, std::string_view text, std::size_t size);
 void WriteFile(const std::string& path, const Bytes& bytes);
 Bytes ReadFile(const std::string& path);
 
@@ -35,11 +38,7 @@ public:
     static constexpr std::size_t recordSize = 64;
 
 private:
-    struct File {
-        std::string name;
-        Bytes bytes;
-    };
-    std::vector<File> files;
+    std::vector<std::pair<std::string, Bytes>> files; // names and contents
 };
 
 } // namespace keltavlo

@@ -6,8 +6,8 @@ namespace {
 
 // The name field, then the sides.
 Bytes BeginHeader(std::string_view name, std::size_t nameSize, std::uint32_t width, std::uint32_t height) {
-    Bytes header = ToBytes(name);
-    header.resize(nameSize);
+    Bytes header;
+    PutField(header, name, nameSize);
     PutU32(header, nameSize, width);
     PutU32(header, nameSize + 4, height);
     return header;

@@ -4,21 +4,7 @@
 
 namespace keltavlo {
 
-namespace {
-
 constexpr std::size_t nameSize = 16;
-
-Bytes FixedName(std::string_view name) {
-    Bytes field = ToBytes(name);
-    field.resize(nameSize);
-    return field;
-}
-
-void Append(Bytes& bytes, const Bytes& more) {
-    bytes.insert(bytes.end(), more.begin(), more.end());
-}
-
-} // namespace
 
 void WadBuilder::Add(std::string_view name, std::uint8_t type, const Bytes& bytes, std::string_view garbage) {
     std::string field(name);
@@ -36,16 +22,14 @@ Bytes WadBuilder::Build(Directory place) const {
         PutU32(directory, directory.size(), size);
         PutU32(directory, directory.size(), size);
         PutU32(directory, directory.size(), lump.type);
-        Append(directory, FixedName(lump.name));
-        Append(data, lump.bytes);
+        PutField(directory, lump.name, nameSize);
+        data.insert(data.end(), lump.bytes.begin(), lump.bytes.end());
     }
     Bytes wad = ToBytes(identification);
     PutU32(wad, 4, static_cast<std::uint32_t>(lumps.size()));
     PutU32(wad, 8,
            static_cast<std::uint32_t>(place == Directory::first ? headerSize : headerSize + data.size()));
-    Append(wad, place == Directory::first ? directory : data);
-    Append(wad, place == Directory::first ? data : directory);
-    return wad;
+    return place == Directory::first ? Join({wad, directory, data}) : Join({wad, data, directory});
 }
 
 } // namespace keltavlo

@@ -145,10 +145,7 @@ Bytes MakePack() {
 }
 
 Bytes MakePathAndPack() {
-    Bytes bytes = ToBytes(std::string_view("/A\\b.txt\0", 9));
-    const Bytes pack = MakePack();
-    bytes.insert(bytes.end(), pack.begin(), pack.end());
-    return bytes;
+    return Join({ToBytes(std::string_view("/A\\b.txt\0", 9)), MakePack()});
 }
 
 Bytes MakeWad() {
@@ -159,26 +156,15 @@ Bytes MakeWad() {
 }
 
 Bytes MakeModel() {
-    const Md2Builder model{.skins = {"models/a.pcx"},
-                           .texCoords = 3,
-                           .triangles = {{0, 1, 2, 0, 1, 2}, {2, 1, 0, 2, 1, 0}},
-                           .frames = 2,
-                           .vertices = 3};
+    Md2Builder model{.skins = {"models/a.pcx"}, .texCoords = 3, .triangles = {}, .frames = 2, .vertices = 3};
+    model.triangles = {{0, 1, 2, 0, 1, 2}, {2, 1, 0, 2, 1, 0}};
     return model.Build();
-}
-
-Bytes MakeTextures() {
-    return MdlBuilder{{{4, 2}, {1, 1}}}.Build();
 }
 
 std::vector<HeaderField> Fields(std::size_t width, std::initializer_list<std::size_t> offsets) {
     std::vector<HeaderField> fields;
     for (const std::size_t offset : offsets) fields.push_back({offset, width});
     return fields;
-}
-
-std::vector<HeaderField> TaggedFields() {
-    return Fields(4, {8, 12, 16, 20, 24, 28});
 }
 
 // Returns the fields of a picture format; none for a format that is not listed.
@@ -208,12 +194,6 @@ Reader PictureReader(const Codec& codec) {
             [&codec] { return EncodePicture(codec.documentClass, MakePicture()); }, PictureFields(name)};
 }
 
-std::vector<Reader> PictureReaders() {
-    std::vector<Reader> readers;
-    for (const Codec& codec : Codecs()) readers.push_back(PictureReader(codec));
-    return readers;
-}
-
 Outcome ReadCompressed(decltype(Codec::read) read, ByteSpan bytes, Buffering buffering) {
     return WithStream(bytes, buffering, [&](InputStream& in, Digest& digest) {
         Texture texture;
@@ -230,38 +210,34 @@ Outcome ReadRepairedPng(ByteSpan bytes, Buffering buffering) {
 }
 
 std::vector<Bytes> MakePngs() {
+    constexpr int kinds[][2] = {{1, 0}, {2, 0}, {4, 0}, {16, 0}, {16, 2}, {1, 3},
+                                {2, 3}, {4, 3}, {8, 3}, {8, 4},  {16, 4}, {8, 6}};
     std::vector<Bytes> pictures;
-    for (const auto& [depth, type] : {std::pair(1, 0),
-                                      {2, 0},
-                                      {4, 0},
-                                      {16, 0},
-                                      {16, 2},
-                                      {1, 3},
-                                      {2, 3},
-                                      {4, 3},
-                                      {8, 3},
-                                      {8, 4},
-                                      {16, 4},
-                                      {8, 6}})
+    for (const auto& [depth, type] : kinds)
         pictures.push_back(MakePng(depth, type, pictures.size() % 2 == 1));
     return pictures;
 }
 
 // The readers of other documents, of paths and of pictures that only the tool reads.
 std::vector<Reader> OtherReaders() {
+    const std::vector<HeaderField> taggedFields = Fields(4, {8, 12, 16, 20, 24, 28});
     return {
         {"dib", ReadClipboardBitmap, MakeBitmapWithoutFileHeader, Fields(4, {0, 4, 8, 12, 14, 16, 20, 32})},
         {"lmp", ReadDocument<LMPDocument>, [] { return Bytes(768); }, {}},
         {"kelcolors", ReadDocument<ColorTableDocument>, [] { return Bytes(16); }, {}},
         {"kelbrush", ReadDocument<BrushDocument>,
-         [] { return MakeTagged("Brsh", std::string_view("\1\0\0\0", 4)); }, TaggedFields()},
+         [] { return MakeTagged("Brsh", std::string_view("\1\0\0\0", 4)); }, taggedFields},
         {"kelcolorspace", ReadDocument<ColorSpaceDocument>, [] { return MakeTagged("ClSp", "RGBA"); },
-         TaggedFields()},
+         taggedFields},
         {"pak", ReadDocument<PAKDocument>, MakePack, Fields(4, {4, 8, 76, 80, 140, 144})},
         {"wad", ReadDocument<WADDocument>, MakeWad, Fields(4, {4, 8})},
         {"path", ResolvePath, MakePathAndPack, Fields(4, {13, 17, 85, 89})},
         {"md2", ReadDocument<MD2Document>, MakeModel, Fields(4, {4, 16, 20, 24, 28, 32, 40, 44, 48, 52, 56})},
-        {"mdl", ReadDocument<MDLDocument>, MakeTextures, Fields(4, {180, 184, 312, 316, 320, 392, 396, 400})},
+        {"mdl", ReadDocument<MDLDocument>,
+         [] {
+             return MdlBuilder{{{4, 2}, {1, 1}}}.Build();
+         },
+         Fields(4, {180, 184, 312, 316, 320, 392, 396, 400})},
         {"zip", ReadDocument<ZIPDocument>, MakeZip,
          Fields(4, {87, 91, 97, 101, 105, 109, 123, 140, 144, 150, 154, 158, 162, 176, 187, 189, 193, 197})},
         {"bsp", ReadDocument<BSPDocument>, MakeMap,
@@ -288,8 +264,8 @@ std::vector<Bytes> Reader::MakeSeeds() const {
 
 std::span<const Reader> Readers() {
     static const std::vector<Reader> readers = [] {
-        std::vector<Reader> all = PictureReaders();
-        std::ranges::move(OtherReaders(), std::back_inserter(all));
+        std::vector<Reader> all = OtherReaders();
+        std::ranges::transform(Codecs(), std::inserter(all, all.begin()), PictureReader);
         return all;
     }();
     return readers;

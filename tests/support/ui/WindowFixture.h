@@ -46,20 +46,16 @@ inline std::vector<std::string>& Log() {
 
 // Logs its name when it handles one of its commands.
 template <ClassName name, class Base, CommandId... commands>
-class Noting : public Base {
-public:
+struct Noting : Base {
     using Base::Base;
 
     bool blocked = false; // its commands are disabled
 
-protected:
     const CommandMap& GetCommandMap() const override {
         static const CommandMap map{Base::GetCommandMap(),
                                     {Command<&Noting::OnCommand, &Noting::OnUpdateCommand>(commands)...}};
         return map;
     }
-
-private:
     void OnCommand() { Log().emplace_back(name.View()); }
     void OnUpdateCommand(CCmdUI& state) {
         state.Enable(!blocked);
@@ -67,40 +63,32 @@ private:
     }
 };
 
-class TestDocument : public Dynamic<"TestDocument", TestDocument,
-                                    Noting<"document", CDocument, documentCommand, everywhereCommand>> {
-public:
+struct TestDocument : Dynamic<"TestDocument", TestDocument,
+                              Noting<"document", CDocument, documentCommand, everywhereCommand>> {
     ~TestDocument() override { Log().push_back("end " + GetTitle()); }
     bool DoFileSave() override { return true; }
-
-protected:
     void Serialize(CArchive&) override {}
 };
 
-class TestView : public Dynamic<"TestView", TestView, Noting<"view", CView, viewCommand>> {
-public:
+struct TestView : Dynamic<"TestView", TestView, Noting<"view", CView, viewCommand>> {
     void OnActivateView(bool activate, CView*, CView*) override {
         Log().push_back((activate ? "activate " : "deactivate ") + GetDocument()->GetTitle());
     }
 };
 
-class TestFrame
-    : public Dynamic<"TestFrame", TestFrame, Noting<"frame", ChildFrame, frameCommand, everywhereCommand>> {};
+struct TestFrame
+    : Dynamic<"TestFrame", TestFrame, Noting<"frame", ChildFrame, frameCommand, everywhereCommand>> {};
 
-class TestHiddenFrame : public Dynamic<"TestHiddenFrame", TestHiddenFrame, CMDIChildWnd> {
-public:
+struct TestHiddenFrame : Dynamic<"TestHiddenFrame", TestHiddenFrame, CMDIChildWnd> {
     void ActivateFrame() override {}
 };
 
-class TestMainFrame : public Noting<"main", CMDIFrameWnd, mainCommand, everywhereCommand> {
-public:
+struct TestMainFrame : Noting<"main", CMDIFrameWnd, mainCommand, everywhereCommand> {
     TestMainFrame() : Noting(paneSamples) {
         LoadFrame(ownMenu, accelerators);
         resize(640, 480);
         show();
     }
-
-protected:
     std::span<const MenuRow> GetMenuRows(unsigned menuId) const override {
         return menuId == ownMenu ? std::span<const MenuRow>(ownRows) : std::span<const MenuRow>(documentRows);
     }
@@ -111,9 +99,7 @@ struct TestStrings {
     TestStrings() { AddStrings(testStrings); }
 };
 
-class TestProgram : public Noting<"application", CWinApp, appCommand, everywhereCommand>,
-                    public WindowedUserInterface {
-public:
+struct TestProgram : Noting<"application", CWinApp, appCommand, everywhereCommand>, WindowedUserInterface {
     explicit TestProgram(const std::string& settings) : Noting(ProfileStore(settings)) {
         GetFrameFactory()->SetMainFrame(&mainFrame);
         for (const CRuntimeClass* type :
