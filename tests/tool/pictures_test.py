@@ -152,6 +152,12 @@ def check_indices():
             end = len(file) - len(level) * 85 // 64 - (770 if palette else 0)
             assert back[:end + len(level)] == file[:end + len(level)] and len(back) == len(file), (size, kind, way)
             assert back[len(file) - 770:] == file[len(file) - 770:] or not palette
+    bitmap = Image.frombytes("P", (16, 8), level[:128])
+    bitmap.putpalette(own)
+    file = io.BytesIO()
+    bitmap.save(file, "BMP")
+    mip = convert(file.getvalue(), "a.bmp", "a.mip")
+    assert mip[40:168] == level[:128] and own in mip[-770:]
     quake, quake2 = palette_of("mip"), palette_of("wal")
     mip = convert(game_file("wal", (64, 8), bytes(range(256)) * 2), "a.wal", "a.mip")
     wal = game_file("wal", (64, 8), bytes(range(256)) * 2)
