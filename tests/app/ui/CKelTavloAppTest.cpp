@@ -44,6 +44,7 @@ TEST_F(CKelTavloAppTest, AsksForATypeWhenThereIsNothingToOpen) {
         emit list->itemDoubleClicked(list->item(4));
     });
     EXPECT_TRUE(program.InitInstance({}));
+    EXPECT_EQ(QGuiApplication::windowIcon().availableSizes().size(), 6);
     EXPECT_EQ(GetMainFrame().MDIGetActive()->GetActiveDocument()->GetTitle(), "wal1");
 }
 
